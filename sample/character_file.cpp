@@ -1,0 +1,55 @@
+#include "sample/character_file.h"
+
+#include "sample/character_chunks.h"
+#include "sample/text_chunk.h"
+
+namespace {
+
+constexpr std::size_t freeRoomSize = 208;
+
+CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) {
+    CharacterFile built;
+    IffBuilder file;
+    for (const IffChunk& chunk : character.before)
+        file.add(chunk);
+    addBehaviourChunks(file);
+    if (character.freeRoom) built.freeRoomOffset = file.addFreeRoom(freeRoomSize);
+    if (character.hasObject) {
+        built.objectOffset = file.add(objectChunk(character.recordName + " - " + character.name, character.guid));
+    }
+    if (character.hasPictures) addPictureChunks(file, character.colors, relationshipRows);
+    if (character.hasName) {
+        built.nameOffset = file.add({.type = "CTSS",
+                                     .id = characterNameId,
+                                     .content = textChunkContent({character.name, character.biography})});
+    }
+    if (character.hasBodyStrings) built.bodyStringsOffset = file.add(sampleBodyStringsChunk(character));
+    if (character.hasPictures) file.add(webPictureChunk(character.colors));
+    if (character.map) built.mapOffset = file.addMap();
+    built.bytes = file.bytes();
+    return built;
+}
+
+}  // namespace
+
+IffChunk sampleBodyStringsChunk(const SampleCharacter& character) {
+    const Bytes text =
+        character.bodyText.value_or(filledSampleBodyText(character.slots, character.ending, character.bodyTextSize));
+    const Bytes content = ByteWriter()
+                              .u8(0xFD)
+                              .u8(0xFF)
+                              .u16Le(bodyStringCount(character.ending))
+                              .u8(1)
+                              .text(character.tag)
+                              .bytes(text)
+                              .written();
+    return {.type = "STR#", .id = characterBodyStringsId, .label = character.bodyLabel, .content = content};
+}
+
+CharacterFile makeCharacterFile(const SampleCharacter& character) {
+    CharacterFile file = buildWith(character, fewRelationshipRows);
+    if (!character.hasPictures || file.bytes.size() >= character.fileSize) return file;
+    constexpr std::size_t rowSize = 300;
+    const std::size_t rows = (character.fileSize - file.bytes.size() + rowSize - 1) / rowSize;
+    return buildWith(character, fewRelationshipRows + static_cast<int>(rows));
+}
