@@ -1,0 +1,96 @@
+// What a user does to the program's windows and sees of them. Tests that keep to this header and to Win32's names run
+// on every window system; each has an implementation of its own in a folder beside this file. Texts are Windows-1252.
+#ifndef TESTS_SUPPORT_USER_H
+#define TESTS_SUPPORT_USER_H
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/win32.h"
+
+// Real clicks and keys: a disabled or hidden control doesn't answer them.
+void clickButton(HWND button);
+
+// Opens the list and clicks the entry, also the one that is selected already.
+void pickEntry(HWND combo, int index);
+
+// Turns the wheel by one notch over a control; `down` moves a combo box to its next entry.
+void turnWheel(HWND control, bool down);
+
+// Opens the menus on the way to the item at the end of `path` and clicks it. Texts stand as the user sees them, without
+// the "&". False, and nothing clicked, if there is no such item or it is disabled. The command is posted: a message loop
+// delivers it.
+bool chooseMenu(HWND window, std::initializer_list<const char*> path);
+
+// Asks the window to close, as its close button does.
+void closeWindow(HWND window);
+
+enum class Hold { nothing, alt, altShift };
+
+// Presses and releases the key of a printable character in the window that has the keyboard.
+void pressKey(HWND window, char character, Hold hold = Hold::nothing);
+
+// Runs `action` once the message loop waits for messages; several run in their order, one for each wait.
+void later(std::function<void()> action);
+
+// Runs a message loop, as the program's own, until nothing waits in it, or until PostQuitMessage. Returns whether that
+// was called, and gives its code. With a window and a table it translates accelerators.
+bool runMessages(int* exitCode = nullptr, HWND window = nullptr, HACCEL accelerators = nullptr);
+
+// A message box or dialog that the user will answer.
+class AnsweredBox {
+ public:
+    struct Seen {
+        bool shown = false;
+        std::string title;
+        std::string text;                  // of a dialog: its lines, with a line break between them
+        std::vector<std::string> buttons;  // from left to right, without the "&"
+        bool ownerBlocked = false;         // while it showed, no other window took a click
+        int answer = 0;
+    };
+
+    explicit AnsweredBox(std::shared_ptr<Seen> seen) : seen_(std::move(seen)) {}
+
+    bool shown() const { return seen_->shown; }
+    const std::string& title() const { return seen_->title; }
+    const std::string& text() const { return seen_->text; }
+    const std::vector<std::string>& buttons() const { return seen_->buttons; }
+    bool ownerBlocked() const { return seen_->ownerBlocked; }
+
+ private:
+    std::shared_ptr<Seen> seen_;
+};
+
+constexpr int answerByEscape = -1;
+
+// Queues the answer to the next box that opens: IDOK and IDCANCEL click that button, `answerByEscape` presses the key.
+// A box without that button is answered by whatever it has, so that a test fails instead of waiting. Several are used up
+// in their order; one that wasn't used by the end of its AnsweredBox's life is dropped.
+[[nodiscard]] AnsweredBox answerNextBox(int answer);
+
+bool isEnabled(HWND window);
+bool isVisible(HWND window);
+std::string textOf(HWND window);  // a window's title, a button's text without the "&", a combo box's selected entry
+std::string entryText(HWND combo, int index);
+RECT placeOf(HWND control);  // in its parent's client area
+bool waitCursorShows();
+
+// What a screen reader says of it.
+std::string spokenName(HWND window);
+std::string spokenDescription(HWND window);
+
+// The pixels of a window's client area with everything that lies in it, as 0xRRGGBB, row after row.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;
+
+    std::uint32_t at(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
+};
+Picture pictureOf(HWND window);
+
+#endif
