@@ -1,0 +1,49 @@
+// Writes the program's data files, or a sample installation of the game.
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <string_view>
+
+#include "sample/data_files.h"
+#include "sample/installation.h"
+
+namespace {
+
+constexpr int badUsage = 2;
+
+int usage() {
+    std::fputs(
+        "make_sample data DIR                    write Template.iff and famtemplate into DIR\n"
+        "make_sample installation DIR            make DIR a Wine prefix with a small installation of the game\n"
+        "make_sample large DIR [NEIGHBORHOODS]   the same of a real size, with 1 to 100 neighborhoods (3)\n",
+        stderr);
+    return badUsage;
+}
+
+int report(bool written, const char* directory) {
+    if (written) return EXIT_SUCCESS;
+    std::fprintf(stderr, "make_sample: %s can't be written, or holds files that aren't make_sample's\n", directory);
+    return EXIT_FAILURE;
+}
+
+int run(int count, char** arguments) {
+    if (count < 3) return usage();
+    const std::string_view command = arguments[1];
+    const char* directory = arguments[2];
+    if (command == "data" && count == 3) return report(writeDataFiles(directory), directory);
+    if (command == "installation" && count == 3) return report(writeInstallation(directory), directory);
+    const long neighborhoods = count == 4 ? std::strtol(arguments[3], nullptr, 10) : 3;
+    if (command != "large" || count > 4 || neighborhoods < 1 || neighborhoods > 100) return usage();
+    return report(writeLargeInstallation(directory, static_cast<int>(neighborhoods)), directory);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    try {
+        return run(count, arguments);
+    } catch (const std::exception& error) {  // the standard library's words for a directory that can't be made
+        std::fprintf(stderr, "make_sample: %s\n", error.what());
+        return EXIT_FAILURE;
+    }
+}
