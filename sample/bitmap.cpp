@@ -23,6 +23,12 @@ std::uint32_t portraitColor(int x, int y, const PortraitColors& colors) {
     return colors.background;
 }
 
+// Whole faces only; what they leave over at the right and at the foot is background.
+std::uint32_t tiledColor(int x, int y, int across, int down, int side, const PortraitColors& colors) {
+    if (x / side >= across || y / side >= down) return colors.background;
+    return portraitColor(x % side * 200 / side - 100, y % side * 200 / side - 100, colors);
+}
+
 void writeHeaders(ByteWriter& file, int width, int height) {
     const auto size =
         static_cast<std::int64_t>(bitmapFileSize(static_cast<std::size_t>(width), static_cast<std::size_t>(height)));
@@ -39,8 +45,7 @@ Bytes portraitBitmap(int width, int height, const PortraitColors& colors) {
     writeHeaders(file, width, height);
     for (int row = height - 1; row >= 0; --row) {  // a bitmap's first row is the lowest
         for (int column = 0; column < width; ++column) {
-            const std::uint32_t color =
-                portraitColor(column % side * 200 / side - 100, row % side * 200 / side - 100, colors);
+            const std::uint32_t color = tiledColor(column, row, width / side, height / side, side, colors);
             file.u8(color).u8(color >> 8).u8(color >> 16);
         }
         const std::size_t rowSize = bitmapFileSize(static_cast<std::size_t>(width), 1) - headersSize;

@@ -13,8 +13,9 @@ constexpr bool isPair(int entry) {
 
 constexpr std::size_t slotsThrough(int lastEntry) {
     std::size_t count = 0;
-    for (int entry = 1; entry <= lastEntry; ++entry)
+    for (int entry = 1; entry <= lastEntry; ++entry) {
         count += isPair(entry) ? 2 : 1;
+    }
     return count;
 }
 static_assert(slotsThrough(entryCount) == std::tuple_size_v<BodySlots>);
@@ -55,8 +56,9 @@ Bytes sampleBodyText(const BodySlots& slots, BodyEnding ending) {
     // An expansion pack's text breaks off in an opened entry, or closes with a block of its own.
     if (ending == BodyEnding::atEntry32) text.u8(1);
     if (ending == BodyEnding::atEntry33) {
-        for (int i = 0; i < 7; ++i)
+        for (int i = 0; i < 7; ++i) {
             text.u16Le(0).u8(textFill).u8(0);
+        }
         text.u16Le(0);
     }
     return text.written();

@@ -24,8 +24,9 @@ ByteWriter& ByteWriter::u32Be(std::int64_t value) {
 }
 
 ByteWriter& ByteWriter::text(std::string_view characters) {
-    for (const char character : characters)
+    for (const char character : characters) {
         u8(character);
+    }
     return *this;
 }
 

@@ -71,12 +71,15 @@ void addBehaviourChunks(IffBuilder& file) {
     constexpr ChunkFact semiGlobals = {128, "Semi-global file", 332};
 
     addStrings(file);
-    for (const ChunkFact& fact : trees)
+    for (const ChunkFact& fact : trees) {
         file.add({.type = "TREE", .id = fact.id, .label = fact.label, .content = emptyNotes("EERT", fact)});
-    for (const ChunkFact& fact : parameters)
+    }
+    for (const ChunkFact& fact : parameters) {
         file.add({.type = "TPRP", .id = fact.id, .label = fact.label, .content = emptyNotes("PRPT", fact)});
-    for (const ChunkFact& fact : behaviours)
+    }
+    for (const ChunkFact& fact : behaviours) {
         file.add({.type = "BHAV", .id = fact.id, .label = fact.label, .content = sleepingBehaviour(fact)});
+    }
     file.add({.type = "SLOT", .id = slots.id, .label = slots.label, .content = emptyNotes("TOLS", slots)});
     ByteWriter globals;
     globals.text("PersonGlobals");

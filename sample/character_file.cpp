@@ -10,8 +10,9 @@ constexpr std::size_t freeRoomSize = 208;
 CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) {
     CharacterFile built;
     IffBuilder file;
-    for (const IffChunk& chunk : character.before)
+    for (const IffChunk& chunk : character.before) {
         file.add(chunk);
+    }
     addBehaviourChunks(file);
     if (character.freeRoom) built.freeRoomOffset = file.addFreeRoom(freeRoomSize);
     if (character.hasObject) {

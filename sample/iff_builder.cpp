@@ -78,8 +78,9 @@ std::size_t IffBuilder::addMap() {
     for (const MapType& type : types) {
         list.text(std::string(type.type.rbegin(), type.type.rend()))
             .u32Le(static_cast<std::int64_t>(type.entries.size()));
-        for (const MapEntry& entry : type.entries)
+        for (const MapEntry& entry : type.entries) {
             writeMapEntry(list, entry.header, entry.offset);
+        }
     }
     const Bytes content = ByteWriter()
                               .u32Le(0)

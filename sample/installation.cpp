@@ -97,8 +97,9 @@ SampleFamily castFamily(int neighborhoodIndex, const CastFamily& family) {
     file.funds = family.funds;
     file.house = family.name == "Default" ? 0 : family.number;
     file.members.clear();
-    for (const CastSim& sim : family.members)
+    for (const CastSim& sim : family.members) {
         file.members.push_back(castGuid(neighborhoodIndex, sim));
+    }
     return file;
 }
 

@@ -29,8 +29,9 @@ Bytes personData(const SampleNeighbor& neighbor) {
     fillTo(156);
     data.u16Le(neighbor.kind);
     fillTo(160);
-    for (const std::int32_t word : neighbor.tailWords)
+    for (const std::int32_t word : neighbor.tailWords) {
         data.u16Le(word);
+    }
     return data.fillTo(size, neighbor.gapByte).written();
 }
 
@@ -62,17 +63,20 @@ FamilyOffsets addFamily(const SampleFamily& family, IffBuilder& file) {
 NeighborhoodFile buildWith(const SampleNeighborhood& neighborhood, std::size_t paddingSize) {
     NeighborhoodFile built;
     IffBuilder file;
-    for (const IffChunk& chunk : neighborhood.before)
+    for (const IffChunk& chunk : neighborhood.before) {
         file.add(chunk);
+    }
     if (neighborhood.fileSize > 0) {
         file.add({.type = "STR#", .id = 2, .label = "notes", .content = textChunkContent({}, paddingSize)});
     }
     addNeighbors(neighborhood, file, built);
-    for (const SampleFamily& family : neighborhood.families)
+    for (const SampleFamily& family : neighborhood.families) {
         built.families.push_back(addFamily(family, file));
+    }
     if (neighborhood.freeRoom) built.freeRoomOffset = file.addFreeRoom(freeRoomSize);
-    for (const IffChunk& chunk : neighborhood.behind)
+    for (const IffChunk& chunk : neighborhood.behind) {
         file.add(chunk);
+    }
     if (neighborhood.map) built.mapOffset = file.addMap();
     built.bytes = file.bytes();
     return built;
@@ -90,8 +94,9 @@ Bytes sampleNeighborRecord(const SampleNeighbor& neighbor) {
     for (const SampleRelationship& relationship : neighbor.relationships) {
         record.u32Le(1).u32Le(relationship.neighborId);
         record.u32Le(static_cast<std::int64_t>(relationship.values.size()));
-        for (const std::int32_t value : relationship.values)
+        for (const std::int32_t value : relationship.values) {
             record.u32Le(value);
+        }
     }
     return record.written();
 }
@@ -102,10 +107,12 @@ IffChunk sampleFamilyChunk(const SampleFamily& family) {
     content.u32Le(0).u32Le(family.version).text("IMAF").u32Le(family.house).u32Le(family.number);
     content.u32Le(family.funds).u32Le(family.houseValue).u32Le(family.friends).u32Le(family.flags);
     content.u32Le(family.memberCount.value_or(listed));
-    for (const std::uint32_t guid : family.members)
+    for (const std::uint32_t guid : family.members) {
         content.u32Le(guid);
-    for (int i = 0; i < family.trailingNumbers; ++i)
+    }
+    for (int i = 0; i < family.trailingNumbers; ++i) {
         content.u32Le(0);
+    }
     return {.type = "FAMI", .id = static_cast<std::uint16_t>(family.number), .content = content.written()};
 }
 
