@@ -1,0 +1,47 @@
+#include "ui/controls.h"
+
+#include <cstdio>
+
+namespace {
+
+constexpr LONG enabledButton = static_cast<LONG>(WS_CHILD | WS_VISIBLE);
+constexpr LONG disabledButton = static_cast<LONG>(WS_CHILD | WS_VISIBLE | WS_DISABLED);
+
+Controls all{};
+
+}  // namespace
+
+Controls& controls() {
+    return all;
+}
+
+void enableButton(HWND button) {
+    SetWindowLongA(button, GWL_STYLE, enabledButton);
+}
+
+void disableButton(HWND button) {
+    SetWindowLongA(button, GWL_STYLE, disabledButton);
+}
+
+void disableStageButtons() {
+    disableButton(all.childToTeenButton);
+    disableButton(all.teenToAdultButton);
+    disableButton(all.moveOutButton);
+}
+
+void addEntry(HWND combo, const char* text) {
+    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+}
+
+void emptyCombo(HWND combo) {
+    for (LRESULT left = SendMessageA(combo, CB_GETCOUNT, 0, 0); left > 0; --left)
+        SendMessageA(combo, CB_DELETESTRING, 0, 0);
+}
+
+void addNeighborhoodEntries(int count) {
+    for (int number = 1; number <= count; ++number) {
+        char text[sizeof "Neighborhood 2147483647"];
+        std::snprintf(text, sizeof text, "Neighborhood %d", number);
+        addEntry(all.neighborhoodCombo, text);
+    }
+}
