@@ -1,0 +1,158 @@
+// What dresses one Sim: its meshes and skins, its hands, and the words for gender, age and skin tone. Comes out of a
+// character file or from a stage template, and writes itself back as the text of the game's "bodystring" chunk.
+#ifndef WORLD_BODY_STRINGS_H
+#define WORLD_BODY_STRINGS_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "platform/fixed_text.h"
+#include "world/stream.h"
+
+// The slots in the order in which the text holds them. Mesh and skin of one part of the body share an entry of the
+// text.
+namespace bodySlot {
+enum Index : std::size_t {
+    bodyMesh,
+    bodySkin,  // holds "TNR" for a teen
+    headMesh,
+    headSkin,
+    anchorBoneA,
+    anchorPointA,
+    anchorBoneB,
+    anchorPointB,
+    spare8,
+    spare9,
+    spare10,
+    spare11,
+    spare12,
+    gender,    // "female" or "male"
+    ageText,   // "9", "18" or "27"
+    skinTone,  // "lgt", "med" or "drk"
+    nBodyMesh,
+    nBodySkin,
+    uBodyMesh,
+    uBodySkin,
+    handLOMesh,
+    handLOSkin,
+    handROMesh,
+    handROSkin,
+    handLPMesh,
+    handLPSkin,
+    handRPMesh,
+    handRPSkin,
+    handLCMesh,
+    handLCSkin,
+    handRCMesh,
+    handRCSkin,
+    spare32,
+    spare33,
+    spare34,
+    spare35,
+    fBodyMesh,
+    fBodySkin,
+    fHandLOMesh,
+    fHandLOSkin,
+    fHandROMesh,
+    fHandROSkin,
+    f100Mesh,  // from here on only in a text of version 7 or above
+    f100Skin,
+    s100Mesh,
+    s100Skin,
+    l100Mesh,
+    l100Skin,
+    w100Mesh,
+    w100Skin,
+    count
+};
+}  // namespace bodySlot
+
+class BodyStrings {
+ public:
+    static constexpr std::size_t slotCapacity = 149;
+    using Slot = FixedText<slotCapacity>;
+
+    // All slots empty but the gender, "female": what `parse` starts from.
+    BodyStrings();
+
+    // A complete body for a stage: lifestage/stage_template.cpp. `gender` 1 is female, all else male; `age` 0 is the
+    // child's body, all else the grown one; `skinTone` 1 light, 3 medium, all else dark; `version` below 7 leaves the
+    // slots from `f100Mesh` on empty; `bodyType` 0 "TNR", 1 "skn", 2 "fit", 3 "fat".
+    BodyStrings(std::int16_t gender, std::uint8_t age, std::int16_t skinTone, std::int16_t version,
+                std::int16_t bodyType);
+
+    BodyStrings(const BodyStrings&) = default;
+    BodyStrings& operator=(const BodyStrings&) = default;
+    virtual ~BodyStrings() = default;
+
+    // The layout of the text that was found or built: 7 for one with the entry of `f100Mesh`.
+    std::int16_t version() const { return version_; }
+
+    const char* headMesh() const { return slots_[bodySlot::headMesh].c_str(); }
+    const char* headSkin() const { return slots_[bodySlot::headSkin].c_str(); }
+    const char* slot(bodySlot::Index index) const { return slots_[index].c_str(); }
+
+    void setBodyMesh(const char* text) { slots_[bodySlot::bodyMesh].assign(text); }
+    void setBodySkin(const char* text) { slots_[bodySlot::bodySkin].assign(text); }
+    void setHeadMesh(const char* text) { slots_[bodySlot::headMesh].assign(text); }
+    void setHeadSkin(const char* text) { slots_[bodySlot::headSkin].assign(text); }
+    void setAgeText(const char* text) { slots_[bodySlot::ageText].assign(text); }
+    void setNBodyMesh(const char* text) { slots_[bodySlot::nBodyMesh].assign(text); }
+    void setNBodySkin(const char* text) { slots_[bodySlot::nBodySkin].assign(text); }
+    void setUBodyMesh(const char* text) { slots_[bodySlot::uBodyMesh].assign(text); }
+    void setUBodySkin(const char* text) { slots_[bodySlot::uBodySkin].assign(text); }
+    void setFBodyMesh(const char* text) { slots_[bodySlot::fBodyMesh].assign(text); }
+    void setFBodySkin(const char* text) { slots_[bodySlot::fBodySkin].assign(text); }
+    void setF100Mesh(const char* text) { slots_[bodySlot::f100Mesh].assign(text); }
+    void setF100Skin(const char* text) { slots_[bodySlot::f100Skin].assign(text); }
+    void setS100Mesh(const char* text) { slots_[bodySlot::s100Mesh].assign(text); }
+    void setS100Skin(const char* text) { slots_[bodySlot::s100Skin].assign(text); }
+    void setL100Mesh(const char* text) { slots_[bodySlot::l100Mesh].assign(text); }
+    void setL100Skin(const char* text) { slots_[bodySlot::l100Skin].assign(text); }
+    void setW100Mesh(const char* text) { slots_[bodySlot::w100Mesh].assign(text); }
+    void setW100Skin(const char* text) { slots_[bodySlot::w100Skin].assign(text); }
+
+    // Reads the text from the cursor, which stands just behind the character tag. `simVersion` is the version of the
+    // Sim's neighbor record. Sets `version`: 7 for a text with entry 30, else `simVersion` with 7 lowered to 6. Bad
+    // input ends in empty slots.
+    void parse(StreamView stream, std::int16_t simVersion);
+
+    // Writes the text in the layout that `simVersion` selects, then fill bytes up to and including index `limit`.
+    // Returns the position behind the last byte written; a text that already reaches beyond `limit` isn't filled.
+    // Nothing is ever written behind `buffer`.
+    std::size_t serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion) const;
+
+ private:
+    void parsePair(StreamView& stream, bodySlot::Index first);
+    void parseSingle(StreamView& stream, bodySlot::Index slot);
+    void setFixedSlots(std::string_view tone);
+    void setGrownSlots(bool female, std::string_view tone, std::int16_t bodyType);
+    void setGrownOutfits(bool female, std::string_view tone, std::int16_t bodyType);
+    void setChildSlots(bool female, std::string_view tone);
+
+    std::int16_t version_ = 0;
+    std::array<Slot, bodySlot::count> slots_;
+};
+
+// Statuses of the two readers of entries.
+namespace tokenStatus {
+constexpr int read = 1;
+constexpr int endMark = -1;  // a fill byte came up and has been consumed, or the stream ended
+constexpr int tooLong = -2;  // the text had reached 150 characters and one more byte came
+}  // namespace tokenStatus
+
+// Text of one entry: up to 149 characters when it was read, 150 when it was too long.
+using TokenText = FixedText<BodyStrings::slotCapacity + 1>;
+
+// Reads one entry into `text`. Zero bytes in front of it are skipped; 0x01 never enters the text. Whatever was read so
+// far stays in `text`.
+int readToken(TokenText& text, StreamView& stream);
+
+// Reads one entry and splits it at its first "="; without one all of it is `first`. Both stay untouched unless the
+// status is 1.
+int readPair(BodyStrings::Slot& first, BodyStrings::Slot& second, StreamView& stream);
+
+#endif

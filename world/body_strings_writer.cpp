@@ -1,0 +1,79 @@
+// The writing half of BodyStrings. The text takes the same room whatever the strings are, so no position in the file
+// that it goes into ever moves.
+#include <algorithm>
+
+#include "world/body_string_text.h"
+#include "world/body_strings.h"
+
+namespace {
+
+// Appends to a buffer and stops at its end.
+class TextWriter {
+ public:
+    explicit TextWriter(std::span<std::uint8_t> buffer) : buffer_(buffer) {}
+
+    std::size_t position() const { return position_; }
+
+    void append(std::string_view text) {
+        const std::size_t count = std::min(text.size(), buffer_.size() - position_);
+        std::copy_n(text.begin(), count, buffer_.begin() + static_cast<std::ptrdiff_t>(position_));
+        position_ += count;
+    }
+
+    void append(std::uint8_t byte) {
+        const char character = static_cast<char>(byte);
+        append(std::string_view(&character, 1));
+    }
+
+    // Writes fill bytes up to, not including, index `end`.
+    void fillTo(std::size_t end) {
+        while (position_ < std::min(end, buffer_.size()))
+            append(bodyText::fill);
+    }
+
+ private:
+    std::span<std::uint8_t> buffer_;
+    std::size_t position_ = 0;
+};
+
+void appendPair(TextWriter& writer, std::string_view first, std::string_view second) {
+    writer.append(first);
+    writer.append(static_cast<std::uint8_t>(bodyText::pairMark));
+    writer.append(second);
+}
+
+}  // namespace
+
+std::size_t BodyStrings::serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion) const {
+    TextWriter writer(buffer);
+    const auto pair = [&](bodySlot::Index first) {
+        appendPair(writer, slots_[first], slots_[bodyText::secondOf(first)]);
+    };
+
+    for (const auto& entry : bodyText::commonEntries) {
+        writer.append(bodyText::separator);
+        if (entry.pair)
+            pair(entry.slot);
+        else
+            writer.append(slots_[entry.slot]);
+    }
+    writer.append(bodyText::halfSeparator);
+
+    if (simVersion >= bodyText::extendedVersion) {
+        writer.append(bodyText::entryMarker);
+        pair(bodySlot::f100Mesh);
+        writer.append(bodyText::separator);
+        pair(bodySlot::s100Mesh);
+        writer.append(bodyText::separator);
+        pair(bodySlot::l100Mesh);
+        writer.append(bodyText::separator);
+        if (slots_[bodySlot::w100Mesh].size() >= bodyText::shortestExpansionOutfit &&
+            slots_[bodySlot::w100Skin].size() >= bodyText::shortestExpansionOutfit) {
+            pair(bodySlot::w100Mesh);
+            writer.append(bodyText::halfSeparator);
+            writer.append(bodyText::trailer);
+        }
+    }
+    if (writer.position() <= limit) writer.fillTo(limit + 1);
+    return writer.position();
+}

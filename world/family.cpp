@@ -1,0 +1,72 @@
+#include "world/family.h"
+
+#include <string_view>
+
+#include "world/neighborhood.h"
+#include "world/sim.h"
+
+std::int32_t Family::memberCount() {
+    if (!membersResolved_) resolveMembers();
+    return memberCount_;
+}
+
+Sim* Family::member(std::int32_t index) const {
+    if (index < 0 || index >= memberCount_) return nullptr;
+    return members_[static_cast<std::size_t>(index)];
+}
+
+int Family::resolveMembers() {
+    if (membersResolved_) return 1;
+    for (std::int32_t i = 0; i < memberCount_; ++i)
+        resolveMember(static_cast<std::size_t>(i));
+    membersResolved_ = true;
+    return 1;
+}
+
+void Family::resolveMember(std::size_t index) {
+    for (std::int32_t i = 0; i < neighborhood_->simCount(); ++i) {
+        Sim& sim = *neighborhood_->sim(i);
+        if (!(sim.guid() == memberGuids_[index])) continue;
+        members_[index] = &sim;
+        sim.setFamily(this);
+        if (sim.stage() >= stageNumber::adult) ++adultCount_;
+        return;
+    }
+}
+
+// An unreadable member keeps the GUID that the file gave it.
+Guid Family::memberGuid(std::size_t index) const {
+    return members_[index] != nullptr ? members_[index]->guid() : memberGuids_[index];
+}
+
+int Family::addMember(Sim& sim) {
+    if (memberCount_ < 0 || memberCount_ >= familyRecord::highestMemberCount) return -1;
+    members_[static_cast<std::size_t>(memberCount_)] = &sim;
+    ++memberCount_;
+    if (sim.stage() >= stageNumber::adult) ++adultCount_;
+    dirty_ = true;
+    membersResolved_ = true;
+    return 1;
+}
+
+int Family::removeMember(Sim& sim) {
+    if (memberCount_ < 1) return -1;
+    // The GUIDs move along with the links, so that an unreadable member keeps its own.
+    decltype(members_) keptMembers{};
+    decltype(memberGuids_) keptGuids{};
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(memberCount_); ++i) {
+        const Sim* member = members_[i];
+        if (member != nullptr && std::string_view(member->recordName()) == sim.recordName()) continue;
+        keptMembers[kept] = members_[i];
+        keptGuids[kept] = memberGuids_[i];
+        ++kept;
+    }
+    if (kept == static_cast<std::size_t>(memberCount_)) return -1;
+    members_ = keptMembers;
+    memberGuids_ = keptGuids;
+    memberCount_ = static_cast<std::int16_t>(kept);
+    if (sim.stage() >= stageNumber::adult) --adultCount_;
+    dirty_ = true;
+    return 1;
+}

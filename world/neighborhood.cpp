@@ -1,0 +1,34 @@
+#include "world/neighborhood.h"
+
+#include <utility>
+
+Family* Neighborhood::family(std::int32_t index) const {
+    if (index < 0 || index >= familyCount_) return nullptr;
+    return families_[static_cast<std::size_t>(index)];
+}
+
+Sim* Neighborhood::sim(std::int32_t index) const {
+    if (index < 0 || index >= simCount_) return nullptr;
+    return sims_[static_cast<std::size_t>(index)];
+}
+
+Family* Neighborhood::newFamily(std::int32_t index) const {
+    if (index < 0 || index >= newFamilyCount_) return nullptr;
+    return newFamilies_[static_cast<std::size_t>(index)];
+}
+
+int Neighborhood::addNewFamily(std::unique_ptr<Family> family) {
+    if (newFamilyCount_ >= highestNewFamilyCount) return -1;
+    newFamilies_[static_cast<std::size_t>(newFamilyCount_)] = family.get();
+    ++newFamilyCount_;
+    ownedFamilies_.push_back(std::move(family));
+    dirty_ = true;
+    hasNewFamilies_ = true;
+    return 1;
+}
+
+bool Neighborhood::isDirty() {
+    for (std::int32_t i = 0; i < simCount_; ++i)
+        if (sims_[static_cast<std::size_t>(i)]->recordDirty()) dirty_ = true;
+    return dirty_;
+}

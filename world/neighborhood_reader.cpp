@@ -1,0 +1,113 @@
+// The reading of "neighborhood.iff", in three passes over the raw bytes: neighbors, families, the first free chunk.
+#include <algorithm>
+#include <limits>
+
+#include "platform/byte_order.h"
+#include "platform/files.h"
+#include "world/neighborhood.h"
+#include "world/tag_scan.h"
+
+namespace {
+
+// The whole file in one read, up to a size that no real neighborhood comes near.
+constexpr std::int64_t largestWindow = 16 << 20;
+
+std::int16_t kindOf(std::span<const std::uint8_t, neighborRecord::size> record) {
+    return readI16Le(record.subspan<neighborRecord::kind, 2>());
+}
+
+bool isKnownKind(std::int16_t kind) {
+    return kind >= genderWord::male && kind <= neighborRecord::highestPetKind;
+}
+
+}  // namespace
+
+int Neighborhood::load(const char* directory, const char* fileName) {
+    directory_.assign(directory);
+    FixedText<299> path(directory);
+    path.append("\\");
+    path.append(fileName);
+    FileStatus status{};
+    queryFileStatus(path.c_str(), status);
+    fileSize_ =
+        static_cast<std::int32_t>(std::min<std::int64_t>(status.size, std::numeric_limits<std::int32_t>::max()));
+    fileName_.assign(fileName);
+
+    StreamFile file;
+    const auto window = static_cast<std::size_t>(std::min<std::int64_t>(fileSize_ + std::int64_t{1}, largestWindow));
+    if (!file.open(path.c_str(), StreamFile::Access::read, window)) return -1;
+    readPasses(StreamView(file));
+    return 0;
+}
+
+// A header that is cut short raises this view's flags, and with them every pass ends at once.
+void Neighborhood::readPasses(StreamView stream) {
+    stream.skip(iffHeader::mapOffset);
+    mapOffset_ = static_cast<std::int32_t>(readU24Be(stream.readBytes<iffHeader::mapOffsetSize>()));
+    if (!stream.good()) mapOffset_ = 0;
+    while (nextNeighbor(stream) == 1)
+        readNeighbor(stream);
+    stream.seek(0);
+    while (familyAhead(stream) == 1)
+        readFamily(stream);
+    stream.seek(0);
+    xxxxOffset_ = findTag(stream, freeChunkTag, fileSize_) - 1;
+}
+
+// 1 with the cursor on a record's name, 0 when no record is left, -4 at the end of the file.
+int Neighborhood::nextNeighbor(StreamView stream) const {
+    while (!stream.endOfFile()) {
+        const std::int32_t hit = findTag(stream, neighborRecord::marker, fileSize_);
+        if (hit < 1) return 0;
+        stream.seek(hit + static_cast<int>(neighborRecord::marker.size()) - 1);
+        const auto prefix = stream.readBytes<neighborRecord::namePrefix.size()>();
+        if (std::equal(prefix.begin(), prefix.end(), neighborRecord::namePrefix.begin())) {
+            stream.seek(stream.tell() - static_cast<int>(prefix.size()));
+            return 1;
+        }
+        stream.skip(1);  // so the next search begins 13 bytes behind the false marker's first
+    }
+    return tagNotFound;
+}
+
+// 1, or -2 for a record of an unknown kind, with the cursor just behind it. A record cut off by the end of the file is
+// dropped: rewritten, it would make the file longer.
+int Neighborhood::readNeighbor(StreamView stream) {
+    std::array<std::uint8_t, neighborRecord::size> record{};
+    constexpr std::size_t kindEnd = neighborRecord::kind + 2;
+    const auto recordOffset = static_cast<std::int32_t>(stream.tell()) - neighborRecord::name;
+    stream.seek(recordOffset);
+    stream.read(std::span(record).first<kindEnd>());
+    if (!isKnownKind(kindOf(record))) return -2;
+    stream.read(std::span(record).subspan<kindEnd>());
+    if (!stream.good() || simCount_ >= highestSimCount) return 1;
+
+    auto sim = std::make_unique<Sim>(*this);
+    sim->readRecord(record, recordOffset);
+    sims_[static_cast<std::size_t>(simCount_)] = sim.get();
+    ++simCount_;
+    ownedSims_.push_back(std::move(sim));
+    return 1;
+}
+
+// 1 if a family's chunk lies ahead, else 0; -4 at the end of the file. It only looks: the cursor stays at the end of
+// the last family's name, where the search for the next record starts.
+int Neighborhood::familyAhead(StreamView stream) const {
+    if (stream.endOfFile()) return tagNotFound;
+    return findTag(stream, familyRecord::chunkTag, fileSize_) > 0 ? 1 : 0;
+}
+
+// 1, or -1 for a family of more than 8 members. A family cut off by the end of the file, or without its record or name,
+// is dropped; the cursor then stands at the end of the file, which ends the pass.
+int Neighborhood::readFamily(StreamView stream) {
+    auto family = std::make_unique<Family>(*this);
+    bool numberRead = false;
+    const int result = family->read(stream, fileSize_, numberRead);
+    if (numberRead) highestFamilyNumber_ = std::max<std::int32_t>(highestFamilyNumber_, family->familyNumber());
+    if (result != 1) return result == 0 ? 1 : result;
+    if (family->name() == familyName::unlisted || familyCount_ >= highestFamilyCount) return 1;
+    families_[static_cast<std::size_t>(familyCount_)] = family.get();
+    ++familyCount_;
+    ownedFamilies_.push_back(std::move(family));
+    return 1;
+}

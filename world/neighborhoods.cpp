@@ -1,0 +1,74 @@
+#include "world/neighborhoods.h"
+
+#include <cstdio>
+
+#include "platform/win32.h"
+#include "ui/status_line.h"
+
+// Never destroyed: the process ends without freeing its objects.
+NeighborhoodTable& neighborhoods = *new NeighborhoodTable;
+
+namespace {
+
+constexpr const char* neighborhoodFileName = "neighborhood.iff";
+
+using NeighborhoodPath = FixedText<119>;
+
+// The first directory's name has no number, the second's is 2.
+NeighborhoodPath directoryOf(const char* simsDirectory, int number) {
+    NeighborhoodPath path(simsDirectory);
+    path.append("UserData");
+    if (number > 1) {
+        char digits[12];
+        std::snprintf(digits, sizeof digits, "%d", number);
+        path.append(digits);
+    }
+    return path;
+}
+
+bool exists(const char* path) {
+    WIN32_FIND_DATAA found{};
+    const HANDLE search = FindFirstFileA(path, &found);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    FindClose(search);
+    return true;
+}
+
+void tellProgress(int number) {
+    char text[64];
+    std::snprintf(text, sizeof text, "Loading Neighborhood %d", number);
+    setStatusLine(text);
+    showStatusLine();
+}
+
+void tellFailure(int number) {
+    char text[64];
+    std::snprintf(text, sizeof text, "Error loading Neighborhood %d", number);
+    MessageBoxA(nullptr, text, "Loading Error", MB_OK);
+}
+
+}  // namespace
+
+int listedNeighborhoodCount() {
+    int count = 0;
+    while (count < highestNeighborhoodCount && neighborhoods[static_cast<std::size_t>(count)])
+        ++count;
+    return count;
+}
+
+void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory) {
+    for (int number = 1; number <= highestNeighborhoodCount; ++number) {
+        auto& slot = neighborhoods[static_cast<std::size_t>(number - 1)];
+        slot.reset();
+        const NeighborhoodPath directory = directoryOf(simsDirectory, number);
+        if (!exists(directory.c_str())) return;
+        tellProgress(number);
+        auto neighborhood = std::make_unique<Neighborhood>();
+        if (neighborhood->load(directory.c_str(), neighborhoodFileName) == 0) {
+            neighborhood->setToolDirectory(toolDirectory);
+            slot = std::move(neighborhood);
+        } else {
+            tellFailure(number);
+        }
+    }
+}

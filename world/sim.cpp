@@ -1,0 +1,75 @@
+#include "world/sim.h"
+
+#include <cstring>
+#include <utility>
+
+const char* Sim::name() {
+    if (!nameLoaded_) loadName();
+    return name_.c_str();
+}
+
+const Guid& Sim::guid() {
+    if (!guidLoaded_) loadGuid();
+    return guid_;
+}
+
+BodyStrings* Sim::bodyStrings() {
+    if (!bodyStringsLoaded_) loadBodyStrings();
+    return bodyStrings_.get();
+}
+
+std::int32_t Sim::stage() {
+    if (!stageKnown_) deriveStage();
+    return stage_;
+}
+
+namespace {
+
+bool isTeenBody(const BodyStrings& body) {
+    const char* skin = body.slot(bodySlot::bodySkin);
+    return std::strstr(skin, "TNR") != nullptr || std::strstr(skin, "tnr") != nullptr;
+}
+
+std::int32_t stageOfGrown(std::int16_t gender, const BodyStrings* body) {
+    if (gender == genderWord::pet) return stageNumber::pet;
+    if (body == nullptr) return stageNumber::unknown;
+    return isTeenBody(*body) ? stageNumber::teen : stageNumber::adult;
+}
+
+}  // namespace
+
+int Sim::deriveStage() {
+    if (!bodyStringsLoaded_ && fileUsable_) loadBodyStrings();
+    if (age_ == ageWord::adult)
+        stage_ = stageOfGrown(gender_, bodyStrings_.get());
+    else if (age_ == ageWord::teen)
+        stage_ = stageNumber::teen;
+    else if (age_ == ageWord::child)
+        stage_ = stageNumber::child;
+    else
+        stage_ = stageNumber::unknown;
+    stageKnown_ = true;
+    return 1;
+}
+
+int Sim::setStage(std::int32_t stage, std::unique_ptr<BodyStrings> bodyStrings) {
+    if (stage >= stageNumber::baby && stage <= stageNumber::preteen) return -2;
+    if (stage == stageNumber::teen) {
+        age_ = ageWord::teen;
+        personValues_[27] = 4;
+        for (const std::size_t value : {8, 9, 10, 13, 15, 16, 28})
+            personValues_[value] = 0;
+    } else if (stage == stageNumber::adult) {
+        age_ = ageWord::adult;
+        personValues_[27] = 0;
+        personValues_[28] = 0;
+    } else {
+        return -3;
+    }
+    characterTag_ = true;
+    if (bodyStrings) bodyStrings_ = std::move(bodyStrings);
+    stage_ = stage;
+    characterDirty_ = true;
+    recordDirty_ = true;
+    return 1;
+}

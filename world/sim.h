@@ -1,0 +1,174 @@
+// One Sim: the copy of its neighbor record, and what its character file holds, fetched on first use.
+//
+// The neighborhood's reader makes Sims, one for each record, also when the character file is missing. Reading stands in
+// world/, writing in save/, changes of stage in lifestage/.
+#ifndef WORLD_SIM_H
+#define WORLD_SIM_H
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "platform/fixed_text.h"
+#include "world/body_strings.h"
+#include "world/guid.h"
+#include "world/neighborhood_layout.h"
+#include "world/stream.h"
+
+class Family;
+class Neighborhood;
+
+// Stages of life. Babies, toddlers and preteens (1, 2, 4) have words but never arise.
+namespace stageNumber {
+constexpr std::int32_t pet = -1;
+constexpr std::int32_t unknown = 0;
+constexpr std::int32_t baby = 1;
+constexpr std::int32_t toddler = 2;
+constexpr std::int32_t child = 3;
+constexpr std::int32_t preteen = 4;
+constexpr std::int32_t teen = 5;
+constexpr std::int32_t adult = 6;
+}  // namespace stageNumber
+
+// Values of a record's age word.
+namespace ageWord {
+constexpr std::int32_t child = 9;
+constexpr std::int32_t teen = 18;
+constexpr std::int32_t adult = 27;
+}  // namespace ageWord
+
+namespace genderWord {
+constexpr std::int16_t male = 0;
+constexpr std::int16_t female = 1;
+constexpr std::int16_t pet = 2;  // stands for the kinds 2 to 5 of the file
+}  // namespace genderWord
+
+class Sim {
+ public:
+    // What a record then overwrites: an adult with nothing known of the character file.
+    explicit Sim(Neighborhood& neighborhood) : neighborhood_(&neighborhood) {}
+    Sim(const Sim&) = delete;
+    Sim& operator=(const Sim&) = delete;
+    virtual ~Sim() = default;
+
+    // The record's own: never from the character file.
+    const char* recordName() const { return recordName_.c_str(); }
+    const char* fileName() const { return fileName_.c_str(); }
+    const char* filePath() const { return filePath_.c_str(); }
+    std::int32_t recordOffset() const { return recordOffset_; }
+    std::int16_t version() const { return version_; }
+    std::int32_t age() const { return age_; }
+    std::int16_t skinTone() const { return skinTone_; }
+    std::int16_t gender() const { return gender_; }
+    std::int16_t personValue(std::size_t number) const { return static_cast<std::int16_t>(personValues_.at(number)); }
+    std::int16_t bodySkill() const { return personValue(bodySkillValue); }  // 0 to 1000
+
+    Neighborhood& neighborhood() const { return *neighborhood_; }
+
+    // The family that lists the Sim, once it has resolved its members; else null.
+    Family* family() const { return family_; }
+    void setFamily(Family* family) { family_ = family; }
+
+    // Each loads the character file's part on first use. Empty or null if that fails; a file that couldn't be opened is
+    // tried again at the next call.
+    const char* name();
+    const Guid& guid();
+    BodyStrings* bodyStrings();
+    std::int32_t stage();
+
+    // Works the stage out of age, gender and body strings. Always 1.
+    int deriveStage();
+
+    // The loads: 1 if the part is there or the load ran, -1 if the file can't be opened, -3 if the file was found
+    // unusable before, -4 if the object chunk isn't there; for body strings also -1 if they can't be found or read.
+    int loadName();
+    int loadGuid();
+    int loadBodyStrings();
+
+    // Reads where the character file's resource map lies. 1, or -1 if the file can't be opened.
+    int readHeaderOffset();
+
+    // True for the word "adult" in the character file, false for "child".
+    bool characterTag() const { return characterTag_; }
+    bool fileUsable() const { return fileUsable_; }
+    bool bodyStringsLoaded() const { return bodyStringsLoaded_; }
+    std::int32_t tagOffset() const { return tagOffset_; }
+    std::int32_t bodyOffset() const { return bodyOffset_; }
+
+    // The one way in which a Sim changes its stage: to teen or adult, with age, character tag and person values that go
+    // with it. `bodyStrings` may be null, which keeps the old ones. 1; -2 for a stage from 1 to 4, -3 for any other,
+    // with nothing changed.
+    int setStage(std::int32_t stage, std::unique_ptr<BodyStrings> bodyStrings);
+
+    // The character file, or the neighbor record, waits to be rewritten.
+    bool characterDirty() const { return characterDirty_; }
+    bool recordDirty() const { return recordDirty_; }
+
+    // Takes the fields of a record whose kind has been found good, 186 bytes from its marker, and the size of the
+    // character file. `recordOffset` is the marker's file offset.
+    void readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset);
+
+    // Moves the Sim's adult life into a family of its own: lifestage/move_out.cpp. `funds` is what it takes along.
+    void splitToNewFamily(const char* familyName, std::uint32_t funds);
+
+    // Rewrites what a stage change made stale: save/character_writer.cpp tells each result.
+    int saveCharacterFile(const char* directory);
+    int buildCharacterFile(const char* tempPath);
+    int writeNeighborRecord(StreamView stream);
+    void backupCharacterFile(const char* directory);
+    int installCharacterFile(const char* tempPath);
+
+    // After a save that failed behind this Sim's turn: its character file is new, but its new record went with the
+    // temporary file.
+    void oweRecord() { recordDirty_ = recordOwed_ = true; }
+    bool recordOwed() const { return recordOwed_; }
+
+    // The file doesn't hold the record any more.
+    void forgetRecord() { recordOffset_ = -1; }
+
+ private:
+    static constexpr std::size_t bodySkillValue = 15;
+
+    bool openCharacterFile(StreamFile& file);
+    int readName(StreamView stream);
+    int readGuid(StreamView stream);
+    int readBodyStrings(StreamView stream);
+    bool textEnds(StreamView stream) const;
+    std::array<std::uint8_t, neighborRecord::size> recordBytes() const;
+
+    std::int16_t version_ = 0;
+    std::int32_t recordOffset_ = 0;
+    bool fileUsable_ = true;
+    bool headerRead_ = false;
+    bool nameLoaded_ = false;
+    bool bodyStringsLoaded_ = false;
+    bool guidLoaded_ = false;
+    bool stageKnown_ = false;
+    bool characterDirty_ = false;
+    bool recordDirty_ = false;
+    bool recordOwed_ = false;
+    FixedText<13> fileName_;
+    FixedText<199> filePath_;
+    Guid guid_;
+    std::int32_t fileSize_ = 0;
+    std::int32_t mapOffset_ = 0;
+    std::int32_t tagOffset_ = 0;
+    std::int32_t bodyOffset_ = 0;
+    FixedText<neighborRecord::nameSize> recordName_;
+    FixedText<99> name_;
+    std::array<std::uint16_t, neighborRecord::personValueCount> personValues_{};
+    bool characterTag_ = true;
+    std::int32_t age_ = ageWord::adult;
+    std::int32_t stage_ = stageNumber::unknown;
+    std::int16_t skinTone_ = 64;
+    std::uint16_t recordWordA_ = 0;
+    std::uint16_t recordWordB_ = 0;
+    std::int16_t gender_ = genderWord::male;
+    std::array<std::uint16_t, neighborRecord::tailWordCount> tailWords_{};
+    std::unique_ptr<BodyStrings> bodyStrings_;
+    Family* family_ = nullptr;
+    Neighborhood* neighborhood_;
+};
+
+#endif

@@ -1,0 +1,118 @@
+#include "world/stream.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstring>
+
+#include "platform/files.h"
+
+namespace {
+
+constexpr std::size_t smallestWindow = 64;  // no smaller than any run that `bytesAt` is asked for
+
+}  // namespace
+
+StreamFile::~StreamFile() {
+    if (file_ != nullptr) std::fclose(file_);
+}
+
+bool StreamFile::open(const char* path, Access access, std::size_t windowSize) {
+    file_ = openFile(path, access == Access::read ? "rb" : "r+b");
+    windowCapacity_ = std::max(windowSize, smallestWindow);
+    return file_ != nullptr;
+}
+
+bool StreamFile::close() {
+    if (file_ == nullptr) return false;
+    const bool closed = std::fclose(file_) == 0;
+    file_ = nullptr;
+    return allWritten_ && closed;
+}
+
+std::span<const std::uint8_t> StreamFile::bytesAt(std::int64_t position, std::size_t least) {
+    const std::int64_t at = position - windowStart_;
+    const auto windowEnd = static_cast<std::int64_t>(windowSize_);
+    if (at >= 0 && (windowEndsFile_ || windowEnd - at >= static_cast<std::int64_t>(least))) {
+        const auto begin = static_cast<std::size_t>(std::min(at, windowEnd));
+        return {window_.get() + begin, windowSize_ - begin};
+    }
+    if (!window_) window_ = std::make_unique_for_overwrite<std::uint8_t[]>(windowCapacity_);
+    windowStart_ = position;
+    windowSize_ = 0;
+    if (position <= LONG_MAX && std::fseek(file_, static_cast<long>(position), SEEK_SET) == 0)
+        windowSize_ = std::fread(window_.get(), 1, windowCapacity_, file_);
+    windowEndsFile_ = windowSize_ < windowCapacity_;
+    return {window_.get(), windowSize_};
+}
+
+bool StreamFile::write(std::span<const std::uint8_t> bytes) {
+    windowSize_ = 0;  // what the window holds may be what is written over
+    windowEndsFile_ = false;
+    const bool written = std::fseek(file_, static_cast<long>(cursor_), SEEK_SET) == 0 &&
+                         std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
+    allWritten_ = allWritten_ && written;
+    if (written) cursor_ += static_cast<std::int64_t>(bytes.size());
+    return written;
+}
+
+void StreamView::read(std::span<std::uint8_t> destination) {
+    if (!good()) {
+        failed_ = true;
+        return;
+    }
+    while (!destination.empty()) {
+        const auto bytes = file_->bytesAt(tell(), 1);
+        if (bytes.empty()) {
+            endOfFile_ = failed_ = true;
+            return;
+        }
+        const std::size_t count = std::min(bytes.size(), destination.size());
+        std::memcpy(destination.data(), bytes.data(), count);
+        destination = destination.subspan(count);
+        file_->setCursor(tell() + static_cast<std::int64_t>(count));
+    }
+}
+
+void StreamView::skip(std::int64_t count) {
+    if (!good()) return;
+    std::int64_t left = count;
+    while (left > 0) {
+        const auto bytes = file_->bytesAt(tell(), 1);
+        if (bytes.empty()) {
+            endOfFile_ = true;
+            failed_ = left == count;
+            return;
+        }
+        const std::int64_t moved = std::min(left, static_cast<std::int64_t>(bytes.size()));
+        left -= moved;
+        file_->setCursor(tell() + moved);
+    }
+}
+
+int StreamView::peek() const {
+    if (!good()) return -1;
+    const auto bytes = file_->bytesAt(tell(), 1);
+    return bytes.empty() ? -1 : bytes.front();
+}
+
+void StreamView::seek(std::int64_t position) {
+    if (position < 0)
+        failed_ = true;
+    else
+        file_->setCursor(position);
+}
+
+void StreamView::write(std::span<const std::uint8_t> bytes) {
+    if (!good() || !file_->write(bytes)) failed_ = true;
+}
+
+void StreamView::write(std::string_view text) {
+    write({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
+}
+
+void StreamView::writeZeros(std::int64_t count) {
+    constexpr std::array<std::uint8_t, 64> zeros{};
+    for (; count > 0 && good(); count -= static_cast<std::int64_t>(zeros.size()))
+        write(std::span(zeros).first(static_cast<std::size_t>(std::min<std::int64_t>(count, zeros.size()))));
+}

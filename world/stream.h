@@ -1,0 +1,102 @@
+// Reading and patching the game's IFF files. Nobody walks their chunks: each piece is found by scanning the raw bytes
+// for a tag, from the cursor forward.
+#ifndef WORLD_STREAM_H
+#define WORLD_STREAM_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <span>
+#include <string_view>
+
+// An open file and its one cursor. Bytes are read a window at a time, so that a scan runs at the speed of memory.
+class StreamFile {
+ public:
+    enum class Access { read, readAndPatch };
+
+    StreamFile() = default;
+    StreamFile(const StreamFile&) = delete;
+    StreamFile& operator=(const StreamFile&) = delete;
+    ~StreamFile();
+
+    // Opens an existing file; its bytes and length stay. `windowSize`, in bytes, is how much one read takes: the whole
+    // file for a reader that scans all of it, a few pages for one that looks up pieces. False if it can't be opened.
+    bool open(const char* path, Access access, std::size_t windowSize);
+
+    // Closes the file. True only if every write and the closing itself succeeded.
+    bool close();
+
+    std::int64_t cursor() const { return cursor_; }
+    void setCursor(std::int64_t position) { cursor_ = position; }
+
+    // The bytes from `position` on, as many as the window holds: at least `least` (up to 64), unless the file ends
+    // before that. Valid until the next call.
+    std::span<const std::uint8_t> bytesAt(std::int64_t position, std::size_t least);
+
+    // Writes at the cursor and moves it. A write that fails is also remembered for `close`.
+    bool write(std::span<const std::uint8_t> bytes);
+
+ private:
+    std::FILE* file_ = nullptr;
+    std::int64_t cursor_ = 0;
+    bool allWritten_ = true;
+    std::unique_ptr<std::uint8_t[]> window_;
+    std::size_t windowCapacity_ = 0;
+    std::size_t windowSize_ = 0;
+    std::int64_t windowStart_ = 0;
+    bool windowEndsFile_ = false;
+};
+
+// A routine's own view of an open file, handed on by value: the cursor is everybody's, the flags are the routine's.
+// They start as a copy of the caller's and are gone with the view, so status travels down the calls and never up.
+class StreamView {
+ public:
+    explicit StreamView(StreamFile& file) : file_(&file) {}
+
+    bool endOfFile() const { return endOfFile_; }
+    bool failed() const { return failed_; }
+    bool good() const { return !endOfFile_ && !failed_; }
+
+    // Copies the next bytes. With fewer left it copies those and raises both flags; with a flag up already it copies
+    // nothing and raises "failed".
+    void read(std::span<std::uint8_t> destination);
+
+    // The next N bytes; those that couldn't be read are zero.
+    template <std::size_t N>
+    std::array<std::uint8_t, N> readBytes();
+
+    // Moves the cursor on, less if the file ends first: then it raises "end of file", and "failed" if it didn't move at
+    // all. With a flag up it does nothing.
+    void skip(std::int64_t count);
+
+    // The byte at the cursor, or -1 at the end of the file or with a flag up. Raises no flag.
+    int peek() const;
+
+    std::int64_t tell() const { return file_->cursor(); }
+
+    // Sets the cursor whatever the flags are. A negative position is refused and raises "failed".
+    void seek(std::int64_t position);
+
+    // Writes at the cursor and moves it. With a flag up it writes nothing; a failed write raises "failed".
+    void write(std::span<const std::uint8_t> bytes);
+    void write(std::string_view text);
+    void writeZeros(std::int64_t count);
+
+    StreamFile& file() const { return *file_; }
+
+ private:
+    StreamFile* file_;
+    bool endOfFile_ = false;
+    bool failed_ = false;
+};
+
+template <std::size_t N>
+std::array<std::uint8_t, N> StreamView::readBytes() {
+    std::array<std::uint8_t, N> bytes{};
+    read(bytes);
+    return bytes;
+}
+
+#endif

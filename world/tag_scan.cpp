@@ -1,0 +1,48 @@
+#include "world/tag_scan.h"
+
+#include <algorithm>
+
+namespace {
+
+std::string_view asText(std::span<const std::uint8_t> bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+// The offset of the first `tag` at or behind `from` that begins in front of `end`, or -1.
+std::int64_t scan(StreamFile& file, std::string_view tag, std::int64_t from, std::int64_t end) {
+    while (from < end) {
+        const std::string_view bytes = asText(file.bytesAt(from, tag.size()));
+        if (bytes.size() < tag.size()) return -1;
+        const std::size_t at = bytes.find(tag);
+        if (at != std::string_view::npos) {
+            const std::int64_t offset = from + static_cast<std::int64_t>(at);
+            return offset < end ? offset : -1;
+        }
+        from += static_cast<std::int64_t>(bytes.size() - tag.size() + 1);
+    }
+    return -1;
+}
+
+}  // namespace
+
+std::int32_t findTag(StreamView stream, std::string_view tag, std::int32_t fileSize) {
+    if (stream.endOfFile()) return tagNotFound;
+    const std::int64_t start = stream.tell();
+    const std::int64_t offset = stream.failed() ? -1 : scan(stream.file(), tag, start, fileSize);
+    if (offset >= 0) return static_cast<std::int32_t>(offset + 1);
+
+    // The last comparison of a scan stands at the file's size; a file that has grown since may even match there.
+    stream.seek(std::max<std::int64_t>(start, fileSize));
+    matchTagHere(stream, tag);
+    return tagNotFound;
+}
+
+int matchTagHere(StreamView stream, std::string_view tag) {
+    const std::int64_t start = stream.tell();
+    for (const char expected : tag) {
+        if (stream.peek() != static_cast<unsigned char>(expected)) return 0;
+        stream.seek(stream.tell() + 1);
+    }
+    stream.seek(start);
+    return 1;
+}
