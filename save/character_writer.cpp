@@ -1,0 +1,116 @@
+// A changed Sim's new character file, made from "Template.iff", and its neighbor record in the temporary neighborhood
+// file.
+#include <algorithm>
+
+#include "platform/byte_order.h"
+#include "platform/files.h"
+#include "platform/win32.h"
+#include "save/file_copy.h"
+#include "save/save_paths.h"
+#include "save/template_layout.h"
+#include "world/character_layout.h"
+#include "world/neighborhood.h"
+
+namespace {
+
+constexpr std::size_t patchWindow = 64;     // patching hardly reads
+constexpr std::size_t bodyTextRoom = 3000;  // for a text that is longer than its place in the file, and cut there
+
+// The room of the name always ends with a zero byte, so a name that fills it is cut.
+void writeDisplayName(StreamView& stream, std::string_view name) {
+    name = name.substr(0, characterTemplate::displayNameSize - 1);
+    stream.write(name);
+    stream.writeZeros(characterTemplate::displayNameSize - static_cast<std::int32_t>(name.size()));
+}
+
+void writeBodyText(StreamView& stream, const BodyStrings& bodyStrings, std::int16_t version) {
+    std::array<std::uint8_t, bodyTextRoom> text{};
+    bodyStrings.serialise(text, characterTemplate::bodyTextSize, version);
+    stream.write(std::span(text).first<characterTemplate::bodyTextSize>());
+}
+
+}  // namespace
+
+// 1 when the new file stands at the live path, 0 when the body strings were never found and nothing was done, -1 on
+// failure.
+int Sim::saveCharacterFile(const char* directory) {
+    if (tagOffset_ == 0 || bodyOffset_ == 0 || !bodyStrings_) return 0;
+    SetCurrentDirectoryA(directory);
+    SetCurrentDirectoryA(charactersDirectory);
+    const SavePath tempPath = joinPath(directory, tempCharacterPrefix, fileName_);
+    bool installed = false;
+    if (buildCharacterFile(tempPath.c_str()) == 1) {
+        backupCharacterFile(directory);
+        installed = installCharacterFile(tempPath.c_str()) == 1;
+    }
+    // By its full name and not as "..": whatever became of the way down, the rest of the save relies on standing there.
+    SetCurrentDirectoryA(directory);
+    return installed ? 1 : -1;
+}
+
+int Sim::buildCharacterFile(const char* tempPath) {
+    const SavePath templatePath = joinPath(neighborhood_->toolDirectory(), characterTemplateName);
+    // What is patched must lie inside the template: behind its end a patch would make up bytes.
+    FileStatus status{};
+    if (!queryFileStatus(templatePath.c_str(), status) || status.size < characterTemplate::smallestSize) return -1;
+    if (copyFileBytes(templatePath.c_str(), tempPath, 0, CopyMode::overwrite) != copyError::none) return -1;
+    StreamFile file;
+    if (!file.open(tempPath, StreamFile::Access::readAndPatch, patchWindow)) return -1;
+    StreamView stream(file);
+    stream.seek(characterTemplate::recordName);
+    stream.write(fileName_.view().substr(0, neighborRecord::nameSize));
+    stream.seek(characterTemplate::guid);
+    stream.write(guid().bytes());
+    stream.seek(characterTemplate::displayName);
+    writeDisplayName(stream, name());
+    stream.seek(characterTemplate::characterTag);
+    stream.write(characterTag_ ? characterFile::adultTag : characterFile::childTag);
+    stream.seek(characterTemplate::bodyText);
+    writeBodyText(stream, *bodyStrings_, version_);
+    if (!file.close()) return -1;
+    characterDirty_ = false;
+    return 1;
+}
+
+// The record as it stood when it was read, but for what a stage change has made of it; what isn't known of it is zero.
+std::array<std::uint8_t, neighborRecord::size> Sim::recordBytes() const {
+    using namespace neighborRecord;
+    std::array<std::uint8_t, size> record{};
+    const auto put = [&record](int offset, auto bytes) {
+        std::copy(bytes.begin(), bytes.end(), record.begin() + offset);
+    };
+    put(0, marker);
+    put(neighborRecord::name, recordName_.view());
+    record[neighborRecord::version] = static_cast<std::uint8_t>(version_);
+    for (int k = 0; k < personValueCount; ++k)
+        put(valueOffset(k), u16Le(personValues_[static_cast<std::size_t>(k)]));
+    put(neighborRecord::age, u16Le(static_cast<std::uint16_t>(age_)));
+    put(neighborRecord::skinTone, u16Le(static_cast<std::uint16_t>(skinTone_)));
+    put(wordA, u16Le(recordWordA_));
+    put(wordB, u16Le(recordWordB_));
+    put(kind, u16Le(static_cast<std::uint16_t>(gender_)));
+    for (int k = 0; k < tailWordCount; ++k)
+        put(neighborRecord::tailWords + 2 * k, u16Le(tailWords_[static_cast<std::size_t>(k)]));
+    return record;
+}
+
+// 1, or -1 on a stream in a bad state, with the record still to be written.
+int Sim::writeNeighborRecord(StreamView stream) {
+    using namespace neighborRecord;
+    if (!stream.good()) return -1;
+    if (age_ != ageWord::adult) age_ = ageWord::teen;
+    const auto record = recordBytes();
+    const auto bytes = std::span(record);
+    stream.seek(recordOffset_);
+    if (gender_ == genderWord::pet) {
+        // Memory holds one pet for the kinds 2 to 5, so the file's own kind stays.
+        stream.write(bytes.first<kind>());
+        stream.readBytes<kindRoom>();
+        stream.write(bytes.subspan<neighborRecord::tailWords>());
+    } else {
+        stream.write(bytes);
+    }
+    if (!stream.good()) return -1;
+    recordDirty_ = recordOwed_ = false;
+    return 1;
+}

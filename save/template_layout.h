@@ -1,0 +1,51 @@
+// Where the fields stand that a save patches into its two templates. All have a fixed place and a fixed width, so no
+// chunk length and no position in a resource map ever changes.
+#ifndef SAVE_TEMPLATE_LAYOUT_H
+#define SAVE_TEMPLATE_LAYOUT_H
+
+#include <cstdint>
+
+#include "world/character_layout.h"
+#include "world/neighborhood_layout.h"
+
+// "Template.iff", from which every rewritten character file is made: offsets in the file.
+namespace characterTemplate {
+constexpr std::int32_t objectChunk = 3976;
+constexpr std::int32_t nameChunk = 4268;
+constexpr std::int32_t bodyStringsChunk = 54016;
+
+constexpr std::int32_t recordName = objectChunk + characterFile::label;  // 9 characters
+constexpr std::int32_t guid = objectChunk + characterFile::guid;         // 4 bytes
+constexpr std::int32_t displayName = nameChunk + characterFile::displayName;
+constexpr std::int32_t displayNameSize = 64;  // the name and zero bytes
+constexpr std::int32_t characterTag = bodyStringsChunk + characterFile::characterTag;
+constexpr std::int32_t bodyText = characterTag + characterFile::characterTagSize;
+constexpr std::int32_t bodyTextSize = 1041;
+constexpr std::int32_t smallestSize = bodyText + bodyTextSize;
+
+static_assert(recordName == 3988 && guid == 4080 && displayName == 4349);
+static_assert(characterTag == 54097 && bodyText == 54102);
+}  // namespace characterTemplate
+
+// `famtemplate`, the record of a new family of one member: offsets in the record. The family's number stands in both
+// chunk headers and in the record proper.
+namespace familyTemplate {
+constexpr std::int32_t firstChunkNumber = 9;  // 2 bytes, as the other numbers
+constexpr std::int32_t record = 84;           // "IMAF"
+constexpr std::int32_t number = record + familyRecord::number;
+constexpr std::int32_t funds = record + familyRecord::funds;         // its low 2 bytes
+constexpr std::int32_t member = record + familyRecord::memberTable;  // 4 bytes
+constexpr std::int32_t nameChunk = 124;                              // "FAMs"
+constexpr std::int32_t nameChunkNumber = nameChunk + 9;
+constexpr std::int32_t name = nameChunk + familyName::name;
+constexpr std::int32_t size = 232;
+
+// Behind the name stand 00 00 A3; a name shorter than 21 characters is followed by as many zero bytes as it lacks.
+constexpr std::int32_t nameEndSize = 3;
+constexpr std::int32_t nameRoom = 21;
+constexpr std::int32_t longestName = size - name - nameEndSize;
+
+static_assert(number == 92 && funds == 96 && member == 116 && name == 205 && longestName == 24);
+}  // namespace familyTemplate
+
+#endif
