@@ -1,0 +1,20 @@
+// The words that a Sim's facts make in the names of meshes and skins. The templates themselves are a constructor of
+// BodyStrings.
+#ifndef LIFESTAGE_STAGE_TEMPLATE_H
+#define LIFESTAGE_STAGE_TEMPLATE_H
+
+#include <cstdint>
+#include <string_view>
+
+// The word for a skin tone: 1 "lgt", 3 "med", all else "drk".
+std::string_view toneWord(std::int16_t skinTone);
+
+// Body types as the templates take them. No operation makes the teen's: it builds on the skinny one.
+namespace bodyType {
+constexpr std::int16_t teen = 0;
+constexpr std::int16_t skinny = 1;
+constexpr std::int16_t fit = 2;
+constexpr std::int16_t fat = 3;
+}  // namespace bodyType
+
+#endif
