@@ -1,0 +1,26 @@
+// The program's entry.
+#include <array>
+#include <ctime>
+
+#include "lifestage/random_generator.h"
+#include "platform/win32.h"
+#include "shell/main_window.h"
+#include "shell/splash.h"
+#include "shell/start_checks.h"
+#include "ui/cursors.h"
+#include "ui/status_line.h"
+#include "world/neighborhoods.h"
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
+    loadCursors();
+    randomGenerator().seed(static_cast<std::uint32_t>(std::time(nullptr)));
+    std::array<char, DirectoryText::capacity() + 1> toolDirectory{};
+    GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data());
+
+    DirectoryText simsDirectory;
+    if (const int refusal = checkStart(simsDirectory); refusal != 0) return refusal;
+    setStatusLine("Please wait while the data is loaded");
+    if (!showSplashWindow()) return 0;
+    loadNeighborhoods(simsDirectory.c_str(), toolDirectory.data());
+    return runMainWindow(showCommand);
+}

@@ -1,0 +1,132 @@
+#include "shell/main_window.h"
+
+#include <array>
+
+#include "resources/ids.h"
+#include "shell/commands.h"
+#include "shell/window_texts.h"
+#include "ui/controls.h"
+#include "ui/status_line.h"
+#include "world/neighborhoods.h"
+
+namespace {
+
+HWND createControl(HWND window, LPCSTR className, LPCSTR text, DWORD style, RECT place, int id) {
+    return CreateWindowExA(0, className, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
+                           place.right - place.left, place.bottom - place.top, window,
+                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
+}
+
+// The height is that of the opened list.
+HWND createCombo(HWND window, LONG x, LONG y, int id) {
+    return createControl(window, "ComboBox", "", CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL, {x, y, x + 200, y + 200},
+                         id);
+}
+
+HWND createButton(HWND window, LPCSTR text, LONG x, LONG y, int id) {
+    return createControl(window, "Button", text, WS_DISABLED, {x, y, x + 100, y + 30}, id);
+}
+
+void onCreate(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    const LONG left = client.left, top = client.top, bottom = client.bottom;
+    Controls& all = controls();
+    all.mainWindow = window;
+    all.neighborhoodCombo = createCombo(window, left + 160, top + 10, controlId::neighborhoodCombo);
+    all.familyCombo = createCombo(window, left + 160, top + 40, controlId::familyCombo);
+    all.simCombo = createCombo(window, left + 160, top + 70, controlId::simCombo);
+    all.childToTeenButton =
+        createButton(window, "Child to Teen", left + 10, bottom - 150, controlId::childToTeenButton);
+    all.teenToAdultButton =
+        createButton(window, "Teen to Adult", left + 120, bottom - 150, controlId::teenToAdultButton);
+    all.moveOutButton = createButton(window, "Move Out", left + 10, bottom - 50, controlId::moveOutButton);
+    addNeighborhoodEntries(listedNeighborhoodCount());
+}
+
+LRESULT onCommand(HWND window, WPARAM wParam, LPARAM lParam) {
+    if (!runCommand(LOWORD(wParam), HIWORD(wParam))) return DefWindowProcA(window, WM_COMMAND, wParam, lParam);
+    RECT client{};
+    GetClientRect(window, &client);
+    InvalidateRect(window, &client, TRUE);
+    UpdateWindow(window);
+    return 0;
+}
+
+bool somethingIsUnsaved() {
+    for (int slot = 0; slot < listedNeighborhoodCount(); ++slot)
+        if (neighborhoods[static_cast<std::size_t>(slot)]->isDirty()) return true;
+    return false;
+}
+
+LRESULT onClose(HWND window, WPARAM wParam, LPARAM lParam) {
+    if (somethingIsUnsaved() &&
+        MessageBoxA(window, "You haven't saved your changes.  Exit without saving?", "Exit?", MB_OKCANCEL) != IDOK)
+        return 0;
+    return DefWindowProcA(window, WM_CLOSE, wParam, lParam);
+}
+
+void registerMainClass(const char* name) {
+    const HINSTANCE instance = GetModuleHandleA(nullptr);
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = mainWindowProc;
+    windowClass.hInstance = instance;
+    windowClass.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_MAIN));
+    windowClass.hIconSm = LoadIconA(instance, MAKEINTRESOURCEA(IDI_SMALL));
+    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
+    windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MAIN_MENU);
+    windowClass.lpszClassName = name;
+    RegisterClassExA(&windowClass);
+}
+
+int runMessageLoop(HWND window) {
+    const HACCEL accelerators = LoadAcceleratorsA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS));
+    MSG message{};
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        if (TranslateAcceleratorA(window, accelerators, &message) != 0) continue;
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+    return static_cast<int>(message.wParam);
+}
+
+}  // namespace
+
+int runMainWindow(int showCommand) {
+    const HINSTANCE instance = GetModuleHandleA(nullptr);
+    std::array<char, 100> className{};
+    LoadStringA(instance, IDS_MAIN_CLASS, className.data(), className.size());
+    registerMainClass(className.data());
+    const HWND window =
+        CreateWindowExA(0, className.data(), "Tidewright", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
+                        CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, instance, nullptr);
+    if (window == nullptr) return 0;
+    ShowWindow(window, showCommand);
+    UpdateWindow(window);
+    DestroyWindow(splashWindow());
+    setSplashWindow(nullptr);
+    return runMessageLoop(window);
+}
+
+LRESULT CALLBACK mainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            onCreate(window);
+            return 0;
+        case WM_PAINT:
+            paintMainWindow(window);
+            return 0;
+        case WM_COMMAND:
+            return onCommand(window, wParam, lParam);
+        case WM_CLOSE:
+            return onClose(window, wParam, lParam);
+        case WM_DESTROY:
+            PostQuitMessage(0);
+            return 0;
+        default:
+            return DefWindowProcA(window, message, wParam, lParam);
+    }
+}

@@ -1,0 +1,28 @@
+#include "shell/web_pages.h"
+
+#include "platform/fixed_text.h"
+#include "platform/win32.h"
+
+namespace {
+
+constexpr const char* host = "http://tidewright.example";
+
+const char* pathOf(WebPage page) {
+    switch (page) {
+        case WebPage::help:
+            return "/Help/";
+        case WebPage::questions:
+            return "/faq.html";
+        case WebPage::donation:
+            return "/donate.html";
+    }
+    return "/";
+}
+
+}  // namespace
+
+void openWebPage(WebPage page) {
+    FixedText<99> address(host);
+    address.append(pathOf(page));
+    ShellExecuteA(nullptr, "open", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}

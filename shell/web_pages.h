@@ -1,0 +1,10 @@
+// The program's pages on the web.
+#ifndef SHELL_WEB_PAGES_H
+#define SHELL_WEB_PAGES_H
+
+enum class WebPage { help, questions, donation };
+
+// Opens the page in the user's browser. A page that doesn't open does nothing.
+void openWebPage(WebPage page);
+
+#endif
