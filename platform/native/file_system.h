@@ -10,6 +10,7 @@
 constexpr DWORD FILE_ATTRIBUTE_READONLY = 0x1;
 constexpr DWORD FILE_ATTRIBUTE_DIRECTORY = 0x10;
 constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
+// NOLINTNEXTLINE(performance-no-int-to-ptr): Windows' own value
 inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
 
 struct SECURITY_ATTRIBUTES;
@@ -34,7 +35,7 @@ BOOL CreateDirectoryA(LPCSTR path, SECURITY_ATTRIBUTES* attributes);
 BOOL SetCurrentDirectoryA(LPCSTR path);
 DWORD GetCurrentDirectoryA(DWORD size, LPSTR path);
 
-// Deletes a file. A directory, or a file that doesn't let itself be written, is refused with ERROR_ACCESS_DENIED.
+// Deletes a file. A directory, or a file that nobody may write, is refused with ERROR_ACCESS_DENIED.
 BOOL DeleteFileA(LPCSTR path);
 
 #endif

@@ -44,8 +44,8 @@ HINSTANCE ShellExecuteA(HWND owner, LPCSTR verb, LPCSTR file, LPCSTR parameters,
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int showCommand);
 
 // The arguments of the process, as Windows' runtime hands them out.
-extern int __argc;
-extern char** __argv;
+extern int __argc;     // NOLINT(bugprone-reserved-identifier): Windows' own name
+extern char** __argv;  // NOLINT(bugprone-reserved-identifier)
 
 // The module handle of the program itself; `moduleName` must be null.
 HINSTANCE GetModuleHandleA(LPCSTR moduleName);

@@ -1,0 +1,57 @@
+#include "platform/native/last_error.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <iterator>
+#include <string>
+
+#include "platform/native/paths.h"
+#include "platform/native/system.h"
+
+namespace {
+
+thread_local DWORD lastError = NO_ERROR;
+
+constexpr struct {
+    int error;
+    DWORD code;
+} codes[] = {
+    {ENOENT, ERROR_FILE_NOT_FOUND},      {ENOTDIR, ERROR_PATH_NOT_FOUND},
+    {EMFILE, ERROR_TOO_MANY_OPEN_FILES}, {ENFILE, ERROR_TOO_MANY_OPEN_FILES},
+    {EACCES, ERROR_ACCESS_DENIED},       {EPERM, ERROR_ACCESS_DENIED},
+    {EISDIR, ERROR_ACCESS_DENIED},       {ENXIO, ERROR_ACCESS_DENIED},
+    {EBADF, ERROR_INVALID_HANDLE},       {ENOMEM, ERROR_NOT_ENOUGH_MEMORY},
+    {EROFS, ERROR_WRITE_PROTECT},        {EINVAL, ERROR_INVALID_PARAMETER},
+    {ENOSPC, ERROR_DISK_FULL},           {EDQUOT, ERROR_DISK_FULL},
+    {EEXIST, ERROR_ALREADY_EXISTS},      {ENAMETOOLONG, ERROR_FILENAME_EXCED_RANGE},
+};
+
+bool hasDirectory(const NativePath& path) {
+    const std::size_t slash = path.name.rfind('/');
+    if (slash == std::string::npos || slash == 0) return true;
+    struct stat found = {};
+    return fstatat(path.directory, path.name.substr(0, slash).c_str(), &found, 0) == 0 && S_ISDIR(found.st_mode);
+}
+
+}  // namespace
+
+DWORD GetLastError() {
+    return lastError;
+}
+
+void SetLastError(DWORD code) {
+    lastError = code;
+}
+
+DWORD windowsError(int error) {
+    const auto* const found =
+        std::find_if(std::begin(codes), std::end(codes), [&](const auto& row) { return row.error == error; });
+    return found == std::end(codes) ? ERROR_GEN_FAILURE : found->code;
+}
+
+void setPathError(int error, const NativePath& path) {
+    SetLastError(error == ENOENT && !hasDirectory(path) ? ERROR_PATH_NOT_FOUND : windowsError(error));
+}
