@@ -1,0 +1,38 @@
+# Shared by the scripts: what they need is installed here, once.
+# shellcheck shell=bash
+
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgtest-dev libbenchmark-dev
+    binutils-mingw-w64-x86-64)
+display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
+windows_packages=(g++-mingw-w64-x86-64-posix)
+check_packages=(clang-format clang-tidy)
+
+say() { printf '%s\n' "$*"; }
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# Installs the Debian packages that are missing; asks nothing and does nothing when all are there.
+need() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    say "Installing ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET...]: configures once, then builds what has changed.
+build() {
+    local preset=$1
+    shift
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    cmake --build "build/$preset" ${1:+--target "$@"}
+}
