@@ -1,0 +1,131 @@
+#include "platform/native/registry_file.h"
+
+#include <algorithm>
+
+#include "platform/native/registry.h"
+#include "platform/native/text1252.h"
+
+namespace {
+
+char lowered(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+// The value of a digit of any base up to 16; 16 if it is none.
+unsigned digitValue(char c) {
+    if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
+    const char lower = lowered(c);
+    return lower >= 'a' && lower <= 'f' ? static_cast<unsigned>(lower - 'a' + 10) : 16;
+}
+
+// A line, read from its head on.
+class LineReader {
+ public:
+    explicit LineReader(std::string_view line) : rest_(line) {}
+
+    // Takes `text` if it comes next.
+    bool take(std::string_view text) {
+        if (rest_.substr(0, text.size()) != text) return false;
+        rest_.remove_prefix(text.size());
+        return true;
+    }
+
+    // Takes a text up to the first `end` that isn't escaped. False if there is none: then the line was cut.
+    bool takeText(char end, std::string& text) {
+        std::string utf8;
+        while (!rest_.empty()) {
+            const char c = next();
+            if (c == end) {
+                text = text1252FromUtf8(utf8);
+                return true;
+            }
+            if (c != '\\') {
+                utf8 += c;
+            } else if (!rest_.empty()) {
+                appendEscaped(utf8);
+            }
+        }
+        return false;
+    }
+
+ private:
+    char next() {
+        const char c = rest_.front();
+        rest_.remove_prefix(1);
+        return c;
+    }
+
+    unsigned takeNumber(unsigned base, int digits) {
+        unsigned number = 0;
+        for (; digits > 0 && !rest_.empty() && digitValue(rest_.front()) < base; --digits) {
+            number = number * base + digitValue(next());
+        }
+        return number;
+    }
+
+    // What follows a backslash: a letter for a control character, an octal number, "x" and a number of UTF-16, or a
+    // character that stands for itself. Added as UTF-8, so that the whole text can be turned into Windows-1252 at once.
+    void appendEscaped(std::string& utf8) {
+        constexpr std::string_view letters = "abtnvfr";  // for 7 to 13
+        constexpr int octalDigits = 3;
+        constexpr int hexDigits = 4;
+        char16_t unit = 0;
+        if (digitValue(rest_.front()) < 8) {
+            unit = static_cast<char16_t>(takeNumber(8, octalDigits));
+        } else {
+            const char c = next();
+            const std::size_t letter = letters.find(c);
+            if (c == 'x' && !rest_.empty() && digitValue(rest_.front()) < 16) {
+                unit = static_cast<char16_t>(takeNumber(16, hexDigits));
+            } else if (letter != std::string_view::npos) {
+                unit = static_cast<char16_t>(7 + letter);
+            } else {
+                utf8 += c;
+                return;
+            }
+        }
+        utf8 += utf8From1252(std::string(1, static_cast<char>(byte1252FromUnicode(unit))));
+    }
+
+    std::string_view rest_;
+};
+
+std::string_view takeLine(std::string_view& file) {
+    const std::size_t end = std::min(file.find('\n'), file.size());
+    std::string_view line = file.substr(0, end);
+    file.remove_prefix(std::min(end + 1, file.size()));
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    return line;
+}
+
+bool readValue(std::string_view line, RegistryValue& value) {
+    LineReader reader(line);
+    const bool named = reader.take("\"") ? reader.takeText('"', value.name) : reader.take("@");
+    if (!named || !reader.take("=")) return false;
+    value.type = reader.take("str(2):") ? REG_EXPAND_SZ : REG_SZ;
+    return reader.take("\"") && reader.takeText('"', value.text);
+}
+
+}  // namespace
+
+bool isSameRegistryName(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return lowered(x) == lowered(y); });
+}
+
+bool readRegistryKey(std::string_view file, std::string_view key, std::vector<RegistryValue>& values) {
+    bool found = false;
+    bool inKey = false;
+    while (!file.empty()) {
+        const std::string_view line = takeLine(file);
+        LineReader reader(line);
+        if (reader.take("[")) {
+            std::string section;
+            inKey = reader.takeText(']', section) && isSameRegistryName(section, key);
+            found = found || inKey;
+        } else if (inKey) {
+            RegistryValue value = {};
+            if (readValue(line, value)) values.push_back(std::move(value));
+        }
+    }
+    return found;
+}

@@ -1,0 +1,181 @@
+#include "platform/native/x_windows.h"
+
+#include <xcb/xcb.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <future>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "platform/native/system.h"
+#include "platform/native/text1252.h"
+#include "platform/native/windows.h"
+
+namespace {
+
+// Longest wait for a server, which may hang or lie behind a network that does.
+constexpr std::chrono::seconds patience{1};
+// A window manager puts a program's window into a frame of its own, some into two; below that lie a program's controls.
+constexpr int searchDepth = 4;
+// In units of 4 bytes, as the protocol counts.
+constexpr std::uint32_t longestTitle = 1024 / 4;
+constexpr std::uint32_t longestWindowList = 65536;
+
+struct Free {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
+template <class Reply>
+using ReplyPtr = std::unique_ptr<Reply, Free>;
+
+// One search. Requests of one kind are all sent before the first answer is waited for: a desktop of hundreds of windows
+// costs one way to the server and back for each level, not one for each window.
+class TitleSearch {
+ public:
+    TitleSearch(xcb_connection_t* connection, std::string title)
+        : connection_(connection), title_(std::move(title)), utf8Title_(utf8From1252(title_)) {
+        const auto clientList = askAtom("_NET_CLIENT_LIST");
+        const auto netName = askAtom("_NET_WM_NAME");
+        const auto utf8 = askAtom("UTF8_STRING");
+        clientList_ = answeredAtom(clientList);
+        netName_ = answeredAtom(netName);
+        utf8_ = answeredAtom(utf8);
+    }
+
+    bool run() {
+        std::vector<xcb_window_t> level;
+        for (auto at = xcb_setup_roots_iterator(xcb_get_setup(connection_)); at.rem > 0; xcb_screen_next(&at)) {
+            level.push_back(at.data->root);
+        }
+        if (hasTitled(clientsOf(level))) return true;
+        for (int depth = 0; depth < searchDepth && !level.empty(); ++depth) {
+            level = childrenOf(level);
+            if (hasTitled(level)) return true;
+        }
+        return false;
+    }
+
+ private:
+    xcb_intern_atom_cookie_t askAtom(std::string_view name) {
+        return xcb_intern_atom(connection_, 1, static_cast<std::uint16_t>(name.size()), name.data());
+    }
+
+    xcb_atom_t answeredAtom(xcb_intern_atom_cookie_t asked) {
+        const ReplyPtr<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_, asked, nullptr));
+        return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    }
+
+    xcb_get_property_cookie_t askProperty(xcb_window_t window, xcb_atom_t property, std::uint32_t longest) {
+        return xcb_get_property(connection_, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, longest);
+    }
+
+    ReplyPtr<xcb_get_property_reply_t> answeredProperty(xcb_get_property_cookie_t asked) {
+        return ReplyPtr<xcb_get_property_reply_t>(xcb_get_property_reply(connection_, asked, nullptr));
+    }
+
+    // The programs' windows as the window manager knows them; none without one.
+    std::vector<xcb_window_t> clientsOf(const std::vector<xcb_window_t>& roots) {
+        std::vector<xcb_window_t> clients;
+        for (const xcb_window_t root : roots) {
+            if (clientList_ == XCB_ATOM_NONE) break;
+            const auto list = answeredProperty(askProperty(root, clientList_, longestWindowList));
+            if (!list || list->type != XCB_ATOM_WINDOW || list->format != 32) continue;
+            const auto* first = static_cast<const xcb_window_t*>(xcb_get_property_value(list.get()));
+            clients.insert(clients.end(), first, first + xcb_get_property_value_length(list.get()) / 4);
+        }
+        return clients;
+    }
+
+    std::vector<xcb_window_t> childrenOf(const std::vector<xcb_window_t>& parents) {
+        std::vector<xcb_query_tree_cookie_t> asked;
+        asked.reserve(parents.size());
+        for (const xcb_window_t parent : parents) {
+            asked.push_back(xcb_query_tree(connection_, parent));
+        }
+        std::vector<xcb_window_t> children;
+        for (const xcb_query_tree_cookie_t& cookie : asked) {
+            // Without an answer the window has gone meanwhile.
+            const ReplyPtr<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(connection_, cookie, nullptr));
+            if (!tree) continue;
+            const xcb_window_t* first = xcb_query_tree_children(tree.get());
+            children.insert(children.end(), first, first + xcb_query_tree_children_length(tree.get()));
+        }
+        return children;
+    }
+
+    bool hasTitled(const std::vector<xcb_window_t>& windows) {
+        struct Names {
+            xcb_get_property_cookie_t net, old;
+        };
+        std::vector<Names> asked;
+        asked.reserve(windows.size());
+        for (const xcb_window_t window : windows) {
+            asked.push_back(
+                {askProperty(window, netName_, longestTitle), askProperty(window, XCB_ATOM_WM_NAME, longestTitle)});
+        }
+        bool found = false;
+        // All answers are taken, so that none is left over.
+        for (const Names& names : asked) {
+            const auto net = answeredProperty(names.net);
+            const auto old = answeredProperty(names.old);
+            const bool hasNet = net && xcb_get_property_value_length(net.get()) > 0;
+            found = isTitle(hasNet ? net.get() : old.get()) || found;
+        }
+        return found;
+    }
+
+    // Names of the type UTF8_STRING are UTF-8, all others Latin-1, which Windows-1252 covers.
+    bool isTitle(const xcb_get_property_reply_t* name) const {
+        if (name == nullptr || name->format != 8 || name->bytes_after != 0) return false;
+        const auto size = static_cast<std::size_t>(xcb_get_property_value_length(name));
+        std::string_view text(static_cast<const char*>(xcb_get_property_value(name)), size);
+        while (!text.empty() && text.back() == '\0') {
+            text.remove_suffix(1);
+        }
+        return text == (name->type == utf8_ ? utf8Title_ : title_);
+    }
+
+    xcb_connection_t* connection_;
+    std::string title_;
+    std::string utf8Title_;
+    xcb_atom_t clientList_ = XCB_ATOM_NONE;
+    xcb_atom_t netName_ = XCB_ATOM_NONE;
+    xcb_atom_t utf8_ = XCB_ATOM_NONE;
+};
+
+bool hasServerWindow(const std::string& title) {
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool found = xcb_connection_has_error(connection) == 0 && TitleSearch(connection, title).run();
+    xcb_disconnect(connection);
+    return found;
+}
+
+// On a thread of its own, because nothing in the protocol's library takes a time limit. One that outlasts our patience
+// is left to itself: it holds nothing of ours.
+bool hasServerWindowInTime(const char* title) {
+    const char* display = std::getenv("DISPLAY");
+    if (display == nullptr || *display == '\0') return false;
+    std::packaged_task<bool()> search([text = std::string(title)] { return hasServerWindow(text); });
+    std::future<bool> found = search.get_future();
+    std::thread(std::move(search)).detach();
+    return found.wait_for(patience) == std::future_status::ready && found.get();
+}
+
+}  // namespace
+
+HWND FindWindowA(LPCSTR className, LPCSTR windowName) {
+    if (className != nullptr || windowName == nullptr) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    if (HWND own = findOwnWindow(windowName)) return own;
+    // Another program's window is known to be there and serves for nothing else, so one handle stands for them all.
+    static char foreignWindow;
+    return hasServerWindowInTime(windowName) ? reinterpret_cast<HWND>(&foreignWindow) : nullptr;
+}
