@@ -1,0 +1,102 @@
+#include "bench/large_installation.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "sample/installation.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* gameDirectory = "drive_c/Program Files (x86)/Maxis/The Sims";
+
+class Prefix {
+ public:
+    Prefix() : path_(fs::temp_directory_path() / ("tidewright-bench-" + std::to_string(getpid()))) {
+        writeLargeInstallation(path_ / "one", 1);
+        setenv("WINEPREFIX", (path_ / "one").c_str(), 1);
+    }
+    Prefix(const Prefix&) = delete;
+    Prefix& operator=(const Prefix&) = delete;
+    ~Prefix() { fs::remove_all(path_); }
+
+    fs::path game() const { return path_ / "one" / gameDirectory; }
+    fs::path many(int count) const { return path_ / std::to_string(count); }
+
+ private:
+    fs::path path_;
+};
+
+Prefix& prefix() {
+    static Prefix only;
+    return only;
+}
+
+void linkNeighborhood(const fs::path& from, const fs::path& to) {
+    fs::create_directories(to);
+    fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::create_hard_links);
+}
+
+}  // namespace
+
+const char* largeSimsDirectory() {
+    prefix();
+    return "C:\\Program Files (x86)\\Maxis\\The Sims\\";
+}
+
+fs::path largeNeighborhoodDirectory() {
+    return prefix().game() / "UserData";
+}
+
+const char* manySimsDirectory(int count) {
+    static std::map<int, std::string> made;
+    std::string& directory = made[count];
+    if (!directory.empty()) return directory.c_str();
+    for (int number = 1; number <= count; ++number) {
+        const std::string name = number == 1 ? "UserData" : "UserData" + std::to_string(number);
+        linkNeighborhood(largeNeighborhoodDirectory(), prefix().many(count) / name);
+    }
+    directory = prefix().many(count).string() + "\\";
+    return directory.c_str();
+}
+
+fs::path largeNeighborhoodFile() {
+    return largeNeighborhoodDirectory() / "Neighborhood.iff";
+}
+
+std::vector<fs::path> largeCharacterFiles() {
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(largeNeighborhoodDirectory() / "Characters"))
+        if (entry.is_regular_file()) files.push_back(entry.path());
+    return files;
+}
+
+std::size_t readWhole(const fs::path& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat status {};
+    fstat(file, &status);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    const auto bytes = std::make_unique_for_overwrite<char[]>(size);
+    const ssize_t got = read(file, bytes.get(), size);
+    close(file);
+    return got < 0 ? 0 : static_cast<std::size_t>(got);
+}
+
+void copyPlainly(const fs::path& from, const fs::path& to, bool durable) {
+    const int source = open(from.c_str(), O_RDONLY | O_CLOEXEC);
+    const int target = open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    static std::array<char, 16'000> buffer;
+    for (ssize_t got = 0; (got = read(source, buffer.data(), buffer.size())) > 0;)
+        if (write(target, buffer.data(), static_cast<std::size_t>(got)) != got) std::abort();
+    if (durable) fsync(target);
+    close(source);
+    close(target);
+}

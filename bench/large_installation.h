@@ -1,0 +1,25 @@
+// An installation of real size in a temporary directory, made once for all benchmarks, and bare reading and copying to
+// measure the program against.
+#ifndef BENCH_LARGE_INSTALLATION_H
+#define BENCH_LARGE_INSTALLATION_H
+
+#include <filesystem>
+#include <vector>
+
+// The game's directory, with a trailing backslash: one neighborhood of 566 KB with 216 Sims. It goes with the process.
+const char* largeSimsDirectory();
+std::filesystem::path largeNeighborhoodDirectory();
+
+// The game's directory of an installation with `count` such neighborhoods, whose files are links to the same bytes.
+const char* manySimsDirectory(int count);
+
+std::filesystem::path largeNeighborhoodFile();
+std::vector<std::filesystem::path> largeCharacterFiles();
+
+// Opens, reads in one go and closes. Returns the number of bytes.
+std::size_t readWhole(const std::filesystem::path& path);
+
+// Reads and writes through one buffer. With `durable` the disk holds the copy when this returns.
+void copyPlainly(const std::filesystem::path& from, const std::filesystem::path& to, bool durable);
+
+#endif

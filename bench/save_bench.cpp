@@ -1,0 +1,50 @@
+// Saving one changed Sim, against copying the same bytes as often: the neighborhood file and the character file each go
+// to their temporary name, to their backup and to their live name.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "bench/large_installation.h"
+#include "world/neighborhoods.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void saveOneSim(benchmark::State& state) {
+    const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
+    Neighborhood neighborhood;
+    neighborhood.load((std::string(largeSimsDirectory()) + "UserData").c_str(), "neighborhood.iff");
+    neighborhood.setToolDirectory(toolDirectory.c_str());
+    Sim& sim = *neighborhood.sim(0);
+    sim.guid();
+    sim.name();
+    sim.bodyStrings();
+    for (auto _ : state) {
+        state.PauseTiming();
+        sim.setStage(stageNumber::adult, nullptr);
+        state.ResumeTiming();
+        neighborhood.save();
+        if (sim.recordDirty() || neighborhood.isDirty()) state.SkipWithError("the Sim wasn't saved");
+    }
+}
+BENCHMARK(saveOneSim)->Name("saveOneSim");
+
+void copySavedBytes(benchmark::State& state, bool durably) {
+    const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
+    const fs::path directory = largeNeighborhoodDirectory();
+    const fs::path neighborhood = largeNeighborhoodFile(), character = toolDirectory / "Template.iff";
+    for (auto _ : state) {
+        for (const auto& file : {neighborhood, character}) {
+            copyPlainly(file, directory / "first", false);
+            copyPlainly(file, directory / "second", durably);
+            copyPlainly(file, directory / "third", durably);
+        }
+    }
+    for (const char* name : {"first", "second", "third"})
+        fs::remove(directory / name);
+}
+BENCHMARK_CAPTURE(copySavedBytes, plain, false)->Name("copySavedBytes");
+BENCHMARK_CAPTURE(copySavedBytes, durable, true)->Name("copySavedBytesDurably");
+
+}  // namespace

@@ -1,0 +1,129 @@
+// Move Out, in memory.
+#include "lifestage/move_out.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/test_neighborhood.h"
+#include "tests/support/user.h"
+
+namespace {
+
+// A family of adults (and a child last, with `child`), resolved.
+class Household {
+ public:
+    Household(int adults, std::int32_t funds, bool child = false)
+        : neighborhood_(contentFor(adults, funds, child), charactersFor(adults + (child ? 1 : 0))) {
+        family().memberCount();
+    }
+
+    Neighborhood& neighborhood() { return *neighborhood_; }
+    Family& family() { return neighborhood_.family(); }
+    Sim* sim(int index) { return &neighborhood_.sim(index); }
+
+    // The members' record names, last digits only.
+    std::string members() {
+        std::string digits;
+        for (std::int32_t i = 0; i < family().memberCount(); ++i)
+            digits += family().member(i)->recordName()[8];
+        return digits;
+    }
+
+ private:
+    static std::vector<SampleCharacter> charactersFor(int count) {
+        std::vector<SampleCharacter> characters(static_cast<std::size_t>(count));
+        for (int i = 0; i < count; ++i) {
+            characters[static_cast<std::size_t>(i)].recordName = "user0000" + std::to_string(i + 1);
+            characters[static_cast<std::size_t>(i)].guid = sampleGuid + static_cast<std::uint32_t>(i);
+        }
+        return characters;
+    }
+
+    static SampleNeighborhood contentFor(int adults, std::int32_t funds, bool child) {
+        SampleNeighborhood content = householdOf(charactersFor(adults + (child ? 1 : 0)));
+        content.families.front().funds = funds;
+        content.families.front().name = "Q&A";
+        if (child) content.neighbors.back().age = 9;
+        return content;
+    }
+
+    TestNeighborhood neighborhood_;
+};
+
+TEST(MoveOutTest, SharesTheMoney) {
+    const struct {
+        std::int32_t funds, stays, goes;
+    } rows[] = {
+        {10'000, 0, 10'000},      {20'000, 0, 20'000},   {20'001, 1, 20'000},
+        {50'000, 30'000, 20'000}, {-1, -20'001, 20'000},  // a debt counts as a large amount
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.funds);
+        Household household(2, row.funds);
+        EXPECT_EQ(moveOut(household.sim(0)), 1);
+        EXPECT_EQ(household.family().funds(), row.stays);
+        EXPECT_EQ(household.neighborhood().newFamily(0)->funds(), row.goes);
+    }
+}
+
+TEST(MoveOutTest, IsRefusedForWantOfMoney) {
+    Household household(2, 9'999);
+    const AnsweredBox box = answerNextBox(IDOK);
+    EXPECT_EQ(moveOut(household.sim(0)), -1);
+    EXPECT_EQ(box.title(), "Insufficient funds");
+    EXPECT_EQ(
+        box.text(),
+        "Your newly independent sim will need some starting funds!  The family must save up at least 10,000 before a "
+        "member can move out.");
+    EXPECT_EQ(household.family().funds(), 9'999);
+    EXPECT_EQ(household.members(), "12");
+    EXPECT_FALSE(household.neighborhood().isDirty());
+}
+
+TEST(MoveOutTest, LeavesTwoFamiliesBehind) {
+    Household household(3, 45'000, true);
+    Sim* sim = household.sim(1);
+    EXPECT_EQ(moveOut(sim), 1);
+    EXPECT_EQ(household.members(), "134");
+    EXPECT_EQ(household.family().adultCount(), 2);
+    EXPECT_TRUE(household.family().dirty());
+    EXPECT_EQ(sim->family(), &household.family());
+    EXPECT_FALSE(sim->characterDirty() || sim->recordDirty());
+
+    Neighborhood& neighborhood = household.neighborhood();
+    EXPECT_TRUE(neighborhood.isDirty() && neighborhood.hasNewFamilies());
+    EXPECT_EQ(neighborhood.familyCount(), 1) << "a new family isn't listed before it is saved";
+    Family& moved = *neighborhood.newFamily(0);
+    EXPECT_STREQ(moved.name(), "Q&A");
+    EXPECT_EQ(moved.memberCount(), 1);
+    EXPECT_EQ(moved.member(0), sim);
+    EXPECT_EQ(moved.adultCount(), 1);
+    EXPECT_EQ(moved.familyNumber(), 0);
+    EXPECT_TRUE(moved.dirty() && moved.membersResolved());
+
+    EXPECT_EQ(moveOut(household.sim(0)), 1) << "the second split works on what the first one left";
+    EXPECT_EQ(household.members(), "34");
+    EXPECT_EQ(household.family().funds(), 5'000);
+    EXPECT_EQ(neighborhood.newFamily(1)->member(0), household.sim(0));
+}
+
+TEST(MoveOutTest, ATeenAChildAndNobodyStay) {
+    Household household(1, 50'000, true);
+    EXPECT_EQ(moveOut(household.sim(1)), -1);
+    EXPECT_EQ(moveOut(nullptr), -1);
+    EXPECT_FALSE(household.neighborhood().isDirty());
+    EXPECT_EQ(moveOut(household.sim(0)), 1) << "the last adult may go: that rule is the window's";
+}
+
+TEST(MoveOutTest, AnEleventhWaitsForASave) {
+    Household household(1, 50'000);
+    Neighborhood& neighborhood = household.neighborhood();
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(neighborhood.addNewFamily(std::make_unique<Family>(neighborhood)), 1);
+    EXPECT_EQ(neighborhood.addNewFamily(std::make_unique<Family>(neighborhood)), -1);
+    EXPECT_EQ(moveOut(household.sim(0)), -1);
+    EXPECT_EQ(household.family().funds(), 50'000);
+    EXPECT_EQ(household.members(), "1");
+    EXPECT_EQ(neighborhood.newFamilyCount(), 10);
+}
+
+}  // namespace
