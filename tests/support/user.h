@@ -22,8 +22,8 @@ void pickEntry(HWND combo, int index);
 void turnWheel(HWND control, bool down);
 
 // Opens the menus on the way to the item at the end of `path` and clicks it. Texts stand as the user sees them, without
-// the "&". False, and nothing clicked, if there is no such item or it is disabled. The command is posted: a message loop
-// delivers it.
+// the "&". False, and nothing clicked, if there is no such item or it is disabled. The command is posted: a message
+// loop delivers it.
 bool chooseMenu(HWND window, std::initializer_list<const char*> path);
 
 // Asks the window to close, as its close button does.
@@ -31,10 +31,10 @@ void closeWindow(HWND window);
 
 enum class Hold { nothing, alt, altShift };
 
-// Presses and releases the key of a printable character in the window that has the keyboard.
+// Presses and releases the key of a printable ASCII character while `window` has the keyboard.
 void pressKey(HWND window, char character, Hold hold = Hold::nothing);
 
-// Runs `action` once the message loop waits for messages; several run in their order, one for each wait.
+// Runs `action` once the program's message loop has nothing to do; several run in their order, one each time.
 void later(std::function<void()> action);
 
 // Runs a message loop, as the program's own, until nothing waits in it, or until PostQuitMessage. Returns whether that
@@ -49,8 +49,6 @@ class AnsweredBox {
         std::string title;
         std::string text;                  // of a dialog: its lines, with a line break between them
         std::vector<std::string> buttons;  // from left to right, without the "&"
-        bool ownerBlocked = false;         // while it showed, no other window took a click
-        int answer = 0;
     };
 
     explicit AnsweredBox(std::shared_ptr<Seen> seen) : seen_(std::move(seen)) {}
@@ -59,7 +57,6 @@ class AnsweredBox {
     const std::string& title() const { return seen_->title; }
     const std::string& text() const { return seen_->text; }
     const std::vector<std::string>& buttons() const { return seen_->buttons; }
-    bool ownerBlocked() const { return seen_->ownerBlocked; }
 
  private:
     std::shared_ptr<Seen> seen_;
@@ -68,9 +65,10 @@ class AnsweredBox {
 constexpr int answerByEscape = -1;
 
 // Queues the answer to the next box that opens: IDOK and IDCANCEL click that button, `answerByEscape` presses the key.
-// A box without that button is answered by whatever it has, so that a test fails instead of waiting. Several are used up
-// in their order; one that wasn't used by the end of its AnsweredBox's life is dropped.
-[[nodiscard]] AnsweredBox answerNextBox(int answer);
+// `meanwhile` runs while the box is open, before the answer. A box without that button is answered by its last one, so
+// that a test fails instead of waiting. Several are used up in their order; one that wasn't used by the end of its
+// AnsweredBox's life is dropped.
+[[nodiscard]] AnsweredBox answerNextBox(int answer, std::function<void()> meanwhile = {});
 
 bool isEnabled(HWND window);
 bool isVisible(HWND window);

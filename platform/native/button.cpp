@@ -1,0 +1,17 @@
+#include "platform/native/button.h"
+
+#include <QPushButton>
+
+#include "platform/native/controls.h"
+#include "platform/native/qt_text.h"
+
+Button::Button(DWORD style, HWND parent, int id, LPCSTR text, QWidget* area)
+    : Control(style, parent, new QPushButton(qtText(text), area)) {
+    button().setAutoDefault(false);
+    QObject::connect(&button(), &QPushButton::clicked, &button(),
+                     [parent, id, control = handle()] { notifyParent(parent, id, BN_CLICKED, control); });
+}
+
+QPushButton& Button::button() const {
+    return static_cast<QPushButton&>(*widget());
+}

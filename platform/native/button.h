@@ -1,0 +1,17 @@
+// The "Button" class: a push button.
+#ifndef PLATFORM_NATIVE_BUTTON_H
+#define PLATFORM_NATIVE_BUTTON_H
+
+#include "platform/native/control.h"
+
+class QPushButton;
+
+class Button : public Control {
+ public:
+    // "&" in `text` underlines the key that presses it.
+    Button(DWORD style, HWND parent, int id, LPCSTR text, QWidget* area);
+
+    QPushButton& button() const;
+};
+
+#endif

@@ -1,0 +1,77 @@
+#include "platform/native/combo_box.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QProxyStyle>
+#include <algorithm>
+
+#include "platform/native/controls.h"
+#include "platform/native/qt_text.h"
+
+namespace {
+
+// Windows' own is no higher, and programs put boxes 30 pixels apart.
+constexpr int greatestClosedHeight = 28;
+
+// A list below the box with a scroll bar, as high as the program asked for; many a style would show a menu that covers
+// the screen from top to bottom instead.
+class ListBelowStyle : public QProxyStyle {
+ public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
+}  // namespace
+
+ComboBox::ComboBox(DWORD style, HWND parent, int id, QWidget* area) : Control(style, parent, new QComboBox(area)) {
+    auto* const listBelow = new ListBelowStyle;
+    listBelow->setParent(&box());
+    box().setStyle(listBelow);
+    QObject::connect(&box(), &QComboBox::activated, &box(),
+                     [parent, id, control = handle()] { notifyParent(parent, id, CBN_SELCHANGE, control); });
+}
+
+QComboBox& ComboBox::box() const {
+    return static_cast<QComboBox&>(*widget());
+}
+
+void ComboBox::place(const QRect& rectangle) {
+    box().ensurePolished();
+    const int height = std::min(box().sizeHint().height(), greatestClosedHeight);
+    const int rowHeight = box().view()->fontMetrics().height();
+    box().setMaxVisibleItems(std::max(1, (rectangle.height() - height) / rowHeight));
+    Control::place(QRect(rectangle.topLeft(), QSize(rectangle.width(), height)));
+}
+
+LRESULT ComboBox::receive(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case CB_ADDSTRING:
+            return addString(reinterpret_cast<const char*>(lParam));
+        case CB_DELETESTRING:
+            return deleteString(wParam);
+        case CB_GETCOUNT:
+            return box().count();
+        case CB_GETCURSEL:
+            return box().currentIndex();  // -1 for none in both worlds
+        default:
+            return Control::receive(message, wParam, lParam);
+    }
+}
+
+LRESULT ComboBox::addString(const char* text) {
+    const bool hadNone = box().currentIndex() < 0;
+    box().addItem(qtText(text));
+    if (hadNone) box().setCurrentIndex(-1);  // Qt selects the first entry of an empty list
+    return box().count() - 1;
+}
+
+LRESULT ComboBox::deleteString(WPARAM index) {
+    if (index >= static_cast<WPARAM>(box().count())) return CB_ERR;
+    const int row = static_cast<int>(index);
+    // Qt would select a neighbour of a deleted entry.
+    if (row == box().currentIndex()) box().setCurrentIndex(-1);
+    box().removeItem(row);
+    return box().count();
+}

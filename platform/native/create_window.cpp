@@ -1,0 +1,67 @@
+// Windows come and go: CreateWindowExA and DestroyWindow.
+#include <QWidget>
+
+#include "platform/native/button.h"
+#include "platform/native/client_area.h"
+#include "platform/native/combo_box.h"
+#include "platform/native/display.h"
+#include "platform/native/system.h"
+#include "platform/native/top_level_window.h"
+
+namespace {
+
+std::unique_ptr<Control> makeControl(LPCSTR className, LPCSTR text, DWORD style, HWND parent, int id) {
+    Window* const owner = findWindow(parent);
+    if (owner == nullptr || owner->clientArea() == nullptr) return nullptr;
+    QWidget* const area = owner->clientArea();
+    if (sameClassName(className, "ComboBox")) return std::make_unique<ComboBox>(style, parent, id, area);
+    if (sameClassName(className, "Button")) return std::make_unique<Button>(style, parent, id, text, area);
+    SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+    return nullptr;
+}
+
+HWND createTopLevel(LPCSTR className, LPCSTR title, DWORD style, const Placement& placement) {
+    const WindowClass* const windowClass = findWindowClass(className);
+    if (windowClass == nullptr) return nullptr;
+    HWND const handle = addWindow(std::make_unique<TopLevelWindow>(*windowClass, title, style, placement))->handle();
+    if (SendMessageA(handle, WM_CREATE, 0, 0) == -1) {
+        DestroyWindow(handle);
+        return nullptr;
+    }
+    if ((style & WS_VISIBLE) != 0) ShowWindow(handle, SW_SHOW);
+    return handle;
+}
+
+}  // namespace
+
+HWND CreateWindowExA(DWORD, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width, int height,
+                     HWND parent, HMENU menu, HINSTANCE, LPVOID) {
+    if (!hasDisplay()) {
+        SetLastError(ERROR_GEN_FAILURE);
+        return nullptr;
+    }
+    if (className == nullptr) {
+        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+        return nullptr;
+    }
+    if ((style & WS_CHILD) == 0) return createTopLevel(className, windowName, style, {x, y, width, height});
+    const int id = static_cast<int>(reinterpret_cast<std::intptr_t>(menu));
+    std::unique_ptr<Control> control = makeControl(className, windowName, style, parent, id);
+    if (control == nullptr) return nullptr;
+    control->place(QRect(x, y, width, height));
+    return addWindow(std::move(control))->handle();
+}
+
+BOOL DestroyWindow(HWND window) {
+    Window* const found = findWindow(window);
+    if (found == nullptr) return FALSE;
+    if (auto* const topLevel = dynamic_cast<TopLevelWindow*>(found); topLevel != nullptr) {
+        if (topLevel->beingDestroyed) return FALSE;
+        topLevel->beingDestroyed = true;
+        topLevel->widget()->hide();
+        topLevel->noteVisible(false);
+        SendMessageA(window, WM_DESTROY, 0, 0);
+    }
+    dropWindow(window);
+    return TRUE;
+}

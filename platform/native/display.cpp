@@ -1,0 +1,137 @@
+#include "platform/native/display.h"
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+#include <xcb/xcb.h>
+
+#include <QApplication>
+#include <QByteArray>
+#include <QFile>
+#include <QLibraryInfo>
+#include <QPluginLoader>
+#include <cstring>
+#include <memory>
+
+#include "platform/native/cursor.h"
+#include "platform/native/device_context.h"
+#include "platform/native/key_messages.h"
+#include "platform/native/system.h"
+#include "platform/native/window.h"
+
+namespace {
+
+std::unique_ptr<QApplication> application;
+
+bool pluginLoads(const QByteArray& name) {
+    const QString folder = qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH",
+                                                QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms");
+    return QPluginLoader(folder + "/libq" + QString::fromLatin1(name) + ".so").load();
+}
+
+bool xServerAnswers() {
+    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return answers;
+}
+
+bool waylandAnswers() {
+    QByteArray path = qgetenv("WAYLAND_DISPLAY");
+    if (path.isEmpty()) path = "wayland-0";
+    if (!path.startsWith('/')) path = qgetenv("XDG_RUNTIME_DIR") + '/' + path;
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) return false;
+    std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool answers =
+        socket >= 0 && connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    if (socket >= 0) close(socket);
+    return answers;
+}
+
+// `platform` may carry parameters behind a colon.
+bool usable(const QByteArray& platform) {
+    const QByteArray name = platform.split(':').first();
+    if (name == "xcb") return xServerAnswers() && pluginLoads(name);
+    if (name.startsWith("wayland"))
+        return waylandAnswers() && pluginLoads(name == "wayland" ? QByteArray("wayland-generic") : name);
+    // These need no server. The rest draw on bare hardware, which can't be tried beforehand.
+    return (name == "offscreen" || name == "minimal" || name == "vnc") && pluginLoads(name);
+}
+
+// Empty if there is no screen.
+QByteArray choosePlatform() {
+    for (const QByteArray& platform : qgetenv("QT_QPA_PLATFORM").split(';'))
+        if (usable(platform)) return platform;
+    return usable("xcb") ? QByteArray("xcb") : QByteArray();
+}
+
+// A variable of the environment as Qt shall find it while it starts; the programs that this one starts later find it as
+// it was.
+class VariableForStart {
+ public:
+    explicit VariableForStart(const char* name)
+        : name_(name), wasSet_(qEnvironmentVariableIsSet(name)), old_(qgetenv(name)) {}
+    VariableForStart(const VariableForStart&) = delete;
+    VariableForStart& operator=(const VariableForStart&) = delete;
+    ~VariableForStart() {
+        if (wasSet_)
+            qputenv(name_, old_);
+        else
+            qunsetenv(name_);
+    }
+
+    const QByteArray& old() const { return old_; }
+    void set(const QByteArray& value) { qputenv(name_, value); }
+
+ private:
+    const char* name_;
+    bool wasSet_;
+    QByteArray old_;
+};
+
+// The session's message bus brings screen readers and the desktop's look. Where there is none, libdbus would start one
+// that outlives the program, or wait for somebody who can.
+void forbidStartingABus(VariableForStart& address) {
+    const QByteArray socket = qgetenv("XDG_RUNTIME_DIR") + "/bus";
+    if (address.old().isEmpty() && !QFile::exists(QString::fromLocal8Bit(socket))) address.set("disabled:");
+}
+
+// The theme that asks the desktop's portal, and waits for its answer, has nothing that this program shows.
+void avoidPortals(VariableForStart& theme) {
+    if (theme.old() == "xdgdesktopportal" || theme.old() == "flatpak" || theme.old() == "snap") theme.set("generic");
+}
+
+}  // namespace
+
+void openDisplay() {
+    const QByteArray platform = choosePlatform();
+    if (platform.isEmpty()) return;
+    VariableForStart platformName("QT_QPA_PLATFORM");
+    VariableForStart busAddress("DBUS_SESSION_BUS_ADDRESS");
+    VariableForStart theme("QT_QPA_PLATFORMTHEME");
+    platformName.set(platform);
+    forbidStartingABus(busAddress);
+    avoidPortals(theme);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    static int argumentCount = 1;  // Qt would take its own options out of the program's arguments
+    application = std::make_unique<QApplication>(argumentCount, __argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    watchKeys();
+}
+
+bool hasDisplay() {
+    return application != nullptr;
+}
+
+void closeDisplay() {
+    if (!hasDisplay()) return;
+    dropOverrideCursor();
+    dropDeviceContexts();
+    dropWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    application.reset();
+}

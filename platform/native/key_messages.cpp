@@ -1,0 +1,107 @@
+#include "platform/native/key_messages.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
+#include <map>
+#include <memory>
+
+#include "platform/native/message_loop.h"
+#include "platform/native/qt_text.h"
+#include "platform/native/window.h"
+
+namespace {
+
+struct KeyEvent {
+    QPointer<QWindow> window;
+    std::unique_ptr<QEvent> event;
+    bool awaitsCharacter = false;  // its message is followed by one with the character
+};
+
+// By the number that stands in the messages' `lParam`. Those that accelerators took stay until the next key comes.
+std::map<LPARAM, KeyEvent> keys;
+LPARAM lastKey = 0;
+bool returningKey = false;
+
+HWND topLevelOf(const QWindow* window) {
+    for (HWND const candidate : allWindows()) {
+        const Window* const found = findWindow(candidate);
+        if (found->clientArea() != nullptr && found->widget()->windowHandle() == window) return candidate;
+    }
+    return nullptr;
+}
+
+UINT messageOf(const QKeyEvent& event) {
+    const bool system = (event.modifiers() & Qt::AltModifier) != 0;
+    if (event.type() == QEvent::KeyPress) return system ? WM_SYSKEYDOWN : WM_KEYDOWN;
+    return system ? WM_SYSKEYUP : WM_KEYUP;
+}
+
+// 0 if the key stands for no character. With Alt some systems leave the text empty; Qt's number of a printable ASCII
+// key is that of its character.
+unsigned char characterOf(const QKeyEvent& event) {
+    const std::string text = programText(event.text());
+    if (text.size() == 1) return static_cast<unsigned char>(text[0]);
+    const bool printable = event.key() > Qt::Key_Space && event.key() <= Qt::Key_AsciiTilde;
+    return text.empty() && printable ? static_cast<unsigned char>(event.key()) : '\0';
+}
+
+class KeyWatcher : public QObject {
+ public:
+    using QObject::QObject;
+
+ protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+        if (returningKey || innermostLoop() != Loop::messages) return false;
+        if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr) return false;
+        auto* const window = qobject_cast<QWindow*>(object);
+        HWND const topLevel = window == nullptr ? nullptr : topLevelOf(window);
+        if (topLevel == nullptr) return false;
+        const UINT message = messageOf(static_cast<const QKeyEvent&>(*event));
+        keys[++lastKey] = {window, std::unique_ptr<QEvent>(event->clone()), false};
+        postMessage(topLevel, message, 0, lastKey);
+        return true;
+    }
+};
+
+bool isKeyMessage(UINT message) {
+    return message >= WM_KEYDOWN && message <= WM_SYSCHAR;
+}
+
+void returnToQt(const KeyEvent& key) {
+    if (key.window == nullptr) return;
+    returningKey = true;
+    QCoreApplication::sendEvent(key.window, key.event.get());
+    returningKey = false;
+}
+
+}  // namespace
+
+void watchKeys() {
+    qApp->installEventFilter(new KeyWatcher(qApp));
+}
+
+bool translateKey(const MSG& message) {
+    if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+    const auto found = keys.find(message.lParam);
+    if (found == keys.end()) return false;
+    const unsigned char character = characterOf(static_cast<const QKeyEvent&>(*found->second.event));
+    if (character == '\0') return false;
+    found->second.awaitsCharacter = true;
+    postNextMessage(message.hwnd, message.message == WM_KEYDOWN ? WM_CHAR : WM_SYSCHAR, character, message.lParam);
+    return true;
+}
+
+bool deliverKey(const MSG& message) {
+    if (!isKeyMessage(message.message)) return false;
+    const auto found = keys.find(message.lParam);
+    if (found == keys.end()) return true;
+    if (found->second.awaitsCharacter && message.message != WM_CHAR && message.message != WM_SYSCHAR) return true;
+    const KeyEvent key = std::move(found->second);
+    keys.erase(keys.begin(), std::next(found));
+    returnToQt(key);
+    return true;
+}

@@ -1,0 +1,38 @@
+#include "platform/native/menu_bar.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <optional>
+
+#include "platform/native/menu_template.h"
+#include "platform/native/message_loop.h"
+
+namespace {
+
+void addItems(QMenu& menu, const std::vector<MenuItem>& items, HWND window) {
+    for (const MenuItem& item : items) {
+        if (item.isPopup) {
+            addItems(*menu.addMenu(item.text), item.items, window);
+        } else if (item.text.isEmpty()) {
+            menu.addSeparator();
+        } else {
+            QAction* const action = menu.addAction(item.text);
+            action->setMenuRole(QAction::NoRole);
+            action->setEnabled(!item.grayed);
+            QObject::connect(action, &QAction::triggered,
+                             [window, id = item.id] { postMessage(window, WM_COMMAND, MAKEWPARAM(id, 0), 0); });
+        }
+    }
+}
+
+}  // namespace
+
+QMenuBar* createMenuBar(LPCSTR menuName, HWND window, QWidget* frame) {
+    if (menuName == nullptr) return nullptr;
+    const std::optional<std::vector<MenuItem>> items = loadMenuTemplate(menuName);
+    if (!items.has_value()) return nullptr;
+    auto* const bar = new QMenuBar(frame);
+    for (const MenuItem& item : *items)
+        if (item.isPopup) addItems(*bar->addMenu(item.text), item.items, window);
+    return bar;
+}

@@ -1,0 +1,14 @@
+// The menu bar of a window, from a menu of the resources.
+#ifndef PLATFORM_NATIVE_MENU_BAR_H
+#define PLATFORM_NATIVE_MENU_BAR_H
+
+#include "platform/native/types.h"
+
+class QMenuBar;
+class QWidget;
+
+// Its items post WM_COMMAND with their id to `window`. Null without a menu: `menuName` is null, or the resources have
+// no whole menu of that id.
+QMenuBar* createMenuBar(LPCSTR menuName, HWND window, QWidget* frame);
+
+#endif

@@ -1,0 +1,31 @@
+// Menus of the resources in their compiled form, the classic one:
+//
+//     header: version 0, bytes to skip behind these 4
+//     item:   flags, for all but popups the id, the text in UTF-16 up to a zero
+//
+// all numbers of 2 bytes. The items of a popup follow it, and the flags of the last item of each list say so.
+#ifndef PLATFORM_NATIVE_MENU_TEMPLATE_H
+#define PLATFORM_NATIVE_MENU_TEMPLATE_H
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "platform/native/resource_bytes.h"
+#include "platform/native/types.h"
+
+struct MenuItem {
+    bool isPopup = false;
+    bool grayed = false;
+    WORD id = 0;                  // of no meaning for a popup
+    QString text;                 // with "&"; empty for a separator
+    std::vector<MenuItem> items;  // of a popup
+};
+
+// Null for bytes that are no whole menu, or one of more than 8 levels.
+std::optional<std::vector<MenuItem>> readMenuTemplate(ResourceBytes bytes);
+
+// Null also if the resources have no such menu.
+std::optional<std::vector<MenuItem>> loadMenuTemplate(LPCSTR name);
+
+#endif

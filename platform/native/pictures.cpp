@@ -1,0 +1,76 @@
+#include "platform/native/pictures.h"
+
+#include "platform/native/dib.h"
+#include "platform/native/gdi.h"
+#include "platform/native/handle_table.h"
+#include "platform/native/resource_file.h"
+#include "platform/native/resources.h"
+#include "platform/native/system.h"
+
+namespace {
+
+HandleTable<QImage> bitmaps;
+HandleTable<std::vector<QImage>> icons;
+
+// A group: 2 unused, kind 1 for icons, count, each 2 bytes; then 14 bytes per picture, the last 2 its number.
+constexpr WORD kindIcon = 1;
+constexpr std::size_t entryBeforeNumber = 12;
+
+std::vector<QImage> readIconGroup(ResourceBytes group) {
+    std::vector<QImage> pictures;
+    group.u16();
+    if (group.u16() != kindIcon) return {};
+    for (WORD left = group.u16(); left > 0 && !group.failed(); --left) {
+        group.take(entryBeforeNumber);
+        const auto picture = programResources().find(resourceType::icon, group.u16());
+        if (group.failed() || !picture.has_value()) continue;
+        const QImage image = readIconDib(ResourceBytes(*picture));
+        if (!image.isNull()) pictures.push_back(image);
+    }
+    return pictures;
+}
+
+std::nullptr_t notFound() {
+    SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+    return nullptr;
+}
+
+HANDLE loadBitmap(LPCSTR name) {
+    const auto resource = programResources().find(resourceType::bitmap, resourceId(name));
+    if (!resource.has_value()) return notFound();
+    QImage image = readDib(ResourceBytes(*resource));
+    return image.isNull() ? notFound() : bitmaps.add(std::make_unique<QImage>(std::move(image)));
+}
+
+}  // namespace
+
+std::vector<QImage> picturesOf(HICON icon) {
+    const std::vector<QImage>* const found = icons.find(icon);
+    return found == nullptr ? std::vector<QImage>() : *found;
+}
+
+QImage* bitmapOf(const void* bitmap) {
+    return bitmaps.find(bitmap);
+}
+
+HBITMAP emptyBitmap() {
+    static const HANDLE bitmap = bitmaps.add(std::make_unique<QImage>(1, 1, QImage::Format_RGB32));
+    return static_cast<HBITMAP>(bitmap);
+}
+
+bool deleteBitmap(HGDIOBJ bitmap) {
+    return bitmap != emptyBitmap() && bitmaps.take(bitmap) != nullptr;
+}
+
+HICON LoadIconA(HINSTANCE, LPCSTR name) {
+    const auto group = programResources().find(resourceType::iconGroup, resourceId(name));
+    if (!group.has_value()) return notFound();
+    std::vector<QImage> pictures = readIconGroup(ResourceBytes(*group));
+    if (pictures.empty()) return notFound();
+    return static_cast<HICON>(icons.add(std::make_unique<std::vector<QImage>>(std::move(pictures))));
+}
+
+HANDLE LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int, int, UINT) {
+    if (type == IMAGE_BITMAP) return loadBitmap(name);
+    return type == IMAGE_ICON ? LoadIconA(instance, name) : nullptr;
+}

@@ -1,0 +1,16 @@
+// The program's text, Windows-1252, as Qt's and back. What Windows-1252 lacks becomes "?".
+#ifndef PLATFORM_NATIVE_QT_TEXT_H
+#define PLATFORM_NATIVE_QT_TEXT_H
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+QString qtText(std::string_view text);
+
+// Null gives an empty text.
+QString qtText(const char* text);
+
+std::string programText(const QString& text);
+
+#endif

@@ -1,0 +1,49 @@
+// A cursor over the bytes of a compiled resource, little-endian. After the first read past the end all reads give zeros
+// and empty texts, and `failed` says so: a parser reads on and asks once.
+#ifndef PLATFORM_NATIVE_RESOURCE_BYTES_H
+#define PLATFORM_NATIVE_RESOURCE_BYTES_H
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+// A type, a class or a name: a text, or a number where the text is empty.
+struct ResourceName {
+    std::u16string text;
+    std::uint16_t id = 0;
+    bool isId(std::uint16_t wanted) const { return text.empty() && id == wanted; }
+};
+
+class ResourceBytes {
+ public:
+    explicit ResourceBytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+
+    std::uint8_t u8();
+    std::uint16_t u16();
+    std::int16_t i16() { return static_cast<std::int16_t>(u16()); }
+    std::uint32_t u32();
+    std::int32_t i32() { return static_cast<std::int32_t>(u32()); }
+
+    std::u16string text();  // up to its zero, which is passed
+    std::u16string text(std::size_t length);
+    ResourceName name();  // FFFF and a number, or a text
+
+    std::span<const std::uint8_t> take(std::size_t size);
+    std::span<const std::uint8_t> rest() { return take(left()); }
+
+    // Passes what fills up to the next multiple of 4, counted from the first byte; past the end is no failure.
+    void align4();
+
+    std::size_t position() const { return at_; }
+    std::size_t left() const { return bytes_.size() - at_; }
+    bool failed() const { return failed_; }
+    void fail();
+
+ private:
+    std::span<const std::uint8_t> bytes_;
+    std::size_t at_ = 0;
+    bool failed_ = false;
+};
+
+#endif

@@ -1,0 +1,120 @@
+#include "platform/native/top_level_window.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QWidget>
+
+#include "platform/native/client_area.h"
+#include "platform/native/menu_bar.h"
+#include "platform/native/pictures.h"
+#include "platform/native/qt_text.h"
+
+namespace {
+
+// What the system chooses for CW_USEDEFAULT, for the client area: a comfortable size where the screen has room for it.
+constexpr QSize defaultClientSize(560, 430);
+constexpr QSize smallestDefaultClientSize(480, 400);
+
+// The whole window, as far as it is ours: what a window manager puts around it is not.
+class Frame : public QWidget {
+ public:
+    Frame(HWND window, Qt::WindowFlags flags) : QWidget(nullptr, flags), window_(window) {}
+
+    void setParts(QMenuBar* menuBar, ClientArea* client) {
+        menuBar_ = menuBar;
+        client_ = client;
+    }
+
+    int menuHeight(int width) const {
+        if (menuBar_ == nullptr) return 0;
+        menuBar_->ensurePolished();
+        return menuBar_->heightForWidth(width);
+    }
+
+    // At once, and not with the first showing as Qt would: the client rectangle must be true before that.
+    void layOut() {
+        const int height = menuHeight(width());
+        if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), height);
+        client_->setGeometry(0, height, width(), QWidget::height() - height);
+    }
+
+ protected:
+    void resizeEvent(QResizeEvent*) override { layOut(); }
+
+    // Whether the window closes is decided by who receives the message.
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        SendMessageA(window_, WM_CLOSE, 0, 0);
+    }
+
+ private:
+    HWND window_;
+    QMenuBar* menuBar_ = nullptr;
+    ClientArea* client_ = nullptr;
+};
+
+// A window without a caption is one that the program places itself, such as a splash window: no window manager shall
+// move it, decorate it or give it the keyboard.
+Qt::WindowFlags flagsOf(DWORD style) {
+    if ((style & WS_CAPTION) != WS_CAPTION)
+        return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if ((style & WS_SYSMENU) != 0) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    if ((style & WS_MINIMIZEBOX) != 0) flags |= Qt::WindowMinimizeButtonHint;
+    if ((style & WS_MAXIMIZEBOX) != 0) flags |= Qt::WindowMaximizeButtonHint;
+    return flags;
+}
+
+QIcon iconOf(const WindowClass& windowClass) {
+    QIcon icon;
+    for (HICON const part : {windowClass.icon, windowClass.smallIcon})
+        for (const QImage& picture : picturesOf(part))
+            icon.addPixmap(QPixmap::fromImage(picture));
+    return icon;
+}
+
+}  // namespace
+
+TopLevelWindow::TopLevelWindow(const WindowClass& windowClass, LPCSTR title, DWORD style, const Placement& placement)
+    : Window(style & ~WS_VISIBLE, nullptr), procedure_(windowClass.procedure) {
+    auto* const frame = new Frame(handle(), flagsOf(style));
+    frame_ = frame;
+    client_ = new ClientArea(windowClass, frame);
+    frame->setParts(createMenuBar(windowClass.menuName, handle(), frame), client_);
+    frame->setWindowTitle(qtText(title));
+    frame->setWindowIcon(iconOf(windowClass));
+    frame->setEnabled((style & WS_DISABLED) == 0);
+    place(placement);
+    frame->layOut();
+}
+
+TopLevelWindow::~TopLevelWindow() {
+    if (frame_ == nullptr) return;
+    frame_->hide();
+    frame_->deleteLater();
+}
+
+void TopLevelWindow::place(const Placement& placement) {
+    auto& frame = static_cast<Frame&>(*frame_);
+    if (placement.width == CW_USEDEFAULT) {
+        const QSize room = frame.screen()->availableSize() * 9 / 10;
+        const QSize client = defaultClientSize.boundedTo(room).expandedTo(smallestDefaultClientSize);
+        frame.resize(client.width(), client.height() + frame.menuHeight(client.width()));
+    } else {
+        frame.resize(placement.width, placement.height);
+    }
+    if (placement.x != CW_USEDEFAULT) frame.move(placement.x, placement.y);
+}
+
+QWidget* TopLevelWindow::widget() const {
+    return frame_;
+}
+
+QSize TopLevelWindow::clientSize() const {
+    return client_->size();
+}
+
+LRESULT TopLevelWindow::receive(UINT message, WPARAM wParam, LPARAM lParam) {
+    return procedure_(handle(), message, wParam, lParam);
+}

@@ -1,0 +1,39 @@
+// A window of a registered class: the menu bar of its class, below it the client area with the controls.
+#ifndef PLATFORM_NATIVE_TOP_LEVEL_WINDOW_H
+#define PLATFORM_NATIVE_TOP_LEVEL_WINDOW_H
+
+#include <QPointer>
+
+#include "platform/native/window.h"
+#include "platform/native/window_class.h"
+
+// In pixels of the screen; `x` and `width` may be CW_USEDEFAULT.
+struct Placement {
+    int x, y, width, height;
+};
+
+class TopLevelWindow : public Window {
+ public:
+    // Nothing is shown and nothing sent yet.
+    TopLevelWindow(const WindowClass& windowClass, LPCSTR title, DWORD style, const Placement& placement);
+    TopLevelWindow(const TopLevelWindow&) = delete;
+    TopLevelWindow& operator=(const TopLevelWindow&) = delete;
+    ~TopLevelWindow() override;
+
+    QWidget* widget() const override;
+    ClientArea* clientArea() const override { return client_; }
+    QSize clientSize() const override;
+    LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // Set while WM_DESTROY is on its way, so that it comes once.
+    bool beingDestroyed = false;
+
+ private:
+    void place(const Placement& placement);
+
+    WNDPROC procedure_;
+    QPointer<QWidget> frame_;
+    ClientArea* client_;  // in the frame
+};
+
+#endif

@@ -1,0 +1,27 @@
+// Registered window classes.
+#ifndef PLATFORM_NATIVE_WINDOW_CLASS_H
+#define PLATFORM_NATIVE_WINDOW_CLASS_H
+
+#include <string>
+
+#include "platform/native/windows.h"
+
+struct WindowClass {
+    std::string name;
+    UINT style;
+    WNDPROC procedure;
+    HICON icon;
+    HICON smallIcon;
+    HCURSOR cursor;
+    HBRUSH background;
+    LPCSTR menuName;  // an id of MAKEINTRESOURCEA, or null
+};
+
+// Compared without regard to ASCII case. Null, and ERROR_CANNOT_FIND_WND_CLASS, if there is none. The class lives until
+// the process ends.
+const WindowClass* findWindowClass(LPCSTR name);
+
+// Whether two names of classes are the same.
+bool sameClassName(LPCSTR a, LPCSTR b);
+
+#endif

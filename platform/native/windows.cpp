@@ -1,0 +1,93 @@
+// What is done to windows that exist: showing, drawing, styles, messages.
+#include <QWidget>
+#include <QWindow>
+
+#include "platform/native/client_area.h"
+#include "platform/native/gdi.h"
+#include "platform/native/message_loop.h"
+#include "platform/native/system.h"
+#include "platform/native/window.h"
+#include "platform/native/windows.h"
+
+namespace {
+
+void show(Window& window) {
+    QWidget& widget = *window.widget();
+    widget.show();
+    if (window.clientArea() == nullptr) return;
+    window.clientArea()->invalidate(window.clientArea()->whole(), true);
+    waitForScreen([&widget] { return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed(); });
+}
+
+}  // namespace
+
+BOOL ShowWindow(HWND window, int showCommand) {
+    Window* const found = findWindow(window);
+    if (found == nullptr) return FALSE;
+    const bool wasVisible = found->widget()->isVisible();
+    found->noteVisible(showCommand != SW_HIDE);
+    if (showCommand == SW_HIDE)
+        found->widget()->hide();
+    else if (!wasVisible)
+        show(*found);
+    return wasVisible ? TRUE : FALSE;
+}
+
+BOOL UpdateWindow(HWND window) {
+    const Window* const found = findWindow(window);
+    if (found == nullptr) return FALSE;
+    if (found->clientArea() != nullptr && found->clientArea()->waits()) SendMessageA(window, WM_PAINT, 0, 0);
+    bringToScreen();
+    return TRUE;
+}
+
+BOOL InvalidateRect(HWND window, const RECT* rectangle, BOOL erase) {
+    const Window* const found = findWindow(window);
+    if (found == nullptr) return FALSE;
+    ClientArea* const area = found->clientArea();
+    if (area == nullptr) return TRUE;  // a control draws itself when it must
+    const QRect part = rectangle == nullptr ? area->whole()
+                                            : QRect(QPoint(rectangle->left, rectangle->top),
+                                                    QPoint(rectangle->right - 1, rectangle->bottom - 1));
+    area->invalidate(part, erase != FALSE);
+    return TRUE;
+}
+
+BOOL IsWindow(HWND window) {
+    return findWindow(window) != nullptr ? TRUE : FALSE;
+}
+
+BOOL GetClientRect(HWND window, RECT* rectangle) {
+    const Window* const found = findWindow(window);
+    if (found == nullptr) return FALSE;
+    const QSize size = found->clientSize();
+    *rectangle = {0, 0, size.width(), size.height()};
+    return TRUE;
+}
+
+LONG GetWindowLongA(HWND window, int index) {
+    const Window* const found = findWindow(window);
+    return found == nullptr || index != GWL_STYLE ? 0 : static_cast<LONG>(found->style());
+}
+
+LONG SetWindowLongA(HWND window, int index, LONG value) {
+    Window* const found = findWindow(window);
+    if (found == nullptr || index != GWL_STYLE) return 0;
+    const auto old = static_cast<LONG>(found->style());
+    found->setStyle(static_cast<DWORD>(value));
+    return old;
+}
+
+LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    Window* const found = findWindow(window);
+    return found == nullptr ? 0 : found->receive(message, wParam, lParam);
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM, LPARAM) {
+    if (message == WM_CLOSE) DestroyWindow(window);
+    if (message == WM_PAINT) {
+        PAINTSTRUCT paint;
+        if (BeginPaint(window, &paint) != nullptr) EndPaint(window, &paint);
+    }
+    return 0;
+}
