@@ -117,8 +117,10 @@ IffChunk sampleFamilyChunk(const SampleFamily& family) {
 }
 
 IffChunk sampleFamilyNameChunk(const SampleFamily& family) {
+    // The name and its two zero bytes take whole pairs, with a pad byte behind a name of odd length. Without it a
+    // reader that goes by pairs would take the first letter of the next chunk along, and miss that family.
     Bytes content = textChunkContent({family.name});
-    if (content.size() % 2 != 0) content.push_back(textFill);
+    if (family.name.size() % 2 != 0) content.push_back(textFill);
     return {.type = "FAMs", .id = static_cast<std::uint16_t>(family.number), .content = content};
 }
 

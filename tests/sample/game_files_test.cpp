@@ -129,8 +129,8 @@ TEST(NeighborhoodFileTest, TellsWhereEachRecordLanded) {
     EXPECT_EQ(textAt(file.bytes, file.families[0].record, 16), std::string("IMAF\1\0\0\0\1\0\0\0\x70\x11\1\0", 16));
     EXPECT_EQ(textAt(file.bytes, file.families[0].memberTable - 4, 16), std::string("\2\0\0\0AAAABBBB\0\0\0\0", 16));
     EXPECT_EQ(file.families[0].memberTableEnd, file.families[0].memberTable + 8);
-    EXPECT_EQ(textAt(file.bytes, file.families[0].name, 7), std::string("Oats\0\0\xA3", 7));
-    EXPECT_EQ(textAt(file.bytes, file.families[1].name, 9), std::string("Q&A\0\0XXXX", 9));
+    EXPECT_EQ(textAt(file.bytes, file.families[0].name, 10), std::string("Oats\0\0FAMI", 10));
+    EXPECT_EQ(textAt(file.bytes, file.families[1].name, 10), std::string("Q&A\0\0\xA3XXXX", 10));
     EXPECT_EQ(walk.find("FAMs", 2).offset, file.families[1].nameChunk);
     EXPECT_EQ(walk.find("XXXX", 4101).offset, file.freeRoomOffset);
     EXPECT_EQ(walk.find("rsmp", 0).offset, file.mapOffset);
