@@ -8,6 +8,7 @@
 #include <set>
 
 #include "tests/support/iff_walk.h"
+#include "tests/support/temp_directory.h"
 
 namespace {
 
@@ -28,14 +29,8 @@ std::map<fs::path, Bytes> filesBelow(const fs::path& directory) {
 
 class InstallationTest : public ::testing::Test {
  protected:
-    InstallationTest() { fs::remove_all(root_); }
-    ~InstallationTest() override { fs::remove_all(root_); }
-
-    // Of the test's own name: several may run at a time.
-    const fs::path root_ =
-        fs::temp_directory_path() /
-        (std::string("tidewright-") + ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    const fs::path prefix_ = root_ / "prefix";
+    const TempDirectory directory_;
+    const fs::path prefix_ = directory_.path("prefix");
 };
 
 TEST_F(InstallationTest, WritesTheSameBytesAgainAndNothingElse) {
