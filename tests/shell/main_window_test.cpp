@@ -1,0 +1,271 @@
+// The main window on the sample installation, driven as a user drives it.
+#include "shell/main_window.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "sample/installation.h"
+#include "shell/selection.h"
+#include "shell/splash.h"
+#include "shell/window_texts.h"
+#include "tests/support/temp_directory.h"
+#include "tests/support/user.h"
+#include "ui/controls.h"
+#include "ui/cursors.h"
+#include "ui/status_line.h"
+#include "world/neighborhoods.h"
+
+namespace {
+
+class MainWindowTest : public testing::Test {
+ protected:
+    MainWindowTest() {
+        writeInstallation(files_.path("prefix"));
+        setenv("WINEPREFIX", files_.path("prefix").c_str(), 1);
+        files_.write("tool/skinsets.cfg", "CHILD=c001fclgt_amanda01;\nTEENAGER=c008falgt_alt;t\nADULT=a;a\n");
+        loadCursors();
+        loadNeighborhoods("C:\\Program Files (x86)\\Maxis\\The Sims\\", files_.path("tool").c_str());
+        selection() = {};
+    }
+
+    // Runs the window and lets the user act in it; it is closed afterwards without a word.
+    static void run(const std::function<void()>& actions) {
+        bool ran = false;
+        later([&] {
+            actions();
+            ran = true;
+            PostQuitMessage(7);
+        });
+        EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 7);
+        EXPECT_TRUE(ran);
+        DestroyWindow(controls().mainWindow);
+        runMessages();
+    }
+
+    static void pick(int neighborhood, int family, int sim) {
+        pickEntry(controls().neighborhoodCombo, neighborhood);
+        pickEntry(controls().familyCombo, family);
+        pickEntry(controls().simCombo, sim);
+    }
+
+    // The buttons that are enabled, as letters: Child to Teen, Teen to Adult, Move Out.
+    static std::string enabled() {
+        std::string letters;
+        if (isEnabled(controls().childToTeenButton)) letters += 'C';
+        if (isEnabled(controls().teenToAdultButton)) letters += 'T';
+        if (isEnabled(controls().moveOutButton)) letters += 'M';
+        return letters;
+    }
+
+    static std::string entries(HWND combo) {
+        std::string all;
+        for (int i = 0; i < SendMessageA(combo, CB_GETCOUNT, 0, 0); ++i)
+            all += entryText(combo, i) + "|";
+        return all;
+    }
+
+    // The lines that tell of the Sim, behind the three labels.
+    static std::string lines() {
+        const std::string all = spokenDescription(controls().mainWindow);
+        const std::size_t sim = all.find("Name: ");
+        return sim == std::string::npos ? "" : all.substr(sim);
+    }
+
+    TempDirectory files_;
+};
+
+TEST_F(MainWindowTest, StandsWithItsControlsAtTheirPlaces) {
+    run([] {
+        const Controls& all = controls();
+        RECT client{};
+        GetClientRect(all.mainWindow, &client);
+        EXPECT_EQ(textOf(all.mainWindow), "Tidewright");
+        const struct {
+            HWND control;
+            LONG left, top, width;
+            const char *text, *spoken;
+        } rows[] = {
+            {all.neighborhoodCombo, 160, 10, 200, "", "Pick a Neighborhood: "},
+            {all.familyCombo, 160, 40, 200, "", "Pick a Family: "},
+            {all.simCombo, 160, 70, 200, "", "Pick a Sim: "},
+            {all.childToTeenButton, 10, client.bottom - 150, 100, "Child to Teen", "Child to Teen"},
+            {all.teenToAdultButton, 120, client.bottom - 150, 100, "Teen to Adult", "Teen to Adult"},
+            {all.moveOutButton, 10, client.bottom - 50, 100, "Move Out", "Move Out"},
+        };
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.spoken);
+            const RECT place = placeOf(row.control);
+            EXPECT_EQ(place.left, row.left);
+            EXPECT_EQ(place.top, row.top);
+            EXPECT_EQ(place.right - place.left, row.width);
+            EXPECT_EQ(textOf(row.control), row.text);
+            const std::string spoken = spokenName(row.control);
+            EXPECT_EQ(spoken, std::string(row.spoken).substr(0, spoken.size()));
+            EXPECT_FALSE(spoken.empty());
+        }
+        EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
+        EXPECT_EQ(enabled(), "");
+        EXPECT_EQ(lines(), "");
+    });
+}
+
+TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
+    run([] {
+        pickEntry(controls().neighborhoodCombo, 0);
+        EXPECT_EQ(entries(controls().familyCombo), "Thistlewood|Q&A|Cr\xE8me|Pennyfarthing|Larkspur|");
+        pickEntry(controls().familyCombo, 0);
+        EXPECT_EQ(entries(controls().simCombo), "Hazel|Rowan|Bramble|Clover|Fern|Moss|Biscuit|Marmalade|");
+        const struct {
+            int neighborhood, family, sim;
+            const char *name, *stage, *buttons;
+        } rows[] = {
+            {0, 0, 0, "Hazel Thistlewood", "adult", "M"},
+            {0, 0, 2, "Bramble Thistlewood", "teenager", "T"},
+            {0, 0, 3, "Clover Thistlewood", "child", "C"},
+            {0, 0, 6, "Biscuit Thistlewood", "not applicable (pet)", ""},
+            {0, 2, 1, "Se\xF1or Cr\xE8me", "adult", "M"},
+            {0, 3, 0, "Pip Pennyfarthing", "adult", "M"},  // money is asked for when the button is clicked
+            {0, 4, 0, "Juniper Larkspur", "adult", ""},    // the only adult
+            {1, 1, 1, "Barley Oats", "teenager", "T"},     // by its body, at an adult's age
+            {1, 3, 4, "Wisp Tumbledown", "unknown", ""},
+        };
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.name);
+            pick(row.neighborhood, row.family, row.sim);
+            EXPECT_EQ(enabled(), row.buttons);
+            EXPECT_NE(lines().find(std::string("Name: ") + row.name), std::string::npos) << lines();
+            EXPECT_NE(lines().find(std::string("Stage: ") + row.stage), std::string::npos) << lines();
+        }
+        pick(1, 2, 2);
+        EXPECT_EQ(textOf(controls().simCombo), "*Unreadable sim*");
+        EXPECT_EQ(enabled() + lines(), "");
+
+        pick(0, 0, 0);
+        pickEntry(controls().familyCombo, 1);
+        EXPECT_EQ(enabled() + lines(), "");
+        EXPECT_EQ(selection().simIndex, -1);
+        pick(0, 0, 0);
+        pickEntry(controls().neighborhoodCombo, 0);  // the entry that is selected already
+        EXPECT_EQ(entries(controls().simCombo) + enabled() + lines(), "");
+        EXPECT_EQ(selection().currentFamily, nullptr);
+    });
+}
+
+TEST_F(MainWindowTest, TakesAChildToItsOwnHousehold) {
+    run([] {
+        pick(0, 0, 3);
+        clickButton(controls().childToTeenButton);
+        EXPECT_EQ(enabled(), "T");
+        EXPECT_NE(lines().find("Stage: teenager"), std::string::npos);
+        clickButton(controls().teenToAdultButton);
+        EXPECT_EQ(enabled(), "M");
+        EXPECT_NE(lines().find("Stage: adult"), std::string::npos);
+        clickButton(controls().moveOutButton);
+        EXPECT_EQ(enabled(), "");
+        EXPECT_EQ(entries(controls().neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
+        EXPECT_EQ(textOf(controls().neighborhoodCombo) + entries(controls().familyCombo) + entries(controls().simCombo),
+                  "");
+        EXPECT_NE(lines().find("Name: Clover Thistlewood"), std::string::npos) << "the lines stay until the next pick";
+        pick(0, 0, 3);
+        EXPECT_EQ(textOf(controls().simCombo), "Fern") << "the members behind her moved up";
+    });
+}
+
+TEST_F(MainWindowTest, AsksBeforeItLosesChanges) {
+    run([] {
+        const HWND window = controls().mainWindow;
+        pick(0, 0, 0);
+        clickButton(controls().moveOutButton);  // a Move Out alone is a change
+        const AnsweredBox box = answerNextBox(IDCANCEL);
+        closeWindow(window);
+        EXPECT_EQ(box.title(), "Exit?");
+        EXPECT_EQ(box.text(), "You haven't saved your changes.  Exit without saving?");
+        EXPECT_EQ(box.buttons().size(), 2U);
+        EXPECT_TRUE(IsWindow(window));
+        EXPECT_EQ(neighborhoods[0]->newFamilyCount(), 1);
+        const AnsweredBox second = answerNextBox(IDOK);
+        closeWindow(window);
+        EXPECT_TRUE(second.shown());
+        EXPECT_FALSE(IsWindow(window));
+    });
+}
+
+TEST_F(MainWindowTest, ClosesAtOnceWithoutChanges) {
+    later([] {
+        const AnsweredBox box = answerNextBox(IDCANCEL);
+        closeWindow(controls().mainWindow);
+        EXPECT_FALSE(box.shown());
+    });
+    EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 0);
+    EXPECT_FALSE(IsWindow(controls().mainWindow));
+}
+
+TEST_F(MainWindowTest, RepaintsAfterEveryCommandThatItKnows) {
+    run([] {
+        const struct {
+            int id, notification;
+            bool known;
+        } rows[] = {
+            {1001, 7, true},  {1003, 0, true},  {2001, 1, true},   {2010, 6, true},
+            {1004, 1, false}, {2003, 0, false}, {32774, 0, false},
+        };
+        for (const auto& row : rows) {
+            showWaitCursor();  // the repaint ends with the arrow
+            EXPECT_EQ(SendMessageA(controls().mainWindow, WM_COMMAND, MAKEWPARAM(row.id, row.notification), 0), 0);
+            EXPECT_EQ(waitCursorShows(), !row.known) << row.id;
+        }
+        showArrowCursor();
+    });
+}
+
+TEST_F(MainWindowTest, TheMenuSavesShowsDialogsAndExitsWithoutAQuestion) {
+    later([] {
+        const HWND window = controls().mainWindow;
+        pick(0, 0, 2);
+        clickButton(controls().teenToAdultButton);
+        EXPECT_TRUE(neighborhoods[0]->isDirty());
+        const AnsweredBox about = answerNextBox(IDOK);
+        EXPECT_TRUE(chooseMenu(window, {"Help", "About ..."}));
+        later([window, about] {
+            EXPECT_EQ(about.title(), "About");
+            EXPECT_EQ(about.text().substr(0, 25), "Marrowfen Plus (Build 2)\n");
+            EXPECT_TRUE(chooseMenu(window, {"File", "Exit Without Saving"}));
+        });
+    });
+    EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 0);
+    EXPECT_TRUE(IsWindow(controls().mainWindow)) << "the loop ends directly";
+    DestroyWindow(controls().mainWindow);
+    runMessages();
+}
+
+TEST_F(MainWindowTest, FollowsTheSplashWindow) {
+    setStatusLine("Please wait while the data is loaded");
+    ASSERT_TRUE(showSplashWindow());
+    const HWND splash = splashWindow();
+    EXPECT_EQ(textOf(splash), "Loading");
+    const Picture before = pictureOf(splash);
+    setStatusLine("Loading Neighborhood 2");
+    showStatusLine();
+    const Picture after = pictureOf(splash);
+    ASSERT_EQ(after.pixels.size(), before.pixels.size());
+    int changed = 0, changedAbove = 0;
+    for (int y = 0; y < after.height; ++y)
+        for (int x = 0; x < after.width; ++x)
+            if (after.at(x, y) != before.at(x, y)) ++(y < after.height - 30 ? changedAbove : changed);
+    EXPECT_GT(changed, 0);
+    EXPECT_EQ(changedAbove, 0) << "the picture stays";
+    EXPECT_GT(after.height, 100);
+    EXPECT_NE(after.at(20, 20), after.at(20, 200)) << "the picture is a picture";
+    run([splash] { EXPECT_FALSE(IsWindow(splash)); });
+}
+
+TEST(StageWordTest, EachStageHasItsWord) {
+    const char* words[] = {
+        "not applicable (pet)", "unknown", "baby", "toddler", "child", "preteen", "teenager", "adult", "unknown"};
+    for (std::int32_t stage = -1; stage <= 7; ++stage)
+        EXPECT_STREQ(stageWord(stage), words[stage + 1]);
+    EXPECT_STREQ(stageWord(-2), "unknown");
+}
+
+}  // namespace

@@ -1,0 +1,107 @@
+// What keeps the program from starting, and what it says then.
+#include "shell/start_checks.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/win32.h"
+#include "sample/wine_prefix.h"
+#include "tests/support/temp_directory.h"
+#include "tests/support/user.h"
+#include "ui/status_line.h"
+#include "world/neighborhoods.h"
+
+namespace {
+
+constexpr const char* skin = "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn";
+
+// A window of another program's kind, with this title.
+HWND openWindow(const char* title) {
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = DefWindowProcA;
+    windowClass.lpszClassName = "SomeGame";
+    RegisterClassExA(&windowClass);
+    return CreateWindowExA(0, "SomeGame", title, WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr, nullptr,
+                           nullptr);
+}
+
+class StartChecksTest : public testing::Test {
+ protected:
+    StartChecksTest() {
+        makeWinePrefix(files_.path("prefix"));
+        setenv("WINEPREFIX", files_.path("prefix").c_str(), 1);
+        files_.write("tool/skinsets.cfg", "x");
+        std::filesystem::current_path(files_.path("tool"));
+    }
+
+    std::filesystem::path game() const { return gameDirectory(files_.path("prefix")); }
+
+    TempDirectory files_;
+};
+
+TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
+    const char* running =
+        "The Sims is currently running.  Please save and exit The Sims before using Marrowfen or any other "
+        "Sims-modifying "
+        "software.";
+    const char* badlyInstalled =
+        "Tidewright appears to have been installed incorrectly.  It must be unzipped to your Sims directory.\n\nYour "
+        "Sims "
+        "directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\";
+    const char* noConfig =
+        "Tidewright cannot find its config files.  It must be in the same directory as its skin config file and "
+        "template "
+        "files.";
+    const struct {
+        const char* what;
+        const char* windowTitle;
+        bool registry, emptySkin, noSkin, emptyConfig, noConfig;
+        int code;
+        const char *title, *text;
+    } rows[] = {
+        {"no registry, whatever else is wrong", "The Sims", false, false, true, false, true, -1, "Cannot find The Sims",
+         "Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed."},
+        {"the game runs, and the skin is missing", "The Sims", true, false, true, false, false, -2, "Exit The Sims",
+         running},
+        {"Hot Date", "The Sims Hot Date", true, false, false, false, false, -2, "Exit The Sims", running},
+        {"House Party", "The Sims House Party", true, false, false, false, false, -2, "Exit The Sims", running},
+        {"Livin' Large", "The Sims Livin' Large", true, false, false, false, false, -2, "Exit The Sims", running},
+        {"no skin, and no config", nullptr, true, false, true, false, true, -3, "Installation Problem", badlyInstalled},
+        {"an empty skin", nullptr, true, true, false, false, false, -3, "Installation Problem", badlyInstalled},
+        {"no config", nullptr, true, false, false, false, true, -4, "Missing Config Files", noConfig},
+        {"an empty config", nullptr, true, false, false, true, false, -4, "Missing Config Files", noConfig},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        makeWinePrefix(files_.path("prefix"));
+        if (!row.registry) std::filesystem::remove(files_.path("prefix") + "/system.reg");
+        if (row.emptySkin) std::filesystem::resize_file(game() / skin, 0);
+        if (row.noSkin) std::filesystem::remove(game() / skin);
+        files_.write("tool/skinsets.cfg", row.emptyConfig ? "" : "x");
+        if (row.noConfig) files_.remove("tool/skinsets.cfg");
+        const HWND window = row.windowTitle != nullptr ? openWindow(row.windowTitle) : nullptr;
+
+        DirectoryText directory;
+        const AnsweredBox box = answerNextBox(IDOK);
+        EXPECT_EQ(checkStart(directory), row.code);
+        EXPECT_EQ(box.title(), row.title);
+        EXPECT_EQ(box.text(), row.text);
+        EXPECT_EQ(box.buttons(), std::vector<std::string>{"OK"});
+        int quitCode = 0;
+        EXPECT_TRUE(runMessages(&quitCode));
+        EXPECT_EQ(quitCode, row.code);
+        if (window != nullptr) DestroyWindow(window);
+    }
+}
+
+TEST_F(StartChecksTest, PassOnAWholeInstallation) {
+    const HWND window = openWindow("The Sims 2");  // only whole titles count
+    DirectoryText directory;
+    EXPECT_EQ(checkStart(directory), 0);
+    EXPECT_EQ(directory.view(), "C:\\Program Files (x86)\\Maxis\\The Sims\\");
+    DestroyWindow(window);
+}
+
+}  // namespace
