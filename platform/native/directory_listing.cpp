@@ -1,8 +1,10 @@
 #include "platform/native/directory_listing.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/statvfs.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -58,10 +60,14 @@ std::string nameToCreate(std::string_view written) {
 }  // namespace
 
 std::unique_ptr<DirectoryListing> DirectoryListing::read(std::string path) {
-    DIR* stream = opendir(path.c_str());
-    if (stream == nullptr) return nullptr;
-    std::unique_ptr<DirectoryListing> listing(new DirectoryListing(std::move(path), stream));
+    const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return nullptr;
+    std::unique_ptr<DirectoryListing> listing(new DirectoryListing(std::move(path), descriptor));
     return listing->list() ? std::move(listing) : nullptr;
+}
+
+DirectoryListing::~DirectoryListing() {
+    close(descriptor_);
 }
 
 bool DirectoryListing::isCurrent() const {
@@ -73,19 +79,28 @@ bool DirectoryListing::list() {
     spellings_.clear();
     // The state is taken before the names: a change in between makes the listing outdated, never wrongly current.
     const timespec listed = now(CLOCK_REALTIME);
-    if (fstat(descriptor(), &identity_) != 0) return false;
+    if (fstat(descriptor_, &identity_) != 0) return false;
     settled_ = isSettled(identity_, listed);
-    rewinddir(stream_.get());
-    while (const dirent* entry = readdir(stream_.get())) {
+    // A stream of its own for the reading: its buffer is larger than all that is kept.
+    const int copy = fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
+    DIR* stream = fdopendir(copy);
+    if (stream == nullptr) {
+        close(copy);
+        settled_ = false;
+        return false;
+    }
+    rewinddir(stream);
+    while (const dirent* entry = readdir(stream)) {
         std::vector<std::string>& names = spellings_[lowered(entry->d_name)];
         names.insert(std::upper_bound(names.begin(), names.end(), entry->d_name), entry->d_name);
     }
+    closedir(stream);
     return true;
 }
 
 bool DirectoryListing::holds(const std::string& name) const {
     struct stat found = {};
-    return fstatat(descriptor(), name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0;
+    return fstatat(descriptor_, name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 const std::string* DirectoryListing::listedSpelling(std::string_view name) const {
@@ -122,7 +137,7 @@ bool DirectoryListing::isMountedForWriting() {
     const std::int64_t second = now(CLOCK_MONOTONIC_COARSE).tv_sec;
     if (second != mountAskedSecond_) {
         struct statvfs mount = {};
-        mountedForWriting_ = fstatvfs(descriptor(), &mount) == 0 && (mount.f_flag & ST_RDONLY) == 0;
+        mountedForWriting_ = fstatvfs(descriptor_, &mount) == 0 && (mount.f_flag & ST_RDONLY) == 0;
         mountAskedSecond_ = second;
     }
     return mountedForWriting_;

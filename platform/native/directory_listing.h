@@ -3,7 +3,6 @@
 #ifndef PLATFORM_NATIVE_DIRECTORY_LISTING_H
 #define PLATFORM_NATIVE_DIRECTORY_LISTING_H
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include <cstdint>
@@ -17,11 +16,14 @@ class DirectoryListing {
  public:
     // Lists the directory `path` (native, relative to the working directory or absolute). Null if it can't be listed.
     static std::unique_ptr<DirectoryListing> read(std::string path);
+    ~DirectoryListing();
+    DirectoryListing(const DirectoryListing&) = delete;
+    DirectoryListing& operator=(const DirectoryListing&) = delete;
 
     const std::string& path() const { return path_; }
 
     // The open directory, for the `...at` calls; closed with this object.
-    int descriptor() const { return dirfd(stream_.get()); }
+    int descriptor() const { return descriptor_; }
 
     // Whether `path` still leads to this directory and its times are those of the listing. Costs one system call.
     bool isCurrent() const;
@@ -36,9 +38,7 @@ class DirectoryListing {
     bool isMountedForWriting();
 
  private:
-    using Stream = std::unique_ptr<DIR, int (*)(DIR*)>;
-
-    DirectoryListing(std::string path, DIR* stream) : path_(std::move(path)), stream_(stream, closedir) {}
+    DirectoryListing(std::string path, int descriptor) : path_(std::move(path)), descriptor_(descriptor) {}
 
     bool list();
     bool holds(const std::string& name) const;
@@ -46,7 +46,7 @@ class DirectoryListing {
     std::string spellSettled(std::string_view written) const;
 
     std::string path_;
-    Stream stream_;
+    int descriptor_;
     struct stat identity_ = {};
     // A change may have come within the clock tick of the listing and left no mark in the directory's times.
     bool settled_ = false;

@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr std::string_view workingDirectory = ".";
+
 // The directories asked for last, the latest first.
 class ListingCache {
  public:
@@ -61,7 +63,7 @@ class ListingCache {
         std::unique_ptr<DirectoryListing> listing;
     };
 
-    static constexpr std::size_t capacity = 8;  // each holds a descriptor
+    static constexpr std::size_t capacity = 32;  // each holds a descriptor
     std::vector<Kept> kept_;
     std::string variable_;
     std::string home_;
@@ -119,7 +121,7 @@ std::string asWritten(std::string_view path) {
 
 std::string pathOf(const Entry& entry) {
     const std::string& directory = entry.listing != nullptr ? entry.listing->path() : entry.directory;
-    if (directory.empty()) return entry.name;
+    if (directory.empty() || directory == workingDirectory) return entry.name;
     return directory.back() == '/' ? directory + entry.name : directory + '/' + entry.name;
 }
 
@@ -130,9 +132,8 @@ Entry divided(const std::string& path) {
     return {path.substr(0, std::max<std::size_t>(slash, 1)), path.substr(slash + 1), nullptr};
 }
 
-const std::string& listable(const std::string& directory) {
-    static const std::string workingDirectory = ".";
-    return directory.empty() ? workingDirectory : directory;
+std::string listable(const std::string& directory) {
+    return directory.empty() ? std::string(workingDirectory) : directory;
 }
 
 // What stands before the last separator; empty for a plain name and for an entry of the root.
