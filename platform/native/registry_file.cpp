@@ -90,11 +90,11 @@ class LineReader {
     std::string_view rest_;
 };
 
+// What stands behind a value or a key, such as the CR of DOS's line ends, is never looked at.
 std::string_view takeLine(std::string_view& file) {
     const std::size_t end = std::min(file.find('\n'), file.size());
-    std::string_view line = file.substr(0, end);
+    const std::string_view line = file.substr(0, end);
     file.remove_prefix(std::min(end + 1, file.size()));
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
     return line;
 }
 
