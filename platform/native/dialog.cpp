@@ -151,8 +151,8 @@ INT_PTR DialogBoxParamA(HINSTANCE, LPCSTR templateName, HWND owner, DLGPROC proc
     HWND const handle = addWindow(std::move(made))->handle();
     dialog.addItems(*source);
     SendMessageA(handle, WM_INITDIALOG, 0, parameter);
-    if (!dialog.result().has_value()) dialog.widget()->show();
-    runModal([&dialog] { return !dialog.result().has_value() && dialog.widget() != nullptr; });
+    const auto open = [&dialog] { return !dialog.result().has_value() && dialog.widget() != nullptr; };
+    if (open()) runModal(*dialog.widget(), open);
     const INT_PTR result = dialog.result().value_or(-1);
     dropWindow(handle);
     return result;

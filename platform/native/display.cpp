@@ -29,12 +29,25 @@ bool pluginLoads(const QByteArray& name) {
     return QPluginLoader(folder + "/libq" + QString::fromLatin1(name) + ".so").load();
 }
 
-bool xServerAnswers() {
-    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return answers;
-}
+// Asks the X server, and stays connected until Qt is: some servers start anew when their last client leaves, and answer
+// nobody meanwhile.
+class XServer {
+ public:
+    XServer() = default;
+    XServer(const XServer&) = delete;
+    XServer& operator=(const XServer&) = delete;
+    ~XServer() {
+        if (connection_ != nullptr) xcb_disconnect(connection_);
+    }
+
+    bool answers() {
+        if (connection_ == nullptr) connection_ = xcb_connect(nullptr, nullptr);
+        return xcb_connection_has_error(connection_) == 0;
+    }
+
+ private:
+    xcb_connection_t* connection_ = nullptr;
+};
 
 bool waylandAnswers() {
     QByteArray path = qgetenv("WAYLAND_DISPLAY");
@@ -52,9 +65,9 @@ bool waylandAnswers() {
 }
 
 // `platform` may carry parameters behind a colon.
-bool usable(const QByteArray& platform) {
+bool usable(const QByteArray& platform, XServer& xServer) {
     const QByteArray name = platform.split(':').first();
-    if (name == "xcb") return xServerAnswers() && pluginLoads(name);
+    if (name == "xcb") return xServer.answers() && pluginLoads(name);
     if (name.startsWith("wayland"))
         return waylandAnswers() && pluginLoads(name == "wayland" ? QByteArray("wayland-generic") : name);
     // These need no server. The rest draw on bare hardware, which can't be tried beforehand.
@@ -62,10 +75,10 @@ bool usable(const QByteArray& platform) {
 }
 
 // Empty if there is no screen.
-QByteArray choosePlatform() {
+QByteArray choosePlatform(XServer& xServer) {
     for (const QByteArray& platform : qgetenv("QT_QPA_PLATFORM").split(';'))
-        if (usable(platform)) return platform;
-    return usable("xcb") ? QByteArray("xcb") : QByteArray();
+        if (usable(platform, xServer)) return platform;
+    return usable("xcb", xServer) ? QByteArray("xcb") : QByteArray();
 }
 
 // A variable of the environment as Qt shall find it while it starts; the programs that this one starts later find it as
@@ -107,7 +120,8 @@ void avoidPortals(VariableForStart& theme) {
 }  // namespace
 
 void openDisplay() {
-    const QByteArray platform = choosePlatform();
+    XServer xServer;
+    const QByteArray platform = choosePlatform(xServer);
     if (platform.isEmpty()) return;
     VariableForStart platformName("QT_QPA_PLATFORM");
     VariableForStart busAddress("DBUS_SESSION_BUS_ADDRESS");

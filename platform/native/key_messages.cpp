@@ -48,6 +48,20 @@ unsigned char characterOf(const QKeyEvent& event) {
     return text.empty() && printable ? static_cast<unsigned char>(event.key()) : '\0';
 }
 
+// A menu that is open by the time such a key came back would close.
+bool isModifier(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Shift:
+        case Qt::Key_Control:
+        case Qt::Key_Alt:
+        case Qt::Key_AltGr:
+        case Qt::Key_Meta:
+            return true;
+        default:
+            return false;
+    }
+}
+
 class KeyWatcher : public QObject {
  public:
     using QObject::QObject;
@@ -60,9 +74,10 @@ class KeyWatcher : public QObject {
         auto* const window = qobject_cast<QWindow*>(object);
         HWND const topLevel = window == nullptr ? nullptr : topLevelOf(window);
         if (topLevel == nullptr) return false;
-        const UINT message = messageOf(static_cast<const QKeyEvent&>(*event));
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (isModifier(key)) return false;
         keys[++lastKey] = {window, std::unique_ptr<QEvent>(event->clone()), false};
-        postMessage(topLevel, message, 0, lastKey);
+        postMessage(topLevel, messageOf(key), 0, lastKey);
         return true;
     }
 };

@@ -36,8 +36,7 @@ class Box : public Window {
 
     int ask() {
         const QPointer<QMessageBox> box = box_;
-        box->show();
-        runModal([&box] { return box != nullptr && box->isVisible(); });
+        runModal(*box, [&box] { return box != nullptr && box->isVisible(); });
         const bool ok = box != nullptr && box->standardButton(box->clickedButton()) == QMessageBox::Ok;
         return ok ? IDOK : IDCANCEL;
     }

@@ -1,9 +1,11 @@
 #include "platform/native/message_loop.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
+#include <QWidget>
 #include <deque>
 #include <optional>
 
@@ -96,14 +98,18 @@ void forgetMessages(HWND window) {
     std::erase_if(queue, [window](const MSG& message) { return message.hwnd == window; });
 }
 
-void runModal(const std::function<bool()>& open) {
+void runModal(QWidget& box, const std::function<bool()>& open) {
     const CursorPause ownCursors;
+    const QPointer<QWidget> before = QApplication::activeWindow();
     const LoopScope scope(Loop::modal);
+    box.show();
     while (open()) {
         HWND const waits = windowThatWaits();
         if (waits != nullptr) UpdateWindow(waits);
         QCoreApplication::processEvents(waits == nullptr ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
     }
+    // Window managers do it by themselves, but not every screen has one.
+    if (before != nullptr) before->activateWindow();
 }
 
 void bringToScreen() {

@@ -6,6 +6,8 @@
 
 #include "platform/native/windows.h"
 
+class QWidget;
+
 // What Qt's events are run for just now: nothing (the program computes), GetMessageA, a box that waits for its answer,
 // or a moment in which windows come to the screen.
 enum class Loop { none, messages, modal, screen };
@@ -19,9 +21,10 @@ void postNextMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 // Drops what waits for a window that goes.
 void forgetMessages(HWND window);
 
-// Runs Qt's events while `open` says so; windows are drawn meanwhile, messages of the queue wait. The windows show
-// their own cursors, and afterwards again what SetCursor made of them.
-void runModal(const std::function<bool()>& open);
+// Shows a box and runs Qt's events while `open` says so; windows are drawn meanwhile, messages of the queue wait. Over
+// the box the windows show their own cursors; afterwards what SetCursor made of them shows again, and the window that
+// had the keyboard before has it again.
+void runModal(QWidget& box, const std::function<bool()>& open);
 
 // Runs what Qt has to do to bring windows to the screen, but no clicks and keys: they wait for a loop. Does nothing
 // inside a loop, which comes to it anyway.

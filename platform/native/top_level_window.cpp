@@ -7,6 +7,7 @@
 
 #include "platform/native/client_area.h"
 #include "platform/native/menu_bar.h"
+#include "platform/native/message_loop.h"
 #include "platform/native/pictures.h"
 #include "platform/native/qt_text.h"
 
@@ -45,7 +46,7 @@ class Frame : public QWidget {
     // Whether the window closes is decided by who receives the message.
     void closeEvent(QCloseEvent* event) override {
         event->ignore();
-        SendMessageA(window_, WM_CLOSE, 0, 0);
+        postMessage(window_, WM_CLOSE, 0, 0);  // behind a menu command that the user gave before
     }
 
  private:

@@ -16,6 +16,8 @@ void show(Window& window) {
     widget.show();
     if (window.clientArea() == nullptr) return;
     window.clientArea()->invalidate(window.clientArea()->whole(), true);
+    // Gives it the keyboard where no window manager does; a splash window has none.
+    if (widget.windowType() != Qt::SplashScreen) widget.activateWindow();
     waitForScreen([&widget] { return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed(); });
 }
 

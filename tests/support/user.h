@@ -26,8 +26,11 @@ void turnWheel(HWND control, bool down);
 // loop delivers it.
 bool chooseMenu(HWND window, std::initializer_list<const char*> path);
 
-// Asks the window to close, as its close button does.
+// Asks the window to close, as its close button does. A message loop delivers it.
 void closeWindow(HWND window);
+
+// Drags the window's border, until its client area has this size.
+void resizeWindow(HWND window, int width, int height);
 
 enum class Hold { nothing, alt, altShift };
 

@@ -124,11 +124,15 @@ void answerWhatIsOpen() {
     std::erase_if(answers, [](const Answer& answer) { return answer.seen.expired(); });
     QWidget* const box = QApplication::activeModalWidget();
     if (answers.empty() || box == nullptr || innermostLoop() != Loop::modal) return;
-    const Answer answer = std::move(answers.front());
+    // Looked at first and answered the next time, so that the box's own loop runs between.
+    if (const auto seen = answers.front().seen.lock(); !seen->shown) {
+        look(*box, *seen);
+        if (answers.front().meanwhile) answers.front().meanwhile();
+        return;
+    }
+    const int answer = answers.front().answer;
     answers.pop_front();
-    look(*box, *answer.seen.lock());
-    if (answer.meanwhile) answer.meanwhile();
-    giveAnswer(*box, answer.answer);
+    giveAnswer(*box, answer);
 }
 
 QAccessibleInterface& spokenOf(HWND window) {
@@ -143,6 +147,7 @@ void clickButton(HWND button) {
 
 void pickEntry(HWND combo, int index) {
     QComboBox& box = comboOf(combo);
+    box.setFocus(Qt::MouseFocusReason);
     box.showPopup();
     QAbstractItemView& list = *box.view();
     const QModelIndex entry = box.model()->index(index, box.modelColumn());
@@ -174,6 +179,13 @@ bool chooseMenu(HWND window, std::initializer_list<const char*> path) {
 
 void closeWindow(HWND window) {
     widgetOf(window).windowHandle()->close();
+}
+
+void resizeWindow(HWND window, int width, int height) {
+    QWidget& widget = widgetOf(window);
+    const QSize frame = widget.size() - findWindow(window)->clientArea()->size();
+    widget.resize(QSize(width, height) + frame);
+    QCoreApplication::processEvents();
 }
 
 void pressKey(HWND window, char character, Hold hold) {

@@ -1,0 +1,77 @@
+// Message boxes, answered by a user who is told beforehand.
+#include <gtest/gtest.h>
+
+#include "tests/platform/test_window.h"
+#include "tests/support/user.h"
+
+TEST(MessageBoxTest, EachAnswerHasItsResult) {
+    using Buttons = std::vector<std::string>;
+    const struct {
+        const char* what;
+        UINT type;
+        int answer, result;
+        Buttons buttons;
+    } rows[] = {
+        {"OK alone", MB_OK, IDOK, IDOK, {"OK"}},
+        {"Escape on OK alone", MB_OK, answerByEscape, IDOK, {"OK"}},
+        {"OK of two", MB_OKCANCEL, IDOK, IDOK, {"OK", "Cancel"}},
+        {"Cancel", MB_OKCANCEL, IDCANCEL, IDCANCEL, {"OK", "Cancel"}},
+        {"Escape on two", MB_OKCANCEL, answerByEscape, IDCANCEL, {"OK", "Cancel"}},
+    };
+    const char* const text = "Caf\xE9 & <b>bar</b>!  Two blanks.\nA second line with &mark.";
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        HWND found = nullptr;
+        const AnsweredBox box = answerNextBox(row.answer, [&found] { found = FindWindowA(nullptr, "Proceed? \x80"); });
+        EXPECT_EQ(MessageBoxA(nullptr, text, "Proceed? \x80", row.type), row.result);
+        EXPECT_TRUE(box.shown());
+        EXPECT_EQ(box.title(), "Proceed? \x80");
+        EXPECT_EQ(box.text(), text);
+        EXPECT_EQ(box.buttons(), row.buttons);
+        EXPECT_NE(found, nullptr) << "a box is found by its title while it shows";
+        EXPECT_FALSE(IsWindow(found));
+        EXPECT_EQ(FindWindowA(nullptr, "Proceed? \x80"), nullptr);
+    }
+}
+
+TEST(MessageBoxTest, TheOwnerIsBlockedAndStillDrawn) {
+    TestWindow owner;
+    HWND const button = owner.addControl("Button", "Below", WS_VISIBLE, 3, {10, 300, 110, 330});
+    owner.show();
+    SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+    for (const bool owned : {true, false}) {
+        owner.takeLog();
+        bool waitCursor = true;
+        const AnsweredBox box = answerNextBox(IDOK, [&] {
+            waitCursor = waitCursorShows();
+            clickButton(button);
+            closeWindow(owner.handle);
+            InvalidateRect(owner.handle, nullptr, TRUE);
+        });
+        EXPECT_EQ(MessageBoxA(owned ? owner.handle : nullptr, "Text", "Title", MB_OK), IDOK);
+        EXPECT_EQ(owner.takeLog(), Log{"paint"});
+        EXPECT_FALSE(waitCursor) << "over a box the program doesn't wait";
+        EXPECT_TRUE(waitCursorShows());
+        clickButton(button);
+        EXPECT_EQ(owner.takeLog(), Log{"command 3 0"});
+    }
+    SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
+
+TEST(MessageBoxTest, AWindowMayAskBeforeItCloses) {
+    int answer = 0;
+    TestWindow window([&answer](HWND handle, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message != WM_CLOSE) return std::nullopt;
+        answer = MessageBoxA(handle, "Exit without saving?", "Exit?", MB_OKCANCEL);
+        return answer == IDOK ? std::nullopt : std::optional<LRESULT>(0);
+    });
+    window.show();
+    window.takeLog();
+    for (const int given : {IDCANCEL, IDOK}) {
+        const AnsweredBox box = answerNextBox(given);
+        later([&window] { closeWindow(window.handle); });
+        runMessages();
+        EXPECT_EQ(answer, given);
+        EXPECT_EQ(window.takeLog(), given == IDOK ? (Log{"close", "destroy"}) : Log{"close"});
+    }
+}

@@ -1,0 +1,215 @@
+// Windows and the message loop.
+#include <gtest/gtest.h>
+
+#include "tests/platform/test_window.h"
+#include "tests/support/user.h"
+
+namespace {
+
+RECT clientOf(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    return client;
+}
+
+std::vector<int> sides(const RECT& rectangle) {
+    return {rectangle.left, rectangle.top, rectangle.right, rectangle.bottom};
+}
+
+}  // namespace
+
+TEST(WindowTest, ItsMessagesComeInWindowsOrder) {
+    RECT atCreation{};
+    TestWindow window([&atCreation](HWND handle, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message != WM_CREATE) return std::nullopt;
+        atCreation = clientOf(handle);
+        return 0;
+    });
+    EXPECT_EQ(window.takeLog(), Log{"create"});
+    EXPECT_GE(atCreation.right, 480);
+    EXPECT_GE(atCreation.bottom, 400);
+    EXPECT_FALSE(UpdateWindow(window.handle) == FALSE);
+    EXPECT_EQ(window.takeLog(), Log{}) << "nothing waits in a hidden window";
+
+    EXPECT_EQ(ShowWindow(window.handle, SW_SHOWNORMAL), FALSE);
+    UpdateWindow(window.handle);
+    EXPECT_TRUE(isVisible(window.handle));
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+    EXPECT_EQ(sides(clientOf(window.handle)), sides(atCreation));
+
+    EXPECT_EQ(ShowWindow(window.handle, SW_HIDE), TRUE);
+    EXPECT_FALSE(isVisible(window.handle));
+    window.show();
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+
+    closeWindow(window.handle);
+    runMessages();
+    EXPECT_EQ(window.takeLog(), (Log{"close", "destroy"}));
+    EXPECT_FALSE(IsWindow(window.handle));
+}
+
+TEST(WindowTest, WhoReceivesTheCloseRequestDecides) {
+    TestWindow window([](HWND, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        return message == WM_CLOSE ? std::optional<LRESULT>(0) : std::nullopt;
+    });
+    window.show();
+    window.takeLog();
+    closeWindow(window.handle);
+    runMessages();
+    EXPECT_EQ(window.takeLog(), Log{"close"});
+    EXPECT_TRUE(isVisible(window.handle));
+}
+
+TEST(WindowTest, AnAnswerOfMinusOneUndoesTheCreation) {
+    HWND seen = nullptr;
+    const TestWindow window([&seen](HWND handle, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        seen = handle;
+        return message == WM_CREATE ? std::optional<LRESULT>(-1) : std::nullopt;
+    });
+    EXPECT_EQ(window.handle, nullptr);
+    EXPECT_FALSE(IsWindow(seen));
+}
+
+TEST(WindowTest, ItsControlsOutliveItsDestructionMessage) {
+    HWND button = nullptr;
+    bool atDestruction = false;
+    TestWindow window([&](HWND, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message == WM_DESTROY) atDestruction = IsWindow(button) != FALSE;
+        return std::nullopt;
+    });
+    button = window.addControl("Button", "One", WS_VISIBLE, 1, {0, 0, 90, 30});
+    DestroyWindow(window.handle);
+    EXPECT_TRUE(atDestruction);
+    EXPECT_FALSE(IsWindow(button));
+}
+
+TEST(WindowTest, EveryOperationRefusesAStaleHandle) {
+    TestWindow window;
+    HWND const stale = window.handle;
+    DestroyWindow(stale);
+    PAINTSTRUCT paint{};
+    RECT client{};
+    const struct {
+        const char* what;
+        std::function<bool()> refuses;
+    } rows[] = {
+        {"IsWindow", [&] { return IsWindow(stale) == FALSE; }},
+        {"ShowWindow", [&] { return ShowWindow(stale, SW_SHOW) == FALSE; }},
+        {"UpdateWindow", [&] { return UpdateWindow(stale) == FALSE; }},
+        {"InvalidateRect", [&] { return InvalidateRect(stale, nullptr, TRUE) == FALSE; }},
+        {"DestroyWindow", [&] { return DestroyWindow(stale) == FALSE; }},
+        {"GetClientRect", [&] { return GetClientRect(stale, &client) == FALSE; }},
+        {"SetWindowLongA", [&] { return SetWindowLongA(stale, GWL_STYLE, 0) == 0; }},
+        {"GetWindowLongA", [&] { return GetWindowLongA(stale, GWL_STYLE) == 0; }},
+        {"SendMessageA", [&] { return SendMessageA(stale, CB_GETCOUNT, 0, 0) == 0; }},
+        {"BeginPaint", [&] { return BeginPaint(stale, &paint) == nullptr; }},
+        {"GetDC", [&] { return GetDC(stale) == nullptr; }},
+        {"MessageBoxA", [&] { return MessageBoxA(stale, "Text", "Title", MB_OK) == 0; }},
+        {"a control",
+         [&] {
+             return window.addControl("Button", "", 0, 1, {0, 0, 9, 9}) == nullptr;
+         }},
+        {"EndDialog", [&] { return EndDialog(stale, 1) == FALSE; }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        SetLastError(NO_ERROR);
+        EXPECT_TRUE(row.refuses());
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_WINDOW_HANDLE});
+    }
+}
+
+TEST(WindowTest, AClassIsRegisteredOnceAndFoundInAnyCase) {
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = DefWindowProcA;
+    windowClass.lpszClassName = "Registered Once";
+    EXPECT_NE(RegisterClassExA(&windowClass), 0);
+    windowClass.lpszClassName = "REGISTERED ONCE";
+    EXPECT_EQ(RegisterClassExA(&windowClass), 0);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_CLASS_ALREADY_EXISTS});
+    windowClass.lpszClassName = "Other";
+    windowClass.cbSize = 4;
+    EXPECT_EQ(RegisterClassExA(&windowClass), 0);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_PARAMETER});
+
+    const auto create = [](const char* name) {
+        return CreateWindowExA(0, name, "Title", WS_OVERLAPPEDWINDOW, 10, 10, 300, 200, nullptr, nullptr, nullptr,
+                               nullptr);
+    };
+    HWND const window = create("registered once");
+    EXPECT_TRUE(IsWindow(window));
+    EXPECT_EQ(textOf(window), "Title");
+    DestroyWindow(window);
+    EXPECT_EQ(create("Other"), nullptr);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_CANNOT_FIND_WND_CLASS});
+}
+
+TEST(WindowTest, WhatWaitsIsDrawnByAnUpdateOrByAQuietLoop) {
+    RECT drawn{};
+    TestWindow window([&drawn](HWND handle, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+        if (message != WM_PAINT) return std::nullopt;
+        PAINTSTRUCT paint;
+        BeginPaint(handle, &paint);
+        drawn = paint.rcPaint;
+        EndPaint(handle, &paint);
+        return 0;
+    });
+    window.show();
+    EXPECT_EQ(sides(drawn), sides(clientOf(window.handle)));
+    window.takeLog();
+
+    const RECT one{10, 20, 30, 40};
+    const RECT other{25, 35, 60, 50};
+    InvalidateRect(window.handle, &one, TRUE);
+    InvalidateRect(window.handle, &other, FALSE);
+    EXPECT_EQ(window.takeLog(), Log{});
+    UpdateWindow(window.handle);
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+    EXPECT_EQ(sides(drawn), (std::vector<int>{10, 20, 60, 50}));
+    UpdateWindow(window.handle);
+    runMessages();
+    EXPECT_EQ(window.takeLog(), Log{}) << "nothing waits any more";
+
+    const RECT beyond{-50, -50, 5, 5};
+    InvalidateRect(window.handle, &beyond, TRUE);
+    EXPECT_FALSE(runMessages());
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+    EXPECT_EQ(sides(drawn), (std::vector<int>{0, 0, 5, 5}));
+}
+
+TEST(WindowTest, AResizeDrawsAllOrOnlyWhatIsNew) {
+    for (const UINT classStyle : {UINT{0}, CS_HREDRAW | CS_VREDRAW}) {
+        RECT drawn{};
+        TestWindow window(
+            [&drawn](HWND handle, UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+                if (message != WM_PAINT) return std::nullopt;
+                PAINTSTRUCT paint;
+                BeginPaint(handle, &paint);
+                drawn = paint.rcPaint;
+                EndPaint(handle, &paint);
+                return 0;
+            },
+            0, classStyle);
+        window.show();
+        const RECT before = clientOf(window.handle);
+        resizeWindow(window.handle, before.right + 40, before.bottom);
+        runMessages();
+        EXPECT_EQ(sides(drawn),
+                  (std::vector<int>{classStyle == 0 ? before.right : 0, 0, before.right + 40, before.bottom}));
+    }
+}
+
+TEST(WindowTest, AQuitIsHeardWheneverItWasPosted) {
+    PostQuitMessage(-3);
+    MSG message{};
+    EXPECT_EQ(GetMessageA(&message, nullptr, 0, 0), FALSE);
+    EXPECT_EQ(message.message, UINT{WM_QUIT});
+    EXPECT_EQ(static_cast<int>(message.wParam), -3);
+
+    int exitCode = 0;
+    later([] { PostQuitMessage(9); });
+    EXPECT_TRUE(runMessages(&exitCode));
+    EXPECT_EQ(exitCode, 9);
+    EXPECT_FALSE(runMessages()) << "a quit ends one loop";
+}
