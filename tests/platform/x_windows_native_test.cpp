@@ -12,62 +12,35 @@
 
 #include "platform/win32.h"
 #include "tests/platform/scoped_variable.h"
+#include "tests/support/x_server.h"
 
 namespace {
 
-// An X server of the test's own, without a window manager, and a program's connection to it; $DISPLAY leads there.
-class XServer {
+// An X server to which $DISPLAY leads, and the windows of some program on it.
+class Screen {
  public:
-    XServer() {
-        int ends[2] = {};
-        if (pipe(ends) != 0 || (process_ = fork()) < 0) std::abort();
-        if (process_ == 0) {
-            dup2(ends[1], STDOUT_FILENO);
-            execlp("Xvfb", "Xvfb", "-displayfd", "1", "-screen", "0", "64x64x24", "-nolisten", "tcp", nullptr);
-            _exit(1);
-        }
-        close(ends[1]);
-        char number[16] = "";
-        runs = read(ends[0], number, sizeof number - 1) > 0;
-        close(ends[0]);
-        display_.set(":" + std::to_string(std::atoi(number)));
-        connection = xcb_connect(nullptr, nullptr);
-    }
-    ~XServer() {
-        xcb_disconnect(connection);
-        kill(process_, SIGTERM);
-        waitpid(process_, nullptr, 0);
-    }
-    XServer(const XServer&) = delete;
-    XServer& operator=(const XServer&) = delete;
+    Screen() : display_("DISPLAY", server_.display()) {}
+
+    xcb_connection_t* connection() const { return server_.connection(); }
 
     // Waits until the server has done what came before.
-    xcb_atom_t atom(std::string_view name) {
-        const auto asked = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-        xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection, asked, nullptr);
-        const xcb_atom_t atom = reply->atom;
-        std::free(reply);
-        return atom;
-    }
+    void settle() const { server_.atom("done"); }
 
-    xcb_window_t makeWindow(xcb_window_t parent) {
-        const xcb_window_t window = xcb_generate_id(connection);
-        xcb_create_window(connection, 0, window, parent, 0, 0, 8, 8, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, 0, 0, nullptr);
+    xcb_window_t makeWindow(xcb_window_t parent) const {
+        const xcb_window_t window = xcb_generate_id(connection());
+        xcb_create_window(connection(), 0, window, parent, 0, 0, 8, 8, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, 0, 0, nullptr);
         return window;
     }
 
-    void setName(xcb_window_t window, const char* property, const char* type, std::string_view name) {
-        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atom(property), atom(type), 8,
+    void setName(xcb_window_t window, const char* property, const char* type, std::string_view name) const {
+        xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, server_.atom(property), server_.atom(type), 8,
                             static_cast<std::uint32_t>(name.size()), name.data());
-        atom(property);
+        settle();
     }
 
-    bool runs = false;
-    xcb_connection_t* connection = nullptr;
-
  private:
-    pid_t process_ = -1;
-    ScopedVariable display_{"DISPLAY", ""};
+    XServer server_;
+    ScopedVariable display_;
 };
 
 bool finds(const char* title) {
@@ -75,9 +48,8 @@ bool finds(const char* title) {
 }
 
 TEST(XWindowsNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
-    XServer server;
-    if (!server.runs) GTEST_SKIP() << "Xvfb isn't installed";
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server.connection)).data->root;
+    const Screen server;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server.connection())).data->root;
     const xcb_window_t plain = server.makeWindow(root);
     const xcb_window_t framed = server.makeWindow(server.makeWindow(server.makeWindow(root)));
     server.setName(plain, "WM_NAME", "STRING", "The Sims House Party");
@@ -90,8 +62,8 @@ TEST(XWindowsNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     server.setName(plain, "_NET_WM_NAME", "UTF8_STRING", "The Sims \xE2\x80\x93 Livin\xE2\x80\x99 Large");
     EXPECT_TRUE(finds("The Sims \x96 Livin\x92 Large"));
     EXPECT_FALSE(finds("The Sims House Party")) << "the older name doesn't count then";
-    xcb_destroy_window(server.connection, framed);
-    server.atom("done");
+    xcb_destroy_window(server.connection(), framed);
+    server.settle();
     EXPECT_FALSE(finds("The Sims H\xF4tel"));
 }
 

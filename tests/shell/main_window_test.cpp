@@ -179,6 +179,7 @@ TEST_F(MainWindowTest, AsksBeforeItLosesChanges) {
         clickButton(controls().moveOutButton);  // a Move Out alone is a change
         const AnsweredBox box = answerNextBox(IDCANCEL);
         closeWindow(window);
+        runMessages();
         EXPECT_EQ(box.title(), "Exit?");
         EXPECT_EQ(box.text(), "You haven't saved your changes.  Exit without saving?");
         EXPECT_EQ(box.buttons().size(), 2U);
@@ -186,6 +187,7 @@ TEST_F(MainWindowTest, AsksBeforeItLosesChanges) {
         EXPECT_EQ(neighborhoods[0]->newFamilyCount(), 1);
         const AnsweredBox second = answerNextBox(IDOK);
         closeWindow(window);
+        runMessages();
         EXPECT_TRUE(second.shown());
         EXPECT_FALSE(IsWindow(window));
     });

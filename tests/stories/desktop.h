@@ -1,0 +1,64 @@
+// A virtual display, and the built program running on it or without one, used through mouse and keyboard alone.
+#ifndef TESTS_STORIES_DESKTOP_H
+#define TESTS_STORIES_DESKTOP_H
+
+#include <sys/types.h>
+
+#include <string>
+
+#include "tests/support/x_server.h"
+
+class Desktop {
+ public:
+    const std::string& display() const { return server_.display(); }
+
+    // Runs xdotool with these arguments and returns the first line of what it prints; a failure fails the test.
+    std::string act(const std::string& arguments) const;
+
+    // Asks a window to close, as a window manager does.
+    void askToClose(unsigned window) const;
+
+ private:
+    XServer server_;
+};
+
+class RunningProgram {
+ public:
+    // Starts the program in `toolDirectory` on the game of `prefix`; without a desktop it has no display.
+    RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop);
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+    ~RunningProgram();
+
+    // Picks entries down to a Sim, counted from 0.
+    void pick(int neighborhood, int family, int sim) const;
+    void clickChildToTeen() const { clickButton(60, 135); }
+    void clickTeenToAdult() const { clickButton(170, 135); }
+    void clickMoveOut() const { clickButton(60, 35); }
+    void chooseFileItem(char mnemonic) const;
+
+    // Waits for a box with this title and presses the key in it.
+    void answerBox(const std::string& title, const std::string& key) const;
+
+    // Asks the window to close, as a window manager does.
+    void closeWindow() const;
+
+    // Waits until the program has ended; the exit code as a signed byte.
+    int waitForExit();
+    std::string errorOutput() const;
+
+ private:
+    void waitForWindow();
+    void clickAt(int x, int y) const;
+    void clickButton(int x, int aboveBottom) const { clickAt(x, windowHeight_ - aboveBottom); }
+    void pickEntry(int comboTop, int index) const;
+
+    const Desktop* desktop_;
+    pid_t process_ = -1;
+    std::string errorFile_;
+    std::string window_;
+    int windowHeight_ = 0;
+    int clientTop_ = 0;
+};
+
+#endif

@@ -1,0 +1,195 @@
+// The whole road of one Sim: the built program is started, used through mouse and keyboard and ended, and then every
+// byte of the installation is compared with what must stand there.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+#include "tests/stories/desktop.h"
+#include "tests/stories/installation.h"
+#include "tests/stories/tree.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The text that dates a backup made now: no leading zeros, and the minutes only for a neighborhood.
+std::string dateNow(const char* format) {
+    const std::time_t now = std::time(nullptr);
+    std::tm utc{};
+    gmtime_r(&now, &utc);
+    char text[32];
+    std::snprintf(text, sizeof text, format, utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min);
+    return text;
+}
+
+// Bramble of the Thistlewoods as a fit adult of light skin, slot by slot. Her head is the only one of its skin set.
+BodySlots brambleGrownUp() {
+    return {"b002fafit_01,BODY",
+            "B002FAFitlgt_mom01",
+            "c004fa_gma1,HEAD-HEAD",
+            "c004falgt_asian",
+            "HEAD",
+            "Top",
+            "R_HAND",
+            "Palm",
+            "",
+            "",
+            "",
+            "",
+            "",
+            "female",
+            "27",
+            "lgt",
+            "nffit_01,BODY",
+            "nffitlgt_01",
+            "nffit_01,BODY",
+            "uffitlgt_lguard01",
+            "HuLO,HAND",
+            "huaolgt",
+            "HuRO,HAND",
+            "huaolgt",
+            "HuLP,HAND",
+            "huaplgt",
+            "HuRP,HAND",
+            "huaplgt",
+            "HuLC,HAND",
+            "huaclgt",
+            "HuRC,HAND",
+            "huaclgt",
+            "",
+            "",
+            "",
+            "",
+            "fffit_01,BODY",
+            "fffitlgt_01",
+            "HuLO,HAND",
+            "huaolgt",
+            "HuRO,HAND",
+            "huaolgt",
+            "F100fafit_original,BODY",
+            "F100fafitlgt_original",
+            "S100fafit_original,BODY",
+            "S100fafitlgt_original",
+            "L100fafit_original,BODY",
+            "L100fafitlgt_original",
+            "",
+            ""};
+}
+
+// Her record as the program writes it: grown up, and zero in every byte that it doesn't know.
+Bytes brambleRecord(SampleNeighbor neighbor) {
+    neighbor.age = 27;
+    neighbor.personValues[27] = neighbor.personValues[28] = 0;
+    neighbor.gapByte = 0;
+    Bytes record = sampleNeighborRecord(neighbor);
+    record.resize(186);
+    for (const std::size_t unknown : {17, 18, 19, 20, 21, 23, 24, 25, 26, 27, 28, 29})
+        record[unknown] = 0;
+    return record;
+}
+
+TEST_F(Stories, ATeenGrowsUpAndIsSaved) {
+    const Tree before = treeOf(prefix());
+    const Desktop desktop;
+    const std::string minuteBefore = dateNow("%d%d%d.%d%d");
+    {
+        RunningProgram program(prefix(), toolDirectory(), &desktop);
+        program.pick(0, 0, 2);
+        program.clickTeenToAdult();
+        program.chooseFileItem('s');
+        program.closeWindow();
+        EXPECT_EQ(program.waitForExit(), 0) << program.errorOutput();
+    }
+    const std::string minuteAfter = dateNow("%d%d%d.%d%d");
+
+    const SampleNeighborhood content = castNeighborhoodFile(0, sampleCast()[0]);
+    const auto bramble =
+        std::find_if(content.neighbors.begin(), content.neighbors.end(),
+                     [](const SampleNeighbor& neighbor) { return neighbor.recordName == "user00013"; });
+    ASSERT_NE(bramble, content.neighbors.end());
+    const NeighborhoodFile built = makeNeighborhoodFile(content);
+    const std::string userData = fs::relative(game(), prefix()).string() + "/UserData/";
+
+    Tree expected = before;
+    Bytes neighborhood = expected.at(userData + "Neighborhood.iff");
+    ASSERT_EQ(neighborhood, built.bytes);
+    overwrite(neighborhood, built.neighborOffsets[static_cast<std::size_t>(bramble - content.neighbors.begin())],
+              brambleRecord(*bramble));
+
+    Bytes character = treeOf(toolDirectory()).at("Template.iff");
+    overwrite(character, 3988, bytesFrom("user00013"));
+    overwrite(character, 4080, ByteWriter().u32Le(bramble->guid).written());
+    overwrite(character, 4349, ByteWriter().field("Bramble", 64).written());
+    overwrite(character, 54097, bytesFrom("adult"));
+    overwrite(character, 54102, filledSampleBodyText(brambleGrownUp(), BodyEnding::atEntry32, 1041));
+
+    // A file that is replaced takes the name that the program spells, in small letters.
+    const Tree after = treeOf(prefix());
+    const std::string minute =
+        after.contains(userData + "Backups/neighborhood." + minuteBefore + ".iff") ? minuteBefore : minuteAfter;
+    expected[userData + "Backups/neighborhood." + minute + ".iff"] = expected.at(userData + "Neighborhood.iff");
+    expected[userData + "Characters/Backups/user00013." + minute.substr(0, minute.find('.')) + ".iff"] =
+        expected.at(userData + "Characters/User00013.iff");
+    expected.erase(userData + "Neighborhood.iff");
+    expected.erase(userData + "Characters/User00013.iff");
+    expected[userData + "neighborhood.iff"] = neighborhood;
+    expected[userData + "Characters/user00013.iff"] = character;
+    for (const auto& [name, bytes] : expected) {
+        ASSERT_TRUE(after.contains(name)) << name << " is missing";
+        EXPECT_TRUE(after.at(name) == bytes) << name << " differs";
+    }
+    EXPECT_EQ(after.size(), expected.size()) << "there are files that nobody expects";
+
+    // The next start takes her for an adult: "Teen to Adult" doesn't answer any more, so there is nothing to ask about
+    // at the end.
+    RunningProgram again(prefix(), toolDirectory(), &desktop);
+    again.pick(0, 0, 2);
+    again.clickTeenToAdult();
+    again.closeWindow();
+    EXPECT_EQ(again.waitForExit(), 0);
+    EXPECT_TRUE(treeOf(prefix()) == after);
+}
+
+TEST_F(Stories, ARefusedStartTellsWhy) {
+    const std::string skin = (game() / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn").string();
+    const struct {
+        const char* what;
+        std::string missing;
+        int code;
+        std::string output;
+    } rows[] = {
+        {"a window that can't be created", "", 0, ""},
+        {"no config", toolDirectory() + "/skinsets.cfg", -4,
+         "Missing Config Files\nTidewright cannot find its config files.  It must be in the same directory as its skin "
+         "config "
+         "file and template files.\n"},
+        {"no skin", skin, -3,
+         "Installation Problem\nTidewright appears to have been installed incorrectly.  It must be unzipped to your "
+         "Sims "
+         "directory.\n\nYour Sims directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\\n"},
+        {"no game", prefix() + "/system.reg", -1,
+         "Cannot find The Sims\nCannot find The Sims in the registry.  Please check the FAQ to see how to proceed.\n"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        if (!row.missing.empty()) fs::remove(row.missing);
+        RunningProgram program(prefix(), toolDirectory(), nullptr);
+        EXPECT_EQ(program.waitForExit(), row.code);
+        EXPECT_EQ(program.errorOutput(), row.output);
+    }
+}
+
+TEST_F(Stories, TheProgramDoesNotStartBesideTheGame) {
+    const Desktop desktop;
+    // A second Tidewright is no game, and what it shows doesn't matter; its window is given the game's title.
+    RunningProgram game(prefix(), toolDirectory(), &desktop);
+    const std::string window = desktop.act("search --onlyvisible --name '^Tidewright$'");
+    desktop.act("set_window --name 'The Sims' " + window);
+    RunningProgram program(prefix(), toolDirectory(), &desktop);
+    program.answerBox("Exit The Sims", "Return");
+    EXPECT_EQ(program.waitForExit(), -2);
+}
+
+}  // namespace

@@ -1,0 +1,31 @@
+// All files below a directory with their bytes, to compare what stands on the disk with what must.
+#ifndef TESTS_STORIES_TREE_H
+#define TESTS_STORIES_TREE_H
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+
+#include "sample/byte_writer.h"
+
+using Tree = std::map<std::string, Bytes>;
+
+inline Tree treeOf(const std::filesystem::path& directory) {
+    Tree tree;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(directory)) {
+        if (!entry.is_regular_file()) continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        tree[std::filesystem::relative(entry.path(), directory).string()] = {std::istreambuf_iterator<char>(file), {}};
+    }
+    return tree;
+}
+
+// Puts `bytes` over those of `file` from `offset` on; the file's length stays.
+inline void overwrite(Bytes& file, std::size_t offset, const Bytes& bytes) {
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        file.at(offset + i) = bytes[i];
+}
+
+#endif
