@@ -58,8 +58,9 @@ class Frame : public QWidget {
 // A window without a caption is one that the program places itself, such as a splash window: no window manager shall
 // move it, decorate it or give it the keyboard.
 Qt::WindowFlags flagsOf(DWORD style) {
-    if ((style & WS_CAPTION) != WS_CAPTION)
+    if ((style & WS_CAPTION) != WS_CAPTION) {
         return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
+    }
     Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     if ((style & WS_SYSMENU) != 0) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     if ((style & WS_MINIMIZEBOX) != 0) flags |= Qt::WindowMinimizeButtonHint;
@@ -69,9 +70,11 @@ Qt::WindowFlags flagsOf(DWORD style) {
 
 QIcon iconOf(const WindowClass& windowClass) {
     QIcon icon;
-    for (HICON const part : {windowClass.icon, windowClass.smallIcon})
-        for (const QImage& picture : picturesOf(part))
+    for (HICON const part : {windowClass.icon, windowClass.smallIcon}) {
+        for (const QImage& picture : picturesOf(part)) {
             icon.addPixmap(QPixmap::fromImage(picture));
+        }
+    }
     return icon;
 }
 
