@@ -41,8 +41,9 @@ ChunkSearch findBodyStringsByLabel(StreamView stream, std::int32_t fileSize) {
         stream.seek(hit - 1);
         stream.skip(characterFile::label);
         const auto label = stream.readBytes<characterFile::bodyStringsLabel.size()>();
-        if (std::memcmp(label.data(), characterFile::bodyStringsLabel.data(), label.size()) == 0)
+        if (std::memcmp(label.data(), characterFile::bodyStringsLabel.data(), label.size()) == 0) {
             return {true, hit - 1};
+        }
     }
 }
 
@@ -58,11 +59,11 @@ ChunkSearch findBodyStrings(StreamView stream, std::int32_t mapOffset, std::int3
 
 int Sim::readHeaderOffset() {
     StreamFile file;
-    if (!file.open(filePath_.c_str(), StreamFile::Access::read, iffHeader::mapOffset + iffHeader::mapOffsetSize))
+    if (!file.open(filePath_.c_str(), StreamFile::Access::read, iffHeader::mapOffset + iffHeader::mapOffsetSize)) {
         return -1;
+    }
     StreamView stream(file);
-    stream.skip(iffHeader::mapOffset);
-    mapOffset_ = static_cast<std::int32_t>(readU24Be(stream.readBytes<iffHeader::mapOffsetSize>()));
+    mapOffset_ = readMapOffset(stream);
     headerRead_ = true;
     return 1;
 }

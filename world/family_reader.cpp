@@ -15,14 +15,15 @@ int Family::read(StreamView stream, std::int32_t fileSize, bool& numberRead) {
     numberRead = !stream.failed();
     stream.skip(2);
     funds_ = readI32Le(stream.readBytes<4>());
-    for (auto& word : familyWords_)
+    for (auto& word : familyWords_) {
         word = readU16Le(stream.readBytes<2>());
+    }
     memberCount_ = readI16Le(stream.readBytes<2>());
     familyTailWord_ = readU16Le(stream.readBytes<2>());
     if (!readMemberTable(stream)) return -1;
 
     const std::int32_t nameChunk = findTag(stream, familyName::chunkTag, fileSize);
-    if (nameChunk < 0 || !stream.good()) return 0;
+    if (nameChunk < 0) return 0;
     stream.seek(nameChunk);
     stream.skip(3);
     stream.skip(familyName::name - static_cast<int>(familyName::chunkTag.size()));
@@ -39,7 +40,8 @@ bool Family::readMemberTable(StreamView& stream) {
     return true;
 }
 
-// False if the file ends before the name does.
+// False if the file ends before the name does. The last pair of an odd name takes one byte of what stands behind: the
+// pad byte that the game writes there, or, without one, the first letter of the next chunk, which then isn't found.
 bool Family::readName(StreamView& stream) {
     for (;;) {
         const auto pair = stream.readBytes<2>();

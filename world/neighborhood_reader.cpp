@@ -42,14 +42,14 @@ int Neighborhood::load(const char* directory, const char* fileName) {
 
 // A header that is cut short raises this view's flags, and with them every pass ends at once.
 void Neighborhood::readPasses(StreamView stream) {
-    stream.skip(iffHeader::mapOffset);
-    mapOffset_ = static_cast<std::int32_t>(readU24Be(stream.readBytes<iffHeader::mapOffsetSize>()));
-    if (!stream.good()) mapOffset_ = 0;
-    while (nextNeighbor(stream) == 1)
+    mapOffset_ = readMapOffset(stream);
+    while (nextNeighbor(stream) == 1) {
         readNeighbor(stream);
+    }
     stream.seek(0);
-    while (familyAhead(stream) == 1)
+    while (familyAhead(stream) == 1) {
         readFamily(stream);
+    }
     stream.seek(0);
     xxxxOffset_ = findTag(stream, freeChunkTag, fileSize_) - 1;
 }

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "platform/byte_order.h"
+#include "world/neighborhood_layout.h"
+
 namespace {
 
 std::string_view asText(std::span<const std::uint8_t> bytes) {
@@ -45,4 +48,11 @@ int matchTagHere(StreamView stream, std::string_view tag) {
     }
     stream.seek(start);
     return 1;
+}
+
+std::int32_t readMapOffset(StreamView& stream) {
+    stream.seek(0);
+    stream.skip(iffHeader::mapOffset);
+    const auto offset = stream.readBytes<iffHeader::mapOffsetSize>();
+    return stream.good() ? static_cast<std::int32_t>(readU24Be(offset)) : 0;
 }

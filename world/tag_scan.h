@@ -1,4 +1,4 @@
-// The scan for a tag, on which every reader of the game's files rests.
+// What every reader of the game's files rests on: the scan for a tag, and the one field of the header.
 #ifndef WORLD_TAG_SCAN_H
 #define WORLD_TAG_SCAN_H
 
@@ -19,5 +19,9 @@ std::int32_t findTag(StreamView stream, std::string_view tag, std::int32_t fileS
 // Compares the bytes at the cursor with `tag`: 1 with the cursor where it was, or 0 with the cursor on the first byte
 // that differs.
 int matchTagHere(StreamView stream, std::string_view tag);
+
+// Where the file's resource map lies, read from the header at its front; 0 for a file without a map, and for one that
+// is too short to say, which also raises the view's flags. Leaves the cursor behind the header.
+std::int32_t readMapOffset(StreamView& stream);
 
 #endif
