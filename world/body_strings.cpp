@@ -45,10 +45,11 @@ void BodyStrings::parseSingle(StreamView& stream, bodySlot::Index slot) {
 
 void BodyStrings::parse(StreamView stream, std::int16_t simVersion) {
     for (const auto& entry : bodyText::commonEntries) {
-        if (entry.pair)
+        if (entry.pair) {
             parsePair(stream, entry.slot);
-        else
+        } else {
             parseSingle(stream, entry.slot);
+        }
     }
     version_ = simVersion;
     if (readPair(slots_[bodySlot::f100Mesh], slots_[bodySlot::f100Skin], stream) != tokenStatus::read) {

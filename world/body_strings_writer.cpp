@@ -27,8 +27,9 @@ class TextWriter {
 
     // Writes fill bytes up to, not including, index `end`.
     void fillTo(std::size_t end) {
-        while (position_ < std::min(end, buffer_.size()))
+        while (position_ < std::min(end, buffer_.size())) {
             append(bodyText::fill);
+        }
     }
 
  private:
@@ -52,10 +53,11 @@ std::size_t BodyStrings::serialise(std::span<std::uint8_t> buffer, std::size_t l
 
     for (const auto& entry : bodyText::commonEntries) {
         writer.append(bodyText::separator);
-        if (entry.pair)
+        if (entry.pair) {
             pair(entry.slot);
-        else
+        } else {
             writer.append(slots_[entry.slot]);
+        }
     }
     writer.append(bodyText::halfSeparator);
 

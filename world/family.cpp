@@ -17,8 +17,9 @@ Sim* Family::member(std::int32_t index) const {
 
 int Family::resolveMembers() {
     if (membersResolved_) return 1;
-    for (std::int32_t i = 0; i < memberCount_; ++i)
+    for (std::int32_t i = 0; i < memberCount_; ++i) {
         resolveMember(static_cast<std::size_t>(i));
+    }
     membersResolved_ = true;
     return 1;
 }

@@ -51,8 +51,9 @@ void tellFailure(int number) {
 
 int listedNeighborhoodCount() {
     int count = 0;
-    while (count < highestNeighborhoodCount && neighborhoods[static_cast<std::size_t>(count)])
+    while (count < highestNeighborhoodCount && neighborhoods[static_cast<std::size_t>(count)]) {
         ++count;
+    }
     return count;
 }
 

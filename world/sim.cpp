@@ -40,14 +40,15 @@ std::int32_t stageOfGrown(std::int16_t gender, const BodyStrings* body) {
 
 int Sim::deriveStage() {
     if (!bodyStringsLoaded_ && fileUsable_) loadBodyStrings();
-    if (age_ == ageWord::adult)
+    if (age_ == ageWord::adult) {
         stage_ = stageOfGrown(gender_, bodyStrings_.get());
-    else if (age_ == ageWord::teen)
+    } else if (age_ == ageWord::teen) {
         stage_ = stageNumber::teen;
-    else if (age_ == ageWord::child)
+    } else if (age_ == ageWord::child) {
         stage_ = stageNumber::child;
-    else
+    } else {
         stage_ = stageNumber::unknown;
+    }
     stageKnown_ = true;
     return 1;
 }
@@ -57,8 +58,9 @@ int Sim::setStage(std::int32_t stage, std::unique_ptr<BodyStrings> bodyStrings) 
     if (stage == stageNumber::teen) {
         age_ = ageWord::teen;
         personValues_[27] = 4;
-        for (const std::size_t value : {8, 9, 10, 13, 15, 16, 28})
+        for (const std::size_t value : {8, 9, 10, 13, 15, 16, 28}) {
             personValues_[value] = 0;
+        }
     } else if (stage == stageNumber::adult) {
         age_ = ageWord::adult;
         personValues_[27] = 0;

@@ -6,8 +6,9 @@
 
 int findSimsDirectory(DirectoryText& directory) {
     HKEY key = nullptr;
-    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, "Software\\Maxis\\The Sims", 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS)
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, "Software\\Maxis\\The Sims", 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) {
         return -1;
+    }
     std::array<char, 100> value{};
     DWORD size = value.size();
     const LSTATUS status =

@@ -40,8 +40,9 @@ std::span<const std::uint8_t> StreamFile::bytesAt(std::int64_t position, std::si
     if (!window_) window_ = std::make_unique_for_overwrite<std::uint8_t[]>(windowCapacity_);
     windowStart_ = position;
     windowSize_ = 0;
-    if (position <= LONG_MAX && std::fseek(file_, static_cast<long>(position), SEEK_SET) == 0)
+    if (position <= LONG_MAX && std::fseek(file_, static_cast<long>(position), SEEK_SET) == 0) {
         windowSize_ = std::fread(window_.get(), 1, windowCapacity_, file_);
+    }
     windowEndsFile_ = windowSize_ < windowCapacity_;
     return {window_.get(), windowSize_};
 }
@@ -97,10 +98,11 @@ int StreamView::peek() const {
 }
 
 void StreamView::seek(std::int64_t position) {
-    if (position < 0)
+    if (position < 0) {
         failed_ = true;
-    else
+    } else {
         file_->setCursor(position);
+    }
 }
 
 void StreamView::write(std::span<const std::uint8_t> bytes) {
@@ -113,6 +115,7 @@ void StreamView::write(std::string_view text) {
 
 void StreamView::writeZeros(std::int64_t count) {
     constexpr std::array<std::uint8_t, 64> zeros{};
-    for (; count > 0 && good(); count -= static_cast<std::int64_t>(zeros.size()))
+    for (; count > 0 && good(); count -= static_cast<std::int64_t>(zeros.size())) {
         write(std::span(zeros).first(static_cast<std::size_t>(std::min<std::int64_t>(count, zeros.size()))));
+    }
 }
