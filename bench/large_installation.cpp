@@ -22,6 +22,7 @@ class Prefix {
  public:
     Prefix() : path_(fs::temp_directory_path() / ("tidewright-bench-" + std::to_string(getpid()))) {
         writeLargeInstallation(path_ / "one", 1);
+        fs::copy(game() / "UserData", saved(), fs::copy_options::recursive);
         setenv("WINEPREFIX", (path_ / "one").c_str(), 1);
     }
     Prefix(const Prefix&) = delete;
@@ -29,6 +30,7 @@ class Prefix {
     ~Prefix() { fs::remove_all(path_); }
 
     fs::path game() const { return path_ / "one" / gameDirectory; }
+    fs::path saved() const { return path_ / "saved"; }
     fs::path many(int count) const { return path_ / std::to_string(count); }
 
  private:
@@ -56,6 +58,10 @@ fs::path largeNeighborhoodDirectory() {
     return prefix().game() / "UserData";
 }
 
+fs::path savedNeighborhoodDirectory() {
+    return prefix().saved();
+}
+
 const char* manySimsDirectory(int count) {
     static std::map<int, std::string> made;
     std::string& directory = made[count];
@@ -81,17 +87,20 @@ std::vector<fs::path> largeCharacterFiles() {
 
 std::size_t readWhole(const fs::path& path) {
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) std::abort();
     struct stat status {};
     fstat(file, &status);
     const auto size = static_cast<std::size_t>(status.st_size);
     const auto bytes = std::make_unique_for_overwrite<char[]>(size);
     const ssize_t got = read(file, bytes.get(), size);
     close(file);
-    return got < 0 ? 0 : static_cast<std::size_t>(got);
+    if (got != status.st_size) std::abort();
+    return size;
 }
 
 void copyPlainly(const fs::path& from, const fs::path& to, bool durable) {
     const int source = open(from.c_str(), O_RDONLY | O_CLOEXEC);
+    if (source < 0) std::abort();
     const int target = open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     static std::array<char, 16'000> buffer;
     for (ssize_t got = 0; (got = read(source, buffer.data(), buffer.size())) > 0;)

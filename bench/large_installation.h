@@ -10,6 +10,9 @@
 const char* largeSimsDirectory();
 std::filesystem::path largeNeighborhoodDirectory();
 
+// A copy of that neighborhood, for saving.
+std::filesystem::path savedNeighborhoodDirectory();
+
 // The game's directory of an installation with `count` such neighborhoods, whose files are links to the same bytes.
 const char* manySimsDirectory(int count);
 

@@ -14,7 +14,7 @@ namespace {
 void saveOneSim(benchmark::State& state) {
     const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
     Neighborhood neighborhood;
-    neighborhood.load((std::string(largeSimsDirectory()) + "UserData").c_str(), "neighborhood.iff");
+    neighborhood.load(savedNeighborhoodDirectory().c_str(), "neighborhood.iff");
     neighborhood.setToolDirectory(toolDirectory.c_str());
     Sim& sim = *neighborhood.sim(0);
     sim.guid();
