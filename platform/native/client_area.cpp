@@ -21,7 +21,7 @@ void ClientArea::invalidate(const QRegion& region, bool erase) {
 
 QRegion ClientArea::beginDrawing() {
     surface();  // of another scale, perhaps, and then more than before waits
-    const QRegion drawn = waiting_;
+    QRegion drawn = waiting_;
     if (erase_ && hasBackground_) fill(drawn);
     waiting_ = QRegion();
     erase_ = false;
@@ -44,8 +44,9 @@ QImage& ClientArea::surface() {
 
 void ClientArea::fill(const QRegion& region) {
     QPainter painter(&surface());
-    for (const QRect& part : region)
+    for (const QRect& part : region) {
         painter.fillRect(part, palette().window());
+    }
 }
 
 void ClientArea::show(const QRegion& drawn) {
@@ -59,6 +60,11 @@ void ClientArea::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(0, 0, picture);
+}
+
+// A window that was only minimised still has its picture.
+void ClientArea::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) invalidate(whole(), true);
 }
 
 void ClientArea::resizeEvent(QResizeEvent* event) {

@@ -48,7 +48,7 @@ void ComboBox::place(const QRect& rectangle) {
 LRESULT ComboBox::receive(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case CB_ADDSTRING:
-            return addString(reinterpret_cast<const char*>(lParam));
+            return addString(reinterpret_cast<const char*>(lParam));  // NOLINT(performance-no-int-to-ptr)
         case CB_DELETESTRING:
             return deleteString(wParam);
         case CB_GETCOUNT:

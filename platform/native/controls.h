@@ -29,8 +29,9 @@ constexpr UINT MB_OK = 0x0000;
 constexpr UINT MB_OKCANCEL = 0x0001;
 
 // Shows a box and waits for its answer: IDOK or IDCANCEL; closing a box with one button answers with that button. The
-// box is modal to `owner` (null: to nothing but this thread). Without a display the title and the text go to standard
-// error, and the result is 0.
+// box blocks `owner`. Without an owner it blocks every window of the program (on Windows none): the program waits for
+// the answer, and a click elsewhere would start the next command inside this one. Without a display the title and the
+// text go to standard error, and the result is 0.
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 
 // Shows a dialog of the resources, modal to `owner`, and returns what EndDialog was given; -1 if it can't be shown.

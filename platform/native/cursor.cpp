@@ -56,8 +56,9 @@ CursorPause::~CursorPause() {
 }
 
 void dropOverrideCursor() {
-    while (QGuiApplication::overrideCursor() != nullptr)
+    while (QGuiApplication::overrideCursor() != nullptr) {
         QGuiApplication::restoreOverrideCursor();
+    }
 }
 
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name) {

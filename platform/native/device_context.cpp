@@ -102,8 +102,9 @@ HDC CreateCompatibleDC(HDC) {
 
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ object) {
     DeviceContext* const context = findDeviceContext(dc);
-    if (context == nullptr || context->target != DeviceContext::Target::bitmap || bitmapOf(object) == nullptr)
+    if (context == nullptr || context->target != DeviceContext::Target::bitmap || bitmapOf(object) == nullptr) {
         return nullptr;
+    }
     return std::exchange(context->bitmap, static_cast<HBITMAP>(object));
 }
 
@@ -112,7 +113,8 @@ BOOL DeleteDC(HDC dc) {
 }
 
 BOOL DeleteObject(HGDIOBJ object) {
-    for (const auto& [handle, context] : contexts)
+    for (const auto& [handle, context] : contexts) {
         if (context->bitmap == object) return FALSE;
+    }
     return deleteBitmap(object) ? TRUE : FALSE;
 }

@@ -50,8 +50,9 @@ std::optional<DialogTemplate> readDialogTemplate(ResourceBytes bytes) {
         dialog.points = bytes.u16();
         dialog.font = QString::fromStdU16String(bytes.text());
     }
-    for (WORD i = 0; i < itemCount && !bytes.failed(); ++i)
+    for (WORD i = 0; i < itemCount && !bytes.failed(); ++i) {
         dialog.items.push_back(readItem(bytes));
+    }
     if (bytes.failed() || dialog.style == extendedForm) return std::nullopt;
     return dialog;
 }

@@ -36,8 +36,9 @@ Header readHeader(ResourceBytes& bytes) {
     if (!rightSize || !plain || !known(header.bits) || !fits) return {};
     header.rows = std::abs(header.rows);
     if (header.bits <= 8 && (colorCount == 0 || colorCount > 1U << header.bits)) colorCount = 1U << header.bits;
-    for (std::uint32_t i = 0; i < colorCount && !bytes.failed(); ++i)
+    for (std::uint32_t i = 0; i < colorCount && !bytes.failed(); ++i) {
         header.colors.push_back(bytes.u32() | 0xFF000000);
+    }
     header.colors.resize(256, qRgb(0, 0, 0));
     if (bytes.failed()) header.width = 0;
     return header;
@@ -53,13 +54,15 @@ QRgb pixelAt(std::span<const std::uint8_t> row, int x, int bits, const std::vect
 // Calls `set(x, y, color)` for each pixel. False if there are too few bytes.
 template <typename Set>
 bool readRows(ResourceBytes& bytes, const Header& header, Set set) {
-    const auto rowSize = static_cast<std::size_t>((header.width * header.bits + 31) / 32 * 4);
+    const std::size_t rowSize =
+        (static_cast<std::size_t>(header.width) * static_cast<std::size_t>(header.bits) + 31) / 32 * 4;
     for (int i = 0; i < header.rows; ++i) {
         const auto row = bytes.take(rowSize);
         if (bytes.failed()) return false;
         const int y = header.lowestFirst ? header.rows - 1 - i : i;
-        for (int x = 0; x < header.width; ++x)
+        for (int x = 0; x < header.width; ++x) {
             set(x, y, pixelAt(row, x, header.bits, header.colors));
+        }
     }
     return true;
 }

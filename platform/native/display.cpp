@@ -68,16 +68,18 @@ bool waylandAnswers() {
 bool usable(const QByteArray& platform, XServer& xServer) {
     const QByteArray name = platform.split(':').first();
     if (name == "xcb") return xServer.answers() && pluginLoads(name);
-    if (name.startsWith("wayland"))
+    if (name.startsWith("wayland")) {
         return waylandAnswers() && pluginLoads(name == "wayland" ? QByteArray("wayland-generic") : name);
+    }
     // These need no server. The rest draw on bare hardware, which can't be tried beforehand.
     return (name == "offscreen" || name == "minimal" || name == "vnc") && pluginLoads(name);
 }
 
 // Empty if there is no screen.
 QByteArray choosePlatform(XServer& xServer) {
-    for (const QByteArray& platform : qgetenv("QT_QPA_PLATFORM").split(';'))
+    for (const QByteArray& platform : qgetenv("QT_QPA_PLATFORM").split(';')) {
         if (usable(platform, xServer)) return platform;
+    }
     return usable("xcb", xServer) ? QByteArray("xcb") : QByteArray();
 }
 
@@ -90,10 +92,11 @@ class VariableForStart {
     VariableForStart(const VariableForStart&) = delete;
     VariableForStart& operator=(const VariableForStart&) = delete;
     ~VariableForStart() {
-        if (wasSet_)
+        if (wasSet_) {
             qputenv(name_, old_);
-        else
+        } else {
             qunsetenv(name_);
+        }
     }
 
     const QByteArray& old() const { return old_; }

@@ -41,8 +41,9 @@ std::vector<Line> readLines(QString source) {
     source.replace("\r\n", "\n").replace('\r', '\n');
     if (source.endsWith('\n')) source.chop(1);
     std::vector<Line> lines;
-    for (const QString& line : source.split('\n'))
+    for (const QString& line : source.split('\n')) {
         lines.push_back(readLine(line));
+    }
     return lines;
 }
 

@@ -17,8 +17,9 @@ int main(int argc, char** argv) {
     __argc = argc;
     __argv = argv;
     std::string commandLine;
-    for (int i = 1; i < argc; ++i)
+    for (int i = 1; i < argc; ++i) {
         commandLine.append(i == 1 ? "" : " ").append(argv[i]);
+    }
     openDisplay();
     const int result = WinMain(GetModuleHandleA(nullptr), nullptr, commandLine.data(), SW_SHOWNORMAL);
     closeDisplay();

@@ -32,7 +32,8 @@ QMenuBar* createMenuBar(LPCSTR menuName, HWND window, QWidget* frame) {
     const std::optional<std::vector<MenuItem>> items = loadMenuTemplate(menuName);
     if (!items.has_value()) return nullptr;
     auto* const bar = new QMenuBar(frame);
-    for (const MenuItem& item : *items)
+    for (const MenuItem& item : *items) {
         if (item.isPopup) addItems(*bar->addMenu(item.text), item.items, window);
+    }
     return bar;
 }

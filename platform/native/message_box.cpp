@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr UINT buttonsOfType = 0xF;
+
 // A box has a handle while it shows, so that it is found by its title.
 class Box : public Window {
  public:
@@ -59,7 +61,7 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     const Window* const ownerWindow = owner == nullptr ? nullptr : findWindow(owner);
     if (owner != nullptr && ownerWindow == nullptr) return 0;
     auto box = std::make_unique<Box>(owner == nullptr ? nullptr : ownerWindow->widget(), qtText(text), qtText(caption),
-                                     type == MB_OKCANCEL);
+                                     (type & buttonsOfType) == MB_OKCANCEL);
     Box& asked = *box;
     HWND const handle = addWindow(std::move(box))->handle();
     const int answer = asked.ask();

@@ -121,8 +121,9 @@ void waitForScreen(const std::function<bool()>& done) {
     timer.start();
     QTimer tick;  // wakes a wait for events that don't come
     tick.start(screenStep);
-    while (!done() && !timer.hasExpired(longestWaitForScreen))
+    while (!done() && !timer.hasExpired(longestWaitForScreen)) {
         runEvents(Loop::screen, QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+    }
 }
 
 BOOL GetMessageA(MSG* message, HWND, UINT, UINT) {

@@ -34,15 +34,17 @@ std::uint32_t ResourceBytes::u32() {
 
 std::u16string ResourceBytes::text() {
     std::u16string text;
-    for (char16_t unit = u16(); unit != 0; unit = u16())
+    for (char16_t unit = u16(); unit != 0; unit = u16()) {
         text.push_back(unit);
+    }
     return text;
 }
 
 std::u16string ResourceBytes::text(std::size_t length) {
     std::u16string text;
-    for (std::size_t i = 0; i < length && !failed_; ++i)
+    for (std::size_t i = 0; i < length && !failed_; ++i) {
         text.push_back(u16());
+    }
     return text;
 }
 

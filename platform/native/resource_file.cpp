@@ -41,8 +41,9 @@ bool nextEntry(ResourceBytes& file, Entry& entry) {
 
 std::optional<std::span<const std::uint8_t>> ResourceFile::find(WORD type, WORD id) const {
     ResourceBytes file(bytes_);
-    for (Entry entry; file.left() > 0 && nextEntry(file, entry);)
+    for (Entry entry; file.left() > 0 && nextEntry(file, entry);) {
         if (entry.type.isId(type) && entry.name.isId(id)) return entry.contents;
+    }
     return std::nullopt;
 }
 
@@ -50,11 +51,13 @@ std::string ResourceFile::string(UINT id) const {
     const auto table = find(resourceType::stringTable, static_cast<WORD>(id / stringsPerTable + 1));
     if (!table.has_value()) return {};
     ResourceBytes bytes(*table);
-    for (UINT i = 0; i < id % stringsPerTable; ++i)
+    for (UINT i = 0; i < id % stringsPerTable; ++i) {
         bytes.text(bytes.u16());
+    }
     std::string text;
-    for (const char16_t unit : bytes.text(bytes.u16()))
+    for (const char16_t unit : bytes.text(bytes.u16())) {
         text.push_back(static_cast<char>(byte1252FromUnicode(unit)));
+    }
     return bytes.failed() ? std::string() : text;
 }
 

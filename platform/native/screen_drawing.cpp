@@ -64,8 +64,9 @@ class Overlay : public QWidget {
 };
 
 Overlay* overlayOf(const QWidget& window) {
-    for (QObject* const child : window.children())
+    for (QObject* const child : window.children()) {
         if (auto* const overlay = dynamic_cast<Overlay*>(child); overlay != nullptr) return overlay;
+    }
     return nullptr;
 }
 

@@ -32,8 +32,9 @@ const SpokenLines::Line* SpokenLines::labelOf(const QRect& control) const {
 
 void SpokenLines::tell(QWidget& window, const QWidget& client) const {
     QStringList all;
-    for (const Line& line : lines_)
+    for (const Line& line : lines_) {
         all.append(line.text);
+    }
     const QString description = all.join('\n');
     if (window.accessibleDescription() != description) window.setAccessibleDescription(description);
     for (QComboBox* const combo : client.findChildren<QComboBox*>(QString(), Qt::FindDirectChildrenOnly)) {

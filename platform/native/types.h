@@ -35,7 +35,7 @@ using LPDWORD = DWORD*;
 
 #define PLATFORM_HANDLE(name) \
     struct name##__;          \
-    using name = name##__*
+    using name = struct name##__*  // NOLINT(bugprone-macro-parentheses): a type
 
 PLATFORM_HANDLE(HWND);
 PLATFORM_HANDLE(HINSTANCE);
@@ -78,7 +78,7 @@ constexpr WPARAM MAKEWPARAM(ULONG_PTR low, ULONG_PTR high) {
 
 // A resource or cursor id in place of a name.
 inline LPCSTR MAKEINTRESOURCEA(ULONG_PTR id) {
-    return reinterpret_cast<LPCSTR>(id & 0xFFFF);
+    return reinterpret_cast<LPCSTR>(id & 0xFFFF);  // NOLINT(performance-no-int-to-ptr): Windows' own trick
 }
 
 #endif

@@ -47,39 +47,45 @@ Window* findWindow(HWND window) {
 
 std::vector<HWND> allWindows() {
     std::vector<HWND> all;
-    for (const auto& [handle, window] : windows())
+    for (const auto& [handle, window] : windows()) {
         all.push_back(window->handle());
+    }
     return all;
 }
 
 std::vector<HWND> controlsOf(HWND window) {
     std::vector<HWND> controls;
-    for (const auto& [handle, control] : windows())
+    for (const auto& [handle, control] : windows()) {
         if (control->parent() == window) controls.push_back(control->handle());
+    }
     return controls;
 }
 
 HWND windowOfWidget(const QWidget* widget) {
-    for (const auto& [handle, window] : windows())
+    for (const auto& [handle, window] : windows()) {
         if (window->widget() == widget) return window->handle();
+    }
     return nullptr;
 }
 
 void dropWindow(HWND window) {
-    for (HWND const control : controlsOf(window))
+    for (HWND const control : controlsOf(window)) {
         dropWindow(control);
+    }
     forgetMessages(window);
     windows().take(window);
 }
 
 void dropWindows() {
-    for (HWND const window : allWindows())
+    for (HWND const window : allWindows()) {
         dropWindow(window);
+    }
 }
 
 HWND findOwnWindow(const char* title) {
     const QString wanted = qtText(title);
-    for (const auto& [handle, window] : windows())
+    for (const auto& [handle, window] : windows()) {
         if (window->parent() == nullptr && window->widget()->windowTitle() == wanted) return window->handle();
+    }
     return nullptr;
 }

@@ -14,8 +14,9 @@ std::deque<WindowClass> classes;
 constexpr ATOM firstAtom = 0xC000;
 
 const WindowClass* find(LPCSTR name) {
-    for (const WindowClass& windowClass : classes)
+    for (const WindowClass& windowClass : classes) {
         if (sameClassName(windowClass.name.c_str(), name)) return &windowClass;
+    }
     return nullptr;
 }
 

@@ -15,7 +15,6 @@ void show(Window& window) {
     QWidget& widget = *window.widget();
     widget.show();
     if (window.clientArea() == nullptr) return;
-    window.clientArea()->invalidate(window.clientArea()->whole(), true);
     // Gives it the keyboard where no window manager does; a splash window has none.
     if (widget.windowType() != Qt::SplashScreen) widget.activateWindow();
     waitForScreen([&widget] { return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed(); });
@@ -28,10 +27,11 @@ BOOL ShowWindow(HWND window, int showCommand) {
     if (found == nullptr) return FALSE;
     const bool wasVisible = found->widget()->isVisible();
     found->noteVisible(showCommand != SW_HIDE);
-    if (showCommand == SW_HIDE)
+    if (showCommand == SW_HIDE) {
         found->widget()->hide();
-    else if (!wasVisible)
+    } else if (!wasVisible) {
         show(*found);
+    }
     return wasVisible ? TRUE : FALSE;
 }
 
@@ -88,7 +88,7 @@ LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM, LPARAM) {
     if (message == WM_CLOSE) DestroyWindow(window);
     if (message == WM_PAINT) {
-        PAINTSTRUCT paint;
+        PAINTSTRUCT paint{};
         if (BeginPaint(window, &paint) != nullptr) EndPaint(window, &paint);
     }
     return 0;

@@ -3,8 +3,9 @@
 //
 // A window procedure receives WM_CREATE inside CreateWindowExA, WM_PAINT when a part of its client area must be drawn,
 // WM_COMMAND from its controls, its menu and its accelerators, WM_CLOSE when the user asks it to close and WM_DESTROY
-// while it is destroyed, in Windows' order. Left out: every other message, such as those of mouse, keyboard, size and
-// focus, which Qt handles by itself.
+// while it is destroyed, in Windows' order. Controls and accelerators send theirs; the menu and the close button post
+// theirs, for the message loop to deliver. Keys pass through the loop too (key_messages.h). Left out: every other
+// message, such as those of mouse, size and focus, which Qt handles by itself.
 //
 // Without a display no window can be created; everything else here then refuses or does nothing.
 #ifndef PLATFORM_NATIVE_WINDOWS_H
@@ -83,7 +84,8 @@ ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 
 // Creates a top-level window of a registered class, or with WS_CHILD a control ("ComboBox", "Button", any case) in
 // `parent`, whose id stands in place of `menu`. The menu of a top-level window comes from its class. Position and size
-// are those of the whole window, of a combo box with its list opened; CW_USEDEFAULT leaves them to the system. Sends
+// are those of the whole window without what a window manager adds, of a combo box with its list opened; CW_USEDEFAULT
+// leaves them to the system. A window without WS_CAPTION stands exactly there, without a frame, in front of all. Sends
 // WM_CREATE before it returns, when the client rectangle is known already; an answer of -1 destroys the window again.
 // Null on failure: no such class, no such parent, no display.
 HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
@@ -125,7 +127,8 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 // Left out: search by class (`className` must be null) and of any title (`windowName` must not be null).
 HWND FindWindowA(LPCSTR className, LPCSTR windowName);
 
-// Waits for the next message. 0 once PostQuitMessage was called and no other message waits (`wParam` is then its code).
+// Waits for the next message. 0 once PostQuitMessage was called and no other message waits (`wParam` is then its code);
+// without a display, where no message can come, 0 at once. Left out: the choice of messages, which must be 0.
 BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last);
 
 // Follows a key message with its character message, if it stands for one.
