@@ -37,7 +37,7 @@ class RunningProgram {
     void clickMoveOut() const { clickButton(60, 35); }
     void chooseFileItem(char mnemonic) const;
 
-    // Waits for a box with this title and presses the key in it.
+    // Waits for a box whose title matches this pattern and presses the key in it.
     void answerBox(const std::string& title, const std::string& key) const;
 
     // Asks the window to close, as a window manager does.

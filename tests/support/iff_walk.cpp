@@ -69,7 +69,12 @@ void checkMap(IffWalk& walk) {
         if (chunk.type == "XXXX" || chunk.type == "rsmp") continue;
         ++listed;
         chunk.size = 0;
-        if (std::ranges::count(walk.mapEntries, chunk) == 1) continue;
+        const auto isChunks = [&chunk](WalkedChunk entry) {
+            // A save writes the Sim's record name over this chunk's label, and the map keeps the template's.
+            if (chunk.type == "OBJD") entry.label = chunk.label;
+            return entry == chunk;
+        };
+        if (std::ranges::count_if(walk.mapEntries, isChunks) == 1) continue;
         walk.fault = "the map doesn't list " + chunk.type + " " + std::to_string(chunk.id) + " once";
     }
     if (walk.mapEntries.size() != listed) walk.fault = "the map lists what isn't there";

@@ -30,7 +30,8 @@ struct IffWalk {
 };
 
 // A whole file is valid when its header is the game's, its chunks tile the rest, and the resource map, if the header
-// names one, lists each chunk but itself and free room once, with the offset, id, flags and label that the chunk has.
+// names one, lists each chunk but itself and free room once, with the offset, id, flags and label that the chunk has;
+// the label of an object definition may differ.
 IffWalk walkIff(std::span<const std::uint8_t> file);
 
 // A bare run of chunks, such as a family template: valid when they tile it.
