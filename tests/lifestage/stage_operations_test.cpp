@@ -29,54 +29,52 @@ struct Person {
     BodyEnding ending = BodyEnding::atEntry32;
     int bodySkill = 0;
     const char* head = "c001fclgt_amanda01";
+    bool file = true;
 };
 
+SampleCharacter characterOf(const Person& person) {
+    SampleCharacter character{.tag = person.age == 9 ? "child" : "adult",
+                              .slots = person.age == 9 ? childSlots() : teenSlots()};
+    if (person.age == 9) character.slots[sampleSlot::f100Mesh] = "f100,BODY";
+    setHead(character.slots, "oldMesh", person.head);
+    character.ending = person.ending;
+    return character;
+}
+
+SampleNeighborhood contentOf(const Person& person) {
+    SampleNeighborhood content = householdOf({characterOf(person)});
+    SampleNeighbor& neighbor = content.neighbors.front();
+    neighbor.version = person.version;
+    neighbor.personValues.fill(7);
+    neighbor.personValues[15] = person.bodySkill;
+    neighbor.age = person.age;
+    neighbor.kind = person.kind;
+    neighbor.skinTone = person.tone;
+    return content;
+}
+
 // One Sim in a family of its own, every person value but the body skill set to 7.
-class OneSim {
+class OneSim : public TestNeighborhood {
  public:
-    explicit OneSim(const Person& person) : neighborhood_(contentFor(person), {characterFor(person)}) {
-        neighborhood_->family(0)->memberCount();
-        neighborhood_.files().write("skinsets.cfg",
-                                    "[a]\nCHILD=C001fclgt_Amanda01;\nTEENAGER=teenSkin;teenMesh,HEAD-HEAD\n"
-                                    "ADULT=adultSkin;adultMesh,HEAD-HEAD\n");
+    explicit OneSim(const Person& person)
+        : TestNeighborhood(contentOf(person),
+                           person.file ? std::vector{characterOf(person)} : std::vector<SampleCharacter>()) {
+        family().memberCount();
+        files().write("skinsets.cfg",
+                      "[a]\nCHILD=C001fclgt_Amanda01;\nTEENAGER=teenSkin;teenMesh,HEAD-HEAD\n"
+                      "ADULT=adultSkin;adultMesh,HEAD-HEAD\n");
     }
 
-    Sim& operator*() const { return neighborhood_.sim(0); }
-    Sim* operator->() const { return &neighborhood_.sim(0); }
-    Family& family() const { return neighborhood_.family(); }
-    const TempDirectory& files() const { return neighborhood_.files(); }
-    std::string slot(bodySlot::Index index) const { return neighborhood_.sim(0).bodyStrings()->slot(index); }
+    std::string slot(bodySlot::Index index) const { return sim(0).bodyStrings()->slot(index); }
+    std::string headSkin() const { return slot(bodySlot::headSkin); }
+    bool marked() const { return sim(0).characterDirty() && sim(0).recordDirty(); }
 
-    // Whether nothing says that the Sim was changed.
-    bool untouched() const {
-        return !neighborhood_.sim(0).characterDirty() && !neighborhood_.sim(0).recordDirty() &&
-               !neighborhood_->isDirty();
+    std::string personValues() const {
+        std::string values;
+        for (std::size_t k = 0; k < 29; ++k)
+            values += std::to_string(sim(0).personValue(k)) + " ";
+        return values;
     }
-
- private:
-    static SampleCharacter characterFor(const Person& person) {
-        SampleCharacter character;
-        character.tag = person.age == 9 ? "child" : "adult";
-        character.slots = person.age == 9 ? childSlots() : teenSlots();
-        if (person.age == 9) character.slots[sampleSlot::f100Mesh] = "f100,BODY";
-        setHead(character.slots, "oldMesh", person.head);
-        character.ending = person.ending;
-        return character;
-    }
-
-    static SampleNeighborhood contentFor(const Person& person) {
-        SampleNeighborhood content = householdOf({characterFor(person)});
-        SampleNeighbor& neighbor = content.neighbors.front();
-        neighbor.age = person.age;
-        neighbor.kind = person.kind;
-        neighbor.skinTone = person.tone;
-        neighbor.version = person.version;
-        neighbor.personValues.fill(7);
-        neighbor.personValues[15] = person.bodySkill;
-        return content;
-    }
-
-    TestNeighborhood neighborhood_;
 };
 
 // A seed whose first draw is `wanted`.
@@ -86,13 +84,6 @@ std::uint32_t seedFor(int wanted) {
         generator.seed(seed);
         if (generator.draw() == wanted) return seed;
     }
-}
-
-std::string personValues(const Sim& sim) {
-    std::string values;
-    for (std::size_t k = 0; k < 29; ++k)
-        values += std::to_string(sim.personValue(k)) + " ";
-    return values;
 }
 
 TEST(ChildToTeenTest, DressesAndMarksTheTeen) {
@@ -117,7 +108,7 @@ TEST(ChildToTeenTest, DressesAndMarksTheTeen) {
         if (!row.expansion) std::filesystem::remove_all(gameDirectory(sim.files().path("prefix")) / "ExpansionPack4");
 
         randomGenerator().seed(seedFor(0));
-        EXPECT_EQ(childToTeen(&*sim), 1);
+        EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
         const std::pair<bodySlot::Index, std::string> slots[] = {
             {bodySlot::bodyMesh, row.body},
             {bodySlot::bodySkin, row.outfit},
@@ -141,11 +132,11 @@ TEST(ChildToTeenTest, DressesAndMarksTheTeen) {
         };
         for (const auto& [index, text] : slots)
             EXPECT_EQ(sim.slot(index), text) << "slot " << index;
-        EXPECT_EQ(sim->stage(), 5);
-        EXPECT_EQ(sim->age(), 18);
-        EXPECT_TRUE(sim->characterTag());
-        EXPECT_TRUE(sim->characterDirty() && sim->recordDirty());
-        EXPECT_EQ(personValues(*sim), "7 7 7 7 7 7 7 7 0 0 0 7 7 0 7 0 0 7 7 7 7 7 7 7 7 7 7 4 0 ");
+        EXPECT_EQ(sim.sim(0).stage(), 5);
+        EXPECT_EQ(sim.sim(0).age(), 18);
+        EXPECT_TRUE(sim.sim(0).characterTag());
+        EXPECT_TRUE(sim.marked());
+        EXPECT_EQ(sim.personValues(), "7 7 7 7 7 7 7 7 0 0 0 7 7 0 7 0 0 7 7 7 7 7 7 7 7 7 7 4 0 ");
     }
 }
 
@@ -166,11 +157,11 @@ TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         OneSim sim(row.person);
-        const std::string head = sim.slot(bodySlot::headSkin);
+        const std::string head = sim.headSkin();
         const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(childToTeen(&*sim), -1);
-        EXPECT_TRUE(sim.untouched());
-        EXPECT_EQ(sim.slot(bodySlot::headSkin), head);
+        EXPECT_EQ(childToTeen(&sim.sim(0)), -1);
+        EXPECT_FALSE(sim->isDirty() || sim.marked());
+        EXPECT_EQ(sim.headSkin(), head);
         ASSERT_EQ(box.shown(), row.numbers != nullptr);
         if (!box.shown()) continue;
         EXPECT_EQ(box.title(), "Error");
@@ -181,7 +172,7 @@ TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
         EXPECT_EQ(box.buttons(), std::vector<std::string>{"OK"});
     }
     OneSim later({.version = 8, .ending = BodyEnding::atEntry29});
-    EXPECT_EQ(childToTeen(&*later), 1) << "version 8 of both passes";
+    EXPECT_EQ(childToTeen(&later.sim(0)), 1) << "version 8 of both passes";
 }
 
 TEST(StageOperationsTest, AskAboutAHeadThatNoSetHolds) {
@@ -191,17 +182,17 @@ TEST(StageOperationsTest, AskAboutAHeadThatNoSetHolds) {
             OneSim sim({.age = toTeen ? 9 : 18, .kind = toTeen ? 1 : 0, .head = "stray"});
             if (toTeen) sim.files().remove("skinsets.cfg");
             const AnsweredBox box = answerNextBox(answer);
-            EXPECT_EQ(toTeen ? childToTeen(&*sim) : teenToAdult(&*sim), answer == IDOK ? 1 : 0);
+            EXPECT_EQ(toTeen ? childToTeen(&sim.sim(0)) : teenToAdult(&sim.sim(0)), answer == IDOK ? 1 : 0);
             ASSERT_TRUE(box.shown());
             EXPECT_EQ(box.title(), "Proceed?");
             EXPECT_EQ(box.text(), toTeen ? noTeenHead : noAdultHead);
             EXPECT_EQ(box.buttons().size(), 2U);
             if (answer == IDOK) {
                 EXPECT_EQ(sim.slot(bodySlot::headMesh), toTeen ? "c012fa_gma2,HEAD-HEAD" : "c007ma_gpa1,HEAD-HEAD");
-                EXPECT_EQ(sim.slot(bodySlot::headSkin), toTeen ? "c012falgt_asian" : "c007malgt_alt");
+                EXPECT_EQ(sim.headSkin(), toTeen ? "c012falgt_asian" : "c007malgt_alt");
             } else {
-                EXPECT_TRUE(sim.untouched());
-                EXPECT_EQ(sim.slot(bodySlot::headSkin), "stray");
+                EXPECT_FALSE(sim->isDirty() || sim.marked());
+                EXPECT_EQ(sim.headSkin(), "stray");
                 EXPECT_EQ(sim.family().adultCount(), 0);
             }
         }
@@ -225,39 +216,37 @@ TEST(TeenToAdultTest, BodyTypeFollowsSkillAndDraw) {
 
 TEST(TeenToAdultTest, MakesAnAdultOfAnyVersion) {
     OneSim sim({.age = 18, .version = 6, .bodySkill = 1000, .head = "TEENSKIN"});
-    EXPECT_EQ(teenToAdult(&*sim), 1);
-    EXPECT_EQ(sim->stage(), 6);
-    EXPECT_EQ(sim->age(), 27);
+    EXPECT_EQ(teenToAdult(&sim.sim(0)), 1);
+    EXPECT_EQ(sim.sim(0).stage(), 6);
+    EXPECT_EQ(sim.sim(0).age(), 27);
     EXPECT_EQ(sim.family().adultCount(), 1);
-    EXPECT_TRUE(sim->characterDirty() && sim->recordDirty());
+    EXPECT_TRUE(sim.marked());
     EXPECT_EQ(sim.slot(bodySlot::bodySkin), "B002FAFitlgt_mom01");
-    EXPECT_EQ(sim.slot(bodySlot::headSkin), "adultSkin");
+    EXPECT_EQ(sim.headSkin(), "adultSkin");
     EXPECT_EQ(sim.slot(bodySlot::headMesh), "adultMesh,HEAD-HEAD");
     EXPECT_EQ(sim.slot(bodySlot::f100Mesh), "");
-    EXPECT_EQ(sim->bodyStrings()->version(), 6);
-    EXPECT_EQ(personValues(*sim), "7 7 7 7 7 7 7 7 7 7 7 7 7 7 7 1000 7 7 7 7 7 7 7 7 7 7 7 0 0 ");
-    EXPECT_EQ(teenToAdult(&*sim), -1) << "an adult stays one";
+    EXPECT_EQ(sim.sim(0).bodyStrings()->version(), 6);
+    EXPECT_EQ(sim.personValues(), "7 7 7 7 7 7 7 7 7 7 7 7 7 7 7 1000 7 7 7 7 7 7 7 7 7 7 7 0 0 ");
+    EXPECT_EQ(teenToAdult(&sim.sim(0)), -1) << "an adult stays one";
 }
 
 TEST(StageOperationsTest, GoFromChildToAdultWithoutASaveBetween) {
     OneSim child({});
     setenv("WINEPREFIX", "/nowhere", 1);
-    EXPECT_EQ(childToTeen(&*child), 1);
+    EXPECT_EQ(childToTeen(&child.sim(0)), 1);
     EXPECT_EQ(child.slot(bodySlot::w100Mesh), "") << "without a game in the registry there is no expansion";
-    EXPECT_EQ(teenToAdult(&*child), 1);
-    EXPECT_EQ(child->age(), 27);
+    EXPECT_EQ(teenToAdult(&child.sim(0)), 1);
+    EXPECT_EQ(child.sim(0).age(), 27);
     EXPECT_EQ(child.family().adultCount(), 1);
     EXPECT_EQ(child.slot(bodySlot::ageText), "27");
-    EXPECT_TRUE(child->characterDirty() && child->recordDirty());
+    EXPECT_TRUE(child.marked());
 }
 
 TEST(StageOperationsTest, RefuseASimWithoutBodyStrings) {
     for (const int age : {9, 18}) {
-        SampleNeighborhood content = householdOf({SampleCharacter{}});
-        content.neighbors.front().age = age;
-        TestNeighborhood withoutFile(content);
-        EXPECT_EQ(age == 9 ? childToTeen(&withoutFile.sim(0)) : teenToAdult(&withoutFile.sim(0)), -1);
-        EXPECT_FALSE(withoutFile->isDirty());
+        OneSim sim({.age = age, .file = false});
+        EXPECT_EQ(age == 9 ? childToTeen(&sim.sim(0)) : teenToAdult(&sim.sim(0)), -1);
+        EXPECT_FALSE(sim->isDirty());
         EXPECT_EQ(age == 9 ? childToTeen(nullptr) : teenToAdult(nullptr), -1);
     }
 }
