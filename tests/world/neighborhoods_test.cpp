@@ -27,8 +27,9 @@ class NeighborhoodsTest : public testing::Test {
 };
 
 TEST_F(NeighborhoodsTest, OneThatCannotBeReadIsToldAndHidesTheRest) {
+    neighborhoods[0] = std::make_unique<Neighborhood>();
     load();
-    EXPECT_EQ(listedNeighborhoodCount(), 0);
+    EXPECT_EQ(listedNeighborhoodCount(), 0) << "no directory, no neighborhood";
     files_.write("UserData2", "a file, not a directory");
     for (const char* name : {"UserData", "UserData3", "UserData5"})
         install(name);
