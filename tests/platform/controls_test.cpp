@@ -8,15 +8,15 @@
 
 namespace {
 
-constexpr DWORD comboStyle = CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL | WS_VISIBLE;
 constexpr int none = -1;
 
 class ControlsTest : public testing::Test {
  protected:
     ControlsTest() { window.show(); }
 
-    HWND combo(const std::vector<const char*>& entries, int id = 7, int top = 10) const {
-        HWND const made = window.addControl("combobox", "", comboStyle, id, {160, top, 360, top + 200});
+    HWND combo(const std::vector<const char*>& entries, int top = 10) const {
+        constexpr DWORD style = CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL | WS_VISIBLE;
+        HWND const made = window.addControl("combobox", "", style, 7, {160, top, 200, 200});
         for (const char* const entry : entries)
             add(made, entry);
         return made;
@@ -29,7 +29,6 @@ class ControlsTest : public testing::Test {
         return SendMessageA(box, CB_DELETESTRING, static_cast<WPARAM>(index), 0);
     }
     static int selection(HWND box) { return static_cast<int>(SendMessageA(box, CB_GETCURSEL, 0, 0)); }
-    static int count(HWND box) { return static_cast<int>(SendMessageA(box, CB_GETCOUNT, 0, 0)); }
 
     TestWindow window;
 };
@@ -37,12 +36,11 @@ class ControlsTest : public testing::Test {
 }  // namespace
 
 TEST_F(ControlsTest, AComboBoxHoldsTextsAsTheyAre) {
-    HWND const box = combo({"Goth", "Q&A", "caf\xE9 \x80"});
-    EXPECT_EQ(add(box, ""), 3);
-    EXPECT_EQ(count(box), 4);
-    const char* const expected[] = {"Goth", "Q&A", "caf\xE9 \x80", ""};
+    const std::vector<const char*> texts = {"Goth", "Q&A", "caf\xE9 \x80", ""};
+    HWND const box = combo(texts);
+    EXPECT_EQ(SendMessageA(box, CB_GETCOUNT, 0, 0), 4);
     for (int i = 0; i < 4; ++i)
-        EXPECT_EQ(entryText(box, i), expected[i]);
+        EXPECT_EQ(entryText(box, i), texts[static_cast<std::size_t>(i)]);
     EXPECT_EQ(selection(box), none) << "nothing was picked";
 }
 
@@ -63,6 +61,7 @@ TEST_F(ControlsTest, EveryPickIsToldAlsoOfTheSameEntry) {
         SCOPED_TRACE(row.what);
         row.act();
         EXPECT_EQ(window.takeLog(), Log{"command 7 1"});
+        EXPECT_EQ(reinterpret_cast<HWND>(window.sender), box);
         EXPECT_EQ(selection(box), row.selected);
     }
     turnWheel(box, false);
@@ -74,9 +73,8 @@ TEST_F(ControlsTest, ADeletionKeepsTheSelectedEntrySelectedUnlessItIsThatOne) {
         const char* what;
         int selected, deleted, left, afterwards;
     } rows[] = {
-        {"the selected one", 1, 1, 2, none}, {"one above", 2, 0, 2, 1},
-        {"one below", 0, 2, 2, 0},           {"without a selection", none, 0, 2, none},
-        {"no such entry", 1, 3, CB_ERR, 1},  {"a wild index", 1, -1, CB_ERR, 1},
+        {"the selected one", 1, 1, 2, none},       {"one above", 2, 0, 2, 1},          {"one below", 0, 2, 2, 0},
+        {"without a selection", none, 0, 2, none}, {"no such entry", 1, 3, CB_ERR, 1}, {"wild", 1, -1, CB_ERR, 1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
@@ -95,32 +93,28 @@ TEST_F(ControlsTest, AFullListIsEmptiedAtOnceAndAnEmptyOneToo) {
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < 820; ++i)
         add(box, "A Sim's name");
-    EXPECT_EQ(selection(box), none);
     for (int i = 820; i > 0; --i)
         EXPECT_EQ(remove(box, 0), i - 1);
     for (int i = 0; i < 820; ++i)
         EXPECT_EQ(remove(box, 0), CB_ERR);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(500));
-    EXPECT_EQ(count(box), 0);
     EXPECT_EQ(add(box, "anew"), 0);
     EXPECT_EQ(selection(box), none);
 }
 
 TEST_F(ControlsTest, ClosedComboBoxesThirtyPixelsApartDoNotOverlap) {
-    const RECT first = placeOf(combo({"a"}, 7, 10));
-    const RECT second = placeOf(combo({"b"}, 8, 40));
-    EXPECT_EQ(first.left, 160);
-    EXPECT_EQ(first.right, 360);
-    EXPECT_EQ(first.top, 10);
+    const RECT first = placeOf(combo({"a"}, 10));
+    const RECT second = placeOf(combo({"b"}, 40));
+    EXPECT_EQ(sides(first), (std::vector<int>{160, 10, 360, first.bottom}));
     EXPECT_EQ(second.top, 40);
     EXPECT_GT(first.bottom, 25);
     EXPECT_LE(first.bottom, second.top - 2);
 }
 
 TEST_F(ControlsTest, AButtonsStyleSaysWhetherItCanBeClicked) {
-    HWND const button = window.addControl("Button", "&Move Out", WS_VISIBLE | WS_DISABLED, 2010, {10, 300, 110, 330});
+    HWND const button = window.addControl("Button", "&Move Out", WS_VISIBLE | WS_DISABLED, 2010, {10, 300, 100, 30});
     EXPECT_EQ(textOf(button), "Move Out");
-    EXPECT_EQ(placeOf(button).bottom, 330);
+    EXPECT_EQ(sides(placeOf(button)), (std::vector<int>{10, 300, 110, 330}));
     window.takeLog();
     constexpr auto enabled = static_cast<LONG>(WS_CHILD | WS_VISIBLE);
     constexpr auto disabled = static_cast<LONG>(WS_CHILD | WS_VISIBLE | WS_DISABLED);
@@ -135,15 +129,5 @@ TEST_F(ControlsTest, AButtonsStyleSaysWhetherItCanBeClicked) {
         EXPECT_EQ(window.takeLog(), style == enabled ? Log{"command 2010 0"} : Log{});
         before = style;
     }
-}
-
-TEST_F(ControlsTest, ANotificationBearsTheControlsHandle) {
-    HWND const button = window.addControl("Button", "One", WS_VISIBLE, 5, {10, 300, 110, 330});
-    LPARAM sender = 0;
-    window.handler = [&sender](HWND, UINT message, WPARAM, LPARAM lParam) -> std::optional<LRESULT> {
-        if (message == WM_COMMAND) sender = lParam;
-        return std::nullopt;
-    };
-    clickButton(button);
-    EXPECT_EQ(reinterpret_cast<HWND>(sender), button);
+    EXPECT_EQ(reinterpret_cast<HWND>(window.sender), button);
 }

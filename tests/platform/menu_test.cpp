@@ -21,7 +21,7 @@ class MenuTest : public testing::Test {
         return window.takeLog();
     }
 
-    TestWindow window{{}, IDR_MAIN_MENU};
+    TestWindow window{IDR_MAIN_MENU};
     HACCEL accelerators = LoadAcceleratorsA(nullptr, MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS));
 };
 
@@ -33,11 +33,7 @@ TEST_F(MenuTest, AnItemPostsItsCommand) {
         const char* command;
     } rows[] = {
         {{"File", "Save"}, "command 32771 0"},
-        {{"File", "Save and Exit"}, "command 32772 0"},
         {{"File", "Exit Without Saving"}, "command 105 0"},
-        {{"Help", "About ..."}, "command 104 0"},
-        {{"Help", "Credits"}, "command 32773 0"},
-        {{"Help", "Online help", "Online Help"}, "command 32775 0"},
         {{"Help", "Online help", "Frequently Asked Questions"}, "command 32777 0"},
         {{"Help", "Donate", "Support TDW with a small donation"}, "command 32776 0"},
     };
@@ -61,8 +57,9 @@ TEST_F(MenuTest, APostedCommandComesBeforeTheQuit) {
 
     chooseMenu(window.handle, {"File", "Save"});
     DestroyWindow(window.handle);
-    runMessages();
-    EXPECT_EQ(window.takeLog(), Log{"destroy"}) << "what was posted to it goes with a window";
+    PostQuitMessage(0);
+    MSG message{};
+    EXPECT_EQ(GetMessageA(&message, nullptr, 0, 0), FALSE) << "what was posted to a window goes with it";
 }
 
 TEST_F(MenuTest, AltAndTheCharacterOfATableEntryGiveItsCommand) {
@@ -81,12 +78,10 @@ TEST_F(MenuTest, AltAndTheCharacterOfATableEntryGiveItsCommand) {
         SCOPED_TRACE(row.key);
         EXPECT_EQ(after([&] { pressKey(window.handle, row.key, row.hold); }), row.expected);
     }
-    EXPECT_EQ(LoadAcceleratorsA(nullptr, MAKEINTRESOURCEA(1)), nullptr);
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_RESOURCE_NAME_NOT_FOUND});
 }
 
 TEST_F(MenuTest, AnAcceleratorKeepsItsKeyFromTheControl) {
-    HWND const combo = window.addControl("ComboBox", "", CBS_DROPDOWNLIST | WS_VISIBLE, 7, {160, 10, 360, 210});
+    HWND const combo = window.addControl("ComboBox", "", CBS_DROPDOWNLIST | WS_VISIBLE, 7, {160, 10, 200, 200});
     for (const char* const entry : {"Goth", "/ slash"})
         SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
     pickEntry(combo, 0);
@@ -98,7 +93,7 @@ TEST_F(MenuTest, AnAcceleratorKeepsItsKeyFromTheControl) {
 }
 
 TEST_F(MenuTest, KeysStillReachButtonsAndMenus) {
-    HWND const button = window.addControl("Button", "Grow", WS_VISIBLE, 5, {10, 300, 110, 330});
+    HWND const button = window.addControl("Button", "Grow", WS_VISIBLE, 5, {10, 300, 100, 30});
     clickButton(button);
     window.takeLog();
     EXPECT_EQ(after([&] { pressKey(window.handle, ' '); }), Log{"command 5 0"}) << "the one clicked has the keyboard";

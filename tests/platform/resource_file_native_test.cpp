@@ -12,51 +12,36 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Two entries: the empty one that opens every file, and table 7 of the strings, whose entries 96 and 97 are "Né" and
-// "x" ("€" in front of it).
-const Bytes stringFile = {
-    0,  0, 0,   0, 32,   0, 0, 0, 0xFF, 0xFF, 0,   0, 0xFF, 0xFF, 0, 0,
-    0,  0, 0,   0, 0,    0, 0, 0, 0,    0,    0,   0, 0,    0,    0, 0,  //
-    13, 0, 0,   0, 32,   0, 0, 0, 0xFF, 0xFF, 6,   0, 0xFF, 0xFF, 7, 0,
-    0,  0, 0,   0, 0,    0, 9, 4, 0,    0,    0,   0, 0,    0,    0, 0,  //
-    2,  0, 'N', 0, 0xE9, 0, 2, 0, 0xAC, 0x20, 'x', 0, 0,
-};
-
-// "&File" with "&Save" 100 (grayed) and a separator, then the item "Quit" 101 that ends the list.
-const Bytes menuBytes = {
-    0,    0, 0,   0,                                                // version, nothing to skip
-    0x10, 0, '&', 0, 'F', 0, 'i', 0, 'l', 0, 'e', 0, 0,   0,        //
-    0x01, 0, 100, 0, '&', 0, 'S', 0, 'a', 0, 'v', 0, 'e', 0, 0, 0,  //
-    0x80, 0, 0,   0, 0,   0,                                        //
-    0x80, 0, 101, 0, 'Q', 0, 'u', 0, 'i', 0, 't', 0, 0,   0,        //
-};
-
-// 8-point "S", title "Te", one push button "O" with id 1.
-const Bytes dialogBytes = {
-    0xC0, 0,    0xC8, 0x80, 0,    0,    0,    0,    1,   0,
-    22,   0,    17,   0,    230,  0,    75,   0,  // style to size
-    0,    0,    0,    0,    'T',  0,    'e',  0,    0,   0,
-    8,    0,    'S',  0,    0,    0,    0xEE, 0xEE,  // menu, class, title, font, filled up to 4
-    1,    0,    1,    0x50, 0,    0,    0,    0,    195, 0,
-    6,    0,    30,   0,    0xFF, 0xFF, 1,    0,             // style to id
-    0xFF, 0xFF, 0x80, 0,    'O',  0,    0,    0,    0,   0,  // class, title, nothing more
-};
-
-Bytes dibHeader(std::uint8_t width, std::uint8_t height, std::uint8_t bits, std::uint8_t colors) {
-    return {40, 0, 0, 0, width, 0, 0, 0, height, 0, 0, 0, 1,      0, bits, 0, 0, 0, 0, 0,
-            0,  0, 0, 0, 0,     0, 0, 0, 0,      0, 0, 0, colors, 0, 0,    0, 0, 0, 0, 0};
+// Numbers of 2 bytes.
+Bytes words(const std::vector<int>& numbers) {
+    Bytes bytes;
+    for (const int number : numbers) {
+        bytes.push_back(static_cast<std::uint8_t>(number & 0xFF));
+        bytes.push_back(static_cast<std::uint8_t>(number >> 8));
+    }
+    return bytes;
 }
 
-Bytes joined(Bytes a, const Bytes& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
+// Two entries: the empty one that opens every file, and table 7 of the strings, with "N\xE9" and "\x80x" as 96 and 97.
+const Bytes stringFile = words({0,  0,   32,   0, 0xFFFF, 0,  0xFFFF, 0, 0, 0, 0, 0,     0, 0, 0, 0,  //
+                                12, 0,   32,   0, 0xFFFF, 6,  0xFFFF, 7, 0, 0, 0, 0x409, 0, 0, 0, 0,  //
+                                2,  'N', 0xE9, 2, 0x20AC, 'x'});
+
+// "&File" with "&Save" 100, grayed, and a separator; behind it "Quit" 101, which ends the list.
+const Bytes menuBytes = words({0,   0,   0x10, '&',  'F', 'i', 'l',  'e', 0,   1,   100, '&', 'S', 'a',
+                               'v', 'e', 0,    0x80, 0,   0,   0x80, 101, 'Q', 'u', 'i', 't', 0});
+
+// Style, 1 item, place, no menu and class, title "Te", 8-point "S", filled up to 4; a push button "O" with id 1.
+const Bytes dialogBytes = words({0xC0, 0x80C8, 0, 0,      1, 22, 17,  230, 75, 0,      0, 'T',    'e',  0,   8, 'S',
+                                 0,    0xEEEE, 1, 0x5001, 0, 0,  195, 6,   30, 0xFFFF, 1, 0xFFFF, 0x80, 'O', 0, 0});
 
 // 2 x 2 pixels of 24 bits: below blue and green, above red and white; 2 bytes fill each row.
-const Bytes colorBytes = joined(dibHeader(2, 2, 24, 0), {255, 0, 0, 0, 255, 0, 0, 0, 0, 0, 255, 255, 255, 255, 0, 0});
+const Bytes colorBytes = words({40, 0, 2, 0, 2, 0, 1,      24,     0,      0, 0,      0,      0,      0,
+                                0,  0, 0, 0, 0, 0, 0x00FF, 0x0000, 0x00FF, 0, 0x0000, 0xFFFF, 0xFFFF, 0});
 
 // 2 x 1 pixels of 4 bits from two colours, black and red: both red, but the mask cuts the first out.
-const Bytes iconBytes = joined(dibHeader(2, 2, 4, 2), {0, 0, 0, 0, 0, 0, 255, 0, 0x11, 0, 0, 0, 0x80, 0, 0, 0});
+const Bytes iconBytes =
+    words({40, 0, 2, 0, 2, 0, 1, 4, 0, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0xFF, 0x11, 0, 0x80, 0});
 
 // Every cut is refused by `whole`, and no byte can be changed so that reading it does harm.
 template <typename Whole>
@@ -82,7 +67,7 @@ TEST(ResourceFileTest, StringsAreReadFromTheirTable) {
     EXPECT_EQ(file.string(97), "\x80x");
     for (const UINT missing : {0U, 95U, 98U, 112U})
         EXPECT_EQ(file.string(missing), "");
-    EXPECT_EQ(file.find(resourceType::stringTable, 7)->size(), 13U);
+    EXPECT_EQ(file.find(resourceType::stringTable, 7)->size(), 12U);
     EXPECT_FALSE(file.find(resourceType::stringTable, 6).has_value());
     expectCutsRefused(stringFile, [](const Bytes& bytes) { return ResourceFile(bytes).string(97) == "\x80x"; });
 }
@@ -99,7 +84,7 @@ TEST(ResourceFileTest, MenusAreReadWithTheirLevels) {
     EXPECT_TRUE(menu->back().text == "Quit" && menu->back().id == 101 && !menu->back().grayed);
     expectCutsRefused(menuBytes, [](const Bytes& bytes) { return readMenuTemplate(ResourceBytes(bytes)).has_value(); });
 
-    Bytes endless = {0, 0, 0, 0};
+    Bytes endless = words({0, 0});
     for (int level = 0; level < 100000; ++level)
         endless.insert(endless.end(), {0x90, 0, 'x', 0, 0, 0});
     EXPECT_FALSE(readMenuTemplate(ResourceBytes(endless)).has_value());

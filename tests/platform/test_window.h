@@ -1,39 +1,42 @@
-// A window of a class of its own that notes the messages it receives.
+// A window of a class of its own that notes what it receives.
 #ifndef TESTS_PLATFORM_TEST_WINDOW_H
 #define TESTS_PLATFORM_TEST_WINDOW_H
 
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/win32.h"
 
 using Log = std::vector<std::string>;
 
-// The answer to a message; without a value DefWindowProcA gives it.
-using Handler = std::function<std::optional<LRESULT>(HWND, UINT, WPARAM, LPARAM)>;
+inline std::vector<int> sides(const RECT& rectangle) {
+    return {rectangle.left, rectangle.top, rectangle.right, rectangle.bottom};
+}
 
 class TestWindow {
  public:
-    // Hidden. `menu` is an id of the resources, 0 for none.
-    explicit TestWindow(Handler givenHandler = {}, WORD menu = 0, UINT classStyle = CS_HREDRAW | CS_VREDRAW)
-        : handler(std::move(givenHandler)) {
-        create(WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT, menu, classStyle);
-    }
+    // The answer to a message; without a value DefWindowProcA gives it.
+    using Answer = std::function<std::optional<LRESULT>(HWND, UINT)>;
 
-    // At a place of the screen, without a frame.
-    TestWindow(const RECT& place, Handler givenHandler) : handler(std::move(givenHandler)) {
-        create(WS_DLGFRAME, place.left, place.top, 0, 0, place.right - place.left, place.bottom - place.top);
+    // Hidden. `menu` is an id of the resources, 0 for none.
+    explicit TestWindow(WORD menu = 0, UINT classStyle = CS_HREDRAW | CS_VREDRAW, Answer given = {})
+        : answer(std::move(given)) {
+        create(WS_OVERLAPPEDWINDOW, {CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT}, menu, classStyle);
     }
+    explicit TestWindow(Answer given) : TestWindow(0, CS_HREDRAW | CS_VREDRAW, std::move(given)) {}
+
+    // Without a frame; left, top, width and height.
+    explicit TestWindow(const RECT& place) { create(WS_DLGFRAME, place, 0, 0); }
 
     TestWindow(const TestWindow&) = delete;
     TestWindow& operator=(const TestWindow&) = delete;
-
     ~TestWindow() {
-        handler = {};
+        answer = {};
         DestroyWindow(handle);
-        current() = nullptr;
+        current() = outer_;
     }
 
     void show() {
@@ -41,17 +44,26 @@ class TestWindow {
         UpdateWindow(handle);
     }
 
+    RECT client() const {
+        RECT rectangle{};
+        GetClientRect(handle, &rectangle);
+        return rectangle;
+    }
+
+    // Left, top, width and height.
     HWND addControl(const char* className, const char* text, DWORD style, int id, const RECT& place) const {
-        return CreateWindowA(className, text, WS_CHILD | style, place.left, place.top, place.right - place.left,
-                             place.bottom - place.top, handle, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                             nullptr, nullptr);
+        return CreateWindowA(className, text, WS_CHILD | style, place.left, place.top, place.right, place.bottom,
+                             handle, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
     }
 
     // What came since the last call: "create", "paint", "command" with id and code, "close", "destroy".
     Log takeLog() { return std::exchange(log_, {}); }
 
     HWND handle = nullptr;  // null if it wasn't created
-    Handler handler;
+    Answer answer;
+    std::function<void(HDC)> paint;  // within WM_PAINT
+    RECT painted{};                  // what waited then
+    LPARAM sender = 0;               // of the last command
 
  private:
     static TestWindow*& current() {
@@ -61,23 +73,30 @@ class TestWindow {
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         TestWindow* const self = current();
-        if (self == nullptr) return DefWindowProcA(window, message, wParam, lParam);
-        self->note(message, wParam);
-        const auto answer = self->handler ? self->handler(window, message, wParam, lParam) : std::optional<LRESULT>();
-        return answer.has_value() ? *answer : DefWindowProcA(window, message, wParam, lParam);
+        if (self == nullptr || (self->handle != nullptr && self->handle != window))
+            return DefWindowProcA(window, message, wParam, lParam);
+        self->note(message, wParam, lParam);
+        const auto given = self->answer ? self->answer(window, message) : std::nullopt;
+        if (given.has_value()) return *given;
+        if (message != WM_PAINT) return DefWindowProcA(window, message, wParam, lParam);
+        PAINTSTRUCT paintStruct{};
+        HDC const dc = BeginPaint(window, &paintStruct);
+        self->painted = paintStruct.rcPaint;
+        if (self->paint) self->paint(dc);
+        EndPaint(window, &paintStruct);
+        return 0;
     }
 
-    void note(UINT message, WPARAM wParam) {
-        if (message == WM_CREATE) log_.push_back("create");
-        if (message == WM_PAINT) log_.push_back("paint");
-        if (message == WM_CLOSE) log_.push_back("close");
-        if (message == WM_DESTROY) log_.push_back("destroy");
-        if (message == WM_COMMAND)
-            log_.push_back("command " + std::to_string(LOWORD(wParam)) + " " + std::to_string(HIWORD(wParam)));
+    void note(UINT message, WPARAM wParam, LPARAM lParam) {
+        for (const auto& [known, name] :
+             {std::pair{WM_CREATE, "create"}, {WM_PAINT, "paint"}, {WM_CLOSE, "close"}, {WM_DESTROY, "destroy"}})
+            if (message == UINT{known}) log_.emplace_back(name);
+        if (message != WM_COMMAND) return;
+        log_.push_back("command " + std::to_string(LOWORD(wParam)) + " " + std::to_string(HIWORD(wParam)));
+        sender = lParam;
     }
 
-    void create(DWORD style, int x, int y, WORD menu, UINT classStyle, int width = CW_USEDEFAULT,
-                int height = CW_USEDEFAULT) {
+    void create(DWORD style, const RECT& place, WORD menu, UINT classStyle) {
         static int number = 0;
         const std::string name = "TestWindow" + std::to_string(++number);
         WNDCLASSEXA windowClass{};
@@ -91,10 +110,11 @@ class TestWindow {
         windowClass.lpszClassName = name.c_str();
         RegisterClassExA(&windowClass);
         current() = this;
-        handle = CreateWindowExA(0, name.c_str(), "A test's window", style, x, y, width, height, nullptr, nullptr,
-                                 windowClass.hInstance, nullptr);
+        handle = CreateWindowExA(0, name.c_str(), "A test's window", style, place.left, place.top, place.right,
+                                 place.bottom, nullptr, nullptr, windowClass.hInstance, nullptr);
     }
 
+    TestWindow* outer_ = current();
     Log log_;
 };
 

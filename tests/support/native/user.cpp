@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
@@ -94,7 +95,10 @@ std::vector<QPushButton*> buttonsOf(const QWidget& box) {
 std::string linesOf(const QWidget& box) {
     QStringList lines;
     for (const QLabel* const label : box.findChildren<QLabel*>())
-        if (label->pixmap().isNull() && !label->text().isEmpty()) lines.append(label->text());
+        if (label->pixmap().isNull() && !label->text().isEmpty())
+            lines.append(label->textFormat() == Qt::PlainText
+                             ? label->text()
+                             : QTextDocumentFragment::fromHtml(label->text()).toPlainText());
     return programText(lines.join('\n'));
 }
 
