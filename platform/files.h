@@ -25,6 +25,17 @@ std::FILE* openFile(const char* path, const char* mode);
 // False, and `status` untouched, when nothing of that name exists or may be asked about.
 bool queryFileStatus(const char* path, FileStatus& status);
 
+// While an object of this class lives, the directories that status queries come through are looked at once and then
+// taken to stay as they are: for a run of many queries in one directory, between which nothing is opened, made or
+// deleted. What others change there meanwhile shows or doesn't. A file's own status is always asked anew.
+class SteadyDirectories {
+ public:
+    SteadyDirectories();
+    ~SteadyDirectories();
+    SteadyDirectories(const SteadyDirectories&) = delete;
+    SteadyDirectories& operator=(const SteadyDirectories&) = delete;
+};
+
 // Hands what was written to the disk itself, so that it outlives a crash of the machine. False if the disk refused.
 bool syncFile(std::FILE* file);
 

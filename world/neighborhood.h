@@ -71,6 +71,7 @@ class Neighborhood {
     void installTempFile(const char* tempPath);
 
  private:
+    void readNeighbors(StreamView stream);
     int nextNeighbor(StreamView stream) const;
     int readNeighbor(StreamView stream);
     int familyAhead(StreamView stream) const;

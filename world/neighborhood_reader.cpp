@@ -43,15 +43,20 @@ int Neighborhood::load(const char* directory, const char* fileName) {
 // A header that is cut short raises this view's flags, and with them every pass ends at once.
 void Neighborhood::readPasses(StreamView stream) {
     mapOffset_ = readMapOffset(stream);
-    while (nextNeighbor(stream) == 1) {
-        readNeighbor(stream);
-    }
+    readNeighbors(stream);
     stream.seek(0);
     while (familyAhead(stream) == 1) {
         readFamily(stream);
     }
     stream.seek(0);
     xxxxOffset_ = findTag(stream, freeChunkTag, fileSize_) - 1;
+}
+
+void Neighborhood::readNeighbors(StreamView stream) {
+    const SteadyDirectories steady;  // each record asks for the size of a file in one and the same directory
+    while (nextNeighbor(stream) == 1) {
+        readNeighbor(stream);
+    }
 }
 
 // 1 with the cursor on a record's name, 0 when no record is left, -4 at the end of the file.

@@ -1,6 +1,7 @@
 #include "world/tag_scan.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "platform/byte_order.h"
 #include "world/neighborhood_layout.h"
@@ -11,12 +12,31 @@ std::string_view asText(std::span<const std::uint8_t> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
+// Where `tag` first stands in `bytes`, or npos. Zero bytes are everywhere in these files, and ones open every
+// relationship of a neighbor, so the search goes by the tag's last byte that isn't zero.
+std::size_t findBytes(std::string_view bytes, std::string_view tag) {
+    const std::size_t first = tag.find_first_not_of('\0'), last = tag.find_last_not_of('\0');
+    const char* const begin = bytes.data();
+    const char* const end = begin + (bytes.size() - tag.size()) + last + 1;  // behind the last place of that byte
+    const char* at = begin + last;
+    while (at < end) {
+        at = static_cast<const char*>(std::memchr(at, tag[last], static_cast<std::size_t>(end - at)));
+        if (at == nullptr) break;
+        const char* const start = at - last;
+        if (start[first] == tag[first] && std::memcmp(start, tag.data(), tag.size()) == 0) {
+            return static_cast<std::size_t>(start - begin);
+        }
+        ++at;
+    }
+    return std::string_view::npos;
+}
+
 // The offset of the first `tag` at or behind `from` that begins in front of `end`, or -1.
 std::int64_t scan(StreamFile& file, std::string_view tag, std::int64_t from, std::int64_t end) {
     while (from < end) {
         const std::string_view bytes = asText(file.bytesAt(from, tag.size()));
         if (bytes.size() < tag.size()) return -1;
-        const std::size_t at = bytes.find(tag);
+        const std::size_t at = findBytes(bytes, tag);
         if (at != std::string_view::npos) {
             const std::int64_t offset = from + static_cast<std::int64_t>(at);
             return offset < end ? offset : -1;

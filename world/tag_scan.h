@@ -9,9 +9,10 @@
 
 constexpr std::int32_t tagNotFound = -4;
 
-// Looks for `tag` (at most 24 bytes, zero bytes included) from the cursor to `fileSize`, the size that the file had
-// when its owner noted it. Returns the tag's file offset plus one, or -4. A hit leaves the cursor where it was; a miss
-// leaves it at the end of the file, and the callers count on both. With the end-of-file flag up the cursor stays.
+// Looks for `tag` (at most 24 bytes, zero bytes included, one at least not zero) from the cursor to `fileSize`, the
+// size that the file had when its owner noted it. Returns the tag's file offset plus one, or -4. A hit leaves the
+// cursor where it was; a miss leaves it at the end of the file, and the callers count on both. With the end-of-file
+// flag up the cursor stays.
 //
 // The plus one serves the callers: the bytes behind a 4-byte tag are reached by a seek to the result and a skip of 3.
 std::int32_t findTag(StreamView stream, std::string_view tag, std::int32_t fileSize);

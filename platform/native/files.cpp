@@ -88,6 +88,14 @@ bool queryFileStatus(const char* path, FileStatus& status) {
     return true;
 }
 
+SteadyDirectories::SteadyDirectories() {
+    beginSteadyDirectories();
+}
+
+SteadyDirectories::~SteadyDirectories() {
+    endSteadyDirectories();
+}
+
 bool syncFile(std::FILE* file) {
     if (std::fflush(file) != 0) return false;
     // A device or file system that knows no sync has nothing left to do.

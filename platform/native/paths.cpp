@@ -27,13 +27,20 @@ class ListingCache {
             return kept.spelling == directory || kept.listing->path() == directory;
         });
         if (found == kept_.end()) return nullptr;
-        if (!found->listing->isCurrent()) {
+        const bool checked = steadyDepth_ > 0 && found->checkedInRun == steadyRun_;
+        if (!checked && !found->listing->isCurrent()) {
             kept_.erase(found);
             return nullptr;
         }
+        found->checkedInRun = steadyRun_;
         std::rotate(kept_.begin(), found, found + 1);
         return kept_.front().listing.get();
     }
+
+    void beginSteady() {
+        if (steadyDepth_++ == 0) ++steadyRun_;
+    }
+    void endSteady() { --steadyDepth_; }
 
     // Lists `directory`, a native path, unless its listing is kept. Null if it can't be listed.
     DirectoryListing* read(const std::string& directory) {
@@ -41,7 +48,7 @@ class ListingCache {
         std::unique_ptr<DirectoryListing> listing = DirectoryListing::read(directory);
         if (!listing) return nullptr;
         if (kept_.size() == capacity) kept_.pop_back();
-        kept_.insert(kept_.begin(), {std::string(), std::move(listing)});
+        kept_.insert(kept_.begin(), {std::string(), std::move(listing), steadyRun_});
         return kept_.front().listing.get();
     }
 
@@ -61,10 +68,13 @@ class ListingCache {
     struct Kept {
         std::string spelling;
         std::unique_ptr<DirectoryListing> listing;
+        unsigned checkedInRun;
     };
 
     static constexpr std::size_t capacity = 32;  // each holds a descriptor
     std::vector<Kept> kept_;
+    int steadyDepth_ = 0;
+    unsigned steadyRun_ = 0;
     std::string variable_;
     std::string home_;
 };
@@ -170,8 +180,9 @@ Entry find(ListingCache& cache, const std::string& path) {
     return entry;
 }
 
+ListingCache cache;
+
 Entry find(std::string_view path) {
-    static ListingCache cache;
     cache.usePrefix(prefixVariable(), prefixVariable().empty() ? homeVariable() : "");
     // Files are asked for in runs of one directory, so the shortest way begins with the program's own spelling of it.
     const std::string_view spelling = directorySpelling(path);
@@ -200,6 +211,14 @@ NativePath locate(const char* path) {
 
 std::string nativePath(const char* path) {
     return pathOf(find(textOf(path)));
+}
+
+void beginSteadyDirectories() {
+    cache.beginSteady();
+}
+
+void endSteadyDirectories() {
+    cache.endSteady();
 }
 
 std::string winePrefix() {

@@ -23,6 +23,10 @@ NativePath locate(const char* path);
 // The same in one piece.
 std::string nativePath(const char* path);
 
+// Between these two, which may be nested, a directory is checked for changes only once (SteadyDirectories).
+void beginSteadyDirectories();
+void endSteadyDirectories();
+
 // The Wine prefix, without a slash at its end; it may not exist.
 std::string winePrefix();
 

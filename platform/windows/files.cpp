@@ -26,6 +26,10 @@ bool queryFileStatus(const char* path, FileStatus& status) {
     return true;
 }
 
+// Windows finds names in any case by itself; nothing is kept here.
+SteadyDirectories::SteadyDirectories() = default;
+SteadyDirectories::~SteadyDirectories() = default;
+
 bool syncFile(std::FILE* file) {
     return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
 }
