@@ -102,9 +102,11 @@ TEST_F(ControlsTest, AFullListIsEmptiedAtOnceAndAnEmptyOneToo) {
     EXPECT_EQ(selection(box), none);
 }
 
-TEST_F(ControlsTest, ClosedComboBoxesThirtyPixelsApartDoNotOverlap) {
-    const RECT first = placeOf(combo({"a"}, 10));
+TEST_F(ControlsTest, AComboBoxsHeightIsThatOfItsOpenedList) {
+    HWND const box = combo(std::vector<const char*>(300, "a"));
+    const RECT first = placeOf(box);
     const RECT second = placeOf(combo({"b"}, 40));
+    EXPECT_NEAR(openedListHeight(box) + first.bottom - first.top, 200, 20) << "whole rows";
     EXPECT_EQ(sides(first), (std::vector<int>{160, 10, 360, first.bottom}));
     EXPECT_EQ(second.top, 40);
     EXPECT_GT(first.bottom, 25);

@@ -18,6 +18,9 @@ void clickButton(HWND button);
 // Opens the list and clicks the entry, also the one that is selected already.
 void pickEntry(HWND combo, int index);
 
+// How high the list is when it is opened, in pixels.
+int openedListHeight(HWND combo);
+
 // Turns the wheel by one notch over a control; `down` moves a combo box to its next entry.
 void turnWheel(HWND control, bool down);
 

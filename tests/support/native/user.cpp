@@ -159,6 +159,13 @@ void pickEntry(HWND combo, int index) {
     click(*list.viewport(), list.visualRect(entry).center());
 }
 
+int openedListHeight(HWND combo) {
+    comboOf(combo).showPopup();
+    const int height = QApplication::activePopupWidget()->height();
+    closePopups();
+    return height;
+}
+
 void turnWheel(HWND control, bool down) {
     QWidget& widget = widgetOf(control);
     const QPoint middle = widget.rect().center();
