@@ -88,9 +88,10 @@ class TestWindow {
     }
 
     void note(UINT message, WPARAM wParam, LPARAM lParam) {
-        for (const auto& [known, name] :
-             {std::pair{WM_CREATE, "create"}, {WM_PAINT, "paint"}, {WM_CLOSE, "close"}, {WM_DESTROY, "destroy"}})
-            if (message == UINT{known}) log_.emplace_back(name);
+        if (message == WM_CREATE) log_.emplace_back("create");
+        if (message == WM_PAINT) log_.emplace_back("paint");
+        if (message == WM_CLOSE) log_.emplace_back("close");
+        if (message == WM_DESTROY) log_.emplace_back("destroy");
         if (message != WM_COMMAND) return;
         log_.push_back("command " + std::to_string(LOWORD(wParam)) + " " + std::to_string(HIWORD(wParam)));
         sender = lParam;
