@@ -91,12 +91,16 @@ TEST(WindowTest, EveryOperationRefusesAStaleHandle) {
 }
 
 TEST(WindowTest, AClassIsRegisteredOnceAndFoundInAnyCase) {
+    static int run = 0;  // a class stays for good
+    const std::string number = std::to_string(++run);
+    const std::string upper = "REGISTERED ONCE " + number;
     WNDCLASSEXA windowClass{};
     windowClass.cbSize = sizeof windowClass;
     windowClass.lpfnWndProc = DefWindowProcA;
-    windowClass.lpszClassName = "Registered Once";
+    windowClass.lpszClassName = upper.c_str();
     EXPECT_NE(RegisterClassExA(&windowClass), 0);
-    windowClass.lpszClassName = "REGISTERED ONCE";
+    const std::string mixed = "Registered once " + number;
+    windowClass.lpszClassName = mixed.c_str();
     EXPECT_EQ(RegisterClassExA(&windowClass), 0);
     EXPECT_EQ(GetLastError(), DWORD{ERROR_CLASS_ALREADY_EXISTS});
     windowClass.lpszClassName = "Other";
@@ -107,7 +111,7 @@ TEST(WindowTest, AClassIsRegisteredOnceAndFoundInAnyCase) {
     const auto create = [](const char* name) {
         return CreateWindowA(name, "Title", WS_OVERLAPPEDWINDOW, 10, 10, 300, 200, nullptr, nullptr, nullptr, nullptr);
     };
-    HWND const window = create("registered once");
+    HWND const window = create(("registered once " + number).c_str());
     EXPECT_EQ(textOf(window), "Title");
     DestroyWindow(window);
     EXPECT_EQ(create("Other"), nullptr);
