@@ -70,6 +70,9 @@ std::int32_t appendFile(const char* source, const char* destination) {
 
 std::int32_t moveByCopy(const char* source, const char* destination) {
     const std::int32_t error = copyFile(source, destination, 0, CopyMode::overwrite, true);
+    // Half a file under a live name would be read as one, and be copied over the whole one that still stands under the
+    // temporary name by the next save; half a backup takes up the room that the live file needs.
+    if (error == copyError::shortWrite) DeleteFileA(destination);
     if (error != copyError::none) return error;
     DeleteFileA(source);
     return copyError::none;

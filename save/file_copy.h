@@ -22,7 +22,7 @@ std::int32_t copyFileBytes(const char* source, const char* destination, std::int
 std::int32_t appendFile(const char* source, const char* destination);
 
 // Deletes `source` only when all of it stands on the disk under the other name. 0, or the copy's error with the source
-// in place.
+// in place; a copy that broke off is taken away again.
 std::int32_t moveByCopy(const char* source, const char* destination);
 
 #endif
