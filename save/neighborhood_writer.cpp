@@ -4,6 +4,7 @@
 
 #include "platform/files.h"
 #include "save/file_copy.h"
+#include "save/live_file.h"
 #include "save/save_paths.h"
 #include "save/template_layout.h"
 #include "world/neighborhood.h"
@@ -31,23 +32,28 @@ struct Neighborhood::Unwritten {
 
 Neighborhood::Unwritten Neighborhood::unwritten() const {
     Unwritten state{{}, {}, newFamilies_, newFamilyCount_, familyCount_, highestFamilyNumber_};
-    for (std::int32_t i = 0; i < simCount_; ++i)
+    for (std::int32_t i = 0; i < simCount_; ++i) {
         if (sim(i)->recordDirty()) state.records.push_back(sim(i));
-    for (std::int32_t i = 0; i < familyCount_; ++i)
+    }
+    for (std::int32_t i = 0; i < familyCount_; ++i) {
         if (family(i)->dirty()) state.families.push_back(family(i));
+    }
     return state;
 }
 
 // The temporary file is lost, and all that went into it waits again. Character files that were replaced by then stay.
 void Neighborhood::restore(const Unwritten& state) {
-    for (Sim* sim : state.records)
+    for (Sim* sim : state.records) {
         if (!sim->recordDirty()) sim->oweRecord();
-    for (Family* family : state.families)
+    }
+    for (Family* family : state.families) {
         family->markUnwritten();
+    }
     newFamilies_ = state.newFamilies;
     newFamilyCount_ = state.newFamilyCount;
-    for (std::int32_t i = 0; i < newFamilyCount_; ++i)
+    for (std::int32_t i = 0; i < newFamilyCount_; ++i) {
         newFamily(i)->markUnwritten();
+    }
     std::fill(families_.begin() + state.familyCount, families_.begin() + familyCount_, nullptr);
     familyCount_ = state.familyCount;
     highestFamilyNumber_ = state.highestFamilyNumber;
@@ -59,9 +65,10 @@ std::int32_t Neighborhood::cutForNewFamilies() const {
     return mapOffset_ > 0 ? mapOffset_ : 0;
 }
 
-// 1, or the error of the copy, or -1 if the file can't be patched to its last byte. Whatever the failure, all that
-// waited to be saved still waits.
+// 1, or the error of the copy, or -1 if the live file isn't the one that was read or the copy can't be patched to its
+// last byte. Whatever the failure, all that waited to be saved still waits.
 int Neighborhood::writeTempFile(const char* tempPath) {
+    if (!standsAsRead(fileName_.c_str(), *this)) return -1;
     const std::int32_t cut = hasNewFamilies_ ? cutForNewFamilies() : 0;
     const std::int32_t copied = copyFileBytes(fileName_.c_str(), tempPath, cut, CopyMode::overwrite);
     if (copied != copyError::none) return copied;
@@ -83,8 +90,9 @@ int Neighborhood::appendFamilyTemplates(const char* tempPath) const {
     const SavePath templatePath = joinPath(toolDirectory_, familyTemplateName);
     // A template of another size would put every record behind it in the wrong place. A missing one fails in the copy.
     FileStatus status{};
-    if (queryFileStatus(templatePath.c_str(), status) && status.size != familyTemplate::size)
+    if (queryFileStatus(templatePath.c_str(), status) && status.size != familyTemplate::size) {
         return copyError::shortWrite;
+    }
     for (std::int32_t i = 0; i < newFamilyCount_; ++i) {
         const std::int32_t error = appendFile(templatePath.c_str(), tempPath);
         if (error != copyError::none) return error;
@@ -114,8 +122,9 @@ int Neighborhood::saveCharacterFiles(StreamView stream) {
         if (!sim.characterDirty() && !sim.recordOwed()) continue;
         if (sim.characterDirty() && sim.saveCharacterFile(directory_.c_str()) != 1) continue;
         if (sim.recordDirty()) sim.oweRecord();  // until it is written
-        if (sim.recordDirty() && standsInCopy(sim.recordOffset(), neighborRecord::size))
+        if (sim.recordDirty() && standsInCopy(sim.recordOffset(), neighborRecord::size)) {
             sim.writeNeighborRecord(stream);
+        }
     }
     return 1;
 }
@@ -125,8 +134,7 @@ int Neighborhood::writeChangedFamilies(StreamView stream) {
     for (std::int32_t i = 0; i < familyCount_; ++i) {
         Family& family = *families_[static_cast<std::size_t>(i)];
         const std::int32_t table = family.memberTableOffset();
-        if (family.dirty() && table > 0 && standsInCopy(table, family.tableSize()))
-            family.rewriteRecord(stream);
+        if (family.dirty() && table > 0 && standsInCopy(table, family.tableSize())) family.rewriteRecord(stream);
     }
     return 1;
 }

@@ -1,0 +1,54 @@
+#include "save/live_file.h"
+
+#include "platform/byte_order.h"
+#include "world/tag_scan.h"
+
+namespace {
+
+constexpr std::size_t pieceWindow = 256;
+
+bool matchesAt(StreamView file, std::int32_t offset, std::string_view bytes) {
+    file.seek(offset);
+    return matchTagHere(file, bytes) == 1;
+}
+
+bool isCutThere(StreamView file, const Neighborhood& neighborhood) {
+    if (neighborhood.xxxxOffset() > 0) return matchesAt(file, neighborhood.xxxxOffset(), freeChunkTag);
+    if (neighborhood.mapOffset() <= 0) return true;
+    file.seek(iffHeader::mapOffset);
+    return static_cast<std::int32_t>(readU24Be(file.readBytes<iffHeader::mapOffsetSize>())) == neighborhood.mapOffset();
+}
+
+// A piece that lost its place in the file isn't patched any more.
+bool isRecordThere(StreamView file, const Sim& sim) {
+    const std::int32_t record = sim.recordOffset();
+    return record < 0 || matchesAt(file, record + neighborRecord::name, sim.recordName());
+}
+
+bool isFamilyThere(StreamView file, const Family& family) {
+    using namespace familyRecord;
+    const std::int32_t record = family.memberTableOffset() - memberTable;
+    if (record < 0) return true;
+    if (!matchesAt(file, record, recordTag)) return false;
+    file.seek(record + number);
+    if (readI16Le(file.readBytes<2>()) != family.familyNumber()) return false;
+    file.seek(record + memberCount);
+    return readI16Le(file.readBytes<2>()) * guidSize == family.tableSize();
+}
+
+}  // namespace
+
+bool standsAsRead(const char* path, const Neighborhood& neighborhood) {
+    StreamFile file;
+    if (!file.open(path, StreamFile::Access::read, pieceWindow)) return true;
+    const StreamView view(file);
+    for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
+        const Sim& sim = *neighborhood.sim(i);
+        if (sim.recordDirty() && !isRecordThere(view, sim)) return false;
+    }
+    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i) {
+        const Family& family = *neighborhood.family(i);
+        if (family.dirty() && !isFamilyThere(view, family)) return false;
+    }
+    return isCutThere(view, neighborhood);
+}
