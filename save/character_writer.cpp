@@ -82,15 +82,17 @@ std::array<std::uint8_t, neighborRecord::size> Sim::recordBytes() const {
     put(0, marker);
     put(neighborRecord::name, recordName_.view());
     record[neighborRecord::version] = static_cast<std::uint8_t>(version_);
-    for (int k = 0; k < personValueCount; ++k)
+    for (int k = 0; k < personValueCount; ++k) {
         put(valueOffset(k), u16Le(personValues_[static_cast<std::size_t>(k)]));
+    }
     put(neighborRecord::age, u16Le(static_cast<std::uint16_t>(age_)));
     put(neighborRecord::skinTone, u16Le(static_cast<std::uint16_t>(skinTone_)));
     put(wordA, u16Le(recordWordA_));
     put(wordB, u16Le(recordWordB_));
     put(kind, u16Le(static_cast<std::uint16_t>(gender_)));
-    for (int k = 0; k < tailWordCount; ++k)
+    for (int k = 0; k < tailWordCount; ++k) {
         put(neighborRecord::tailWords + 2 * k, u16Le(tailWords_[static_cast<std::size_t>(k)]));
+    }
     return record;
 }
 

@@ -1,6 +1,6 @@
 // A family's record in the temporary neighborhood file: patched where the file holds it already, put together in the
 // template's 232 bytes where it doesn't.
-#include <algorithm>
+#include <array>
 
 #include "platform/byte_order.h"
 #include "save/template_layout.h"
@@ -13,12 +13,14 @@ int Family::rewriteRecord(StreamView stream) {
     if (!stream.good() || memberTableOffset_ + memberCount_ * guidSize > memberTableEnd_) return -1;
     stream.seek(memberTableOffset_ - memberTable + familyRecord::funds);
     stream.write(u32Le(static_cast<std::uint32_t>(funds_)));
-    for (const std::uint16_t word : familyWords_)
+    for (const std::uint16_t word : familyWords_) {
         stream.write(u16Le(word));
+    }
     stream.write(u16Le(static_cast<std::uint16_t>(memberCount_)));
     stream.write(u16Le(familyTailWord_));
-    for (std::int32_t i = 0; i < memberCount_; ++i)
+    for (std::int32_t i = 0; i < memberCount_; ++i) {
         stream.write(memberGuid(static_cast<std::size_t>(i)).bytes());
+    }
     stream.writeZeros(memberTableEnd_ - stream.tell());
     if (!stream.good()) return -1;
     dirty_ = false;

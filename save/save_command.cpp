@@ -8,8 +8,9 @@
 
 void saveAll() {
     showWaitCursor();
-    for (int slot = 0; slot < listedNeighborhoodCount(); ++slot)
+    for (int slot = 0; slot < listedNeighborhoodCount(); ++slot) {
         neighborhoods[static_cast<std::size_t>(slot)]->save();
+    }
     showArrowCursor();
 }
 
@@ -27,16 +28,18 @@ void Neighborhood::save() {
     forgetChanges();
 }
 
-// What was cut off to make room for new families isn't in the file any more, so a later save of this run copies all of it, and writes
-// nothing where a piece that went with it used to stand.
+// What was cut off to make room for new families isn't in the file any more, so a later save of this run copies all of
+// it, and writes nothing where a piece that went with it used to stand.
 void Neighborhood::forgetChanges() {
     dirty_ = false;
     if (!hasNewFamilies_) return;
     hasNewFamilies_ = false;
     xxxxOffset_ = tagNotFound - 1;
     mapOffset_ = 0;
-    for (std::int32_t i = 0; i < simCount_; ++i)
+    for (std::int32_t i = 0; i < simCount_; ++i) {
         if (!standsInCopy(sim(i)->recordOffset(), neighborRecord::size)) sim(i)->forgetRecord();
-    for (std::int32_t i = 0; i < familyCount_; ++i)
+    }
+    for (std::int32_t i = 0; i < familyCount_; ++i) {
         if (!standsInCopy(family(i)->memberTableOffset(), family(i)->tableSize())) family(i)->forgetTable();
+    }
 }
