@@ -121,10 +121,10 @@ int Neighborhood::saveCharacterFiles(StreamView stream) {
         Sim& sim = *sims_[static_cast<std::size_t>(i)];
         if (!sim.characterDirty() && !sim.recordOwed()) continue;
         if (sim.characterDirty() && sim.saveCharacterFile(directory_.c_str()) != 1) continue;
-        if (sim.recordDirty()) sim.oweRecord();  // until it is written
-        if (sim.recordDirty() && standsInCopy(sim.recordOffset(), neighborRecord::size)) {
-            sim.writeNeighborRecord(stream);
-        }
+        if (sim.recordOffset() < 0) sim.forgetRecord();  // an earlier save has cut it off
+        if (!sim.recordDirty()) continue;
+        sim.oweRecord();  // until it is written
+        if (standsInCopy(sim.recordOffset(), neighborRecord::size)) sim.writeNeighborRecord(stream);
     }
     return 1;
 }

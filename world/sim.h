@@ -124,8 +124,11 @@ class Sim {
     void oweRecord() { recordDirty_ = recordOwed_ = true; }
     bool recordOwed() const { return recordOwed_; }
 
-    // The file doesn't hold the record any more.
-    void forgetRecord() { recordOffset_ = -1; }
+    // The file doesn't hold the record any more, so nothing waits to be written there.
+    void forgetRecord() {
+        recordOffset_ = -1;
+        recordDirty_ = recordOwed_ = false;
+    }
 
  private:
     static constexpr std::size_t bodySkillValue = 15;

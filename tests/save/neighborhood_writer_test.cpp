@@ -112,6 +112,7 @@ TEST_F(NeighborhoodWriterTest, WritesNothingWhereAPieceLayBehindTheCut) {
             change(test, 0, stageNumber::adult);
             moveOut(test, 1, leaver, "New", 500);
             save(test);
+            EXPECT_FALSE(test->isDirty()) << "a record that is gone isn't waited for";
             EXPECT_EQ(test.files().bytesOf(live), file);
             EXPECT_EQ(test.files().bytesOf(test.characterFile("user00000")), savedCharacter(characters_[0]));
         }
