@@ -55,11 +55,11 @@ class Frame : public QWidget {
     ClientArea* client_ = nullptr;
 };
 
-// A window without a caption is one that the program places itself, such as a splash window: no window manager shall
-// move it, decorate it or give it the keyboard.
+// A window without a caption is one that the program places itself, such as a splash window: window managers leave its
+// place to it and don't decorate it, but may put a message box above it.
 Qt::WindowFlags flagsOf(DWORD style) {
     if ((style & WS_CAPTION) != WS_CAPTION) {
-        return Qt::SplashScreen | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint;
+        return Qt::SplashScreen | Qt::FramelessWindowHint;
     }
     Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     if ((style & WS_SYSMENU) != 0) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
