@@ -1,7 +1,6 @@
 #include "tests/support/iff_walk.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -10,91 +9,79 @@ using View = std::span<const std::uint8_t>;
 constexpr std::size_t headerSize = 64;
 constexpr std::size_t chunkHeaderSize = 76;
 
-std::size_t bigEndian(View bytes) {
-    return std::accumulate(bytes.begin(), bytes.end(), std::size_t{0},
-                           [](auto sum, auto byte) { return sum << 8 | byte; });
+unsigned bigEndian(const std::string& bytes) {
+    unsigned value = 0;
+    for (const char byte : bytes)
+        value = value << 8 | static_cast<unsigned char>(byte);
+    return value;
 }
 
 // The content of a resource map, taken piece by piece; what lies behind its end reads as zero.
 struct MapReader {
-    View content;
+    std::string content;
     std::size_t at = 0;
 
-    std::uint8_t byte() { return at++ < content.size() ? content[at - 1] : std::uint8_t{0}; }
-    std::size_t number(std::size_t size) {
-        std::size_t value = 0;
-        for (std::size_t i = 0; i < size; ++i) {
-            value |= static_cast<std::size_t>(byte()) << 8 * i;
-        }
-        return value;
+    char byte() { return at++ < content.size() ? content[at - 1] : '\0'; }
+
+    // Numbers and types stand there with their last byte first.
+    std::string reversed(std::size_t size) {
+        std::string text(size, ' ');
+        std::generate(text.rbegin(), text.rend(), [this] { return byte(); });
+        return text;
     }
-    std::string reversedType() {
-        std::string type(4, ' ');
-        std::generate(type.rbegin(), type.rend(), [this] { return static_cast<char>(byte()); });
-        return type;
-    }
+    unsigned number(std::size_t size) { return bigEndian(reversed(size)); }
+
     std::string evenLabel() {
         std::string label;
-        for (std::uint8_t next = byte(); next != 0; next = byte()) {
-            label.push_back(static_cast<char>(next));
-        }
+        for (char next = byte(); next != '\0'; next = byte())
+            label.push_back(next);
         if (label.size() % 2 == 0) byte();
         return label;
     }
-    WalkedChunk entry(const std::string& type) {
-        WalkedChunk chunk = {type, number(4), 0, static_cast<unsigned>(number(2)), 0, {}};
-        chunk.flags = static_cast<unsigned>(number(2));
-        chunk.label = evenLabel();
-        return chunk;
-    }
 };
 
-void walkMap(View content, IffWalk& walk) {
-    MapReader map{content};
+// The map's entries as chunks without a size.
+std::vector<WalkedChunk> walkMap(MapReader map, std::string& fault) {
+    std::vector<WalkedChunk> listed;
     map.number(8);
-    if (map.reversedType() != "rsmp") walk.fault = "the map doesn't open with its letters";
+    if (map.reversed(4) != "rsmp") fault = "the map doesn't open with its letters";
     map.number(4);
-    for (std::size_t types = map.number(4); types > 0 && map.at <= content.size(); --types) {
-        const std::string type = map.reversedType();
-        for (std::size_t entries = map.number(4); entries > 0 && map.at <= content.size(); --entries) {
-            walk.mapEntries.push_back(map.entry(type));
-        }
+    for (unsigned types = map.number(4); types > 0 && map.at <= map.content.size(); --types) {
+        const std::string type = map.reversed(4);
+        for (unsigned entries = map.number(4); entries > 0 && map.at <= map.content.size(); --entries)
+            listed.push_back({type, map.number(4), 0, map.number(2), map.number(2), map.evenLabel()});
     }
-    if (map.at != content.size()) walk.fault = "the map's entries don't fill it";
+    if (map.at != map.content.size()) fault = "the map's entries don't fill it";
+    return listed;
 }
 
-void checkMap(IffWalk& walk) {
-    std::size_t listed = 0;
-    for (WalkedChunk chunk : walk.chunks) {
+std::string faultOfMap(std::vector<WalkedChunk> listed, const std::vector<WalkedChunk>& chunks) {
+    for (WalkedChunk chunk : chunks) {
         if (chunk.type == "XXXX" || chunk.type == "rsmp") continue;
-        ++listed;
         chunk.size = 0;
         const auto isChunks = [&chunk](WalkedChunk entry) {
             // A save writes the Sim's record name over this chunk's label, and the map keeps the template's.
             if (chunk.type == "OBJD") entry.label = chunk.label;
             return entry == chunk;
         };
-        if (std::ranges::count_if(walk.mapEntries, isChunks) == 1) continue;
-        walk.fault = "the map doesn't list " + chunk.type + " " + std::to_string(chunk.id) + " once";
+        if (std::erase_if(listed, isChunks) != 1)
+            return "the map doesn't list " + chunk.type + " " + std::to_string(chunk.id) + " once";
     }
-    if (walk.mapEntries.size() != listed) walk.fault = "the map lists what isn't there";
+    return listed.empty() ? "" : "the map lists what isn't there";
 }
 
-IffWalk walkFrom(View file, std::size_t start) {
+IffWalk walkChunks(View bytes) {
     IffWalk walk;
-    std::size_t at = start;
-    while (at < file.size()) {
-        const View rest = file.subspan(at);
-        const std::size_t size = rest.size() < chunkHeaderSize ? 0 : bigEndian(rest.subspan(4, 4));
-        if (size < chunkHeaderSize || size > rest.size()) {
+    for (std::size_t at = headerSize; at < bytes.size(); at += walk.chunks.back().size) {
+        const std::string header = textAt(bytes.subspan(at).first(std::min(chunkHeaderSize, bytes.size() - at)));
+        const std::size_t size = header.size() < chunkHeaderSize ? 0 : bigEndian(header.substr(4, 4));
+        if (size < chunkHeaderSize || size > bytes.size() - at) {
             walk.fault = "no chunk fits at " + std::to_string(at);
-            return walk;
+            break;
         }
-        const std::string label = textAt(rest, 12, 64);
-        walk.chunks.push_back({textAt(rest, 0, 4), at, size, static_cast<unsigned>(bigEndian(rest.subspan(8, 2))),
-                               static_cast<unsigned>(bigEndian(rest.subspan(10, 2))),
-                               label.substr(0, label.find('\0'))});
-        at += size;
+        const std::string label = header.substr(12, header.find('\0', 12) - 12);
+        walk.chunks.push_back(
+            {header.substr(0, 4), at, size, bigEndian(header.substr(8, 2)), bigEndian(header.substr(10, 2)), label});
     }
     return walk;
 }
@@ -108,42 +95,17 @@ WalkedChunk IffWalk::find(const std::string& type, unsigned id) const {
 
 IffWalk walkIff(View file) {
     constexpr char header[] = "IFF FILE 2.5:TYPE FOLLOWED BY SIZE\0 JAMIE DOORNBOS & MAXIS 1";
-    IffWalk walk;
-    if (file.size() < headerSize || textAt(file, 0, 60) != std::string(header, 60)) {
-        walk.fault = "not the game's header";
-        return walk;
-    }
-    walk = walkFrom(file, headerSize);
-    const std::size_t mapOffset = bigEndian(file.subspan(60, 4));
+    if (file.size() < headerSize || textAt(file, 0, 60) != std::string(header, 60))
+        return {.fault = "not the game's header"};
+    IffWalk walk = walkChunks(file);
+    const unsigned mapOffset = bigEndian(textAt(file, 60, 4));
     if (!walk.fault.empty() || mapOffset == 0) return walk;
     const WalkedChunk map = walk.find("rsmp", 0);
-    if (map.size == 0 || map.offset != mapOffset) {
-        walk.fault = "no map where the header says";
-        return walk;
-    }
-    walkMap(file.subspan(map.offset + chunkHeaderSize, map.size - chunkHeaderSize), walk);
-    if (walk.fault.empty()) checkMap(walk);
+    if (map.offset != mapOffset) return {.fault = "no map where the header says"};
+    const std::string content = textAt(file, map.offset + chunkHeaderSize, map.size - chunkHeaderSize);
+    const std::vector<WalkedChunk> listed = walkMap({content}, walk.fault);
+    if (walk.fault.empty()) walk.fault = faultOfMap(listed, walk.chunks);
     return walk;
-}
-
-IffWalk walkChunks(View bytes) {
-    return walkFrom(bytes, 0);
-}
-
-std::vector<std::string> walkTexts(View file, const WalkedChunk& chunk) {
-    std::vector<std::string> texts;
-    if (chunk.size < chunkHeaderSize + 4) return texts;
-    const std::string content = textAt(file, chunk.offset + chunkHeaderSize, chunk.size - chunkHeaderSize);
-    const std::size_t count = static_cast<std::uint8_t>(content[2]) + 256U * static_cast<std::uint8_t>(content[3]);
-    std::size_t at = 5;  // behind the first string's language
-    while (texts.size() < count) {
-        const std::size_t end = content.find('\0', at);
-        const std::size_t commentEnd = end == std::string::npos ? end : content.find('\0', end + 1);
-        if (commentEnd == std::string::npos) break;
-        texts.push_back(content.substr(at, end - at));
-        at = commentEnd + 2;
-    }
-    return texts;
 }
 
 std::string textAt(View file, std::size_t offset, std::size_t size) {

@@ -21,9 +21,8 @@ struct WalkedChunk {
 };
 
 struct IffWalk {
-    std::string fault;  // the first thing found wrong; empty for a valid file
-    std::vector<WalkedChunk> chunks;
-    std::vector<WalkedChunk> mapEntries;  // without sizes; empty when the file has no resource map
+    std::string fault = {};  // something found wrong; empty for a valid file
+    std::vector<WalkedChunk> chunks = {};
 
     // The first chunk of the type and id; one of size 0 if there is none.
     WalkedChunk find(const std::string& type, unsigned id) const;
@@ -34,13 +33,7 @@ struct IffWalk {
 // the label of an object definition may differ.
 IffWalk walkIff(std::span<const std::uint8_t> file);
 
-// A bare run of chunks, such as a family template: valid when they tile it.
-IffWalk walkChunks(std::span<const std::uint8_t> bytes);
-
-// The strings of a text chunk. Stops at the first that the chunk's end cuts off.
-std::vector<std::string> walkTexts(std::span<const std::uint8_t> file, const WalkedChunk& chunk);
-
-// The bytes at `offset` as text.
-std::string textAt(std::span<const std::uint8_t> file, std::size_t offset, std::size_t size);
+// The bytes at `offset` as text, all that follow by default.
+std::string textAt(std::span<const std::uint8_t> file, std::size_t offset = 0, std::size_t size = std::dynamic_extent);
 
 #endif
