@@ -8,10 +8,6 @@
 
 #include "sample/file_writing.h"
 
-Bytes bytesFrom(std::string_view text) {
-    return ByteWriter().text(text).written();
-}
-
 TempDirectory::TempDirectory() {
     std::random_device random;
     do {

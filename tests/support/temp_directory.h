@@ -9,7 +9,9 @@
 
 #include "sample/byte_writer.h"
 
-Bytes bytesFrom(std::string_view text);
+inline Bytes bytesFrom(std::string_view text) {
+    return ByteWriter().text(text).written();
+}
 
 class TempDirectory {
  public:

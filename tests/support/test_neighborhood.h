@@ -2,6 +2,8 @@
 #ifndef TESTS_SUPPORT_TEST_NEIGHBORHOOD_H
 #define TESTS_SUPPORT_TEST_NEIGHBORHOOD_H
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,18 +14,33 @@
 
 // One family of these Sims. Each neighbor takes name and GUID from its character and is else a default one; a test
 // changes what it needs.
-SampleNeighborhood householdOf(const std::vector<SampleCharacter>& characters);
+inline SampleNeighborhood householdOf(const std::vector<SampleCharacter>& characters) {
+    SampleNeighborhood content{.neighbors = {}, .families = {SampleFamily{.members = {}}}};
+    for (const SampleCharacter& character : characters) {
+        content.neighbors.push_back({.recordName = character.recordName, .guid = character.guid});
+        content.families.front().members.push_back(character.guid);
+    }
+    return content;
+}
 
 class TestNeighborhood {
  public:
     // Writes the files, each character under its record name, and reads them.
-    explicit TestNeighborhood(const SampleNeighborhood& content, const std::vector<SampleCharacter>& characters = {});
-    explicit TestNeighborhood(const std::vector<SampleCharacter>& household)
-        : TestNeighborhood(householdOf(household), household) {}
+    explicit TestNeighborhood(const SampleNeighborhood& content, const std::vector<SampleCharacter>& characters = {})
+        : built_(makeNeighborhoodFile(content)) {
+        files_.write(neighborhoodFile, built_.bytes);
+        for (const SampleCharacter& character : characters)
+            files_.write(characterFile(character.recordName), makeCharacterFile(character).bytes);
+        load();
+    }
 
     // Reads what stands on the disk, as the next start of the program does. Families and Sims of before are gone. The
     // tool directory is the one above "UserData"; it holds nothing until a test writes it.
-    void load();
+    void load() {
+        neighborhood_ = std::make_unique<Neighborhood>();
+        EXPECT_EQ(neighborhood_->load((files_.path() + "\\UserData").c_str(), "neighborhood.iff"), 0);
+        neighborhood_->setToolDirectory(files_.path().c_str());
+    }
 
     Neighborhood* operator->() const { return neighborhood_.get(); }
     Neighborhood& operator*() const { return *neighborhood_; }

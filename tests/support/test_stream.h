@@ -10,9 +10,9 @@
 class TestStream {
  public:
     // With a window of 64 bytes, the smallest, it takes few bytes to cross its edge.
-    explicit TestStream(const Bytes& bytes, std::size_t window = 64) {
+    explicit TestStream(const Bytes& bytes) {
         files_.write("file", bytes);
-        EXPECT_TRUE(file_.open(files_.path("file").c_str(), StreamFile::Access::read, window));
+        EXPECT_TRUE(file_.open(files_.path("file").c_str(), StreamFile::Access::read, 64));
     }
 
     StreamView view() { return StreamView(file_); }

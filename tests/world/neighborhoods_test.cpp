@@ -10,51 +10,21 @@
 
 namespace {
 
-class NeighborhoodsTest : public testing::Test {
- protected:
-    ~NeighborhoodsTest() override {
-        for (auto& slot : neighborhoods)
-            slot.reset();
-    }
-
+TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {
+    const TempDirectory files;
     // The only family of each bears the directory's name.
-    void install(const std::string& name) const {
-        files_.write(name + "/neighborhood.iff", makeNeighborhoodFile({.families = {{.name = name}}}).bytes);
+    for (int number = 1; number <= 101; ++number) {
+        const std::string name = "UserData" + (number == 1 ? "" : std::to_string(number));
+        const Bytes file = makeNeighborhoodFile({.families = {{.name = name}}}).bytes;
+        files.write(number == 2 ? name : name + "/neighborhood.iff", file);
     }
-    void load() const { loadNeighborhoods((files_.path() + "\\").c_str(), "C:\\tools"); }
-
-    TempDirectory files_;
-};
-
-TEST_F(NeighborhoodsTest, OneThatCannotBeReadIsToldAndHidesTheRest) {
-    neighborhoods[0] = std::make_unique<Neighborhood>();
-    load();
-    EXPECT_EQ(listedNeighborhoodCount(), 0) << "no directory, no neighborhood";
-    files_.write("UserData2", "a file, not a directory");
-    for (const char* name : {"UserData", "UserData3", "UserData5"})
-        install(name);
     const AnsweredBox box = answerNextBox(IDOK);
-    load();
-    EXPECT_EQ(box.title(), "Loading Error");
-    EXPECT_EQ(box.text(), "Error loading Neighborhood 2");
-    EXPECT_EQ(box.buttons(), std::vector<std::string>{"OK"});
+    loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
+    EXPECT_EQ(box.title() + ": " + box.text(), "Loading Error: Error loading Neighborhood 2");
     EXPECT_EQ(listedNeighborhoodCount(), 1);
-    EXPECT_STREQ(neighborhoods[0]->family(0)->name(), "UserData");
-    EXPECT_STREQ(neighborhoods[0]->toolDirectory(), "C:\\tools");
-    ASSERT_TRUE(neighborhoods[2]) << "read, though nobody will see it";
-    EXPECT_STREQ(neighborhoods[2]->family(0)->name(), "UserData3");
-    EXPECT_FALSE(neighborhoods[1] || neighborhoods[3] || neighborhoods[4]) << "behind the gap nothing is looked at";
-    EXPECT_EQ(statusLine(), "Loading Neighborhood 3");
-}
-
-TEST_F(NeighborhoodsTest, TheHundredthIsTheLast) {
-    install("UserData");
-    for (int number = 2; number <= 101; ++number)
-        install("UserData" + std::to_string(number));
-    load();
-    EXPECT_EQ(listedNeighborhoodCount(), 100);
+    ASSERT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, though nobody will see it";
     EXPECT_STREQ(neighborhoods[99]->family(0)->name(), "UserData100");
-    EXPECT_EQ(statusLine(), "Loading Neighborhood 100");
+    EXPECT_EQ(statusLine(), "Loading Neighborhood 100") << "the last";
 }
 
 }  // namespace
