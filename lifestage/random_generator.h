@@ -22,7 +22,8 @@ class RandomGenerator {
 // The generator of the whole program; the entry seeds it from the clock.
 RandomGenerator& randomGenerator();
 
-// The index that one draw picks among `count` entries, each with about an equal share of the draws.
+// The index that one draw (0 to 32767) picks among `count` entries, at least one, each with about an equal share of the
+// draws.
 std::size_t pickIndex(int draw, std::size_t count);
 
 #endif

@@ -95,7 +95,7 @@ void pickOutfit(const std::array<std::string_view, N>& outfits, OutfitText& outf
 
 int findNextStageHead(std::int32_t stage, const char* headSkin, const char* toolDirectory, HeadText& newSkin,
                       HeadText& newMesh) {
-    FixedText<199> path(toolDirectory);
+    FixedText<299> path(toolDirectory);
     path.append("\\skinsets.cfg");
     std::FILE* file = openFile(path.c_str(), "rb");
     if (file == nullptr) return -1;

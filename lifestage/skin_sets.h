@@ -15,7 +15,8 @@ using OutfitText = FixedText<149>;
 
 // Finds the head that follows `headSkin` (compared without regard to the case of ASCII letters) at `stage`, teen or
 // adult, in the file of `toolDirectory`, and picks one of several candidates by one draw. 0 with both texts filled, or
-// -1 with both untouched: the file can't be read, or no skin set with a candidate holds the head. The file is read
+// -1 with both untouched: the file can't be read, no skin set holds the head, or the first one that does has no
+// candidate. A skin set has at most 5 candidates, a field at most 99 characters: what is more is cut. The file is read
 // afresh at every call.
 int findNextStageHead(std::int32_t stage, const char* headSkin, const char* toolDirectory, HeadText& newSkin,
                       HeadText& newMesh);

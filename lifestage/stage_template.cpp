@@ -1,5 +1,5 @@
-// The complete new bodies of a stage, out of fixed names and a few facts about the Sim. The names exist in the game's
-// files with just this spelling, capitals included.
+// The complete new bodies of a stage, out of fixed names and a few facts about the Sim. The game looks the names up as
+// they are, so their odd capitals stay.
 #include "lifestage/stage_template.h"
 
 #include <initializer_list>
@@ -108,6 +108,7 @@ void BodyStrings::setGrownSlots(bool female, std::string_view tone, std::int16_t
     set(slots_[bodySlot::headMesh], {female ? "c012fa_gma2,HEAD-HEAD" : "c007ma_gpa1,HEAD-HEAD"});
     set(slots_[bodySlot::headSkin], {female ? "c012fa" : "c007ma", tone, female ? "_asian" : "_alt"});
     set(slots_[ageText], {"27"});
+    // Men and women of the skinny type share one mesh.
     set(slots_[nBodyMesh], {"n", type == bodyType::skinny ? "u" : sex, body, "_01,BODY"});
     set(slots_[nBodySkin], {"n", sex, body, tone, "_01"});
     slots_[uBodyMesh] = slots_[nBodyMesh];
@@ -132,7 +133,7 @@ void BodyStrings::setGrownOutfits(bool female, std::string_view tone, std::int16
 
 void BodyStrings::setChildSlots(bool female, std::string_view tone) {
     using namespace bodySlot;
-    // The boy's mesh and skin differ in their number: these are the ones that exist.
+    // The boy's mesh and skin differ in their number.
     set(slots_[bodyMesh], {female ? "b001fcchd_01,BODY" : "b002mcchd_01,BODY"});
     set(slots_[bodySkin], {female ? "b001fcchd" : "b001mcchd", tone, female ? "_girl01" : "_slob"});
     set(slots_[bodySlot::headMesh], {female ? "c001fc_amanda,HEAD-HEAD" : "c001mc_ave,HEAD-HEAD"});

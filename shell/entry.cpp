@@ -1,5 +1,6 @@
 // The program's entry.
 #include <array>
+#include <cstdint>
 #include <ctime>
 
 #include "lifestage/random_generator.h"
@@ -18,7 +19,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data());
 
     DirectoryText simsDirectory;
-    if (const int refusal = checkStart(simsDirectory); refusal != 0) return refusal;
+    if (const int refusal = checkStart(simsDirectory, toolDirectory.data()); refusal != 0) return refusal;
     setStatusLine("Please wait while the data is loaded");
     if (!showSplashWindow()) return 0;
     loadNeighborhoods(simsDirectory.c_str(), toolDirectory.data());

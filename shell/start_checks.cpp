@@ -27,7 +27,7 @@ bool hasBytes(const char* path) {
 
 }  // namespace
 
-int checkStart(DirectoryText& simsDirectory) {
+int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
     if (findSimsDirectory(simsDirectory) != 0)
         return refuse("Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed.",
                       "Cannot find The Sims", exitCode::gameNotFound);
@@ -49,7 +49,8 @@ int checkStart(DirectoryText& simsDirectory) {
         text.append(simsDirectory);
         return refuse(text.c_str(), "Installation Problem", exitCode::badInstallation);
     }
-    if (!hasBytes("skinsets.cfg"))
+    // Files that the program couldn't name later on count as missing, or no save would ever reach the disk.
+    if (*toolDirectory == '\0' || !hasBytes("skinsets.cfg"))
         return refuse(
             "Tidewright cannot find its config files.  It must be in the same directory as its skin config file and "
             "template "

@@ -17,10 +17,10 @@ Sim* Family::member(std::int32_t index) const {
 
 int Family::resolveMembers() {
     if (membersResolved_) return 1;
+    membersResolved_ = true;  // at once: a box about a file of an unknown form may let a second pick in
     for (std::int32_t i = 0; i < memberCount_; ++i) {
         resolveMember(static_cast<std::size_t>(i));
     }
-    membersResolved_ = true;
     return 1;
 }
 

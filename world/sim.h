@@ -109,7 +109,9 @@ class Sim {
     // character file. `recordOffset` is the marker's file offset.
     void readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset);
 
-    // Moves the Sim's adult life into a family of its own: lifestage/move_out.cpp. `funds` is what it takes along.
+    // Takes the Sim out of its family into a new one that waits for the next save: lifestage/move_out.cpp. `funds` is
+    // what it takes along; the old family's money is the caller's to lower. The Sim must have a family, and its
+    // neighborhood room for a new one.
     void splitToNewFamily(const char* familyName, std::uint32_t funds);
 
     // Rewrites what a stage change made stale: save/character_writer.cpp tells each result.

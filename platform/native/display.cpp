@@ -11,7 +11,6 @@
 #include <QLibraryInfo>
 #include <QPluginLoader>
 #include <cstring>
-#include <memory>
 
 #include "platform/native/cursor.h"
 #include "platform/native/device_context.h"
@@ -21,7 +20,8 @@
 
 namespace {
 
-std::unique_ptr<QApplication> application;
+// Deleted by closeDisplay alone: when the X server goes away Qt calls exit(), and must not be destroyed while it does.
+QApplication* application = nullptr;
 
 bool pluginLoads(const QByteArray& name) {
     const QString folder = qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH",
@@ -135,7 +135,7 @@ void openDisplay() {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     static int argumentCount = 1;  // Qt would take its own options out of the program's arguments
-    application = std::make_unique<QApplication>(argumentCount, __argv);
+    application = new QApplication(argumentCount, __argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     watchKeys();
 }
@@ -150,5 +150,6 @@ void closeDisplay() {
     dropDeviceContexts();
     dropWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    application.reset();
+    delete application;
+    application = nullptr;
 }

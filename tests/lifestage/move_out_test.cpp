@@ -98,11 +98,14 @@ TEST(MoveOutTest, LeavesTwoFamiliesBehind) {
     EXPECT_EQ(neighborhood.newFamily(1)->member(0), &household.sim(0));
 }
 
-TEST(MoveOutTest, ATeenAChildAndNobodyStay) {
+TEST(MoveOutTest, OnlyAnAdultGoes) {
     Household household(1, 50'000, true);
     EXPECT_EQ(moveOut(&household.sim(1)), -1);
+    household.sim(1).setStage(stageNumber::teen, nullptr);
+    EXPECT_EQ(moveOut(&household.sim(1)), -1);
+    EXPECT_EQ(household.members(), "12");
     EXPECT_EQ(moveOut(nullptr), -1);
-    EXPECT_FALSE(household->isDirty());
+    EXPECT_FALSE(household->hasNewFamilies());
     EXPECT_EQ(moveOut(&household.sim(0)), 1) << "the last adult may go: that rule is the window's";
 }
 

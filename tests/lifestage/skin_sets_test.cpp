@@ -43,6 +43,7 @@ TEST_F(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
         {"above and below", "[a]\nTEENAGER=t1;m1\nCHILD=c1;\n[b]\n", teen, "c1", "t1;m1"},
         {"a set without a section line, and no line end", "CHILD=c1;\nTEENAGER=t1;a,B-C", teen, "c1", "t1;a,B-C"},
         {"CR LF", "[a]\r\nCHILD=c1;\r\nTEENAGER=t1;m1\r\n", teen, "c1", "t1;m1"},
+        {"a CR at the very end", "CHILD=c1;\nTEENAGER=t1;m1\r", teen, "c1", "t1;m1\r"},
         {"a CR alone belongs to its field", "CHILD=c1\r\nTEENAGER=t\r1;m1\n", teen, "c1", "t\r1;m1"},
         {"case of the head", "CHILD=C1_aB;\nTEENAGER=T1;M1\n", teen, "c1_Ab", "T1;M1"},
         {"letters outside ASCII keep their case", "CHILD=\xE9;\nTEENAGER=t1;m1\n", teen, "\xC9", "none"},

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "lifestage/child_to_teen.h"
 #include "lifestage/random_generator.h"
@@ -104,7 +105,9 @@ TEST(ChildToTeenTest, DressesTheTeenSavesAndReadsItBack) {
         OneSim sim({.kind = row.kind, .tone = row.tone});
         makeWinePrefix(sim.files().path("prefix"));
         setenv("WINEPREFIX", sim.files().path("prefix").c_str(), 1);
-        if (!row.expansion) std::filesystem::remove_all(gameDirectory(sim.files().path("prefix")) / "ExpansionPack4");
+        const std::string expansion = (gameDirectory(sim.files().path("prefix")) / "ExpansionPack4").string();
+        if (!row.expansion) std::filesystem::remove_all(expansion);
+        if (row.kind == 3) std::ofstream(expansion) << "a file is no expansion";
 
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything
         EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
@@ -154,6 +157,7 @@ TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
     }
     OneSim later({.version = 8, .ending = BodyEnding::atEntry29});
     EXPECT_EQ(childToTeen(&later.sim(0)), 1) << "version 8 of both passes";
+    EXPECT_EQ(later.sim(0).bodyStrings()->version(), 8);
 }
 
 TEST(StageOperationsTest, AskAboutAHeadThatNoSetHolds) {
@@ -206,6 +210,16 @@ TEST(TeenToAdultTest, MakesAnAdultOfAnyVersion) {
     EXPECT_EQ(sim.sim(0).bodyStrings()->version(), 6);
     EXPECT_EQ(sim.personValues(), "7 7 7 7 7 7 7 7 7 7 7 7 7 7 7 1000 7 7 7 7 7 7 7 7 7 7 7 0 0 ");
     EXPECT_EQ(teenToAdult(&sim.sim(0)), -1) << "an adult stays one";
+}
+
+TEST(TeenToAdultTest, DrawsTheBodyBeforeTheHead) {
+    OneSim sim({.age = 18, .head = "teenSkin"});
+    sim.files().write("skinsets.cfg", "TEENAGER=teenSkin;\nADULT=0;\nADULT=1;\nADULT=2;\nADULT=3;\nADULT=4;\n");
+    randomGenerator().seed(0);
+    randomGenerator().draw();
+    EXPECT_EQ(teenToAdult(&sim.sim(0)), 1);
+    EXPECT_STREQ(sim.sim(0).bodyStrings()->slot(bodySlot::bodySkin), "b002fafatlgt_gma1");  // for the draw 7719
+    EXPECT_EQ(sim.head(), " 3");                                                            // for the draw 21238
 }
 
 TEST(StageOperationsTest, GoFromChildToAdultWithoutASaveBetween) {

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdlib>
 #include <functional>
+#include <thread>
 
 #include "sample/installation.h"
 #include "shell/selection.h"
@@ -107,6 +110,8 @@ TEST_F(MainWindowTest, StandsWithItsControlsAtTheirPlaces) {
         EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
         EXPECT_EQ(enabled(), "");
         EXPECT_EQ(lines(), "");
+        resizeWindow(all.mainWindow, client.right + 90, client.bottom + 90);
+        EXPECT_EQ(placeOf(all.moveOutButton).top, client.bottom - 50) << "nothing moves them afterwards";
     });
 }
 
@@ -205,6 +210,7 @@ TEST_F(MainWindowTest, ClosesAtOnceWithoutChanges) {
 
 TEST_F(MainWindowTest, RepaintsAfterEveryCommandThatItKnows) {
     run([] {
+        pick(0, 0, 3);
         const struct {
             int id, notification;
             bool known;
@@ -218,27 +224,56 @@ TEST_F(MainWindowTest, RepaintsAfterEveryCommandThatItKnows) {
             EXPECT_EQ(waitCursorShows(), !row.known) << row.id;
         }
         showArrowCursor();
+        EXPECT_EQ(selection().simIndex, 3) << "other notifications do nothing else";
+        EXPECT_FALSE(neighborhoods[0]->isDirty());
     });
 }
 
-TEST_F(MainWindowTest, TheMenuSavesShowsDialogsAndExitsWithoutAQuestion) {
+TEST_F(MainWindowTest, KeysAndMenuShowDialogsAndExitWithoutAQuestion) {
     later([] {
         const HWND window = controls().mainWindow;
-        pick(0, 0, 2);
-        clickButton(controls().teenToAdultButton);
-        EXPECT_TRUE(neighborhoods[0]->isDirty());
-        const AnsweredBox about = answerNextBox(IDOK);
-        EXPECT_TRUE(chooseMenu(window, {"Help", "About ..."}));
-        later([window, about] {
+        pick(1, 0, 0);
+        clickButton(controls().moveOutButton);
+        const AnsweredBox about = answerNextBox(IDOK), credits = answerNextBox(answerByEscape);
+        pressKey(window, '?', Hold::altShift);
+        EXPECT_TRUE(chooseMenu(window, {"Help", "Credits"}));
+        later([=] {
             EXPECT_EQ(about.title(), "About");
             EXPECT_EQ(about.text().substr(0, 25), "Marrowfen Plus (Build 2)\n");
+            EXPECT_EQ(credits.title(), "Credits");
+            EXPECT_EQ(credits.text().find("Deepest thanks to the following people for their assistance."), 0U);
             EXPECT_TRUE(chooseMenu(window, {"File", "Exit Without Saving"}));
         });
     });
     EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 0);
     EXPECT_TRUE(IsWindow(controls().mainWindow)) << "the loop ends directly";
-    DestroyWindow(controls().mainWindow);
+    const AnsweredBox question = answerNextBox(IDOK);  // the second neighborhood has changed
+    closeWindow(controls().mainWindow);
     runMessages();
+    EXPECT_EQ(question.title(), "Exit?");
+}
+
+TEST_F(MainWindowTest, TheMenuOpensThePagesOfTheProgram) {
+    files_.write("bin/xdg-open", "#!/bin/sh\necho $1 >> " + files_.path("opened") + "\n");
+    std::filesystem::permissions(files_.path("bin/xdg-open"), std::filesystem::perms::owner_all);
+    setenv("PATH", (files_.path("bin") + ":" + std::getenv("PATH")).c_str(), 1);
+    run([this] {
+        const struct {
+            const char *menu, *item, *address;
+        } rows[] = {
+            {"Online help", "Online Help", "http://tidewright.example/Help/\n"},
+            {"Online help", "Frequently Asked Questions", "http://tidewright.example/faq.html\n"},
+            {"Donate", "Support TDW with a small donation", "http://tidewright.example/donate.html\n"},
+        };
+        for (const auto& row : rows) {
+            files_.write("opened", "");
+            EXPECT_TRUE(chooseMenu(controls().mainWindow, {"Help", row.menu, row.item}));
+            runMessages();
+            for (int tries = 0; tries < 500 && files_.bytesOf("opened").empty(); ++tries)
+                std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            EXPECT_EQ(files_.bytesOf("opened"), bytesFrom(row.address));
+        }
+    });
 }
 
 TEST_F(MainWindowTest, FollowsTheSplashWindow) {

@@ -57,21 +57,25 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
     const struct {
         const char* what;
         const char* windowTitle;
-        bool registry, emptySkin, noSkin, emptyConfig, noConfig;
+        bool registry, emptySkin, noSkin;
+        const char *config, *toolDirectory;
         int code;
         const char *title, *text;
     } rows[] = {
-        {"no registry, whatever else is wrong", "The Sims", false, false, true, false, true, -1, "Cannot find The Sims",
-         "Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed."},
-        {"the game runs, and the skin is missing", "The Sims", true, false, true, false, false, -2, "Exit The Sims",
+        {"no registry, whatever else is wrong", "The Sims", false, false, true, nullptr, "tool", -1,
+         "Cannot find The Sims", "Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed."},
+        {"the game runs, and the skin is missing", "The Sims", true, false, true, "x", "tool", -2, "Exit The Sims",
          running},
-        {"Hot Date", "The Sims Hot Date", true, false, false, false, false, -2, "Exit The Sims", running},
-        {"House Party", "The Sims House Party", true, false, false, false, false, -2, "Exit The Sims", running},
-        {"Livin' Large", "The Sims Livin' Large", true, false, false, false, false, -2, "Exit The Sims", running},
-        {"no skin, and no config", nullptr, true, false, true, false, true, -3, "Installation Problem", badlyInstalled},
-        {"an empty skin", nullptr, true, true, false, false, false, -3, "Installation Problem", badlyInstalled},
-        {"no config", nullptr, true, false, false, false, true, -4, "Missing Config Files", noConfig},
-        {"an empty config", nullptr, true, false, false, true, false, -4, "Missing Config Files", noConfig},
+        {"Hot Date", "The Sims Hot Date", true, false, false, "x", "tool", -2, "Exit The Sims", running},
+        {"House Party", "The Sims House Party", true, false, false, "x", "tool", -2, "Exit The Sims", running},
+        {"Livin' Large", "The Sims Livin' Large", true, false, false, "x", "tool", -2, "Exit The Sims", running},
+        {"no skin, and no config", nullptr, true, false, true, nullptr, "tool", -3, "Installation Problem",
+         badlyInstalled},
+        {"an empty skin", nullptr, true, true, false, "x", "tool", -3, "Installation Problem", badlyInstalled},
+        {"no config", nullptr, true, false, false, nullptr, "tool", -4, "Missing Config Files", noConfig},
+        {"a tool directory of too long a path", nullptr, true, false, false, "x", "", -4, "Missing Config Files",
+         noConfig},
+        {"an empty config", nullptr, true, false, false, "", "tool", -4, "Missing Config Files", noConfig},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
@@ -79,13 +83,13 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
         if (!row.registry) std::filesystem::remove(files_.path("prefix") + "/system.reg");
         if (row.emptySkin) std::filesystem::resize_file(game() / skin, 0);
         if (row.noSkin) std::filesystem::remove(game() / skin);
-        files_.write("tool/skinsets.cfg", row.emptyConfig ? "" : "x");
-        if (row.noConfig) files_.remove("tool/skinsets.cfg");
+        files_.write("tool/skinsets.cfg", row.config != nullptr ? row.config : "");
+        if (row.config == nullptr) files_.remove("tool/skinsets.cfg");
         const HWND window = row.windowTitle != nullptr ? openWindow(row.windowTitle) : nullptr;
 
         DirectoryText directory;
         const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(checkStart(directory), row.code);
+        EXPECT_EQ(checkStart(directory, row.toolDirectory), row.code);
         EXPECT_EQ(box.title(), row.title);
         EXPECT_EQ(box.text(), row.text);
         EXPECT_EQ(box.buttons(), std::vector<std::string>{"OK"});
@@ -99,7 +103,7 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
 TEST_F(StartChecksTest, PassOnAWholeInstallation) {
     const HWND window = openWindow("The Sims 2");  // only whole titles count
     DirectoryText directory;
-    EXPECT_EQ(checkStart(directory), 0);
+    EXPECT_EQ(checkStart(directory, "tool"), 0);
     EXPECT_EQ(directory.view(), "C:\\Program Files (x86)\\Maxis\\The Sims\\");
     DestroyWindow(window);
 }
