@@ -18,15 +18,8 @@ void clickButton(HWND button);
 // Opens the list and clicks the entry, also the one that is selected already.
 void pickEntry(HWND combo, int index);
 
-// How high the list is when it is opened, in pixels.
-int openedListHeight(HWND combo);
-
-// Turns the wheel by one notch over a control; `down` moves a combo box to its next entry.
-void turnWheel(HWND control, bool down);
-
-// Opens the menus on the way to the item at the end of `path` and clicks it. Texts stand as the user sees them, without
-// the "&". False, and nothing clicked, if there is no such item or it is disabled. The command is posted: a message
-// loop delivers it.
+// Chooses the item at the end of `path`, texts as the user sees them, without the "&". False, and nothing chosen, if
+// there is no such item or it is disabled. The command is posted: a message loop delivers it.
 bool chooseMenu(HWND window, std::initializer_list<const char*> path);
 
 // Asks the window to close, as its close button does. A message loop delivers it.
@@ -51,10 +44,12 @@ bool runMessages(int* exitCode = nullptr, HWND window = nullptr, HACCEL accelera
 class AnsweredBox {
  public:
     struct Seen {
+        int answer;
+        std::function<void()> meanwhile;
         bool shown = false;
-        std::string title;
-        std::string text;                  // of a dialog: its lines, with a line break between them
-        std::vector<std::string> buttons;  // from left to right, without the "&"
+        std::string title = {};
+        std::string text = {};                  // of a dialog: its lines, with a line break between them
+        std::vector<std::string> buttons = {};  // from left to right, without the "&"
     };
 
     explicit AnsweredBox(std::shared_ptr<Seen> seen) : seen_(std::move(seen)) {}
@@ -71,13 +66,12 @@ class AnsweredBox {
 constexpr int answerByEscape = -1;
 
 // Queues the answer to the next box that opens: IDOK and IDCANCEL click that button, `answerByEscape` presses the key.
-// `meanwhile` runs while the box is open, before the answer. A box without that button is answered by its last one, so
-// that a test fails instead of waiting. Several are used up in their order; one that wasn't used by the end of its
+// `meanwhile` runs while the box is open, before the answer. A box without that button is left by Escape too, so that
+// a test fails instead of waiting. Several are used up in their order; one that wasn't used by the end of its
 // AnsweredBox's life is dropped.
 [[nodiscard]] AnsweredBox answerNextBox(int answer, std::function<void()> meanwhile = {});
 
 bool isEnabled(HWND window);
-bool isVisible(HWND window);
 std::string textOf(HWND window);  // a window's title, a button's text without the "&", a combo box's selected entry
 std::string entryText(HWND combo, int index);
 RECT placeOf(HWND control);  // in its parent's client area

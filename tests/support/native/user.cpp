@@ -13,9 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTextDocumentFragment>
 #include <QTimer>
-#include <QWheelEvent>
 #include <QWindow>
 #include <algorithm>
 #include <deque>
@@ -31,10 +29,6 @@ QWidget& widgetOf(HWND window) {
     return *findWindow(window)->widget();
 }
 
-QComboBox& comboOf(HWND window) {
-    return static_cast<QComboBox&>(widgetOf(window));
-}
-
 void click(const QWidget& widget, QPoint place) {
     QWidget* const whole = widget.window();
     QTest::mouseClick(whole->windowHandle(), Qt::LeftButton, Qt::NoModifier, widget.mapTo(whole, place));
@@ -42,22 +36,6 @@ void click(const QWidget& widget, QPoint place) {
 
 QString withoutMarks(QString text) {
     return text.remove('&');
-}
-
-// A menu bar and a menu have this much in common.
-template <typename Menu>
-QAction* openItem(Menu& menu, const char* text) {
-    for (QAction* const action : menu.actions()) {
-        if (withoutMarks(action->text()) != qtText(text) || !action->isEnabled()) continue;
-        click(menu, menu.actionGeometry(action).center());
-        return action;
-    }
-    return nullptr;
-}
-
-void closePopups() {
-    while (QWidget* const popup = QApplication::activePopupWidget())
-        popup->close();
 }
 
 // What waits for a quiet moment of the message loop.
@@ -70,77 +48,53 @@ void runFirstAction() {
     action();
 }
 
-void watchForQuiet() {
-    static const QMetaObject::Connection watching =
-        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, [] {
-            if (innermostLoop() == Loop::messages && !actions.empty()) QTimer::singleShot(0, runFirstAction);
-        });
-}
+// The boxes that are expected, by what their tests keep of them.
+std::deque<std::weak_ptr<AnsweredBox::Seen>> expected;
 
-struct Answer {
-    int answer;
-    std::function<void()> meanwhile;
-    std::weak_ptr<AnsweredBox::Seen> seen;
-};
-
-std::deque<Answer> answers;
-
-std::vector<QPushButton*> buttonsOf(const QWidget& box) {
-    const QList<QPushButton*> found = box.findChildren<QPushButton*>();
-    std::vector<QPushButton*> buttons(found.begin(), found.end());
+// From left to right.
+QList<QPushButton*> buttonsOf(const QWidget& box) {
+    QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
     std::sort(buttons.begin(), buttons.end(), [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
     return buttons;
-}
-
-std::string linesOf(const QWidget& box) {
-    QStringList lines;
-    for (const QLabel* const label : box.findChildren<QLabel*>())
-        if (label->pixmap().isNull() && !label->text().isEmpty())
-            lines.append(label->textFormat() == Qt::PlainText
-                             ? label->text()
-                             : QTextDocumentFragment::fromHtml(label->text()).toPlainText());
-    return programText(lines.join('\n'));
 }
 
 void look(const QWidget& box, AnsweredBox::Seen& seen) {
     seen.shown = true;
     seen.title = programText(box.windowTitle());
-    seen.text = linesOf(box);
+    QStringList lines;
+    for (const QLabel* const label : box.findChildren<QLabel*>())
+        if (label->pixmap().isNull() && !label->text().isEmpty()) lines.append(label->text());
+    seen.text = programText(lines.join('\n'));
     for (const QPushButton* const button : buttonsOf(box))
         seen.buttons.push_back(programText(withoutMarks(button->text())));
+    if (seen.meanwhile) seen.meanwhile();
 }
 
 void giveAnswer(QWidget& box, int answer) {
-    if (answer == answerByEscape) {
-        QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
-        return;
-    }
-    const std::vector<QPushButton*> buttons = buttonsOf(box);
     const QString wanted = answer == IDOK ? "OK" : "Cancel";
-    const auto found = std::find_if(buttons.begin(), buttons.end(), [&wanted](const QPushButton* button) {
-        return withoutMarks(button->text()) == wanted;
-    });
-    QPushButton* const button = found == buttons.end() ? buttons.back() : *found;
-    click(*button, button->rect().center());
+    for (QPushButton* const button : buttonsOf(box))
+        if (answer != answerByEscape && withoutMarks(button->text()) == wanted)
+            return click(*button, button->rect().center());
+    QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
 }
 
 void answerWhatIsOpen() {
-    std::erase_if(answers, [](const Answer& answer) { return answer.seen.expired(); });
+    std::erase_if(expected, [](const auto& seen) { return seen.expired(); });
     QWidget* const box = QApplication::activeModalWidget();
-    if (answers.empty() || box == nullptr || innermostLoop() != Loop::modal) return;
+    if (expected.empty() || box == nullptr || innermostLoop() != Loop::modal) return;
     // Looked at first and answered the next time, so that the box's own loop runs between.
-    if (const auto seen = answers.front().seen.lock(); !seen->shown) {
-        look(*box, *seen);
-        if (answers.front().meanwhile) answers.front().meanwhile();
-        return;
-    }
-    const int answer = answers.front().answer;
-    answers.pop_front();
-    giveAnswer(*box, answer);
+    const auto seen = expected.front().lock();
+    if (!seen->shown) return look(*box, *seen);
+    expected.pop_front();
+    giveAnswer(*box, seen->answer);
 }
 
-QAccessibleInterface& spokenOf(HWND window) {
-    return *QAccessible::queryAccessibleInterface(&widgetOf(window));
+void watchForQuiet() {
+    static const QMetaObject::Connection watching =
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, [] {
+            if (innermostLoop() == Loop::messages && !actions.empty()) QTimer::singleShot(0, runFirstAction);
+            if (innermostLoop() == Loop::modal && !expected.empty()) QTimer::singleShot(0, answerWhatIsOpen);
+        });
 }
 
 }  // namespace
@@ -150,7 +104,7 @@ void clickButton(HWND button) {
 }
 
 void pickEntry(HWND combo, int index) {
-    QComboBox& box = comboOf(combo);
+    auto& box = static_cast<QComboBox&>(widgetOf(combo));
     box.setFocus(Qt::MouseFocusReason);
     box.showPopup();
     QAbstractItemView& list = *box.view();
@@ -159,32 +113,18 @@ void pickEntry(HWND combo, int index) {
     click(*list.viewport(), list.visualRect(entry).center());
 }
 
-int openedListHeight(HWND combo) {
-    comboOf(combo).showPopup();
-    const int height = QApplication::activePopupWidget()->height();
-    closePopups();
-    return height;
-}
-
-void turnWheel(HWND control, bool down) {
-    QWidget& widget = widgetOf(control);
-    const QPoint middle = widget.rect().center();
-    QWheelEvent event(middle, widget.mapToGlobal(middle), QPoint(), QPoint(0, down ? -120 : 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
 bool chooseMenu(HWND window, std::initializer_list<const char*> path) {
-    auto* const bar = widgetOf(window).findChild<QMenuBar*>();
-    const QMenu* menu = nullptr;
+    QList<QAction*> items = widgetOf(window).findChild<QMenuBar*>()->actions();
+    QAction* chosen = nullptr;
     for (const char* const text : path) {
-        const QAction* const action = menu == nullptr ? openItem(*bar, text) : openItem(*menu, text);
-        if (action == nullptr) {
-            closePopups();
-            return false;
-        }
-        menu = action->menu();
+        const auto found = std::find_if(items.begin(), items.end(), [text](const QAction* item) {
+            return withoutMarks(item->text()) == qtText(text) && item->isEnabled();
+        });
+        if (found == items.end()) return false;
+        chosen = *found;
+        if (chosen->menu() != nullptr) items = chosen->menu()->actions();
     }
+    chosen->trigger();
     return true;
 }
 
@@ -200,11 +140,10 @@ void resizeWindow(HWND window, int width, int height) {
 }
 
 void pressKey(HWND window, char character, Hold hold) {
-    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-    if (hold != Hold::nothing) modifiers |= Qt::AltModifier;
-    if (hold == Hold::altShift) modifiers |= Qt::ShiftModifier;
+    const Qt::KeyboardModifiers alt = hold == Hold::nothing ? Qt::NoModifier : Qt::AltModifier;
+    const Qt::KeyboardModifiers shift = hold == Hold::altShift ? Qt::ShiftModifier : Qt::NoModifier;
     QTest::sendKeyEvent(QTest::Click, widgetOf(window).windowHandle(), QTest::asciiToKey(character), character,
-                        modifiers);
+                        alt | shift);
 }
 
 void later(std::function<void()> action) {
@@ -213,41 +152,29 @@ void later(std::function<void()> action) {
 }
 
 bool runMessages(int* exitCode, HWND window, HACCEL accelerators) {
-    bool quiet = false;
-    later([&quiet] {
-        quiet = true;
-        PostQuitMessage(0);
-    });
+    constexpr int quiet = 0x51E7;  // no code of a test's own
+    later([] { PostQuitMessage(quiet); });
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         if (accelerators != nullptr && TranslateAcceleratorA(window, accelerators, &message) != 0) continue;
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }
-    if (!quiet) actions.pop_back();
-    if (!quiet && exitCode != nullptr) *exitCode = static_cast<int>(message.wParam);
-    return !quiet;
+    if (message.wParam == quiet) return false;
+    actions.pop_back();
+    if (exitCode != nullptr) *exitCode = static_cast<int>(message.wParam);
+    return true;
 }
 
 AnsweredBox answerNextBox(int answer, std::function<void()> meanwhile) {
-    static QTimer* const watch = [] {
-        auto* const timer = new QTimer(qApp);
-        QObject::connect(timer, &QTimer::timeout, answerWhatIsOpen);
-        timer->start(1);
-        return timer;
-    }();
-    static_cast<void>(watch);
-    auto seen = std::make_shared<AnsweredBox::Seen>();
-    answers.push_back({answer, std::move(meanwhile), seen});
+    watchForQuiet();
+    auto seen = std::make_shared<AnsweredBox::Seen>(AnsweredBox::Seen{answer, std::move(meanwhile)});
+    expected.emplace_back(seen);
     return AnsweredBox(std::move(seen));
 }
 
 bool isEnabled(HWND window) {
     return widgetOf(window).isEnabled();
-}
-
-bool isVisible(HWND window) {
-    return widgetOf(window).isVisible();
 }
 
 std::string textOf(HWND window) {
@@ -259,7 +186,7 @@ std::string textOf(HWND window) {
 }
 
 std::string entryText(HWND combo, int index) {
-    return programText(comboOf(combo).itemText(index));
+    return programText(static_cast<QComboBox&>(widgetOf(combo)).itemText(index));
 }
 
 RECT placeOf(HWND control) {
@@ -268,23 +195,20 @@ RECT placeOf(HWND control) {
 }
 
 bool waitCursorShows() {
-    const QCursor* const cursor = QGuiApplication::overrideCursor();
+    const QCursor* const cursor = QApplication::overrideCursor();
     return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
 }
 
 std::string spokenName(HWND window) {
-    return programText(spokenOf(window).text(QAccessible::Name));
+    return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Name));
 }
 
 std::string spokenDescription(HWND window) {
-    return programText(spokenOf(window).text(QAccessible::Description));
+    return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description));
 }
 
 Picture pictureOf(HWND window) {
-    QWidget& widget = widgetOf(window);
-    const ClientArea* const area = findWindow(window)->clientArea();
-    const QImage image =
-        widget.grab(area == nullptr ? widget.rect() : area->geometry()).toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage image = widgetOf(window).grab(findWindow(window)->clientArea()->geometry()).toImage();
     Picture picture{image.width(), image.height(), {}};
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x)
