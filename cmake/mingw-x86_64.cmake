@@ -1,10 +1,4 @@
-# Debian's mingw-w64 for 64-bit Windows, with the POSIX thread model (the one whose libstdc++ is whole).
-set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_SYSTEM_PROCESSOR x86_64)
-set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
-set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+# 64-bit Windows, from the 64-bit XP on.
+set(MINGW_PROCESSOR x86_64)
+set(TIDEWRIGHT_OLDEST_WINDOWS 5.2)
+include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")
