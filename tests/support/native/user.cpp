@@ -63,7 +63,7 @@ void look(const QWidget& box, AnsweredBox::Seen& seen) {
     seen.title = programText(box.windowTitle());
     QStringList lines;
     for (const QLabel* const label : box.findChildren<QLabel*>())
-        if (label->pixmap().isNull() && !label->text().isEmpty()) lines.append(label->text());
+        if (label->textFormat() == Qt::PlainText) lines.append(label->text());  // others may not show what they hold
     seen.text = programText(lines.join('\n'));
     for (const QPushButton* const button : buttonsOf(box))
         seen.buttons.push_back(programText(withoutMarks(button->text())));
