@@ -8,7 +8,8 @@ cd "$root"
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgtest-dev libbenchmark-dev
     binutils-mingw-w64-x86-64)
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
-windows_packages=(g++-mingw-w64-x86-64-posix)
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
+wine_packages=(wine wine64)
 check_packages=(clang-format clang-tidy)
 
 say() { printf '%s\n' "$*"; }
