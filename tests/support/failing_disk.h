@@ -1,5 +1,5 @@
 // A disk that runs full, for tests of what a save then leaves. Each system has its own implementation in a folder
-// beside this file; where it can't be had, `works` is false and the test skips it.
+// beside this file; where it can't be had, the test fails.
 #ifndef TESTS_SUPPORT_FAILING_DISK_H
 #define TESTS_SUPPORT_FAILING_DISK_H
 
@@ -15,11 +15,8 @@ class FullDisk {
     FullDisk& operator=(const FullDisk&) = delete;
     ~FullDisk();
 
-    bool works() const { return works_; }
-
  private:
     int watched_ = -1;
-    bool works_;
 };
 
 #endif
