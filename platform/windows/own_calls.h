@@ -1,4 +1,4 @@
-// Three of Windows' calls in a version of this program's own. The names of Windows stand for them wherever
+// Four of Windows' calls in a version of this program's own. The names of Windows stand for them wherever
 // platform/win32.h is included, so that callers stay the same on every system.
 #ifndef PLATFORM_WINDOWS_OWN_CALLS_H
 #define PLATFORM_WINDOWS_OWN_CALLS_H
@@ -18,8 +18,13 @@ HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWOR
 // BeginPaint with that font chosen. The device context isn't a class's or window's own, so EndPaint chooses it away.
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 
+// SetWindowLongA; a control that gets disabled by it hands the keyboard on to its parent. Windows itself leaves the
+// keyboard with the disabled control, which takes no command: Alt and a letter would open no menu until the next click.
+LONG setWindowLong(HWND window, int index, LONG value);
+
 #define RegOpenKeyExA openRegistryKey
 #define CreateWindowExA createWindow
 #define BeginPaint beginPaint
+#define SetWindowLongA setWindowLong
 
 #endif
