@@ -19,8 +19,9 @@ class FilesTest : public testing::Test {
         directory_.makeDirectory("Protected");
         directory_.write("User00042.iff", "old");
         directory_.write("protected.iff", "kept");
-        for (const char* path : {"Protected", "protected.iff"})
+        for (const char* path : {"Protected", "protected.iff"}) {
             fs::permissions(path, fs::perms::owner_read);
+        }
     }
 
     TempDirectory directory_;

@@ -40,8 +40,9 @@ TEST_F(PathsNativeTest, DrivesSeparatorsAndCaseAreMapped) {
         {"c:\\sims\\..\\SIMS\\.\\data", drive + "/Sims/../Sims/./Data"},
         {directory_.path("prefix") + "\\Drive_C", directory_.path("Prefix/drive_c")},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(nativePath(row.path.c_str()), row.native) << row.path;
+    }
     prefix_.set("");
     const ScopedVariable home("HOME", directory_.path("home"));
     EXPECT_EQ(nativePath("C:\\x"), directory_.path("home/.wine/dosdevices/c:/x"));

@@ -31,8 +31,9 @@ TEST(ShellExecuteNativeTest, APageIsOpenedByTheDesktopElseByTheBrowser) {
         browser.set(row.browser);
         EXPECT_TRUE(opens(page));
         const Bytes expected = bytesFrom(row.opened + std::string(page) + "\n");
-        for (int i = 0; i < 500 && !(directory.exists("opened") && directory.bytesOf("opened") == expected); ++i)
+        for (int i = 0; i < 500 && !(directory.exists("opened") && directory.bytesOf("opened") == expected); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
         EXPECT_EQ(directory.bytesOf("opened"), expected);
         directory.remove("opened");
     }

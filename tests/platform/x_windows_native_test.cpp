@@ -37,8 +37,9 @@ TEST_F(XWindowsNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     setName(makeWindow(makeWindow(makeWindow(root))), "WM_NAME", "STRING", "The Sims H\xF4tel");
     EXPECT_TRUE(finds("The Sims House Party"));
     EXPECT_TRUE(finds("The Sims H\xF4tel"));
-    for (const char* other : {"The Sims", "The Sims House Party 2", "the sims house party", ""})
+    for (const char* other : {"The Sims", "The Sims House Party 2", "the sims house party", ""}) {
         EXPECT_FALSE(finds(other)) << other;
+    }
     setName(plain, "_NET_WM_NAME", "UTF8_STRING", "The Sims \xE2\x80\x93 Livin\xE2\x80\x99 Large");
     EXPECT_TRUE(finds("The Sims \x96 Livin\x92 Large"));
     EXPECT_FALSE(finds("The Sims House Party")) << "the older name doesn't count then";

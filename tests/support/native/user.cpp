@@ -124,8 +124,8 @@ bool chooseMenu(HWND window, std::initializer_list<const char*> path) {
         chosen = *found;
         if (chosen->menu() != nullptr) items = chosen->menu()->actions();
     }
-    chosen->trigger();
-    return true;
+    if (chosen != nullptr) chosen->trigger();
+    return chosen != nullptr;
 }
 
 void closeWindow(HWND window) {
@@ -154,7 +154,7 @@ void later(std::function<void()> action) {
 bool runMessages(int* exitCode, HWND window, HACCEL accelerators) {
     constexpr int quiet = 0x51E7;  // no code of a test's own
     later([] { PostQuitMessage(quiet); });
-    MSG message;
+    MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         if (accelerators != nullptr && TranslateAcceleratorA(window, accelerators, &message) != 0) continue;
         TranslateMessage(&message);
