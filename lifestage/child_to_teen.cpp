@@ -42,8 +42,9 @@ std::int32_t childToTeen(Sim* sim) {
             *sim, stageNumber::teen, oldBody->headSkin(),
             "No teen head is registered for this child head.  If you proceed, your teen will have a random head "
             "assigned by the game.  Proceed?",
-            *newBody))
+            *newBody)) {
         return 0;
+    }
 
     sim->setStage(stageNumber::teen, std::move(newBody));
     disableButton(controls().childToTeenButton);

@@ -29,8 +29,9 @@ std::string_view bodyWord(std::int16_t type) {
 
 void set(BodyStrings::Slot& slot, Parts parts) {
     slot.clear();
-    for (const std::string_view part : parts)
+    for (const std::string_view part : parts) {
         slot.append(part);
+    }
 }
 
 // Mesh and skin of the everyday body, which follow no rule.

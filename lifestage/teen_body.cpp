@@ -26,8 +26,9 @@ constexpr TeenNames boyNames = {"b614maTNR_01,BODY", "b614maTNR", "m", "ma", "_b
 
 BodyStrings::Slot joined(std::initializer_list<std::string_view> parts) {
     BodyStrings::Slot text;
-    for (const std::string_view part : parts)
+    for (const std::string_view part : parts) {
         text.append(part);
+    }
     return text;
 }
 

@@ -34,8 +34,9 @@ std::int32_t teenToAdult(Sim* sim) {
             *sim, stageNumber::adult, oldBody->headSkin(),
             "No adult head is registered for this teen head.  If you proceed, your adult will have a random head "
             "assigned by the game.  Proceed?",
-            *newBody))
+            *newBody)) {
         return 0;
+    }
 
     sim->setStage(stageNumber::adult, std::move(newBody));
     if (Family* family = sim->family()) family->setAdultCount(static_cast<std::int16_t>(family->adultCount() + 1));

@@ -54,15 +54,17 @@ LRESULT onCommand(HWND window, WPARAM wParam, LPARAM lParam) {
 }
 
 bool somethingIsUnsaved() {
-    for (int slot = 0; slot < listedNeighborhoodCount(); ++slot)
+    for (int slot = 0; slot < listedNeighborhoodCount(); ++slot) {
         if (neighborhoods[static_cast<std::size_t>(slot)]->isDirty()) return true;
+    }
     return false;
 }
 
 LRESULT onClose(HWND window, WPARAM wParam, LPARAM lParam) {
     if (somethingIsUnsaved() &&
-        MessageBoxA(window, "You haven't saved your changes.  Exit without saving?", "Exit?", MB_OKCANCEL) != IDOK)
+        MessageBoxA(window, "You haven't saved your changes.  Exit without saving?", "Exit?", MB_OKCANCEL) != IDOK) {
         return 0;
+    }
     return DefWindowProcA(window, WM_CLOSE, wParam, lParam);
 }
 

@@ -15,8 +15,9 @@ void forgetSim() {
 }
 
 void listFamilies(const Neighborhood& neighborhood) {
-    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i)
+    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i) {
         addEntry(controls().familyCombo, neighborhood.family(i)->name());
+    }
 }
 
 // The first call of `memberCount` may read many character files.

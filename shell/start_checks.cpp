@@ -15,8 +15,9 @@ int refuse(const char* text, const char* title, int code) {
 }
 
 bool gameRuns() {
-    for (const char* title : {"The Sims Hot Date", "The Sims House Party", "The Sims Livin' Large", "The Sims"})
+    for (const char* title : {"The Sims Hot Date", "The Sims House Party", "The Sims Livin' Large", "The Sims"}) {
         if (FindWindowA(nullptr, title) != nullptr) return true;
+    }
     return false;
 }
 
@@ -28,16 +29,18 @@ bool hasBytes(const char* path) {
 }  // namespace
 
 int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
-    if (findSimsDirectory(simsDirectory) != 0)
+    if (findSimsDirectory(simsDirectory) != 0) {
         return refuse("Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed.",
                       "Cannot find The Sims", exitCode::gameNotFound);
+    }
     simsDirectory.append('\\');
-    if (gameRuns())
+    if (gameRuns()) {
         return refuse(
             "The Sims is currently running.  Please save and exit The Sims before using Marrowfen or any other "
             "Sims-modifying "
             "software.",
             "Exit The Sims", exitCode::gameRunning);
+    }
 
     FixedText<299> skin(simsDirectory);
     skin.append(installedSkin);
@@ -50,11 +53,12 @@ int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
         return refuse(text.c_str(), "Installation Problem", exitCode::badInstallation);
     }
     // Files that the program couldn't name later on count as missing, or no save would ever reach the disk.
-    if (*toolDirectory == '\0' || !hasBytes("skinsets.cfg"))
+    if (*toolDirectory == '\0' || !hasBytes("skinsets.cfg")) {
         return refuse(
             "Tidewright cannot find its config files.  It must be in the same directory as its skin config file and "
             "template "
             "files.",
             "Missing Config Files", exitCode::missingSkinSets);
+    }
     return 0;
 }

@@ -70,8 +70,9 @@ void paintMainWindow(HWND window) {
     GetClientRect(window, &client);
     drawLabels(dc, client);
     const Selection& picked = selection();
-    if (picked.simIndex >= 0 && picked.currentSim != nullptr && picked.currentFamily != nullptr)
+    if (picked.simIndex >= 0 && picked.currentSim != nullptr && picked.currentFamily != nullptr) {
         drawSim(dc, client, *picked.currentSim, *picked.currentFamily);
+    }
     EndPaint(window, &paint);
     showArrowCursor();
 }

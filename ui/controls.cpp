@@ -34,8 +34,9 @@ void addEntry(HWND combo, const char* text) {
 }
 
 void emptyCombo(HWND combo) {
-    for (LRESULT left = SendMessageA(combo, CB_GETCOUNT, 0, 0); left > 0; --left)
+    for (LRESULT left = SendMessageA(combo, CB_GETCOUNT, 0, 0); left > 0; --left) {
         SendMessageA(combo, CB_DELETESTRING, 0, 0);
+    }
 }
 
 void addNeighborhoodEntries(int count) {
