@@ -4,6 +4,7 @@
 
 #include "resources/ids.h"
 #include "shell/commands.h"
+#include "shell/window_class.h"
 #include "shell/window_texts.h"
 #include "ui/controls.h"
 #include "ui/status_line.h"
@@ -68,22 +69,6 @@ LRESULT onClose(HWND window, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcA(window, WM_CLOSE, wParam, lParam);
 }
 
-void registerMainClass(const char* name) {
-    const HINSTANCE instance = GetModuleHandleA(nullptr);
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.style = CS_HREDRAW | CS_VREDRAW;
-    windowClass.lpfnWndProc = mainWindowProc;
-    windowClass.hInstance = instance;
-    windowClass.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_MAIN));
-    windowClass.hIconSm = LoadIconA(instance, MAKEINTRESOURCEA(IDI_SMALL));
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
-    windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MAIN_MENU);
-    windowClass.lpszClassName = name;
-    RegisterClassExA(&windowClass);
-}
-
 int runMessageLoop(HWND window) {
     const HACCEL accelerators = LoadAcceleratorsA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS));
     MSG message{};
@@ -101,7 +86,7 @@ int runMainWindow(int showCommand) {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
     std::array<char, 100> className{};
     LoadStringA(instance, IDS_MAIN_CLASS, className.data(), className.size());
-    registerMainClass(className.data());
+    registerWindowClass(className.data(), mainWindowProc, IDC_ARROW, MAKEINTRESOURCEA(IDR_MAIN_MENU));
     const HWND window =
         CreateWindowExA(0, className.data(), "Tidewright", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, instance, nullptr);

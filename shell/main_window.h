@@ -8,6 +8,7 @@
 // the window can't be created.
 int runMainWindow(int showCommand);
 
+// The window's procedure: creation, painting, commands, the close request and destruction.
 LRESULT CALLBACK mainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 #endif

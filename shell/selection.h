@@ -15,6 +15,7 @@ struct Selection {
     Sim* currentSim = nullptr;
 };
 
+// The one selection of the program.
 Selection& selection();
 
 // The answers to a pick in each combo box: the levels below are emptied and filled anew, the buttons follow the Sim.

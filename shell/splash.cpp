@@ -3,6 +3,7 @@
 #include <array>
 
 #include "resources/ids.h"
+#include "shell/window_class.h"
 #include "ui/status_line.h"
 
 namespace {
@@ -33,21 +34,6 @@ LRESULT CALLBACK splashProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     }
 }
 
-void registerSplashClass(const char* name) {
-    const HINSTANCE instance = GetModuleHandleA(nullptr);
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.style = CS_HREDRAW | CS_VREDRAW;
-    windowClass.lpfnWndProc = splashProc;
-    windowClass.hInstance = instance;
-    windowClass.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_MAIN));
-    windowClass.hIconSm = LoadIconA(instance, MAKEINTRESOURCEA(IDI_SMALL));
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_APPSTARTING);
-    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
-    windowClass.lpszClassName = name;
-    RegisterClassExA(&windowClass);
-}
-
 // Drawn once, on the screen itself: nothing repaints it.
 void drawPicture() {
     const HANDLE picture =
@@ -69,7 +55,7 @@ bool showSplashWindow() {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
     std::array<char, 100> className{};
     LoadStringA(instance, IDS_SPLASH_CLASS, className.data(), className.size());
-    registerSplashClass(className.data());
+    registerWindowClass(className.data(), splashProc, IDC_APPSTARTING, nullptr);
     const HWND window = CreateWindowExA(0, className.data(), "Loading", WS_DLGFRAME, screenX, screenY, windowWidth,
                                         windowHeight, nullptr, nullptr, instance, nullptr);
     if (window == nullptr) return false;

@@ -1,7 +1,5 @@
 #include "shell/window_texts.h"
 
-#include <string_view>
-
 #include "platform/fixed_text.h"
 #include "shell/selection.h"
 #include "ui/cursors.h"
@@ -21,7 +19,7 @@ void drawLine(HDC dc, const RECT& client, const char* text, LONG top, LONG botto
 }
 
 void drawLabels(HDC dc, const RECT& client) {
-    const LONG right = client.right + 150;
+    const LONG right = client.right + 150;  // beyond the edge: a label is never cut but by the window
     drawText(dc, client, "Pick a Neighborhood: ", 10, 30, right);
     drawText(dc, client, "Pick a Family: ", 40, 60, right);
     drawText(dc, client, "Pick a Sim: ", 70, 90, right);
@@ -70,6 +68,7 @@ void paintMainWindow(HWND window) {
     GetClientRect(window, &client);
     drawLabels(dc, client);
     const Selection& picked = selection();
+    // Behind the entry of an unreadable member there is no Sim, and so nothing to tell.
     if (picked.simIndex >= 0 && picked.currentSim != nullptr && picked.currentFamily != nullptr) {
         drawSim(dc, client, *picked.currentSim, *picked.currentFamily);
     }

@@ -3,8 +3,6 @@
 #ifndef UI_CONTROLS_H
 #define UI_CONTROLS_H
 
-#include <string_view>
-
 #include "platform/win32.h"
 
 namespace controlId {
