@@ -47,7 +47,6 @@ TEST(StageTemplateTest, EverySlotOfEveryBody) {
     for (const auto& row : rows) {
         const BodyStrings body(row.gender, row.age, row.tone, row.version, row.type);
         EXPECT_EQ(slotsOf(body), replaced(row.slots, "~", row.word));
-        EXPECT_EQ(body.version(), row.version);
     }
 }
 
