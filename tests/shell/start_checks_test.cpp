@@ -44,44 +44,35 @@ class StartChecksTest : public testing::Test {
 TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
     const char* running =
         "The Sims is currently running.  Please save and exit The Sims before using Marrowfen or any other "
-        "Sims-modifying "
-        "software.";
+        "Sims-modifying software.";
     const char* badlyInstalled =
         "Tidewright appears to have been installed incorrectly.  It must be unzipped to your Sims directory.\n\nYour "
-        "Sims "
-        "directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\";
+        "Sims directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\";
     const char* noConfig =
         "Tidewright cannot find its config files.  It must be in the same directory as its skin config file and "
-        "template "
-        "files.";
+        "template files.";
     const struct {
         const char* what;
         const char* windowTitle;
-        bool registry, emptySkin, noSkin;
-        const char *config, *toolDirectory;
+        bool registry, noSkin;
+        const char* config;
         int code;
         const char *title, *text;
     } rows[] = {
-        {"no registry, whatever else is wrong", "The Sims", false, false, true, nullptr, "tool", -1,
-         "Cannot find The Sims", "Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed."},
-        {"the game runs, and the skin is missing", "The Sims", true, false, true, "x", "tool", -2, "Exit The Sims",
-         running},
-        {"Hot Date", "The Sims Hot Date", true, false, false, "x", "tool", -2, "Exit The Sims", running},
-        {"House Party", "The Sims House Party", true, false, false, "x", "tool", -2, "Exit The Sims", running},
-        {"Livin' Large", "The Sims Livin' Large", true, false, false, "x", "tool", -2, "Exit The Sims", running},
-        {"no skin, and no config", nullptr, true, false, true, nullptr, "tool", -3, "Installation Problem",
-         badlyInstalled},
-        {"an empty skin", nullptr, true, true, false, "x", "tool", -3, "Installation Problem", badlyInstalled},
-        {"no config", nullptr, true, false, false, nullptr, "tool", -4, "Missing Config Files", noConfig},
-        {"a tool directory of too long a path", nullptr, true, false, false, "x", "", -4, "Missing Config Files",
-         noConfig},
-        {"an empty config", nullptr, true, false, false, "", "tool", -4, "Missing Config Files", noConfig},
+        {"no registry, whatever else is wrong", "The Sims", false, true, nullptr, -1, "Cannot find The Sims",
+         "Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed."},
+        {"the game runs, and the skin is missing", "The Sims", true, true, "x", -2, "Exit The Sims", running},
+        {"Hot Date", "The Sims Hot Date", true, false, "x", -2, "Exit The Sims", running},
+        {"House Party", "The Sims House Party", true, false, "x", -2, "Exit The Sims", running},
+        {"Livin' Large", "The Sims Livin' Large", true, false, "x", -2, "Exit The Sims", running},
+        {"no skin, and no config", nullptr, true, true, nullptr, -3, "Installation Problem", badlyInstalled},
+        {"no config", nullptr, true, false, nullptr, -4, "Missing Config Files", noConfig},
+        {"an empty config", nullptr, true, false, "", -4, "Missing Config Files", noConfig},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         makeWinePrefix(files_.path("prefix"));
         if (!row.registry) std::filesystem::remove(files_.path("prefix") + "/system.reg");
-        if (row.emptySkin) std::filesystem::resize_file(game() / skin, 0);
         if (row.noSkin) std::filesystem::remove(game() / skin);
         files_.write("tool/skinsets.cfg", row.config != nullptr ? row.config : "");
         if (row.config == nullptr) files_.remove("tool/skinsets.cfg");
@@ -89,7 +80,7 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
 
         DirectoryText directory;
         const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(checkStart(directory, row.toolDirectory), row.code);
+        EXPECT_EQ(checkStart(directory, "tool"), row.code);
         EXPECT_EQ(box.title(), row.title);
         EXPECT_EQ(box.text(), row.text);
         EXPECT_EQ(box.buttons(), std::vector<std::string>{"OK"});
