@@ -91,11 +91,17 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
     }
 }
 
-TEST_F(StartChecksTest, PassOnAWholeInstallation) {
+TEST_F(StartChecksTest, PassOnAWholeInstallationOnly) {
     const HWND window = openWindow("The Sims 2");  // only whole titles count
     DirectoryText directory;
     EXPECT_EQ(checkStart(directory, "tool"), 0);
     EXPECT_EQ(directory.view(), "C:\\Program Files (x86)\\Maxis\\The Sims\\");
+    const AnsweredBox box = answerNextBox(IDOK);
+    EXPECT_EQ(checkStart(directory, ""), -4) << "a tool directory of too long a path";
+    EXPECT_EQ(box.title(), "Missing Config Files");
+    std::filesystem::resize_file(game() / skin, 0);
+    const AnsweredBox second = answerNextBox(IDOK);
+    EXPECT_EQ(checkStart(directory, "tool"), -3) << "an empty skin is none";
     DestroyWindow(window);
 }
 
