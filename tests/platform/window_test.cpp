@@ -60,10 +60,6 @@ TEST(WindowTest, WhatWaitsIsDrawnByAnUpdateOrByAQuietLoop) {
     InvalidateRect(window.handle, &one, TRUE);
     runMessages();
     EXPECT_EQ(window.takeLog(), Log{"paint"});
-
-    resizeWindow(window.handle, 700, clientOf(window.handle)[3]);
-    runMessages();
-    EXPECT_EQ(window.painted, clientOf(window.handle));
 }
 
 TEST(WindowTest, AQuitEndsOneLoop) {

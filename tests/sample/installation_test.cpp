@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/stories/tree.h"
 #include "tests/support/iff_walk.h"
 #include "tests/support/temp_directory.h"
+#include "tests/support/tree.h"
 
 namespace {
 

@@ -5,26 +5,14 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <string>
 
 #include "sample/data_files.h"
 #include "save/backup_names.h"
-#include "tests/stories/tree.h"
 #include "tests/support/test_neighborhood.h"
-
-// The names of the files that differ, or are only in one of the trees; empty for equal trees.
-inline std::string differences(const Tree& expected, const Tree& actual) {
-    Tree different;
-    std::set_symmetric_difference(expected.begin(), expected.end(), actual.begin(), actual.end(),
-                                  std::inserter(different, different.end()));
-    std::string names;
-    for (const auto& [name, bytes] : different)
-        names += name + "\n";
-    return names;
-}
+#include "tests/support/tree.h"
 
 class SaveTest : public testing::Test {
  public:
@@ -38,6 +26,8 @@ class SaveTest : public testing::Test {
 
     static void change(const Neighborhood& neighborhood, int sim, int stage) {
         ASSERT_NE(neighborhood.sim(sim)->bodyStrings(), nullptr);
+        neighborhood.sim(sim)->guid();  // the window has asked for these
+        neighborhood.sim(sim)->name();
         EXPECT_EQ(neighborhood.sim(sim)->setStage(stage, nullptr), 1);
     }
 

@@ -2,29 +2,21 @@
 #ifndef TESTS_STORIES_DESKTOP_H
 #define TESTS_STORIES_DESKTOP_H
 
-#include <sys/types.h>
-
+#include <cstdio>
 #include <string>
 
 #include "tests/support/x_server.h"
 
-class Desktop {
+class Desktop : public XServer {
  public:
-    const std::string& display() const { return server_.display(); }
-
     // Runs xdotool with these arguments and returns the first line of what it prints; a failure fails the test.
     std::string act(const std::string& arguments) const;
-
-    // Asks a window to close, as a window manager does.
-    void askToClose(unsigned window) const;
-
- private:
-    XServer server_;
 };
 
 class RunningProgram {
  public:
-    // Starts the program in `toolDirectory` on the game of `prefix`; without a desktop it has no display.
+    // Starts the program in `toolDirectory` on the game of `prefix`; without a desktop it has no display. It is killed
+    // after two minutes.
     RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop);
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
@@ -45,17 +37,16 @@ class RunningProgram {
 
     // Waits until the program has ended; the exit code as a signed byte.
     int waitForExit();
-    std::string errorOutput() const;
+    const std::string& errorOutput() const { return errorOutput_; }  // once it has ended
 
  private:
-    void waitForWindow();
     void clickAt(int x, int y) const;
     void clickButton(int x, int aboveBottom) const { clickAt(x, windowHeight_ - aboveBottom); }
     void pickEntry(int comboTop, int index) const;
 
     const Desktop* desktop_;
-    pid_t process_ = -1;
-    std::string errorFile_;
+    std::FILE* process_ = nullptr;
+    std::string errorOutput_;
     std::string window_;
     int windowHeight_ = 0;
     int clientTop_ = 0;

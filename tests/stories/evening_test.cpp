@@ -7,8 +7,8 @@
 #include "shell/main_window.h"
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
-#include "tests/stories/tree.h"
 #include "tests/support/iff_walk.h"
+#include "tests/support/tree.h"
 #include "tests/support/user.h"
 #include "ui/controls.h"
 #include "ui/cursors.h"
@@ -24,11 +24,8 @@ std::string lineOf(int neighborhood, int family, int sim) {
     pickEntry(controls().simCombo, sim);
     std::string line = spokenDescription(controls().mainWindow);
     std::replace(line.begin(), line.end(), '\n', ' ');
-    const std::size_t at = line.find("Name: ");
-    if (at == std::string::npos) return textOf(controls().simCombo);
-    line = line.substr(at);
     const Family& picked = *neighborhoods[static_cast<std::size_t>(neighborhood)]->family(family);
-    return line + "; " + std::to_string(picked.funds());
+    return line.substr(line.find("Name: ")) + "; " + std::to_string(picked.funds());
 }
 
 TEST_F(Stories, AnEveningOfPlay) {
@@ -83,7 +80,6 @@ TEST_F(Stories, AnEveningOfPlay) {
             {0, 0, 1, "Name: Bramble Thistlewood Stage: adult; 42500"},
             {0, 0, 2, "Name: Clover Thistlewood Stage: teenager; 42500"},
             {0, 0, 3, "Name: Fern Thistlewood Stage: teenager; 42500"},
-            {0, 0, 6, "Name: Marmalade Thistlewood Stage: not applicable (pet); 42500"},
             {0, 0, 7, "none"},
             {0, 1, 0, "Name: Antonia QA Stage: adult; 4000"},
             {0, 2, 0, "Name: Se\xF1or Cr\xE8me Stage: adult; 0"},
@@ -102,15 +98,11 @@ TEST_F(Stories, AnEveningOfPlay) {
     });
     runMainWindow(SW_SHOWNORMAL);
 
-    int written = 0;
     for (const auto& [name, bytes] : treeOf(prefix())) {
         if (!name.ends_with(".iff")) continue;
         EXPECT_EQ(walkIff(bytes).fault, "") << name;
         EXPECT_EQ(name.find("TMP"), std::string::npos) << name;
-        if (!before.contains(name)) ++written;
     }
-    // Two neighborhoods, one of them with one or two backups (of one minute or two), and four Sims with theirs.
-    EXPECT_TRUE(written == 2 + 2 + 2 * 4 || written == 2 + 3 + 2 * 4) << written;
 }
 
 }  // namespace

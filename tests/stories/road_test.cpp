@@ -5,77 +5,41 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <sstream>
 
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
-#include "tests/stories/tree.h"
+#include "tests/support/tree.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// The text that dates a backup made now: no leading zeros, and the minutes only for a neighborhood.
-std::string dateNow(const char* format) {
+// The text that dates a neighborhood's backup made now: no leading zeros.
+std::string dateNow() {
     const std::time_t now = std::time(nullptr);
     std::tm utc{};
     gmtime_r(&now, &utc);
     char text[32];
-    std::snprintf(text, sizeof text, format, utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min);
+    std::snprintf(text, sizeof text, "%d%d%d.%d%d", utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday, utc.tm_hour,
+                  utc.tm_min);
     return text;
 }
 
-// Bramble of the Thistlewoods as a fit adult of light skin, slot by slot. Her head is the only one of its skin set.
+// Bramble of the Thistlewoods as a fit adult of light skin, slot by slot, "-" for an empty one. Her head is the only
+// one of its skin set.
 BodySlots brambleGrownUp() {
-    return {"b002fafit_01,BODY",
-            "B002FAFitlgt_mom01",
-            "c004fa_gma1,HEAD-HEAD",
-            "c004falgt_asian",
-            "HEAD",
-            "Top",
-            "R_HAND",
-            "Palm",
-            "",
-            "",
-            "",
-            "",
-            "",
-            "female",
-            "27",
-            "lgt",
-            "nffit_01,BODY",
-            "nffitlgt_01",
-            "nffit_01,BODY",
-            "uffitlgt_lguard01",
-            "HuLO,HAND",
-            "huaolgt",
-            "HuRO,HAND",
-            "huaolgt",
-            "HuLP,HAND",
-            "huaplgt",
-            "HuRP,HAND",
-            "huaplgt",
-            "HuLC,HAND",
-            "huaclgt",
-            "HuRC,HAND",
-            "huaclgt",
-            "",
-            "",
-            "",
-            "",
-            "fffit_01,BODY",
-            "fffitlgt_01",
-            "HuLO,HAND",
-            "huaolgt",
-            "HuRO,HAND",
-            "huaolgt",
-            "F100fafit_original,BODY",
-            "F100fafitlgt_original",
-            "S100fafit_original,BODY",
-            "S100fafitlgt_original",
-            "L100fafit_original,BODY",
-            "L100fafitlgt_original",
-            "",
-            ""};
+    std::istringstream words(
+        "b002fafit_01,BODY B002FAFitlgt_mom01 c004fa_gma1,HEAD-HEAD c004falgt_asian HEAD Top R_HAND Palm - - - - - "
+        "female 27 lgt nffit_01,BODY nffitlgt_01 nffit_01,BODY uffitlgt_lguard01 "
+        "HuLO,HAND huaolgt HuRO,HAND huaolgt HuLP,HAND huaplgt HuRP,HAND huaplgt HuLC,HAND huaclgt HuRC,HAND huaclgt "
+        "- - - - fffit_01,BODY fffitlgt_01 HuLO,HAND huaolgt HuRO,HAND huaolgt "
+        "F100fafit_original,BODY F100fafitlgt_original S100fafit_original,BODY S100fafitlgt_original "
+        "L100fafit_original,BODY L100fafitlgt_original - -");
+    BodySlots slots;
+    for (std::string& slot : slots)
+        if (words >> slot && slot == "-") slot.clear();
+    return slots;
 }
 
 // Her record as the program writes it: grown up, and zero in every byte that it doesn't know.
@@ -93,7 +57,7 @@ Bytes brambleRecord(SampleNeighbor neighbor) {
 TEST_F(Stories, ATeenGrowsUpAndIsSaved) {
     const Tree before = treeOf(prefix());
     const Desktop desktop;
-    const std::string minuteBefore = dateNow("%d%d%d.%d%d");
+    const std::string minuteBefore = dateNow();
     {
         RunningProgram program(prefix(), toolDirectory(), &desktop);
         program.pick(0, 0, 2);
@@ -102,12 +66,10 @@ TEST_F(Stories, ATeenGrowsUpAndIsSaved) {
         program.closeWindow();
         EXPECT_EQ(program.waitForExit(), 0) << program.errorOutput();
     }
-    const std::string minuteAfter = dateNow("%d%d%d.%d%d");
+    const std::string minuteAfter = dateNow();
 
     const SampleNeighborhood content = castNeighborhoodFile(0, sampleCast()[0]);
-    const auto bramble =
-        std::find_if(content.neighbors.begin(), content.neighbors.end(),
-                     [](const SampleNeighbor& neighbor) { return neighbor.recordName == "user00013"; });
+    const auto bramble = std::ranges::find(content.neighbors, "user00013", &SampleNeighbor::recordName);
     ASSERT_NE(bramble, content.neighbors.end());
     const NeighborhoodFile built = makeNeighborhoodFile(content);
     const std::string userData = fs::relative(game(), prefix()).string() + "/UserData/";
@@ -136,11 +98,7 @@ TEST_F(Stories, ATeenGrowsUpAndIsSaved) {
     expected.erase(userData + "Characters/User00013.iff");
     expected[userData + "neighborhood.iff"] = neighborhood;
     expected[userData + "Characters/user00013.iff"] = character;
-    for (const auto& [name, bytes] : expected) {
-        ASSERT_TRUE(after.contains(name)) << name << " is missing";
-        EXPECT_TRUE(after.at(name) == bytes) << name << " differs";
-    }
-    EXPECT_EQ(after.size(), expected.size()) << "there are files that nobody expects";
+    EXPECT_EQ(differences(expected, after), "");
 
     // The next start takes her for an adult: "Teen to Adult" doesn't answer any more, so there is nothing to ask about
     // at the end.
@@ -149,35 +107,27 @@ TEST_F(Stories, ATeenGrowsUpAndIsSaved) {
     again.clickTeenToAdult();
     again.closeWindow();
     EXPECT_EQ(again.waitForExit(), 0);
-    EXPECT_TRUE(treeOf(prefix()) == after);
+    EXPECT_EQ(differences(after, treeOf(prefix())), "");
 }
 
 TEST_F(Stories, ARefusedStartTellsWhy) {
-    const std::string skin = (game() / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn").string();
     const struct {
-        const char* what;
         std::string missing;
         int code;
-        std::string output;
+        std::string title;
     } rows[] = {
-        {"a window that can't be created", "", 0, ""},
-        {"no config", toolDirectory() + "/skinsets.cfg", -4,
-         "Missing Config Files\nTidewright cannot find its config files.  It must be in the same directory as its skin "
-         "config "
-         "file and template files.\n"},
-        {"no skin", skin, -3,
-         "Installation Problem\nTidewright appears to have been installed incorrectly.  It must be unzipped to your "
-         "Sims "
-         "directory.\n\nYour Sims directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\\n"},
-        {"no game", prefix() + "/system.reg", -1,
-         "Cannot find The Sims\nCannot find The Sims in the registry.  Please check the FAQ to see how to proceed.\n"},
+        {"", 0, ""},  // the window itself can't be created
+        {toolDirectory() + "/skinsets.cfg", -4, "Missing Config Files\n"},
+        {game() / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn", -3, "Installation Problem\n"},
+        {prefix() + "/system.reg", -1, "Cannot find The Sims\nCannot find The Sims in the registry.  Please check"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE(row.missing);
         if (!row.missing.empty()) fs::remove(row.missing);
         RunningProgram program(prefix(), toolDirectory(), nullptr);
         EXPECT_EQ(program.waitForExit(), row.code);
-        EXPECT_EQ(program.errorOutput(), row.output);
+        EXPECT_EQ(program.errorOutput().substr(0, row.title.size()), row.title);
+        EXPECT_EQ(program.errorOutput().empty(), row.title.empty());
     }
 }
 
@@ -190,6 +140,7 @@ TEST_F(Stories, TheProgramDoesNotStartBesideTheGame) {
     RunningProgram program(prefix(), toolDirectory(), &desktop);
     program.answerBox("Exit The Sims", "Return");
     EXPECT_EQ(program.waitForExit(), -2);
+    game.closeWindow();
 }
 
 }  // namespace

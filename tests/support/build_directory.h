@@ -4,13 +4,12 @@
 
 #include <filesystem>
 
+// Asked before any test changes the current directory.
+inline const std::filesystem::path directoryAtStart = std::filesystem::current_path();
+
 // The directory in which the test program was started.
 inline const std::filesystem::path& buildDirectory() {
-    static const std::filesystem::path directory = std::filesystem::current_path();
-    return directory;
+    return directoryAtStart;
 }
-
-// Asked once before any test changes the current directory.
-inline const std::filesystem::path& askedAtStart = buildDirectory();
 
 #endif

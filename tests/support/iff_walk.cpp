@@ -16,58 +16,18 @@ unsigned bigEndian(const std::string& bytes) {
     return value;
 }
 
-// The content of a resource map, taken piece by piece; what lies behind its end reads as zero.
-struct MapReader {
-    std::string content;
-    std::size_t at = 0;
-
-    char byte() { return at++ < content.size() ? content[at - 1] : '\0'; }
-
-    // Numbers and types stand there with their last byte first.
-    std::string reversed(std::size_t size) {
-        std::string text(size, ' ');
-        std::generate(text.rbegin(), text.rend(), [this] { return byte(); });
-        return text;
-    }
-    unsigned number(std::size_t size) { return bigEndian(reversed(size)); }
-
-    std::string evenLabel() {
-        std::string label;
-        for (char next = byte(); next != '\0'; next = byte())
-            label.push_back(next);
-        if (label.size() % 2 == 0) byte();
-        return label;
-    }
-};
-
-// The map's entries as chunks without a size.
-std::vector<WalkedChunk> walkMap(MapReader map, std::string& fault) {
-    std::vector<WalkedChunk> listed;
-    map.number(8);
-    if (map.reversed(4) != "rsmp") fault = "the map doesn't open with its letters";
-    map.number(4);
-    for (unsigned types = map.number(4); types > 0 && map.at <= map.content.size(); --types) {
-        const std::string type = map.reversed(4);
-        for (unsigned entries = map.number(4); entries > 0 && map.at <= map.content.size(); --entries)
-            listed.push_back({type, map.number(4), 0, map.number(2), map.number(2), map.evenLabel()});
-    }
-    if (map.at != map.content.size()) fault = "the map's entries don't fill it";
-    return listed;
+std::string lowFirst(std::size_t number, int size) {
+    std::string bytes;
+    for (; size > 0; --size, number >>= 8)
+        bytes.push_back(static_cast<char>(number & 0xFF));
+    return bytes;
 }
 
-std::string faultOfMap(std::vector<WalkedChunk> listed, const std::vector<WalkedChunk>& chunks) {
-    for (WalkedChunk chunk : chunks) {
-        if (chunk.type == "XXXX" || chunk.type == "rsmp") continue;
-        chunk.size = 0;
-        const auto isChunks = [&chunk](WalkedChunk entry) {
-            // A save writes the Sim's record name over this chunk's label, and the map keeps the template's.
-            if (chunk.type == "OBJD") entry.label = chunk.label;
-            return entry == chunk;
-        };
-        if (std::erase_if(listed, isChunks) != 1)
-            return "the map doesn't list " + chunk.type + " " + std::to_string(chunk.id) + " once";
-    }
-    return listed.empty() ? "" : "the map lists what isn't there";
+// The entry of a chunk in the resource map.
+std::string entryOf(const WalkedChunk& chunk) {
+    const std::string numbers = lowFirst(chunk.offset, 4) + lowFirst(chunk.id, 2) + lowFirst(chunk.flags, 2);
+    // A save writes the Sim's record name over this chunk's label, and the map keeps the template's.
+    return chunk.type == "OBJD" ? numbers : numbers + chunk.label + '\0';
 }
 
 IffWalk walkChunks(View bytes) {
@@ -103,8 +63,9 @@ IffWalk walkIff(View file) {
     const WalkedChunk map = walk.find("rsmp", 0);
     if (map.offset != mapOffset) return {.fault = "no map where the header says"};
     const std::string content = textAt(file, map.offset + chunkHeaderSize, map.size - chunkHeaderSize);
-    const std::vector<WalkedChunk> listed = walkMap({content}, walk.fault);
-    if (walk.fault.empty()) walk.fault = faultOfMap(listed, walk.chunks);
+    for (const WalkedChunk& chunk : walk.chunks)
+        if (chunk.type != "XXXX" && chunk.type != "rsmp" && content.find(entryOf(chunk)) == std::string::npos)
+            walk.fault = "the map doesn't list " + chunk.type + " " + std::to_string(chunk.id);
     return walk;
 }
 

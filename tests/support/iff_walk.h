@@ -16,8 +16,6 @@ struct WalkedChunk {
     unsigned id = 0;
     unsigned flags = 0;
     std::string label;
-
-    bool operator==(const WalkedChunk&) const = default;
 };
 
 struct IffWalk {
@@ -29,8 +27,8 @@ struct IffWalk {
 };
 
 // A whole file is valid when its header is the game's, its chunks tile the rest, and the resource map, if the header
-// names one, lists each chunk but itself and free room once, with the offset, id, flags and label that the chunk has;
-// the label of an object definition may differ.
+// names one, lists each chunk but itself and free room with the offset, id, flags and label that the chunk has; the
+// label of an object definition may differ. What else the map holds isn't looked at.
 IffWalk walkIff(std::span<const std::uint8_t> file);
 
 // The bytes at `offset` as text, all that follow by default.

@@ -3,11 +3,17 @@
 #ifndef TESTS_SUPPORT_TEMP_DIRECTORY_H
 #define TESTS_SUPPORT_TEMP_DIRECTORY_H
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
 #include <string>
 #include <string_view>
 
 #include "sample/byte_writer.h"
+#include "sample/file_writing.h"
 
 inline Bytes bytesFrom(std::string_view text) {
     return ByteWriter().text(text).written();
@@ -15,21 +21,39 @@ inline Bytes bytesFrom(std::string_view text) {
 
 class TempDirectory {
  public:
-    TempDirectory();
+    TempDirectory() {
+        std::random_device random;
+        do {
+            path_ = std::filesystem::temp_directory_path() / ("tidewright-" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(path_));
+    }
     TempDirectory(const TempDirectory&) = delete;
     TempDirectory& operator=(const TempDirectory&) = delete;
-    ~TempDirectory();
+    ~TempDirectory() {
+        std::error_code ignored;
+        std::filesystem::current_path(before_, ignored);
+        std::filesystem::remove_all(path_, ignored);
+    }
 
     // Absolute, without a separator at its end. A name is one or more components with slashes, as written on the disk.
     std::string path() const { return path_.string(); }
     std::string path(const std::string& name) const { return (path_ / name).string(); }
 
     // Makes the directories on the way. A failure of these fails the test.
-    void write(const std::string& name, const Bytes& bytes) const;
+    void write(const std::string& name, const Bytes& bytes) const {
+        std::filesystem::create_directories((path_ / name).parent_path());
+        EXPECT_TRUE(writeFile(path_ / name, bytes)) << name;
+    }
     void write(const std::string& name, std::string_view text) const { write(name, bytesFrom(text)); }
-    void makeDirectory(const std::string& name) const;
-    void remove(const std::string& name) const;
-    Bytes bytesOf(const std::string& name) const;
+    void makeDirectory(const std::string& name) const {
+        EXPECT_TRUE(std::filesystem::create_directories(path_ / name)) << name;
+    }
+    void remove(const std::string& name) const { EXPECT_NE(std::filesystem::remove_all(path_ / name), 0U) << name; }
+    Bytes bytesOf(const std::string& name) const {
+        std::ifstream file(path_ / name, std::ios::binary);
+        EXPECT_TRUE(file) << name;
+        return Bytes(std::istreambuf_iterator<char>(file), {});
+    }
 
     bool exists(const std::string& name) const { return std::filesystem::exists(path_ / name); }
 

@@ -25,9 +25,6 @@ bool chooseMenu(HWND window, std::initializer_list<const char*> path);
 // Asks the window to close, as its close button does. A message loop delivers it.
 void closeWindow(HWND window);
 
-// Drags the window's border, until its client area has this size.
-void resizeWindow(HWND window, int width, int height);
-
 enum class Hold { nothing, alt, altShift };
 
 // Presses and releases the key of a printable ASCII character while `window` has the keyboard.

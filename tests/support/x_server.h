@@ -2,8 +2,7 @@
 #ifndef TESTS_SUPPORT_X_SERVER_H
 #define TESTS_SUPPORT_X_SERVER_H
 
-#include <sys/types.h>
-
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -24,7 +23,7 @@ class XServer {
     unsigned atom(std::string_view name) const;
 
  private:
-    pid_t process_ = -1;
+    std::FILE* process_ = nullptr;
     std::string display_;
     xcb_connection_t* connection_ = nullptr;
 };

@@ -115,28 +115,19 @@ void pickEntry(HWND combo, int index) {
 
 bool chooseMenu(HWND window, std::initializer_list<const char*> path) {
     QList<QAction*> items = widgetOf(window).findChild<QMenuBar*>()->actions();
-    QAction* chosen = nullptr;
     for (const char* const text : path) {
-        const auto found = std::find_if(items.begin(), items.end(), [text](const QAction* item) {
-            return withoutMarks(item->text()) == qtText(text) && item->isEnabled();
+        const auto item = std::find_if(items.begin(), items.end(), [text](const QAction* any) {
+            return withoutMarks(any->text()) == qtText(text) && any->isEnabled();
         });
-        if (found == items.end()) return false;
-        chosen = *found;
-        if (chosen->menu() != nullptr) items = chosen->menu()->actions();
+        if (item == items.end()) return false;
+        if ((*item)->menu() != nullptr) items = (*item)->menu()->actions();
+        (*item)->trigger();  // which does nothing for a menu
     }
-    if (chosen != nullptr) chosen->trigger();
-    return chosen != nullptr;
+    return true;
 }
 
 void closeWindow(HWND window) {
     widgetOf(window).windowHandle()->close();
-}
-
-void resizeWindow(HWND window, int width, int height) {
-    QWidget& widget = widgetOf(window);
-    const QSize frame = widget.size() - findWindow(window)->clientArea()->size();
-    widget.resize(QSize(width, height) + frame);
-    QCoreApplication::processEvents();
 }
 
 void pressKey(HWND window, char character, Hold hold) {

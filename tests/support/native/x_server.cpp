@@ -1,22 +1,14 @@
 #include "tests/support/x_server.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <xcb/xcb.h>
 
-#include <cstdio>
 #include <cstdlib>
 
 // The number is this process's own: servers that look for a free one by themselves may take each other's.
 XServer::XServer() : display_(":" + std::to_string(1000 + getpid() % 30'000)) {
-    process_ = fork();
-    if (process_ == 0) {
-        freopen("/dev/null", "w", stderr);
-        execlp("Xvfb", "Xvfb", display_.c_str(), "-screen", "0", "1024x768x24", nullptr);
-        _exit(127);
-    }
+    process_ = popen(("exec Xvfb " + display_ + " -screen 0 1024x768x24 -terminate 2>/dev/null").c_str(), "r");
     for (int tenths = 0; tenths < 200; ++tenths) {
         connection_ = xcb_connect(display_.c_str(), nullptr);
         if (xcb_connection_has_error(connection_) == 0) return;
@@ -29,8 +21,7 @@ XServer::XServer() : display_(":" + std::to_string(1000 + getpid() % 30'000)) {
 
 XServer::~XServer() {
     if (connection_ != nullptr) xcb_disconnect(connection_);
-    kill(process_, SIGTERM);
-    waitpid(process_, nullptr, 0);
+    pclose(process_);  // it ends with its last connection
 }
 
 unsigned XServer::atom(std::string_view name) const {

@@ -1,7 +1,8 @@
 // All files below a directory with their bytes, to compare what stands on the disk with what must.
-#ifndef TESTS_STORIES_TREE_H
-#define TESTS_STORIES_TREE_H
+#ifndef TESTS_SUPPORT_TREE_H
+#define TESTS_SUPPORT_TREE_H
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -26,6 +27,17 @@ inline Tree treeOf(const std::filesystem::path& directory) {
 inline void overwrite(Bytes& file, std::size_t offset, const Bytes& bytes) {
     for (std::size_t i = 0; i < bytes.size(); ++i)
         file.at(offset + i) = bytes[i];
+}
+
+// The names of the files that differ, or are only in one of the trees; empty for equal trees.
+inline std::string differences(const Tree& expected, const Tree& actual) {
+    Tree different;
+    std::set_symmetric_difference(expected.begin(), expected.end(), actual.begin(), actual.end(),
+                                  std::inserter(different, different.end()));
+    std::string names;
+    for (const auto& [name, bytes] : different)
+        names += name + "\n";
+    return names;
 }
 
 #endif
