@@ -105,6 +105,12 @@ TEST_F(MainWindowTest, StandsWithItsControlsAtTheirPlaces) {
         }
         EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
         EXPECT_EQ(enabled(), "");
+        // Every known command ends with a repaint, and that with the arrow.
+        for (const int id : {32774, controlId::familyCombo}) {
+            showWaitCursor();
+            SendMessageA(all.mainWindow, WM_COMMAND, MAKEWPARAM(id, 7), 0);
+            EXPECT_EQ(waitCursorShows(), id == 32774);
+        }
     });
 }
 
