@@ -116,12 +116,13 @@ void pickEntry(HWND combo, int index) {
 bool chooseMenu(HWND window, std::initializer_list<const char*> path) {
     QList<QAction*> items = widgetOf(window).findChild<QMenuBar*>()->actions();
     for (const char* const text : path) {
-        const auto item = std::find_if(items.begin(), items.end(), [text](const QAction* any) {
+        const auto found = std::find_if(items.begin(), items.end(), [text](const QAction* any) {
             return withoutMarks(any->text()) == qtText(text) && any->isEnabled();
         });
-        if (item == items.end()) return false;
-        if ((*item)->menu() != nullptr) items = (*item)->menu()->actions();
-        (*item)->trigger();  // which does nothing for a menu
+        if (found == items.end()) return false;
+        QAction* const item = *found;
+        if (item->menu() != nullptr) items = item->menu()->actions();
+        item->trigger();  // which does nothing for a menu
     }
     return true;
 }
