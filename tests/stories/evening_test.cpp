@@ -76,15 +76,11 @@ TEST_F(Stories, AnEveningOfPlay) {
             int neighborhood, family, sim;
             const char* line;
         } rows[] = {
-            {0, 0, 0, "Name: Rowan Thistlewood Stage: adult; 42500"},
             {0, 0, 1, "Name: Bramble Thistlewood Stage: adult; 42500"},
             {0, 0, 2, "Name: Clover Thistlewood Stage: teenager; 42500"},
             {0, 0, 3, "Name: Fern Thistlewood Stage: teenager; 42500"},
-            {0, 0, 7, "none"},
             {0, 1, 0, "Name: Antonia QA Stage: adult; 4000"},
             {0, 2, 0, "Name: Se\xF1or Cr\xE8me Stage: adult; 0"},
-            {0, 2, 1, "none"},
-            {0, 3, 1, "Name: Tuppence Pennyfarthing Stage: adult; 850"},
             {0, 5, 0, "Name: Hazel Thistlewood Stage: adult; 20000"},
             {0, 6, 0, "Name: Quill QA Stage: adult; 20000"},
             {0, 7, 0, "Name: Zo\xEB Cr\xE8me Stage: adult; 10000"},
