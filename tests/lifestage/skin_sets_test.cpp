@@ -43,7 +43,6 @@ TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
          "a1;m1"},
         {"an adult's line does nothing for a teen", "CHILD=c1;\nADULT=a1;m1\n", teen, "c1", "none"},
         {"the second set of that head isn't read", "CHILD=c1;\n[b]\nCHILD=c1;\nTEENAGER=t1;m1\n", teen, "c1", "none"},
-        {"the last set counts", "[a]\nCHILD=c0;\nTEENAGER=t0;\n[b]\nCHILD=c1;\nTEENAGER=t1;m1", teen, "c1", "t1;m1"},
         {"comments and empty lines", "#CHILD=c1;\n\nCHILD=c1;\n#\nTEENAGER=t1;m1\n", teen, "c1", "t1;m1"},
         {"keys are exact", " CHILD=c1;\nchild=c1;\nCHILD =c1;\nTEENAGER=t1;m1\n", teen, "c1", "none"},
         {"spaces belong to the field", "CHILD=c1;\nTEENAGER= t1 ; m1 \n", teen, "c1", " t1 ; m1 "},
