@@ -19,6 +19,11 @@ constexpr Color rgb(std::uint32_t code) {
     return {(code >> 16 & 0xFF) / 255.0, (code >> 8 & 0xFF) / 255.0, (code & 0xFF) / 255.0};
 }
 
+// A share as a byte.
+inline std::uint8_t byteOf(double share) {
+    return static_cast<std::uint8_t>(std::lround(share * 255));
+}
+
 constexpr Color mix(Color a, Color b, double share) {
     return {mix(a.red, b.red, share), mix(a.green, b.green, share), mix(a.blue, b.blue, share)};
 }

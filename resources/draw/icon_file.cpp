@@ -19,17 +19,6 @@ std::size_t imageSize(std::size_t side) {
     return infoHeaderSize + paletteSize + side * (rowSize(side, bitsPerPixel) + rowSize(side, 1));
 }
 
-std::uint8_t paletteIndex(const IconPicture& picture, char sign) {
-    for (std::size_t i = 0; i < picture.palette.size(); ++i) {
-        if (picture.palette[i].sign == sign) return static_cast<std::uint8_t>(i);
-    }
-    return 0;
-}
-
-std::uint8_t step(double share) {
-    return static_cast<std::uint8_t>(std::lround(share * 255));
-}
-
 void appendHeader(FileBytes& file, std::size_t side) {
     file.u32(infoHeaderSize);
     file.u32(side);
@@ -46,9 +35,9 @@ void appendHeader(FileBytes& file, std::size_t side) {
 
 void appendPalette(FileBytes& file, const IconPalette& palette) {
     for (const IconColor& entry : palette) {
-        file.u8(step(entry.color.blue));
-        file.u8(step(entry.color.green));
-        file.u8(step(entry.color.red));
+        file.u8(byteOf(entry.color.blue));
+        file.u8(byteOf(entry.color.green));
+        file.u8(byteOf(entry.color.red));
         file.u8(0);
     }
 }

@@ -97,3 +97,10 @@ IconPicture largeHouseIcon() {
 IconPicture smallHouseIcon() {
     return {smallHouse, houseColors};
 }
+
+std::uint8_t paletteIndex(const IconPicture& picture, char sign) {
+    for (std::size_t i = 0; i < picture.palette.size(); ++i) {
+        if (picture.palette[i].sign == sign) return static_cast<std::uint8_t>(i);
+    }
+    return 0;
+}

@@ -25,4 +25,7 @@ struct IconPicture {
 IconPicture largeHouseIcon();  // 32 x 32
 IconPicture smallHouseIcon();  // 16 x 16
 
+// The palette's entry for a sign of the picture; 0 if it has none.
+std::uint8_t paletteIndex(const IconPicture& picture, char sign);
+
 #endif

@@ -6,6 +6,7 @@
 
 #include "resources/draw/bitmap_file.h"
 #include "resources/draw/icon_file.h"
+#include "resources/draw/png_file.h"
 #include "resources/draw/scene.h"
 
 namespace {
@@ -22,6 +23,15 @@ bool writeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
     return whole && closed;
 }
 
+// The large icons of desktops, too, come from the two pictures.
+bool writeMenuIcons(const std::string& directory) {
+    return writeFile(directory + "/icon16.png", pngFile(smallHouseIcon(), 1)) &&
+           writeFile(directory + "/icon32.png", pngFile(largeHouseIcon(), 1)) &&
+           writeFile(directory + "/icon48.png", pngFile(smallHouseIcon(), 3)) &&
+           writeFile(directory + "/icon64.png", pngFile(largeHouseIcon(), 2)) &&
+           writeFile(directory + "/icon128.png", pngFile(largeHouseIcon(), 4));
+}
+
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
@@ -34,6 +44,6 @@ int main(int argumentCount, char** arguments) {
     const std::array<IconPicture, 1> smallOnly = {smallHouseIcon()};
     const bool written = writeFile(directory + "/icon107.ico", iconFile(bothSizes)) &&
                          writeFile(directory + "/icon108.ico", iconFile(smallOnly)) &&
-                         writeFile(directory + "/splash.bmp", bitmapFile(drawScene()));
+                         writeFile(directory + "/splash.bmp", bitmapFile(drawScene())) && writeMenuIcons(directory);
     return written ? 0 : 1;
 }
