@@ -37,3 +37,10 @@ build() {
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
     cmake --build "build/$preset" ${1:+--target "$@"}
 }
+
+package_packages=(binutils dpkg-dev git gzip zip)
+
+# The program's version, such as 1.0.0.
+project_version() {
+    sed -n -E 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt
+}
