@@ -1,5 +1,5 @@
 // The platform: Win32 by its own names, as far as this program calls it. On Windows these are Windows' own, but
-// for the four of own_calls.h; elsewhere the headers below declare them, each operation with its contract, and
+// for the five of own_calls.h; elsewhere the headers below declare them, each operation with its contract, and
 // `native/` provides them. Constants bear Windows' values and structures its fields, so that code written against this
 // header compiles unchanged for both.
 //

@@ -1,4 +1,4 @@
-// Four of Windows' calls in a version of this program's own. The names of Windows stand for them wherever
+// Five of Windows' calls in a version of this program's own. The names of Windows stand for them wherever
 // platform/win32.h is included, so that callers stay the same on every system.
 #ifndef PLATFORM_WINDOWS_OWN_CALLS_H
 #define PLATFORM_WINDOWS_OWN_CALLS_H
@@ -22,6 +22,12 @@ HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 // keyboard with the disabled control, which takes no command: Alt and a letter would open no menu until the next click.
 LONG setWindowLong(HWND window, int index, LONG value);
 
+// MessageBoxA; a box without an owner keeps the user from every window of the program until it is answered, not only a
+// box with one: a click there would start a second operation in the middle of the one that asks. Afterwards the window
+// that had the keyboard has it again, and the cursor that waited waits again.
+int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type);
+
+#define MessageBoxA showMessageBox
 #define RegOpenKeyExA openRegistryKey
 #define CreateWindowExA createWindow
 #define BeginPaint beginPaint
