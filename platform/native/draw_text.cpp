@@ -20,12 +20,12 @@ struct Line {
     QList<QTextLayout::FormatRange> underlined;
 };
 
-// Takes the "&" out and notes the characters behind them.
+// Takes the "&" out and notes the characters behind them; at the very end it stands for itself.
 Line readLine(const QString& source) {
     Line line;
     for (qsizetype i = 0; i < source.size(); ++i) {
-        const bool mark = source[i] == '&';
-        if (mark && ++i == source.size()) break;
+        const bool mark = source[i] == '&' && i + 1 < source.size();
+        if (mark) ++i;
         if (mark && source[i] != '&') {
             QTextCharFormat format;
             format.setFontUnderline(true);

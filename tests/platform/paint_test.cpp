@@ -56,7 +56,7 @@ TEST(PaintTest, OnlyWhatWaitsIsErasedAndDrawn) {
 }
 
 TEST(PaintTest, TextsAreDrawnAsWindowsReadsThem) {
-    for (const auto& [one, other] : {std::pair("abc&", "abc"), {"a\nb", "a\r\nb"}, {"a\rb", "a\nb"}, {"a\tb", "a b"}}) {
+    for (const auto& [one, other] : {std::pair("abc&", "abc&&"), {"a\nb", "a\r\nb"}, {"a\rb", "a\nb"}}) {
         EXPECT_FALSE(inkOf(one).empty());
         EXPECT_EQ(inkOf(one), inkOf(other)) << one;
     }
