@@ -10,6 +10,7 @@
 #include "sample/wine_prefix.h"
 #include "tests/support/body_slots.h"
 #include "tests/support/build_directory.h"
+#include "tests/support/installed_game.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 
@@ -89,7 +90,7 @@ TEST(ChildToTeenTest, DressesTheTeenSavesAndReadsItBack) {
         SCOPED_TRACE(row.what);
         OneSim sim({.kind = row.kind, .tone = row.tone});
         makeWinePrefix(sim.files().path("prefix"));
-        setenv("WINEPREFIX", sim.files().path("prefix").c_str(), 1);
+        installGame(sim.files().path("prefix"));
         if (!row.expansion) std::filesystem::remove_all(gameDirectory(sim.files().path("prefix")) / "ExpansionPack4");
 
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything

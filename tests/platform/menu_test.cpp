@@ -39,6 +39,7 @@ TEST(MenuTest, AnAcceleratorKeepsItsKeyFromTheControl) {
     for (const char* const entry : {"Goth", "/ slash"})
         SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
     pickEntry(combo, 0);
+    runMessages();
     window.takeLog();
     const struct {
         char key;

@@ -1,3 +1,4 @@
+#include "platform/files.h"
 #include "platform/native/paths.h"
 
 #include <gtest/gtest.h>
@@ -88,6 +89,14 @@ TEST_F(PathsNativeTest, EveryChangeShowsAtOnce) {
                       directory_.path("Prefix/dosdevices/c:/") + step.spelling);
         }
     }
+}
+
+TEST_F(PathsNativeTest, ADirectoryThatLetsNobodyWriteSaysSo) {
+    directory_.makeDirectory("Protected");
+    fs::permissions("Protected", fs::perms::owner_read);
+    FileStatus status{};
+    EXPECT_TRUE(queryFileStatus("protected", status));
+    EXPECT_EQ(status.mode, readOnlyDirectoryMode);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "platform/win32.h"
 #include "sample/wine_prefix.h"
+#include "tests/support/installed_game.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
 #include "ui/status_line.h"
@@ -31,7 +32,7 @@ class StartChecksTest : public testing::Test {
  protected:
     StartChecksTest() {
         makeWinePrefix(files_.path("prefix"));
-        setenv("WINEPREFIX", files_.path("prefix").c_str(), 1);
+        directory_ = installGame(files_.path("prefix"));
         files_.write("tool/skinsets.cfg", "x");
         std::filesystem::current_path(files_.path("tool"));
     }
@@ -39,15 +40,17 @@ class StartChecksTest : public testing::Test {
     std::filesystem::path game() const { return gameDirectory(files_.path("prefix")); }
 
     TempDirectory files_;
+    std::string directory_;  // the game's, as the program knows it
 };
 
 TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
     const char* running =
         "The Sims is currently running.  Please save and exit The Sims before using Marrowfen or any other "
         "Sims-modifying software.";
-    const char* badlyInstalled =
+    const std::string badlyInstalled =
         "Tidewright appears to have been installed incorrectly.  It must be unzipped to your Sims directory.\n\nYour "
-        "Sims directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\";
+        "Sims directory appears to be\n" +
+        directory_;
     const char* noConfig =
         "Tidewright cannot find its config files.  It must be in the same directory as its skin config file and "
         "template files.";
@@ -57,7 +60,8 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
         bool registry, noSkin;
         const char* config;
         int code;
-        const char *title, *text;
+        const char* title;
+        std::string text;
     } rows[] = {
         {"no registry, whatever else is wrong", "The Sims", false, true, nullptr, -1, "Cannot find The Sims",
          "Cannot find The Sims in the registry.  Please check the FAQ to see how to proceed."},
@@ -72,7 +76,8 @@ TEST_F(StartChecksTest, EachRefusalHasItsBoxAndCode) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         makeWinePrefix(files_.path("prefix"));
-        if (!row.registry) std::filesystem::remove(files_.path("prefix") + "/system.reg");
+        installGame(files_.path("prefix"));
+        if (!row.registry) uninstallGame(files_.path("prefix"));
         if (row.noSkin) std::filesystem::remove(game() / skin);
         files_.write("tool/skinsets.cfg", row.config != nullptr ? row.config : "");
         if (row.config == nullptr) files_.remove("tool/skinsets.cfg");
@@ -95,7 +100,7 @@ TEST_F(StartChecksTest, PassOnAWholeInstallationOnly) {
     const HWND window = openWindow("The Sims 2");  // only whole titles count
     DirectoryText directory;
     EXPECT_EQ(checkStart(directory, "tool"), 0);
-    EXPECT_EQ(directory.view(), "C:\\Program Files (x86)\\Maxis\\The Sims\\");
+    EXPECT_EQ(directory.view(), directory_);
     const AnsweredBox box = answerNextBox(IDOK);
     EXPECT_EQ(checkStart(directory, ""), -4) << "a tool directory of too long a path";
     EXPECT_EQ(box.title(), "Missing Config Files");

@@ -8,6 +8,7 @@
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
 #include "tests/support/iff_walk.h"
+#include "tests/support/native/spoken.h"
 #include "tests/support/tree.h"
 #include "tests/support/user.h"
 #include "ui/controls.h"

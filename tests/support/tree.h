@@ -18,7 +18,8 @@ inline Tree treeOf(const std::filesystem::path& directory) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(directory)) {
         if (!entry.is_regular_file()) continue;
         std::ifstream file(entry.path(), std::ios::binary);
-        tree[std::filesystem::relative(entry.path(), directory).string()] = {std::istreambuf_iterator<char>(file), {}};
+        tree[std::filesystem::relative(entry.path(), directory).generic_string()] = {
+            std::istreambuf_iterator<char>(file), {}};
     }
     return tree;
 }

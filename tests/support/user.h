@@ -74,9 +74,8 @@ std::string entryText(HWND combo, int index);
 RECT placeOf(HWND control);  // in its parent's client area
 bool waitCursorShows();
 
-// What a screen reader says of it.
-std::string spokenName(HWND window);
-std::string spokenDescription(HWND window);
+// Whether a line or the beginning of one that is drawn in the window itself reads so.
+bool showsText(HWND window, const std::string& text);
 
 // The pixels of a window's client area with everything that lies in it, as 0xRRGGBB, row after row.
 struct Picture {
@@ -87,5 +86,8 @@ struct Picture {
     std::uint32_t at(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
 };
 Picture pictureOf(HWND window);
+
+// A pixel of the client area as the screen shows it, with what was drawn on the screen itself.
+std::uint32_t screenPixel(HWND window, int x, int y);
 
 #endif

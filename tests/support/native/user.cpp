@@ -16,12 +16,13 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <deque>
 
 #include "platform/native/client_area.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/qt_text.h"
 #include "platform/native/window.h"
+#include "tests/support/native/spoken.h"
+#include "tests/support/window_system.h"
 
 namespace {
 
@@ -38,19 +39,6 @@ QString withoutMarks(QString text) {
     return text.remove('&');
 }
 
-// What waits for a quiet moment of the message loop.
-std::deque<std::function<void()>> actions;
-
-void runFirstAction() {
-    if (actions.empty()) return;
-    const std::function<void()> action = std::move(actions.front());
-    actions.pop_front();
-    action();
-}
-
-// The boxes that are expected, by what their tests keep of them.
-std::deque<std::weak_ptr<AnsweredBox::Seen>> expected;
-
 // From left to right.
 QList<QPushButton*> buttonsOf(const QWidget& box) {
     QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
@@ -58,8 +46,28 @@ QList<QPushButton*> buttonsOf(const QWidget& box) {
     return buttons;
 }
 
-void look(const QWidget& box, AnsweredBox::Seen& seen) {
-    seen.shown = true;
+bool boxIsOpen() {
+    return innermostLoop() == Loop::modal && QApplication::activeModalWidget() != nullptr;
+}
+
+bool workCanBeDone() {
+    return (boxIsOpen() || innermostLoop() == Loop::messages) && workWaits(boxIsOpen());
+}
+
+}  // namespace
+
+void watchForQuiet() {
+    static const QMetaObject::Connection watching =
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, [] {
+            if (!workCanBeDone()) return;
+            QTimer::singleShot(0, [] {
+                if (workCanBeDone()) workWhenQuiet(boxIsOpen());
+            });
+        });
+}
+
+void lookAtBox(AnsweredBox::Seen& seen) {
+    const QWidget& box = *QApplication::activeModalWidget();
     seen.title = programText(box.windowTitle());
     QStringList lines;
     for (const QLabel* const label : box.findChildren<QLabel*>())
@@ -67,37 +75,16 @@ void look(const QWidget& box, AnsweredBox::Seen& seen) {
     seen.text = programText(lines.join('\n'));
     for (const QPushButton* const button : buttonsOf(box))
         seen.buttons.push_back(programText(withoutMarks(button->text())));
-    if (seen.meanwhile) seen.meanwhile();
 }
 
-void giveAnswer(QWidget& box, int answer) {
+void answerBox(int answer) {
+    const QWidget& box = *QApplication::activeModalWidget();
     const QString wanted = answer == IDOK ? "OK" : "Cancel";
     for (QPushButton* const button : buttonsOf(box))
         if (answer != answerByEscape && withoutMarks(button->text()) == wanted)
             return click(*button, button->rect().center());
     QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
 }
-
-void answerWhatIsOpen() {
-    std::erase_if(expected, [](const auto& seen) { return seen.expired(); });
-    QWidget* const box = QApplication::activeModalWidget();
-    if (expected.empty() || box == nullptr || innermostLoop() != Loop::modal) return;
-    // Looked at first and answered the next time, so that the box's own loop runs between.
-    const auto seen = expected.front().lock();
-    if (!seen->shown) return look(*box, *seen);
-    expected.pop_front();
-    giveAnswer(*box, seen->answer);
-}
-
-void watchForQuiet() {
-    static const QMetaObject::Connection watching =
-        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, [] {
-            if (innermostLoop() == Loop::messages && !actions.empty()) QTimer::singleShot(0, runFirstAction);
-            if (innermostLoop() == Loop::modal && !expected.empty()) QTimer::singleShot(0, answerWhatIsOpen);
-        });
-}
-
-}  // namespace
 
 void clickButton(HWND button) {
     click(widgetOf(button), widgetOf(button).rect().center());
@@ -138,33 +125,6 @@ void pressKey(HWND window, char character, Hold hold) {
                         alt | shift);
 }
 
-void later(std::function<void()> action) {
-    watchForQuiet();
-    actions.push_back(std::move(action));
-}
-
-bool runMessages(int* exitCode, HWND window, HACCEL accelerators) {
-    constexpr int quiet = 0x51E7;  // no code of a test's own
-    later([] { PostQuitMessage(quiet); });
-    MSG message{};
-    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (accelerators != nullptr && TranslateAcceleratorA(window, accelerators, &message) != 0) continue;
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
-    }
-    if (message.wParam == quiet) return false;
-    actions.pop_back();
-    if (exitCode != nullptr) *exitCode = static_cast<int>(message.wParam);
-    return true;
-}
-
-AnsweredBox answerNextBox(int answer, std::function<void()> meanwhile) {
-    watchForQuiet();
-    auto seen = std::make_shared<AnsweredBox::Seen>(AnsweredBox::Seen{answer, std::move(meanwhile)});
-    expected.emplace_back(seen);
-    return AnsweredBox(std::move(seen));
-}
-
 bool isEnabled(HWND window) {
     return widgetOf(window).isEnabled();
 }
@@ -199,6 +159,10 @@ std::string spokenDescription(HWND window) {
     return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description));
 }
 
+bool showsText(HWND window, const std::string& text) {
+    return ("\n" + spokenDescription(window)).find("\n" + text) != std::string::npos;
+}
+
 Picture pictureOf(HWND window) {
     const QImage image = widgetOf(window).grab(findWindow(window)->clientArea()->geometry()).toImage();
     Picture picture{image.width(), image.height(), {}};
@@ -206,4 +170,9 @@ Picture pictureOf(HWND window) {
         for (int x = 0; x < picture.width; ++x)
             picture.pixels.push_back(image.pixel(x, y) & 0xFFFFFF);
     return picture;
+}
+
+// The layer keeps what is drawn on the screen in the window that lies there.
+std::uint32_t screenPixel(HWND window, int x, int y) {
+    return pictureOf(window).at(x, y);
 }

@@ -1,0 +1,89 @@
+// The runtime's way to Windows is bent in its own import table, so that everything above it meets what a full disk
+// does.
+#include "tests/support/failing_disk.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+#include <limits>
+#include <utility>
+
+namespace {
+
+constexpr LONGLONG endless = std::numeric_limits<LONGLONG>::max();
+LONGLONG room = endless;               // that a file has now
+LONGLONG roomAfterDeletion = endless;  // ... and once a file below `watchedDirectory` is deleted
+std::string watchedDirectory;
+decltype(&DeleteFileA) windowsDeleteFile = nullptr;
+
+std::string fullPath(const char* path) {
+    char full[MAX_PATH] = "";
+    GetFullPathNameA(path, sizeof full, full, nullptr);
+    return full;
+}
+
+BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED overlapped) {
+    LARGE_INTEGER at{};
+    if (GetFileType(file) != FILE_TYPE_DISK || !SetFilePointerEx(file, {}, &at, FILE_CURRENT) ||
+        at.QuadPart + count <= room)
+        return WriteFile(file, bytes, count, written, overlapped);
+    const LONGLONG fitting = std::max<LONGLONG>(room - at.QuadPart, 0);
+    WriteFile(file, bytes, static_cast<DWORD>(fitting), written, overlapped);
+    SetLastError(ERROR_DISK_FULL);
+    return FALSE;
+}
+
+BOOL WINAPI deleteFile(LPCSTR path) {
+    const std::string full = fullPath(path);
+    const BOOL deleted = windowsDeleteFile(path);
+    if (deleted && full.substr(0, full.rfind('\\')) == watchedDirectory) room = roomAfterDeletion;
+    return deleted;
+}
+
+// Where a module keeps the address of a function that it imports by name.
+FARPROC* importOf(HMODULE module, const char* function) {
+    auto* const base = reinterpret_cast<BYTE*>(module);
+    const auto* const headers =
+        reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    const DWORD table = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+    for (auto* from = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + table); from->Name != 0; ++from) {
+        const auto* name = reinterpret_cast<IMAGE_THUNK_DATA*>(base + from->OriginalFirstThunk);
+        auto* address = reinterpret_cast<FARPROC*>(base + from->FirstThunk);
+        for (; name->u1.AddressOfData != 0; ++name, ++address) {
+            if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal)) continue;
+            const auto* const import = reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData);
+            if (std::strcmp(reinterpret_cast<const char*>(import->Name), function) == 0) return address;
+        }
+    }
+    return nullptr;
+}
+
+// Puts a function of ours in the place of Windows', which is returned.
+template <typename Function>
+Function* bend(HMODULE module, const char* name, Function* function) {
+    FARPROC* const import = importOf(module, name);
+    EXPECT_NE(import, nullptr) << name;
+    DWORD access = 0;
+    VirtualProtect(import, sizeof *import, PAGE_READWRITE, &access);
+    const FARPROC before = std::exchange(*import, std::bit_cast<FARPROC>(function));
+    VirtualProtect(import, sizeof *import, access, &access);
+    return std::bit_cast<Function*>(before);
+}
+
+}  // namespace
+
+FullDisk::FullDisk(std::uint64_t size, const std::string& afterDeletionIn) {
+    if (windowsDeleteFile == nullptr) {
+        bend(GetModuleHandleA("msvcrt.dll"), "WriteFile", writeFile);
+        windowsDeleteFile = bend(GetModuleHandleA(nullptr), "DeleteFileA", deleteFile);
+    }
+    watchedDirectory = afterDeletionIn.empty() ? "" : fullPath(afterDeletionIn.c_str());
+    (afterDeletionIn.empty() ? room : roomAfterDeletion) = static_cast<LONGLONG>(size);
+}
+
+FullDisk::~FullDisk() {
+    room = roomAfterDeletion = endless;
+}
