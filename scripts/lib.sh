@@ -8,7 +8,7 @@ cd "$root"
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgtest-dev libbenchmark-dev
     binutils-mingw-w64-x86-64)
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
-windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 wine_packages=(wine wine64)
 check_packages=(clang-format clang-tidy)
 
@@ -36,6 +36,26 @@ build() {
     shift
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
     cmake --build "build/$preset" ${1:+--target "$@"}
+}
+
+# note_sum NAME PASSED FAILED: what .ci/run adds up.
+note_sum() {
+    mkdir -p build/results
+    printf '%s %s\n' "$2" "$3" >"build/results/$1"
+}
+
+# run_ctest NAME ARGS...: runs ctest and notes its sum under the name. Skipped tests count neither way.
+run_ctest() {
+    local name=$1 log result=0 failed all skipped
+    shift
+    log=$(mktemp)
+    ctest --output-on-failure "$@" 2>&1 | tee "$log" || result=$?
+    read -r failed all < <(sed -n -E 's/^[0-9]+% tests passed, ([0-9]+) tests failed out of ([0-9]+)$/\1 \2/p' "$log") ||
+        read -r failed all <<<"1 1"  # it never came to a sum
+    skipped=$(grep -c '(Skipped)$' "$log" || true)
+    rm -f "$log"
+    note_sum "$name" $((all - failed - skipped)) "$failed"
+    return "$result"
 }
 
 package_packages=(binutils dpkg-dev git gzip zip)
