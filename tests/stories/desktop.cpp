@@ -3,16 +3,19 @@
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
 
+#include "sample/wine_prefix.h"
 #include "tests/support/build_directory.h"
 
 namespace {
 
-// What the program's window leaves below its menu.
-constexpr int clientHeight = 430;
+// Above the controls lies the menu: natively what the client area leaves of the window, under Wine with the caption.
+constexpr int nativeClientHeight = 430;
+constexpr int wineClientTop = 42;
 
 std::string readToEnd(std::FILE* output) {
     std::string text;
@@ -21,28 +24,54 @@ std::string readToEnd(std::FILE* output) {
     return text;
 }
 
+// Wine's command that leads a Windows program to the game of `prefix`, or away from every game if that has no registry.
+std::string registryCommand(const std::string& prefix) {
+    const std::string value = " 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32";
+    if (!std::filesystem::exists(prefix + "/system.reg")) return "wine reg delete" + value;
+    return "wine reg add" + value + " /d '" + windowsPath(gameDirectory(prefix)) + "'";
+}
+
 }  // namespace
 
+std::string windowsPath(const std::filesystem::path& path) {
+    std::string text = "Z:" + path.string();
+    std::ranges::replace(text, '/', '\\');
+    return text;
+}
+
+// Wine's server stays with the display of its first program.
+Desktop::Desktop() {
+    if (windowsProgram == nullptr) return;
+    EXPECT_EQ(std::system("wineserver -k; wineserver -w"), 0);
+}
+
 std::string Desktop::act(const std::string& arguments) const {
-    const std::string command = "DISPLAY=" + display() + " timeout 60 xdotool " + arguments;
+    const std::string command = "export DISPLAY=" + display() + "; timeout 60 xdotool " + arguments;
     std::FILE* const output = popen(command.c_str(), "r");
     const std::string text = readToEnd(output);
     EXPECT_EQ(pclose(output), 0) << command;
     return text.substr(0, text.find('\n'));
 }
 
-RunningProgram::RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop)
+RunningProgram::RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop,
+                               const char* windowsExe)
     : desktop_(desktop) {
     const std::string display = desktop != nullptr ? "DISPLAY=" + desktop->display() : "-u DISPLAY";
-    const std::string command = "cd " + toolDirectory + " && exec env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY " +
-                                display + " WINEPREFIX=" + prefix + " timeout -s KILL 120 " +
-                                (buildDirectory() / "tidewright").string() + " 2>&1 >/dev/null";
-    process_ = popen(command.c_str(), "r");
+    const std::string environment = "env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY " + display + " ";
+    const std::string limited = "exec " + environment + "timeout -s KILL 120 ";
+    // Wine's own processes outlive the program and would keep what it prints open.
+    const std::string command = windowsExe != nullptr
+                                    ? environment + registryCommand(prefix) + " >/dev/null 2>&1 && " + limited +
+                                          "wine " + windowsExe + " >/dev/null 2>&1"
+                                    : limited + "env WINEPREFIX=" + prefix + " " +
+                                          (buildDirectory() / "tidewright").string() + " 2>&1 >/dev/null";
+    process_ = popen(("cd " + toolDirectory + " && " + command).c_str(), "r");
     if (desktop == nullptr) return;
-    window_ = desktop_->act("search --sync --onlyvisible --name '^(Tidewright|Exit The Sims)$'");
+    window_ = desktop_->act(
+        "search --sync --onlyvisible --name '^(Tidewright|.*Sims|Installation Problem|Missing Config Files)$'");
     windowHeight_ = std::atoi(desktop_->act("getwindowgeometry --shell " + window_ + " | sed -n s/HEIGHT=//p").c_str());
-    clientTop_ = windowHeight_ - clientHeight;
-    desktop_->act("windowmove --sync " + window_ + " 0 0");
+    clientTop_ = windowsExe != nullptr ? wineClientTop : windowHeight_ - nativeClientHeight;
+    desktop_->act("windowmove --sync " + window_ + " 0 0 windowfocus --sync " + window_);
 }
 
 RunningProgram::~RunningProgram() {
@@ -73,10 +102,13 @@ void RunningProgram::chooseFileItem(char mnemonic) const {
 
 void RunningProgram::answerBox(const std::string& title, const std::string& key) const {
     const std::string box = desktop_->act("search --sync --onlyvisible --name '^" + title + "$'");
-    desktop_->act("windowfocus --sync " + box + " key " + key);
+    desktop_->act("windowfocus --sync " + box + " key " + key + "; while xdotool getwindowname " + box +
+                  " >/dev/null 2>&1; do sleep 0.1; done");
 }
 
 void RunningProgram::closeWindow() const {
+    desktop_->act("key alt+slash");  // the message would overtake keys and clicks that the program hasn't taken yet
+    answerBox("About", "Return");
     xcb_connection_t* const server = desktop_->connection();
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;

@@ -3,21 +3,33 @@
 #define TESTS_STORIES_DESKTOP_H
 
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <string>
 
 #include "tests/support/x_server.h"
 
 class Desktop : public XServer {
  public:
+    Desktop();
+
     // Runs xdotool with these arguments and returns the first line of what it prints; a failure fails the test.
     std::string act(const std::string& arguments) const;
 };
 
+// The name that Wine gives to an absolute path.
+std::string windowsPath(const std::filesystem::path& path);
+
+// The Windows program that the stories are told of, run by Wine in a prefix that serves for nothing else; null if they
+// are told of the native one.
+inline const char* const windowsProgram = std::getenv("TIDEWRIGHT_EXE");
+
 class RunningProgram {
  public:
-    // Starts the program in `toolDirectory` on the game of `prefix`; without a desktop it has no display. It is killed
-    // after two minutes.
-    RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop);
+    // Starts the program in `toolDirectory` on the game of `prefix`; without a desktop it has no display, of which the
+    // native one alone is capable. It is killed after two minutes.
+    RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop,
+                   const char* windowsExe = windowsProgram);
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
     ~RunningProgram();
@@ -29,7 +41,7 @@ class RunningProgram {
     void clickMoveOut() const { clickButton(60, 35); }
     void chooseFileItem(char mnemonic) const;
 
-    // Waits for a box whose title matches this pattern and presses the key in it.
+    // Waits for a box whose title matches this pattern and presses the key in it; it must close.
     void answerBox(const std::string& title, const std::string& key) const;
 
     // Asks the window to close, as a window manager does.
@@ -37,7 +49,7 @@ class RunningProgram {
 
     // Waits until the program has ended; the exit code as a signed byte.
     int waitForExit();
-    const std::string& errorOutput() const { return errorOutput_; }  // once it has ended
+    const std::string& errorOutput() const { return errorOutput_; }  // once it has ended, of the native one
 
  private:
     void clickAt(int x, int y) const;

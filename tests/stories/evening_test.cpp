@@ -5,6 +5,7 @@
 
 #include "platform/win32.h"
 #include "shell/main_window.h"
+#include "tests/platform/scoped_variable.h"
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
 #include "tests/support/iff_walk.h"
@@ -50,15 +51,15 @@ TEST_F(Stories, AnEveningOfPlay) {
         program.pick(1, 0, 3);
         program.clickTeenToAdult();  // Barnaby
 
-        program.pick(0, 3, 0);
-        program.clickMoveOut();  // Pip, whose family is poor
-        program.answerBox("Insufficient funds", "Return");
         program.pick(0, 0, 0);
         program.clickMoveOut();  // Hazel
         program.pick(0, 1, 0);
         program.clickMoveOut();  // Quill
         EXPECT_TRUE(treeOf(prefix()) == before) << "nothing reaches the disk before the save";
         program.chooseFileItem('s');
+        program.pick(0, 3, 0);
+        program.clickMoveOut();  // Pip, whose family is poor
+        program.answerBox("Insufficient funds", "Return");
         EXPECT_FALSE(treeOf(prefix()) == before);
 
         program.pick(0, 2, 0);
@@ -69,7 +70,7 @@ TEST_F(Stories, AnEveningOfPlay) {
         EXPECT_EQ(program.waitForExit(), 0) << program.errorOutput();
     }
 
-    setenv("WINEPREFIX", prefix().c_str(), 1);
+    const ScopedVariable winePrefix("WINEPREFIX", prefix());
     loadCursors();
     loadNeighborhoods("C:\\Program Files (x86)\\Maxis\\The Sims\\", toolDirectory().c_str());
     later([] {
