@@ -10,7 +10,7 @@
 #include "sample/wine_prefix.h"
 #include "tests/support/body_slots.h"
 #include "tests/support/build_directory.h"
-#include "tests/support/installed_game.h"
+#include "tests/support/machine.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 

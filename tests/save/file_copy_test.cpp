@@ -5,7 +5,7 @@
 #include <numeric>
 
 #include "platform/win32.h"
-#include "tests/support/failing_disk.h"
+#include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 
 namespace {

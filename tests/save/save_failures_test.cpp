@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "tests/save/saved_files.h"
-#include "tests/support/failing_disk.h"
+#include "tests/support/machine.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "platform/win32.h"
 #include "sample/wine_prefix.h"
-#include "tests/support/installed_game.h"
+#include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
 #include "ui/status_line.h"

@@ -52,33 +52,20 @@ void clickAt(HWND window, LONG x, LONG y) {
     POINT place{x, y};
     ClientToScreen(window, &place);
     SetCursorPos(place.x, place.y);
-    INPUT steps[2]{};
-    steps[0].type = steps[1].type = INPUT_MOUSE;
-    steps[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    steps[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(2, steps, sizeof *steps);
+    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
     MSG message{};
     while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
         DispatchMessageA(&message);
 }
 
-void pressVirtualKey(WORD key, std::initializer_list<WORD> held = {}) {
-    std::vector<WORD> keys(held);
-    keys.push_back(key);
-    std::vector<INPUT> steps;
-    const auto add = [&](WORD code, DWORD flags) {
-        INPUT step{};
-        step.type = INPUT_KEYBOARD;
-        step.ki.wVk = code;
-        step.ki.dwFlags = flags;
-        steps.push_back(step);
-    };
-    for (const WORD code : keys)
-        add(code, 0);
-    std::ranges::reverse(keys);
-    for (const WORD code : keys)
-        add(code, KEYEVENTF_KEYUP);
-    SendInput(static_cast<UINT>(steps.size()), steps.data(), sizeof(INPUT));
+// The last of the keys while the others are held.
+void press(HWND window, const std::vector<int>& keys) {
+    SetForegroundWindow(window);
+    for (const int key : keys)
+        keybd_event(static_cast<BYTE>(key), 0, 0, 0);
+    for (const int key : keys)
+        keybd_event(static_cast<BYTE>(key), 0, KEYEVENTF_KEYUP, 0);
 }
 
 void CALLBACK workOnTimer(HWND, UINT, UINT_PTR, DWORD) {
@@ -87,42 +74,38 @@ void CALLBACK workOnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (workWaits(box != nullptr)) workWhenQuiet(box != nullptr);
 }
 
-// The pixels that a function draws or that stand in a device context, from its left upper corner on.
-Picture pixelsOf(HDC from, int width, int height) {
-    BITMAPINFO format{};
-    format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    HBITMAP const bitmap = CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-    HDC const memory = CreateCompatibleDC(nullptr);
-    SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, from, 0, 0, SRCCOPY);
-    GdiFlush();
-    const auto* const first = static_cast<const std::uint32_t*>(bits);
-    Picture picture{width, height, {first, first + static_cast<std::ptrdiff_t>(width) * height}};
-    for (std::uint32_t& pixel : picture.pixels)
-        pixel &= 0xFFFFFF;
-    DeleteDC(memory);
-    DeleteObject(bitmap);
-    return picture;
-}
+// A picture to draw on, white at first.
+class Canvas {
+ public:
+    Canvas(int width, int height) : width_(width), height_(height) {
+        BITMAPINFO format{};
+        format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        SelectObject(dc, CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits_, nullptr, 0));
+        PatBlt(dc, 0, 0, width, height, WHITENESS);
+    }
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+    ~Canvas() {
+        const HGDIOBJ bitmap = GetCurrentObject(dc, OBJ_BITMAP);
+        DeleteDC(dc);
+        DeleteObject(bitmap);
+    }
 
-// The text as a window whose controls have this font draws it, in the window's colours.
-Picture pictureOfText(const std::string& text, HFONT font) {
-    HDC const screen = GetDC(nullptr);
-    HDC const memory = CreateCompatibleDC(screen);
-    HBITMAP const bitmap = CreateCompatibleBitmap(screen, 800, 100);
-    SelectObject(memory, bitmap);
-    SelectObject(memory, font);
-    RECT place{0, 0, 800, 100};
-    FillRect(memory, &place, GetSysColorBrush(COLOR_WINDOW));
-    DrawTextA(memory, text.c_str(), -1, &place, DT_CALCRECT);
-    DrawTextA(memory, text.c_str(), -1, &place, 0);
-    const Picture picture = pixelsOf(memory, place.right, place.bottom);
-    DeleteDC(memory);
-    DeleteObject(bitmap);
-    ReleaseDC(nullptr, screen);
-    return picture;
-}
+    Picture picture() const {
+        GdiFlush();
+        const auto* const first = static_cast<const std::uint32_t*>(bits_);
+        Picture picture{width_, height_, {first, first + static_cast<std::ptrdiff_t>(width_) * height_}};
+        for (std::uint32_t& pixel : picture.pixels)
+            pixel &= 0xFFFFFF;
+        return picture;
+    }
+
+    HDC const dc = CreateCompatibleDC(nullptr);
+
+ private:
+    int width_, height_;
+    void* bits_ = nullptr;
+};
 
 bool standsAt(const Picture& part, const Picture& whole, int left, int top) {
     for (int y = 0; y < part.height; ++y)
@@ -152,8 +135,7 @@ void answerBox(int answer) {
     for (HWND const button : childrenOf(openBox(), "Button"))
         if (answer != answerByEscape && withoutMarks(windowText(button)) == (answer == IDOK ? "OK" : "Cancel"))
             return clickButton(button);
-    SetForegroundWindow(openBox());
-    pressVirtualKey(VK_ESCAPE);
+    press(openBox(), {VK_ESCAPE});
 }
 
 void clickButton(HWND button) {
@@ -200,11 +182,10 @@ void closeWindow(HWND window) {
 }
 
 void pressKey(HWND window, char character, Hold hold) {
-    SetForegroundWindow(window);
-    const WORD key = static_cast<WORD>(VkKeyScanA(character) & 0xFF);
-    if (hold == Hold::nothing) return pressVirtualKey(key);
-    if (hold == Hold::alt) return pressVirtualKey(key, {VK_MENU});
-    pressVirtualKey(key, {VK_MENU, VK_SHIFT});
+    const int key = VkKeyScanA(character) & 0xFF;
+    if (hold == Hold::nothing) return press(window, {key});
+    if (hold == Hold::alt) return press(window, {VK_MENU, key});
+    press(window, {VK_MENU, VK_SHIFT, key});
 }
 
 bool isEnabled(HWND window) {
@@ -236,8 +217,15 @@ bool waitCursorShows() {
 
 // Nothing but the picture of a text is left when it is drawn, so that is looked for.
 bool showsText(HWND window, const std::string& text) {
-    const auto font = reinterpret_cast<HFONT>(SendMessageA(GetWindow(window, GW_CHILD), WM_GETFONT, 0, 0));
-    const Picture whole = pictureOf(window), part = pictureOfText(text, font);
+    const Canvas measure(1, 1);
+    const LRESULT font = SendMessageA(GetWindow(window, GW_CHILD), WM_GETFONT, 0, 0);
+    SelectObject(measure.dc, reinterpret_cast<HFONT>(font));
+    RECT place{};
+    DrawTextA(measure.dc, text.c_str(), -1, &place, DT_CALCRECT);
+    const Canvas canvas(place.right, place.bottom);
+    SelectObject(canvas.dc, reinterpret_cast<HFONT>(font));
+    DrawTextA(canvas.dc, text.c_str(), -1, &place, 0);
+    const Picture whole = pictureOf(window), part = canvas.picture();
     for (int top = 0; top + part.height <= whole.height; ++top)
         for (int left = 0; left + part.width <= whole.width; ++left)
             if (standsAt(part, whole, left, top)) return true;
@@ -248,10 +236,11 @@ Picture pictureOf(HWND window) {
     UpdateWindow(window);
     RECT client{};
     GetClientRect(window, &client);
+    const Canvas canvas(client.right, client.bottom);
     HDC const dc = GetDC(window);
-    Picture picture = pixelsOf(dc, client.right, client.bottom);
+    BitBlt(canvas.dc, 0, 0, client.right, client.bottom, dc, 0, 0, SRCCOPY);
     ReleaseDC(window, dc);
-    return picture;
+    return canvas.picture();
 }
 
 std::uint32_t screenPixel(HWND window, int x, int y) {

@@ -1,6 +1,4 @@
-// The runtime's way to Windows is bent in its own import table, so that everything above it meets what a full disk
-// does.
-#include "tests/support/failing_disk.h"
+#include "tests/support/machine.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -11,7 +9,14 @@
 #include <limits>
 #include <utility>
 
+#include "sample/wine_prefix.h"
+
 namespace {
+
+constexpr const char* gameKey = "Software\\Maxis\\The Sims";  // of 32-bit programs
+
+// What follows bends the runtime's way to Windows in its own import table, so that everything above it meets what a
+// full disk does.
 
 constexpr LONGLONG endless = std::numeric_limits<LONGLONG>::max();
 LONGLONG room = endless;               // that a file has now
@@ -74,6 +79,28 @@ Function* bend(HMODULE module, const char* name, Function* function) {
 }
 
 }  // namespace
+
+std::string installGame(const std::filesystem::path& prefix) {
+    const std::string directory = gameDirectory(prefix).make_preferred().string();
+    HKEY key = nullptr;
+    RegCreateKeyExA(HKEY_LOCAL_MACHINE, gameKey, 0, nullptr, 0, KEY_WRITE | KEY_WOW64_32KEY, nullptr, &key, nullptr);
+    EXPECT_EQ(RegSetValueExA(key, "SIMS_DATA", 0, REG_SZ, reinterpret_cast<const BYTE*>(directory.c_str()),
+                             static_cast<DWORD>(directory.size() + 1)),
+              ERROR_SUCCESS);
+    RegCloseKey(key);
+    return directory + "\\";
+}
+
+void uninstallGame(const std::filesystem::path&) {
+    EXPECT_EQ(RegDeleteKeyExA(HKEY_LOCAL_MACHINE, gameKey, KEY_WOW64_32KEY, 0), ERROR_SUCCESS);
+}
+
+void writePagesTo(const std::string& file) {
+    const std::string command = "cmd /c echo %1>>\"" + file + "\"";
+    EXPECT_EQ(RegSetValueA(HKEY_CLASSES_ROOT, "http\\shell\\open\\command", REG_SZ, command.c_str(),
+                           static_cast<DWORD>(command.size())),
+              ERROR_SUCCESS);
+}
 
 FullDisk::FullDisk(std::uint64_t size, const std::string& afterDeletionIn) {
     if (windowsDeleteFile == nullptr) {

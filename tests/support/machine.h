@@ -1,0 +1,34 @@
+// The machine around the program, as a test wants it. Each system has its own implementation in a folder beside this
+// file.
+#ifndef TESTS_SUPPORT_MACHINE_H
+#define TESTS_SUPPORT_MACHINE_H
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+// Makes the game of this sample prefix the one that is installed, and returns its directory as the registry has it,
+// with a separator at the end.
+std::string installGame(const std::filesystem::path& prefix);
+
+// Takes the registry's value of that game away again.
+void uninstallGame(const std::filesystem::path& prefix);
+
+// From now on a page that this process opens isn't shown: its address is added to the file, as a line of its own.
+void writePagesTo(const std::string& file);
+
+// A disk that runs full.
+class FullDisk {
+ public:
+    // While it lives, each file that the process writes ends at `size` bytes: the write that would pass them is cut
+    // short. With a directory, only once a file in it has been deleted.
+    explicit FullDisk(std::uint64_t size, const std::string& afterDeletionIn = {});
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk();
+
+ private:
+    int watched_ = -1;
+};
+
+#endif
