@@ -5,8 +5,16 @@
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 export LC_ALL=C  # whose code page is 1252
 
+own_prefix=
+
+# Ends what runs in the prefix of new_windows, if that was called; another prefix may be a player's, in the middle of a game.
+stop_windows() {
+    [ -z "$own_prefix" ] || WINEPREFIX=$own_prefix wineserver -k || true
+}
+
 # new_windows DIR: a new Windows in that directory, which is WINEPREFIX from then on.
 new_windows() {
+    own_prefix=$1
     export WINEPREFIX=$1
     rm -rf "$WINEPREFIX"
     env -u DISPLAY wine wineboot --init >/dev/null 2>&1
