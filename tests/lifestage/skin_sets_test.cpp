@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
 #include <string>
 
 #include "lifestage/random_generator.h"
+#include "tests/support/build_directory.h"
 #include "tests/support/temp_directory.h"
 
 namespace {
@@ -27,29 +30,25 @@ std::string findIn(const std::string& file, std::int32_t stage, const char* head
 }
 
 TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
+    const std::string x318(318, 'x');
     const struct {
         const char* what;
         std::string file;
         std::int32_t stage;
-        const char* head;
-        const char* found;
+        const char *head, *found;
     } rows[] = {
         {"above and below", "[a]\nTEENAGER=t1;m1\nCHILD=c1;\n[b]\n", teen, "c1", "t1;m1"},
         {"a set without a section line, and no line end", "CHILD=c1;\nTEENAGER=t1;a,B-C", teen, "c1", "t1;a,B-C"},
-        {"a CR at the very end", "CHILD=c1;\nTEENAGER=t1;m1\r", teen, "c1", "t1;m1\r"},
-        {"CR LF", "[a]\r\nCHILD=c1;\r\nTEENAGER=t1;m1\r\n", teen, "c1", "t1;m1"},
+        {"CR LF, but a CR of its own", "[a]\r\nCHILD=c1;\r\nTEENAGER=t1;m1\r", teen, "c1", "t1;m1\r"},
         {"case of the head", "CHILD=C1_aB;\nTEENAGER=T1;M1\n", teen, "c1_Ab", "T1;M1"},
-        {"an adult's head follows a teen's", "CHILD=x;\nADULT=a0;\n[b]\nTEENAGER=x;\nADULT=a1;m1\n", adult, "x",
-         "a1;m1"},
+        {"a teen's head", "CHILD=x;\nADULT=a0;\n[b]\nTEENAGER=x;\nADULT=a1;m1\n", adult, "x", "a1;m1"},
         {"an adult's line does nothing for a teen", "CHILD=c1;\nADULT=a1;m1\n", teen, "c1", "none"},
         {"the second set of that head isn't read", "CHILD=c1;\n[b]\nCHILD=c1;\nTEENAGER=t1;m1\n", teen, "c1", "none"},
-        {"comments and empty lines", "#CHILD=c1;\n\nCHILD=c1;\n#\nTEENAGER=t1;m1\n", teen, "c1", "t1;m1"},
+        {"comments and empty lines", "#CHILD=c0;\n\nCHILD=c1;\n#\nTEENAGER=t1;m1\n", teen, "c1", "t1;m1"},
         {"keys are exact", " CHILD=c1;\nchild=c1;\nCHILD =c1;\nTEENAGER=t1;m1\n", teen, "c1", "none"},
         {"spaces belong to the field", "CHILD=c1;\nTEENAGER= t1 ; m1 \n", teen, "c1", " t1 ; m1 "},
-        {"no mesh", "CHILD=c1\nTEENAGER=t1\n", teen, "c1", "t1;"},
-        {"more marks than needed", "CHILD=c=1;\nTEENAGER=t=1;m=1;n\n", teen, "c=1", "t=1;m=1;n"},
-        {"a line of 319 characters ends there", "#" + std::string(318, 'x') + "CHILD=c1;\nTEENAGER=t1;m1\n", teen, "c1",
-         "t1;m1"},
+        {"no mesh, or none of their own mark", "CHILD=c=1\nTEENAGER=t=1\n", teen, "c=1", "t=1;"},
+        {"a line ends with its 319th character", "#" + x318 + "CHILD=c1;\nTEENAGER=t1;m=1;n\n", teen, "c1", "t1;m=1;n"},
     };
     for (const auto& row : rows) {
         randomGenerator().seed(0);  // its first draw, 38, picks the first candidate
@@ -57,8 +56,16 @@ TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
     }
 }
 
-// With the state 0 the first draw is 38 and the second 7719: (2531011 >> 16) & 0x7FFF, and so on.
-TEST(SkinSetsTest, OneDrawPicksAmongAtMostFiveCandidates) {
+TEST(SkinSetsTest, ChanceIsExactAndPicksAmongAtMostFiveCandidates) {
+    RandomGenerator generator;
+    generator.seed(1);
+    for (const int expected : {41, 18467, 6334, 26500, 19169})
+        EXPECT_EQ(generator.draw(), expected);
+    EXPECT_EQ(pickIndex(6553, 5), 0U);
+    EXPECT_EQ(pickIndex(6554, 5), 1U);
+    EXPECT_EQ(pickIndex(32767, 5), 4U) << "the highest draw, too, stays within";
+
+    // With the state 0 the first draw is 38 and the second 7719: (2531011 >> 16) & 0x7FFF, and so on.
     const char* file = "CHILD=c;\nTEENAGER=0;\nTEENAGER=1;\nTEENAGER=2;\nTEENAGER=3;\nTEENAGER=4;\nTEENAGER=5;\n";
     randomGenerator().seed(0);
     EXPECT_EQ(findIn(file, teen, "c"), "0;");
@@ -66,31 +73,44 @@ TEST(SkinSetsTest, OneDrawPicksAmongAtMostFiveCandidates) {
     EXPECT_EQ(randomGenerator().draw(), 21238);
 }
 
-TEST(RandomGeneratorTest, DrawsAndPicksAreExact) {
-    RandomGenerator generator;
-    generator.seed(1);
-    for (const int expected : {41, 18467, 6334, 26500, 19169})
-        EXPECT_EQ(generator.draw(), expected);
-
-    EXPECT_EQ(pickIndex(6553, 5), 0U);
-    EXPECT_EQ(pickIndex(6554, 5), 1U);
-    EXPECT_EQ(pickIndex(32767, 5), 4U) << "the highest draw, too, stays within";
+TEST(SkinSetsTest, EachOutfitOfATeenHasItsName) {
+    const auto drawn = [](void (*pick)(OutfitText&)) {
+        std::set<std::string> names;
+        OutfitText outfit;
+        for (int i = 0; i < 100; ++i) {
+            pick(outfit);
+            names.emplace(outfit.view());
+        }
+        return names;
+    };
+    EXPECT_EQ(drawn(pickTeenGirlOutfit),
+              (std::set<std::string>{"gma1", "TDWTeenMeshMosaic", "TDWTeenNYtribute1", "TDWTeenNYtribute2",
+                                     "TDWTeenNYtribute3", "TDWTeenStar", "TDWTeenSunsetSweater"}));
+    EXPECT_EQ(drawn(pickTeenBoyOutfit), (std::set<std::string>{"hip01", "TDWTeenSk8boy", "TDWTeenWeekend"}));
 }
 
-TEST(OutfitTest, EachIndexHasItsName) {
-    const char* girls[] = {
-        "gma1",        "TDWTeenMeshMosaic",   "TDWTeenNYtribute1", "TDWTeenNYtribute2", "TDWTeenNYtribute3",
-        "TDWTeenStar", "TDWTeenSunsetSweater"};
-    const char* boys[] = {"hip01", "TDWTeenSk8boy", "TDWTeenWeekend"};
-    RandomGenerator same;
-    same.seed(0);
+// The file that ships with the program: whatever is drawn, each head of the game's children grows up in its own gender
+// and tone, and each skin and mesh are of one head.
+TEST(SkinSetsTest, TheShippedSetsLeadEachChildToAnAdult) {
+    constexpr const char* children[] = {
+        "c001fclgt_amanda01", "c001fcmed_asian",       "c002fclgt_lisa01", "c004fclgt_asian", "c004fcmed_fan",
+        "c006fcmed_nerd",     "c007fclgt_round",       "c008fcmed_pony",   "c001mclgt_asian", "c202fcmed_funtina",
+        "c001mclgt_altblond", "c203fcdrk_creepymindy", "c001mclgt_ave",    "c002mcmed_asian", "c004mclgt_nerd",
+        "c004mcdrk_nerd",     "c012mcmed_buzz",        "c806mclgt_jr",
+    };
     randomGenerator().seed(0);
-    OutfitText outfit;
-    for (int i = 0; i < 100; ++i) {
-        pickTeenGirlOutfit(outfit);
-        EXPECT_EQ(outfit.view(), girls[pickIndex(same.draw(), 7)]);
-        pickTeenBoyOutfit(outfit);
-        EXPECT_EQ(outfit.view(), boys[pickIndex(same.draw(), 3)]);
+    for (std::size_t i = 0; i < 40 * std::size(children); ++i) {
+        std::string head = children[i % std::size(children)];
+        const std::string kind = head.substr(4, 1) + "a" + head.substr(6, 3);  // "falgt"
+        for (const std::int32_t stage : {teen, adult}) {
+            SCOPED_TRACE(head);
+            HeadText skin, mesh;
+            ASSERT_EQ(findNextStageHead(stage, head.c_str(), buildDirectory().string().c_str(), skin, mesh), 0);
+            head = skin.view();
+            std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
+            EXPECT_EQ(head.substr(4, 5), kind);
+            EXPECT_TRUE(mesh.view().starts_with(head.substr(0, 6)) && mesh.view().ends_with(",HEAD-HEAD")) << head;
+        }
     }
 }
 

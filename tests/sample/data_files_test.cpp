@@ -9,39 +9,27 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(CharacterTemplateTest, ItsChunksStandWhereTheProgramWrites) {
+TEST(CharacterTemplateTest, ItsChunksStandWhereTheProgramWritesAndItsPicturesAreWhole) {
     const Bytes file = makeCharacterTemplate();
     const IffWalk walk = walkIff(file);
     ASSERT_EQ(walk.fault, "");
-    const std::string body = textAt(filledSampleBodyText(adultSlots(), BodyEnding::atEntry32, 1041));
-    const struct {
-        const char* type;
-        unsigned id;
-        std::size_t offset;
-        std::string label, content;
-    } rows[] = {
-        // Two texts, the second one empty, whether the name takes one of its 64 bytes or 63.
-        {"CTSS", 2000, 4268, "", "\xFD\xFF\2\0\1Sim"s + std::string(61 + 7, '\0')},
-        // The zero bytes behind the fill make 33 strings of any text.
-        {"STR#", 200, 54016, "bodystring", "\xFD\xFF\x21\0\1adult"s + body + std::string(12, '\0')},
-    };
-    for (const auto& row : rows) {
-        const WalkedChunk chunk = walk.find(row.type, row.id);
-        ASSERT_EQ(chunk.offset, row.offset);
-        EXPECT_EQ(chunk.label, row.label);
-        EXPECT_EQ(textAt(file, row.offset + 76, chunk.size - 76), row.content);
-    }
     EXPECT_EQ(walk.find("OBJD", 128).offset, 3976U);
     EXPECT_EQ(textAt(file, 3976 + 104, 4), "\x01\x11WT");
-}
+    EXPECT_EQ(walk.find("CTSS", 2000).offset, 4268U);
+    // Two texts, the second one empty, whether the name takes one of its 64 bytes or 63.
+    const std::string name = "\xFD\xFF\2\0\1Sim"s + std::string(61 + 7, '\0') + "BMP_";
+    EXPECT_EQ(textAt(file, 4268 + 76, name.size()), name);
+    EXPECT_EQ(walk.find("STR#", 200).offset, 54016U);
+    EXPECT_EQ(walk.find("STR#", 200).label, "bodystring");
+    // The zero bytes behind the fill make 33 strings of any text.
+    const std::string text = textAt(filledSampleBodyText(adultSlots(), BodyEnding::atEntry32, 1041));
+    const std::string body = "\xFD\xFF\x21\0\1adult"s + text + std::string(12, '\0') + "rsmp";
+    EXPECT_EQ(textAt(file, 54016 + 76, body.size()), body);
 
-TEST(CharacterTemplateTest, ItsPicturesAreWholeBitmaps) {
-    const Bytes file = makeCharacterTemplate();
-    for (const WalkedChunk& chunk : walkIff(file).chunks) {
+    for (const WalkedChunk& chunk : walk.chunks) {
         if (chunk.type != "BMP_") continue;
         SCOPED_TRACE(chunk.id);
-        const std::size_t at = chunk.offset + 76;
-        const std::size_t size = chunk.size - 76;
+        const std::size_t at = chunk.offset + 76, size = chunk.size - 76;
         EXPECT_EQ(textAt(file, at, 4), std::string({'B', 'M', static_cast<char>(size), static_cast<char>(size >> 8)}));
         EXPECT_EQ(54 + (file[at + 18] * 3U + 3) / 4 * 4 * file[at + 22], size);  // rows of 24 bits a pixel
     }

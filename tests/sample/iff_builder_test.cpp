@@ -9,18 +9,13 @@ namespace {
 
 using namespace std::string_literals;
 
-// Two chunks of text around free room, as the game would save them.
-Bytes smallFile() {
-    IffBuilder file;
-    file.add({.type = "CTSS", .id = 2000, .label = "", .content = textChunkContent({"Ada"})});
-    file.addFreeRoom(80);
-    file.add({.type = "STR#", .id = 200, .label = "ab", .content = {1, 2}});
-    file.addMap();
-    return file.bytes();
-}
-
-TEST(IffBuilderTest, WritesHeaderChunksAndMap) {
-    const std::string file = textAt(smallFile());
+TEST(IffBuilderTest, WritesHeaderChunksAndMapAndTheWalkFindsWhatIsWrong) {
+    IffBuilder builder;
+    builder.add({.type = "CTSS", .id = 2000, .label = "", .content = textChunkContent({"Ada"})});
+    builder.addFreeRoom(80);
+    builder.add({.type = "STR#", .id = 200, .label = "ab", .content = {1, 2}});
+    builder.addMap();
+    const std::string file = textAt(builder.bytes());
     const std::string mapContent =
         "\0\0\0\0\0\0\0\0pmsr\x26\0\0\0\2\0\0\0"
         "#RTS\1\0\0\0\xE6\0\0\0\xC8\0\x10\0ab\0\0"  // 64 + 86 + 80; the body strings' entry comes first
@@ -31,24 +26,16 @@ TEST(IffBuilderTest, WritesHeaderChunksAndMap) {
     EXPECT_EQ(file.substr(150, 8), "XXXX\0\0\0\x50"s);
     EXPECT_EQ(file.substr(230, 12), "STR#\0\0\0\x4E\0\xC8\0\x10"s);
     EXPECT_EQ(file.substr(308 + 76), mapContent);
-}
 
-TEST(IffBuilderTest, TheWalkFindsWhatIsWrong) {
-    const struct {
-        std::size_t offset;
-        std::uint8_t byte;
-        const char* fault;
-    } rows[] = {
-        {0, 'i', "not the game's header"},
-        {71, 75, "no chunk fits at 64"},
-        {63, 0x40, "no map where the header says"},
-        {239, 0xC9, "the map doesn't list STR# 201"},
-        {308 + 76 + 28, 0xE5, "the map doesn't list STR# 200"},
-    };
-    for (const auto& row : rows) {
-        Bytes file = smallFile();
-        file[row.offset] = row.byte;
-        EXPECT_EQ(walkIff(file).fault, row.fault) << row.offset;
+    const std::pair<std::size_t, const char*> faults[] = {{0, "not the game's header"},
+                                                          {71, "no chunk fits at 151"},
+                                                          {63, "no map where the header says"},
+                                                          {239, "the map doesn't list STR# 201"},
+                                                          {308 + 76 + 28, "the map doesn't list STR# 200"}};
+    for (const auto& [offset, fault] : faults) {
+        Bytes broken = builder.bytes();
+        broken[offset] ^= 1;
+        EXPECT_EQ(walkIff(broken).fault, fault);
     }
 }
 
