@@ -28,16 +28,12 @@ std::string readToEnd(std::FILE* output) {
 std::string registryCommand(const std::string& prefix) {
     const std::string value = " 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32";
     if (!std::filesystem::exists(prefix + "/system.reg")) return "wine reg delete" + value;
-    return "wine reg add" + value + " /d '" + windowsPath(gameDirectory(prefix)) + "'";
+    std::string directory = "Z:" + gameDirectory(prefix).string();
+    std::ranges::replace(directory, '/', '\\');
+    return "wine reg add" + value + " /d '" + directory + "'";
 }
 
 }  // namespace
-
-std::string windowsPath(const std::filesystem::path& path) {
-    std::string text = "Z:" + path.string();
-    std::ranges::replace(text, '/', '\\');
-    return text;
-}
 
 // Wine's server stays with the display of its first program.
 Desktop::Desktop() {
@@ -65,7 +61,7 @@ RunningProgram::RunningProgram(const std::string& prefix, const std::string& too
                                           "wine " + windowsExe + " >/dev/null 2>&1"
                                     : limited + "env WINEPREFIX=" + prefix + " " +
                                           (buildDirectory() / "tidewright").string() + " 2>&1 >/dev/null";
-    process_ = popen(("cd " + toolDirectory + " && " + command).c_str(), "r");
+    process_ = popen(("cd '" + toolDirectory + "' && " + command).c_str(), "r");
     if (desktop == nullptr) return;
     window_ = desktop_->act(
         "search --sync --onlyvisible --name '^(Tidewright|.*Sims|Installation Problem|Missing Config Files)$'");

@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 
 #include "tests/support/x_server.h"
@@ -16,9 +15,6 @@ class Desktop : public XServer {
     // Runs xdotool with these arguments and returns the first line of what it prints; a failure fails the test.
     std::string act(const std::string& arguments) const;
 };
-
-// The name that Wine gives to an absolute path.
-std::string windowsPath(const std::filesystem::path& path);
 
 // The Windows program that the stories are told of, run by Wine in a prefix that serves for nothing else; null if they
 // are told of the native one.

@@ -145,11 +145,10 @@ TEST_F(Stories, ARefusedStartTellsWhy) {
 
 TEST_F(Stories, TheProgramDoesNotStartBesideTheGame) {
     const Desktop desktop;
-    // What has the game's title is a second Tidewright whose window is given it, as if it were the game; or the window
-    // of the directory of that name, in Wine's file manager.
-    const std::string fileManager = "explorer '" + windowsPath(game()) + "'";
-    RunningProgram other(prefix(), toolDirectory(), &desktop,
-                         windowsProgram != nullptr ? fileManager.c_str() : nullptr);
+    // What has the game's title is a second Tidewright whose window is given it; under Wine, the window in which the
+    // file manager shows the directory of that name.
+    const bool wine = windowsProgram != nullptr;
+    RunningProgram other(prefix(), wine ? game().string() : toolDirectory(), &desktop, wine ? "explorer ." : nullptr);
     const std::string window = desktop.act("search --onlyvisible --name '^(Tidewright|The Sims)$'");
     desktop.act("set_window --name 'The Sims' " + window);
     RunningProgram program(prefix(), toolDirectory(), &desktop);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <regex>
 #include <utility>
+#include <vector>
 
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
@@ -15,17 +16,37 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Gives the backups made since the last call a name without their date: the programs don't run in one minute.
-void nameBackups(const fs::path& game, const std::string& session) {
+struct Step {
+    int neighborhood, family, sim;
+    void (RunningProgram::*click)() const;
+};
+
+// Two runs, each saved at its end. Of their outcome only Rye's outfit hangs on a draw.
+const std::vector<Step> runs[] = {
+    {{0, 0, 2, &RunningProgram::clickTeenToAdult},  // Bramble
+     {1, 1, 2, &RunningProgram::clickChildToTeen},  // Rye
+     {0, 0, 0, &RunningProgram::clickMoveOut},      // Hazel
+     {0, 1, 1, &RunningProgram::clickMoveOut},      // Antonia
+     {1, 0, 1, &RunningProgram::clickMoveOut}},     // Peregrine
+    {{2, 0, 2, &RunningProgram::clickTeenToAdult},  // Heron
+     {0, 0, 1, &RunningProgram::clickMoveOut},      // Bramble
+     {2, 0, 1, &RunningProgram::clickMoveOut}},     // Willow
+};
+
+// Gives new backups names without a date: the programs don't run in one minute.
+void nameBackups(const fs::path& game) {
     const std::regex dated(R"((.*Backups/\w+)[.0-9]+iff)");
     for (const auto& [name, bytes] : treeOf(game)) {
-        if (std::regex_match(name, dated))
-            fs::rename(game / name, game / std::regex_replace(name, dated, "$1" + session));
+        if (!std::regex_match(name, dated)) continue;
+        std::string undated = std::regex_replace(name, dated, "$1");
+        while (fs::exists(game / undated))
+            undated += "-next";
+        fs::rename(game / name, game / undated);
     }
 }
 
-// Takes the outfit of a new teen boy of medium tone out of his body strings; it is drawn. The fill at their end, 1041
-// bytes behind the word "adult", makes up for it.
+// Takes the outfit of a new teen boy of medium tone out of his body strings. The fill at their end, 1041 bytes behind
+// the word "adult", makes up for it.
 void takeOutfitAway(Bytes& character) {
     const std::regex skin(R"(=b614maTNRmed_(hip01|TDWTeenSk8boy|TDWTeenWeekend)\0)");
     const std::string text = textAt(character);
@@ -36,62 +57,32 @@ void takeOutfitAway(Bytes& character) {
     character.erase(outfit, outfit + found.length(1));
 }
 
-class TwoPrograms : public Stories {
- protected:
-    // What the program saves in two sessions on a new installation; no other outcome hangs on a draw.
-    Tree savedBy(const char* windowsExe) {
+TEST_F(Stories, TwoProgramsSaveOneTree) {
+    ASSERT_NE(windowsProgram, nullptr) << "TIDEWRIGHT_EXE names no Windows program";
+    const Desktop desktop;
+    const auto savedBy = [&](const char* windowsExe) {
         writeInstallation(prefix());
-        {
-            RunningProgram program(prefix(), toolDirectory(), &desktop_, windowsExe);
-            program.pick(0, 0, 2);
-            program.clickTeenToAdult();  // Bramble
-            program.pick(1, 1, 2);
-            program.clickChildToTeen();  // Rye
-            program.pick(2, 0, 3);
-            program.clickChildToTeen();  // Minnow, whose head is in no set
-            program.answerBox("Proceed[?]", "Return");
-            program.pick(0, 0, 0);
-            program.clickMoveOut();  // Hazel
-            program.pick(0, 1, 1);
-            program.clickMoveOut();  // Antonia
-            program.pick(1, 0, 1);
-            program.clickMoveOut();  // Peregrine
-            program.chooseFileItem('s');
-            program.closeWindow();
-            EXPECT_EQ(program.waitForExit(), 0);
-        }
-        nameBackups(game(), "-first");
-        {
-            RunningProgram program(prefix(), toolDirectory(), &desktop_, windowsExe);
-            program.pick(2, 0, 2);
-            program.clickTeenToAdult();  // Heron
-            program.pick(0, 0, 1);
-            program.clickMoveOut();  // Bramble
-            program.pick(2, 0, 1);
-            program.clickMoveOut();  // Willow
+        for (const auto& run : runs) {
+            RunningProgram program(prefix(), toolDirectory(), &desktop, windowsExe);
+            for (const Step& step : run) {
+                program.pick(step.neighborhood, step.family, step.sim);
+                (program.*step.click)();
+            }
             program.chooseFileItem('v');
             EXPECT_EQ(program.waitForExit(), 0);
+            nameBackups(game());
         }
-        nameBackups(game(), "-second");
         Tree saved = treeOf(game());
         takeOutfitAway(saved["UserData2/Characters/user00010.iff"]);
-        takeOutfitAway(saved["UserData3/Characters/user00004.iff"]);
         return saved;
-    }
-
- private:
-    Desktop desktop_;
-};
-
-TEST_F(TwoPrograms, SaveOneTree) {
-    ASSERT_NE(windowsProgram, nullptr) << "TIDEWRIGHT_EXE names no Windows program";
+    };
     const Tree native = savedBy(nullptr);
-    EXPECT_TRUE(native.contains("UserData/Characters/Backups/user00013-first"));
-    EXPECT_TRUE(native.contains("UserData3/Characters/Backups/user00003-second"));
-    const std::pair<const char*, int> familyCounts[] = {
+    EXPECT_TRUE(native.contains("UserData/Characters/Backups/user00013"));
+    EXPECT_TRUE(native.contains("UserData3/Characters/Backups/user00003"));
+    const std::pair<std::string, int> familyCounts[] = {
         {"UserData", 6 + 3}, {"UserData2", 4 + 1}, {"UserData3", 3 + 1}};
     for (const auto& [directory, count] : familyCounts) {
-        const IffWalk walk = walkIff(native.at(directory + std::string("/neighborhood.iff")));
+        const IffWalk walk = walkIff(native.at(directory + "/neighborhood.iff"));
         EXPECT_EQ(std::ranges::count(walk.chunks, "FAMI", &WalkedChunk::type), count) << directory;
     }
     EXPECT_EQ(differences(native, savedBy(windowsProgram)), "");
