@@ -9,7 +9,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgte
     binutils-mingw-w64-x86-64)
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
-wine_packages=(wine wine64)
+wine_packages=(wine wine64 fonts-wine)
 check_packages=(clang-format clang-tidy)
 
 say() { printf '%s\n' "$*"; }

@@ -44,3 +44,9 @@ TEST(DialogTest, TheResourcesDialogsShowTheirTextsAndAnswer) {
     }
     EXPECT_EQ(DialogBoxParamA(nullptr, MAKEINTRESOURCEA(9999), owner.handle, procedure, 0), -1);
 }
+
+TEST(DialogTest, AStringOfTheResourcesIsCutToItsRoom) {
+    char text[10] = "";
+    EXPECT_EQ(LoadStringA(nullptr, IDS_MAIN_CLASS, text, sizeof text), 9);
+    EXPECT_STREQ(text, "TIDEWRIGH");
+}

@@ -114,18 +114,12 @@ TEST_F(Stories, ARefusedStartTellsWhy) {
     const struct {
         std::string missing;
         int code;
-        std::string output;
+        std::string title;
     } rows[] = {
         {"", 0, ""},  // the window itself can't be created
-        {toolDirectory() + "/skinsets.cfg", -4,
-         "Missing Config Files\nTidewright cannot find its config files.  It must be in the same directory as its skin "
-         "config file and template files.\n"},
-        {game() / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn", -3,
-         "Installation Problem\nTidewright appears to have been installed incorrectly.  It must be unzipped to your "
-         "Sims "
-         "directory.\n\nYour Sims directory appears to be\nC:\\Program Files (x86)\\Maxis\\The Sims\\\n"},
-        {prefix() + "/system.reg", -1,
-         "Cannot find The Sims\nCannot find The Sims in the registry.  Please check the FAQ to see how to proceed.\n"},
+        {toolDirectory() + "/skinsets.cfg", -4, "Missing Config Files"},
+        {game() / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn", -3, "Installation Problem"},
+        {prefix() + "/system.reg", -1, "Cannot find The Sims"},
     };
     const Desktop desktop;
     for (const auto& row : rows) {
@@ -134,10 +128,10 @@ TEST_F(Stories, ARefusedStartTellsWhy) {
         if (windowsProgram == nullptr) {
             RunningProgram program(prefix(), toolDirectory(), nullptr);
             EXPECT_EQ(program.waitForExit(), row.code);
-            EXPECT_EQ(program.errorOutput(), row.output);
-        } else if (!row.output.empty()) {  // Windows always has a display for a window or a box
+            EXPECT_EQ(program.errorOutput().substr(0, program.errorOutput().find('\n')), row.title);
+        } else if (!row.title.empty()) {  // Windows always has a display for a window or a box
             RunningProgram program(prefix(), toolDirectory(), &desktop);
-            program.answerBox(row.output.substr(0, row.output.find('\n')), "Return");
+            program.answerBox(row.title, "Return");
             EXPECT_EQ(program.waitForExit(), row.code);
         }
     }
