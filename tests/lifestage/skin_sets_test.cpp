@@ -57,10 +57,6 @@ TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
 }
 
 TEST(SkinSetsTest, ChanceIsExactAndPicksAmongAtMostFiveCandidates) {
-    RandomGenerator generator;
-    generator.seed(1);
-    for (const int expected : {41, 18467, 6334, 26500, 19169})
-        EXPECT_EQ(generator.draw(), expected);
     EXPECT_EQ(pickIndex(6553, 5), 0U);
     EXPECT_EQ(pickIndex(6554, 5), 1U);
     EXPECT_EQ(pickIndex(32767, 5), 4U) << "the highest draw, too, stays within";
@@ -74,19 +70,17 @@ TEST(SkinSetsTest, ChanceIsExactAndPicksAmongAtMostFiveCandidates) {
 }
 
 TEST(SkinSetsTest, EachOutfitOfATeenHasItsName) {
-    const auto drawn = [](void (*pick)(OutfitText&)) {
-        std::set<std::string> names;
-        OutfitText outfit;
-        for (int i = 0; i < 100; ++i) {
-            pick(outfit);
-            names.emplace(outfit.view());
-        }
-        return names;
-    };
-    EXPECT_EQ(drawn(pickTeenGirlOutfit),
-              (std::set<std::string>{"gma1", "TDWTeenMeshMosaic", "TDWTeenNYtribute1", "TDWTeenNYtribute2",
-                                     "TDWTeenNYtribute3", "TDWTeenStar", "TDWTeenSunsetSweater"}));
-    EXPECT_EQ(drawn(pickTeenBoyOutfit), (std::set<std::string>{"hip01", "TDWTeenSk8boy", "TDWTeenWeekend"}));
+    std::set<std::string> girls, boys;
+    OutfitText outfit;
+    for (int i = 0; i < 100; ++i) {
+        pickTeenGirlOutfit(outfit);
+        girls.emplace(outfit.view());
+        pickTeenBoyOutfit(outfit);
+        boys.emplace(outfit.view());
+    }
+    EXPECT_EQ(girls, (std::set<std::string>{"gma1", "TDWTeenMeshMosaic", "TDWTeenNYtribute1", "TDWTeenNYtribute2",
+                                            "TDWTeenNYtribute3", "TDWTeenStar", "TDWTeenSunsetSweater"}));
+    EXPECT_EQ(boys, (std::set<std::string>{"hip01", "TDWTeenSk8boy", "TDWTeenWeekend"}));
 }
 
 // The file that ships with the program: whatever is drawn, each head of the game's children grows up in its own gender

@@ -24,8 +24,6 @@ TEST(StageTemplateTest, EverySlotOfEveryBody) {
         std::int16_t version, type;
         std::string slots;
     } rows[] = {
-        {1, 27, 1, "lgt", 7, 0,
-         "b609faTNR_01,BODY b609faTNR~_TDWTeenMeshMosaic" + woman + grown("fTNR", "fTNR") + outfits("faTNR")},
         {1, 27, 3, "med", 8, 1, "b011faskn_01,BODY b011faskn~_tom" + woman + grown("fskn", "uskn") + outfits("faskn")},
         {1, 18, 2, "drk", 7, 2,
          "b002fafit_01,BODY B002FAFit~_mom01" + woman + grown("ffit", "ffit") + outfits("fafit")},
@@ -33,10 +31,6 @@ TEST(StageTemplateTest, EverySlotOfEveryBody) {
         {0, 27, 1, "lgt", 7, 1, "b002maskn_01,BODY b002maskn~_nerd" + man + grown("mskn", "uskn") + outfits("maskn")},
         {2, 27, 3, "med", -1, 2, "b002mafit_01,BODY b002MAfit~_casual" + man + grown("mfit", "mfit") + noOutfitSlots},
         {0, 1, 64, "drk", 7, 3, "b002mafat_01,BODY b002MAfat~_slob" + man + grown("mfat", "mfat") + outfits("mafat")},
-        {0, 0, 1, "lgt", 8, 1,
-         "b002mcchd_01,BODY b001mcchd~_slob c001mc_ave,HEAD-HEAD c001mc~_altblond" + anchorSlots +
-             "male 9 ~ nuchd_01,BODY nuchd~_01 nuchd_01,BODY umchd~_undies01" + handSlots + "- -" + formalHandSlots +
-             noOutfitSlots},
     };
     for (const auto& row : rows) {
         const BodyStrings body(row.gender, row.age, row.tone, row.version, row.type);

@@ -1,4 +1,4 @@
-// The views of the game's files, and the scan for a tag.
+// The scan for a tag.
 #include "world/tag_scan.h"
 
 #include "tests/support/test_stream.h"
@@ -6,12 +6,6 @@
 namespace {
 
 using namespace std::string_literals;
-
-std::string read(StreamView& stream, std::size_t count) {
-    Bytes bytes(count, '?');
-    stream.read(bytes);
-    return {bytes.begin(), bytes.end()};
-}
 
 TEST(TagScan, ATagIsFoundFromTheCursorOn) {
     const struct {
@@ -36,32 +30,6 @@ TEST(TagScan, ATagIsFoundFromTheCursorOn) {
         EXPECT_EQ(findTag(stream, row.tag, row.size), row.result) << row.what;
         EXPECT_EQ(stream.tell(), row.cursor) << row.what;
     }
-}
-
-TEST(Stream, TheCursorIsEverybodysAndTheFlagsAreTheViews) {
-    TestStream file(bytesFrom("abcd"));
-    StreamView caller = file.view(), callee = caller, refused = caller, skipping = caller;
-    callee.skip(4);
-    EXPECT_TRUE(callee.good());
-    EXPECT_TRUE(caller.peek() == -1 && caller.good()) << "nor does peeking raise a flag";
-    callee.seek(0);
-    EXPECT_EQ(read(callee, 6), "abcd??");
-    EXPECT_TRUE(callee.endOfFile() && callee.failed());
-    callee.seek(1);
-    callee.skip(1);
-    EXPECT_EQ(std::to_string(callee.peek()) + read(callee, 2), "-1??");
-    EXPECT_EQ(findTag(callee, "c", 4), -4);
-    EXPECT_EQ(callee.tell(), 1) << "with the flags up nothing but a seek moves the cursor";
-    EXPECT_EQ(read(caller, 1), "b");
-
-    skipping.skip(3);
-    EXPECT_TRUE(skipping.endOfFile() && !skipping.failed()) << "it moved";
-    caller.skip(1);
-    EXPECT_TRUE(caller.endOfFile() && caller.failed());
-    refused.seek(-1);
-    EXPECT_TRUE(refused.failed() && !refused.endOfFile());
-    EXPECT_EQ(findTag(refused, "d", 4), -4);
-    EXPECT_EQ(refused.tell(), 4);
 }
 
 }  // namespace
