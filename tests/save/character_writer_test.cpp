@@ -6,21 +6,19 @@ namespace {
 
 using CharacterWriterTest = SaveTest;
 
-const struct {
-    std::string what, name;
-    BodySlots slots;
-    int version, kind;
-    bool teen, cut = false;
-} rows[] = {{"a boy", "Betty", childSlots(BodySex::male), 7, 0, true},
-            {"no name", "", adultSlots(), 7, 1, true},
-            {"the longest name", std::string(63, 'n'), teenSlots(), 8, 1, false},
-            {"a longer name", std::string(64, 'n'), adultSlots(), 7, 1, false},
-            {"the base game's text", "Mo", adultSlots(), 6, 1, false},
-            {"a text that is cut", "Mo", adultSlots(), 7, 1, false, true},
-            {"a cat", "Mo", petSlots(), 7, 2, false},
-            {"a dog", "Mo", petSlots(), 7, 5, false}};
-
 TEST_F(CharacterWriterTest, EachChangedSimIsWrittenByteForByteAndNothingElse) {
+    const struct {
+        std::string what, name;
+        BodySlots slots;
+        int version, kind;
+        bool teen, cut = false;
+    } rows[] = {{"a boy", "Betty", childSlots(BodySex::male), 7, 0, true},
+                {"no name", "", adultSlots(), 7, 1, true},
+                {"the longest name", std::string(63, 'n'), teenSlots(), 8, 1, false},
+                {"a longer name", std::string(64, 'n'), adultSlots(), 7, 1, false},
+                {"the base game's text", "Mo", adultSlots(), 6, 1, false},
+                {"a text that is cut", "Mo", adultSlots(), 7, 1, false, true},
+                {"a dog", "Mo", petSlots(), 7, 5, false}};
     SampleNeighborhood content{.neighbors = {{.recordName = "robot"}}, .families = {{.members = {sampleGuid}}}};
     std::vector<SampleCharacter> characters;
     for (const auto& row : rows) {

@@ -2,26 +2,21 @@
 
 namespace {
 
-// A household of six, of whom one has no record, and one of two; a family that isn't listed has the highest number.
-class NeighborhoodWriterTest : public SaveTest {
- public:
-    NeighborhoodWriterTest() {
-        content_.families = {{.number = 3, .members = {}}, {.number = 40, .name = "Default"}, {.members = {}}};
-        for (std::uint32_t i = 0; i < 7; ++i) {
-            const std::string recordName = "user0000" + std::to_string(i);
-            characters_.push_back({.recordName = recordName, .guid = sampleGuid + i, .hasPictures = false});
-            content_.neighbors.push_back({.recordName = recordName});
-            content_.families[i < 5 ? 0 : 2].members.push_back(sampleGuid + i);
-        }
-        content_.families[0].members.push_back(strangersGuid);
-    }
-
-    static constexpr std::uint32_t strangersGuid = 0x44434241;
-    std::vector<SampleCharacter> characters_;
-    SampleNeighborhood content_;
-};
+using NeighborhoodWriterTest = SaveTest;
 
 TEST_F(NeighborhoodWriterTest, NewFamiliesStandWhereTheFileIsCut) {
+    // A household of six, of whom one has no record, and one of two; a family that isn't listed has the highest number.
+    constexpr std::uint32_t strangersGuid = 0x44434241;
+    std::vector<SampleCharacter> characters;
+    SampleNeighborhood content{
+        .families = {{.number = 3, .members = {}}, {.number = 40, .name = "Default"}, {.members = {}}}};
+    for (std::uint32_t i = 0; i < 7; ++i) {
+        const std::string recordName = "user0000" + std::to_string(i);
+        characters.push_back({.recordName = recordName, .guid = sampleGuid + i, .hasPictures = false});
+        content.neighbors.push_back({.recordName = recordName});
+        content.families[i < 5 ? 0 : 2].members.push_back(sampleGuid + i);
+    }
+    content.families[0].members.push_back(strangersGuid);
     const std::string names[] = {"", "Mills", std::string(21, 'x'), std::string(24, 'y'), std::string(99, 'z')};
     const struct {
         const char* what;
@@ -33,16 +28,16 @@ TEST_F(NeighborhoodWriterTest, NewFamiliesStandWhereTheFileIsCut) {
                 {"before all pieces", false, true, true}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        content_.freeRoom = row.freeRoom;
-        content_.map = row.map;
-        if (row.allBehind) content_.before = {{.type = "XXXX"}};
-        TestNeighborhood test(content_, characters_);
+        content.freeRoom = row.freeRoom;
+        content.map = row.map;
+        if (row.allBehind) content.before = {{.type = "XXXX"}};
+        TestNeighborhood test(content, characters);
         EXPECT_TRUE(writeDataFiles(test.files().path()));
 
         const NeighborhoodFile& built = test.built();
         Bytes file = built.bytes;
         overwrite(file, 61, Bytes(3));
-        overwrite(file, built.neighborOffsets[6], savedRecord(content_.neighbors[6], false));
+        overwrite(file, built.neighborOffsets[6], savedRecord(content.neighbors[6], false));
         overwriteFamily(file, built.families[0], 70'000, strangersGuid);
         file.resize(row.allBehind ? 64 : row.freeRoom ? built.freeRoomOffset : row.map ? built.mapOffset : file.size());
         for (int i = 0; i < 5; ++i) {

@@ -1,6 +1,4 @@
 // What stands on the disk when a step of a save fails, and what the next save makes of it.
-#include <sys/stat.h>
-
 #include <optional>
 
 #include "tests/save/saved_files.h"
@@ -13,7 +11,7 @@ enum class Cause { missing, directory, wrongSize, otherFile, full };
 // Ann becomes a teen, Bob an adult; then Cleo and Bob move out.
 class SaveFailuresTest : public SaveTest {
  public:
-    void start(bool movingOut = true) {
+    void start() {
         SampleNeighborhood content = householdOf(characters_);
         content.neighbors[0].age = 9;
         content.freeRoom = true;
@@ -24,8 +22,8 @@ class SaveFailuresTest : public SaveTest {
         original_ = treeOf(files().path());
         change(**test_, 0, stageNumber::teen);
         change(**test_, 1, stageNumber::adult);
-        if (movingOut) moveOut(*test_, 0, 2, "Cleo's", 500);
-        if (movingOut) moveOut(*test_, 0, 1, "Bob's", 700);
+        moveOut(*test_, 0, 2, "Cleo's", 500);
+        moveOut(*test_, 0, 1, "Bob's", 700);
     }
 
     const TempDirectory& files() const { return test_->files(); }
@@ -124,20 +122,6 @@ TEST_F(SaveFailuresTest, EachStepLeavesWhatItMust) {
         if (original_.contains(row.where)) files().write(row.where, original_.at(row.where));
         saveAndCompare(row.afterTheNext);
     }
-}
-
-TEST_F(SaveFailuresTest, AProtectedCopyIsLeft) {
-    start(false);
-    const auto mask = umask(0222);
-    saveAndCompare("o?. o.. o..");
-    EXPECT_EQ(test_->sim(0).saveCharacterFile((*test_)->directory()), -1);
-    umask(mask);
-
-    // Cleo's body strings were never asked for.
-    EXPECT_EQ(test_->sim(2).setStage(stageNumber::adult, nullptr), 1);
-    EXPECT_EQ(test_->sim(2).saveCharacterFile((*test_)->directory()), 0);
-    EXPECT_EQ(differences(original_, treeOf(files().path())),
-              "UserData/Characters/TMPuser00001.iff\nUserData/TMPneighborhood.iff\n");
 }
 
 }  // namespace
