@@ -59,11 +59,3 @@ TEST(WindowTest, WhatWaitsIsDrawnByAnUpdateOrByAQuietLoop) {
     runMessages();
     EXPECT_EQ(window.takeLog(), Log{"paint"});
 }
-
-TEST(WindowTest, AQuitEndsOneLoop) {
-    int exitCode = 0;
-    later([] { PostQuitMessage(-3); });
-    EXPECT_TRUE(runMessages(&exitCode));
-    EXPECT_EQ(exitCode, -3);
-    EXPECT_FALSE(runMessages());
-}

@@ -188,16 +188,6 @@ TEST_F(MainWindowTest, AsksBeforeItLosesChanges) {
     });
 }
 
-TEST_F(MainWindowTest, ClosesAtOnceWithoutChanges) {
-    later([] {
-        const AnsweredBox box = answerNextBox(IDCANCEL);
-        closeWindow(controls().mainWindow);
-        EXPECT_FALSE(box.shown());
-    });
-    EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 0);
-    EXPECT_FALSE(IsWindow(controls().mainWindow));
-}
-
 TEST_F(MainWindowTest, KeysAndMenuShowDialogsAndExitWithoutAQuestion) {
     later([] {
         const HWND window = controls().mainWindow;
