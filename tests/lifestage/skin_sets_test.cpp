@@ -39,7 +39,7 @@ TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
     } rows[] = {
         {"above and below", "[a]\nTEENAGER=t1;m1\nCHILD=c1;\n[b]\n", teen, "c1", "t1;m1"},
         {"a set without a section line, and no line end", "CHILD=c1;\nTEENAGER=t1;a,B-C", teen, "c1", "t1;a,B-C"},
-        {"CR LF, but a CR of its own", "[a]\r\nCHILD=c1;\r\nTEENAGER=t1;m1\r", teen, "c1", "t1;m1\r"},
+        {"CR LF, but a CR of its own", "[a]\r\nCHILD=c1;\r\nTEENAGER=t1;m\r1\r", teen, "c1", "t1;m\r1\r"},
         {"case of the head", "CHILD=C1_aB;\nTEENAGER=T1;M1\n", teen, "c1_Ab", "T1;M1"},
         {"a teen's head", "CHILD=x;\nADULT=a0;\n[b]\nTEENAGER=x;\nADULT=a1;m1\n", adult, "x", "a1;m1"},
         {"an adult's line does nothing for a teen", "CHILD=c1;\nADULT=a1;m1\n", teen, "c1", "none"},

@@ -1,4 +1,4 @@
-// The scan for a tag.
+// The views of the game's files, and the scan for a tag.
 #include "world/tag_scan.h"
 
 #include "tests/support/test_stream.h"
@@ -30,6 +30,22 @@ TEST(TagScan, ATagIsFoundFromTheCursorOn) {
         EXPECT_EQ(findTag(stream, row.tag, row.size), row.result) << row.what;
         EXPECT_EQ(stream.tell(), row.cursor) << row.what;
     }
+}
+
+TEST(Stream, TheCursorIsEverybodysAndTheFlagsAreTheViews) {
+    TestStream file(bytesFrom("abcd"));
+    StreamView caller = file.view(), callee = caller, refused = caller;
+    callee.skip(5);
+    EXPECT_TRUE(callee.endOfFile() && !callee.failed()) << "it moved";
+    EXPECT_TRUE(caller.peek() == -1 && caller.good()) << "nor does peeking raise a flag";
+    caller.readBytes<1>();
+    EXPECT_TRUE(caller.endOfFile() && caller.failed());
+    callee.seek(1);
+    callee.skip(1);
+    EXPECT_EQ(callee.peek(), -1);
+    refused.seek(-1);
+    EXPECT_TRUE(refused.failed() && !refused.endOfFile());
+    EXPECT_EQ(refused.tell(), 1) << "with the flags up nothing but a seek moves the cursor";
 }
 
 }  // namespace
