@@ -7,7 +7,10 @@ int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type) {
     HCURSOR const cursor = SetCursor(LoadCursorA(nullptr, IDC_ARROW));
     const int answer = MessageBoxA(owner, text, title, owner == nullptr ? type | MB_TASKMODAL : type);
     SetCursor(cursor);
-    // While the box goes, all windows are still disabled, so Windows hands the keyboard to another program's.
-    if (owner == nullptr && focus != nullptr) SetFocus(focus);
+    // A box without an owner leaves it open which window comes to the front after it, of this program or another.
+    if (owner == nullptr && focus != nullptr) {
+        SetForegroundWindow(GetAncestor(focus, GA_ROOT));
+        SetFocus(focus);
+    }
     return answer;
 }

@@ -8,12 +8,17 @@
 
 namespace {
 
+// Texts stand in rows of 20 pixels. Negative is the height of letters, as opposed to that of rows.
+constexpr LONG largestFont = -15;
+
 HFONT createMessageFont() {
     // Since Vista the structure has one more field, and XP refuses the longer size; the shorter one serves all.
     static_assert(_WIN32_WINNT < 0x0600);
     NONCLIENTMETRICSA metrics{};
     metrics.cbSize = sizeof metrics;
     if (SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0) == FALSE) return nullptr;
+    // A user may ask for texts of twice the size; the windows would have to grow with them.
+    if (metrics.lfMessageFont.lfHeight < largestFont) metrics.lfMessageFont.lfHeight = largestFont;
     return CreateFontIndirectA(&metrics.lfMessageFont);
 }
 
