@@ -10,7 +10,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgte
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 wine_packages=(wine wine64 fonts-wine)
-check_packages=(clang-format clang-tidy)
+check_packages=(git clang-format clang-tidy)
 
 say() { printf '%s\n' "$*"; }
 
@@ -30,12 +30,16 @@ need() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build PRESET [TARGET...]: configures once, then builds what has changed.
+# build PRESET [TARGET...]: configures once, then builds what has changed. Prints the last line of it, or all of a failure.
 build() {
-    local preset=$1
+    local preset=$1 log result=0
     shift
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
-    cmake --build "build/$preset" ${1:+--target "$@"}
+    log=$(mktemp)
+    cmake --build "build/$preset" ${1:+--target "$@"} >"$log" 2>&1 || result=$?
+    if [ "$result" -eq 0 ]; then tail -n 1 "$log"; else cat "$log"; fi
+    rm -f "$log"
+    return "$result"
 }
 
 # note_sum NAME PASSED FAILED: what .ci/run adds up.

@@ -59,8 +59,8 @@ RunningProgram::RunningProgram(const std::string& prefix, const std::string& too
     const std::string command = windowsExe != nullptr
                                     ? environment + registryCommand(prefix) + " >/dev/null 2>&1 && " + limited +
                                           "wine " + windowsExe + " >/dev/null 2>&1"
-                                    : limited + "env WINEPREFIX=" + prefix + " " +
-                                          (buildDirectory() / "tidewright").string() + " 2>&1 >/dev/null";
+                                    : limited + "env WINEPREFIX=" + prefix + " '" +
+                                          (buildDirectory() / "tidewright").string() + "' 2>&1 >/dev/null";
     process_ = popen(("cd '" + toolDirectory + "' && " + command).c_str(), "r");
     if (desktop == nullptr) return;
     window_ = desktop_->act(
