@@ -40,7 +40,7 @@ TEST(MoveOutTest, SharesTheMoneyIfThereIsEnough) {
         EXPECT_EQ(read.family().funds(), row.stays);
         EXPECT_EQ(read->isDirty(), row.goes > 0);
         EXPECT_EQ(read->hasNewFamilies() ? read->newFamily(0)->funds() : 0, row.goes);
-        EXPECT_EQ(box.title() + ": " + box.text(),
+        EXPECT_EQ(box->title + ": " + box->text,
                   row.goes > 0 ? ": "
                                : "Insufficient funds: Your newly independent sim will need some starting funds!  The "
                                  "family must save up at least 10,000 before a member can move out.");

@@ -103,7 +103,7 @@ TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
         const AnsweredBox box = answerNextBox(IDOK);
         EXPECT_EQ(childToTeen(&sim.sim(0)), -1);
         EXPECT_FALSE(sim->isDirty() || sim.marked());
-        EXPECT_EQ(box.title() + ": " + box.text(),
+        EXPECT_EQ(box->title + ": " + box->text,
                   std::string("Error: This child is not completely converted! Mesh version ") + numbers +
                       "; Marrowfen version 7.  Please play the family some more before using Marrowfen.  No "
                       "teenification will be performed.");
@@ -121,9 +121,9 @@ TEST(StageOperationsTest, AskAboutAHeadThatNoSetHolds) {
             if (toTeen) sim.files().remove("skinsets.cfg");
             const AnsweredBox box = answerNextBox(answer);
             EXPECT_EQ(toTeen ? childToTeen(&sim.sim(0)) : teenToAdult(&sim.sim(0)), answer == IDOK ? 1 : 0);
-            EXPECT_EQ(box.title() + ": " + box.text(), "Proceed?: No " + grown + " head is registered for this " +
-                                                           before + " head.  If you proceed, your " + grown +
-                                                           " will have a random head assigned by the game.  Proceed?");
+            EXPECT_EQ(box->title + ": " + box->text, "Proceed?: No " + grown + " head is registered for this " +
+                                                         before + " head.  If you proceed, your " + grown +
+                                                         " will have a random head assigned by the game.  Proceed?");
             const char* expected = answer == IDCANCEL ? "stray" : toTeen ? "c012falgt_asian" : "c007malgt_alt";
             EXPECT_STREQ(sim.sim(0).bodyStrings()->headSkin(), expected);
             EXPECT_EQ(sim.marked(), answer == IDOK);

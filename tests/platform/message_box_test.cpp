@@ -22,9 +22,9 @@ TEST(MessageBoxTest, EachAnswerHasItsResult) {
         const AnsweredBox box = answerNextBox(row.answer);
         const int result = MessageBoxA(nullptr, text, "Proceed? \x80", row.type);
         EXPECT_EQ(result, row.result != 0 ? row.result : result);
-        EXPECT_EQ(box.title(), "Proceed? \x80");
-        EXPECT_EQ(box.text(), text);
-        EXPECT_EQ(box.buttons(), row.buttons);
+        EXPECT_EQ(box->title, "Proceed? \x80");
+        EXPECT_EQ(box->text, text);
+        EXPECT_EQ(box->buttons, row.buttons);
     }
 }
 

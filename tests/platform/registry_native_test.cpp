@@ -61,13 +61,4 @@ TEST_F(RegistryNativeTest, TextsAreFoundUnderTheirKeyAndNames) {
     EXPECT_EQ(query("a"), "-") << "no file";
 }
 
-TEST_F(RegistryNativeTest, AFileCutAnywhereGivesTheWholeTextOrNone) {
-    const std::string file = "x\n[Software\\\\Maxis\\\\The Sims]\n\"SIMS_DATA\"=\"C:\\\\S\\x00e9\"\n\n[Next]\n";
-    const std::size_t whole = file.find("\n\n");
-    for (std::size_t size = 0; size <= file.size(); ++size) {
-        directory_.write("system.reg", file.substr(0, size));
-        ASSERT_EQ(query("SIMS_DATA"), size >= whole ? "C:\\S\xE9" : "-") << size;
-    }
-}
-
 }  // namespace

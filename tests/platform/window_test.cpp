@@ -29,15 +29,6 @@ TEST(WindowTest, ItsMessagesComeInWindowsOrder) {
     EXPECT_FALSE(IsWindow(button));
 }
 
-TEST(WindowTest, AStaleHandleIsRefused) {
-    const TestWindow window;
-    HWND const stale = window.handle;
-    DestroyWindow(stale);
-    EXPECT_FALSE(ShowWindow(stale, SW_SHOW) || InvalidateRect(stale, nullptr, TRUE) || DestroyWindow(stale));
-    EXPECT_EQ(GetDC(stale), nullptr);
-    EXPECT_LE(MessageBoxA(stale, "Text", "Title", MB_OK), 0) << "0 of Windows, -1 of Wine; nobody answered";
-}
-
 TEST(WindowTest, WhatWaitsIsDrawnByAnUpdateOrByAQuietLoop) {
     TestWindow window;
     window.show();

@@ -12,7 +12,7 @@ namespace {
 std::deque<std::function<void()>> actions;
 
 // The boxes that are expected, by what their tests keep of them.
-std::deque<std::weak_ptr<AnsweredBox::Seen>> expected;
+std::deque<std::weak_ptr<Box>> expected;
 
 void answerWhatIsOpen() {
     std::erase_if(expected, [](const auto& seen) { return seen.expired(); });
@@ -65,7 +65,7 @@ bool runMessages(int* exitCode, HWND window, HACCEL accelerators) {
 
 AnsweredBox answerNextBox(int answer, std::function<void()> meanwhile) {
     watchForQuiet();
-    auto seen = std::make_shared<AnsweredBox::Seen>(AnsweredBox::Seen{answer, std::move(meanwhile)});
-    expected.emplace_back(seen);
-    return AnsweredBox(std::move(seen));
+    auto box = std::make_shared<Box>(Box{answer, std::move(meanwhile)});
+    expected.emplace_back(box);
+    return box;
 }

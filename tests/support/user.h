@@ -37,28 +37,16 @@ void later(std::function<void()> action);
 // was called, and gives its code. With a window and a table it translates accelerators.
 bool runMessages(int* exitCode = nullptr, HWND window = nullptr, HACCEL accelerators = nullptr);
 
-// A message box or dialog that the user will answer.
-class AnsweredBox {
- public:
-    struct Seen {
-        int answer;
-        std::function<void()> meanwhile;
-        bool shown = false;
-        std::string title = {};
-        std::string text = {};                  // of a dialog: its lines, with a line break between them
-        std::vector<std::string> buttons = {};  // from left to right, without the "&"
-    };
-
-    explicit AnsweredBox(std::shared_ptr<Seen> seen) : seen_(std::move(seen)) {}
-
-    bool shown() const { return seen_->shown; }
-    const std::string& title() const { return seen_->title; }
-    const std::string& text() const { return seen_->text; }
-    const std::vector<std::string>& buttons() const { return seen_->buttons; }
-
- private:
-    std::shared_ptr<Seen> seen_;
+// A message box or dialog that the user answers, once it has shown.
+struct Box {
+    int answer;
+    std::function<void()> meanwhile;
+    bool shown = false;
+    std::string title = {};
+    std::string text = {};                  // of a dialog: its lines, with a line break between them
+    std::vector<std::string> buttons = {};  // from left to right, without the "&"
 };
+using AnsweredBox = std::shared_ptr<const Box>;
 
 constexpr int answerByEscape = -1;
 

@@ -13,7 +13,7 @@ bool workWaits(bool boxIsOpen);
 void workWhenQuiet(bool boxIsOpen);
 
 // Notes what the box that is open shows.
-void lookAtBox(AnsweredBox::Seen& seen);
+void lookAtBox(Box& seen);
 
 // Clicks its button "OK" for IDOK or "Cancel" for IDCANCEL; presses Escape where there is none.
 void answerBox(int answer);

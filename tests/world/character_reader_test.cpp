@@ -104,11 +104,11 @@ TEST_F(CharacterReader, AFileCutAnywhereGivesWhatStandsInFront) {
         if (size >= textBegin && size < textEnd - 1) continue;
         const AnsweredBox box = answerNextBox(IDOK);
         EXPECT_EQ(sim.loadBodyStrings(), size < textEnd ? -1 : 1);
-        EXPECT_EQ(box.title() + box.text(), size != textEnd - 1
-                                                ? ""
-                                                : "Error reading body stringsCannot find the end of the meshes and "
-                                                  "skins.  This is an unknown user file body string format.");
-        EXPECT_EQ(sim.fileUsable(), !box.shown());
+        EXPECT_EQ(box->title + box->text, size != textEnd - 1
+                                              ? ""
+                                              : "Error reading body stringsCannot find the end of the meshes and "
+                                                "skins.  This is an unknown user file body string format.");
+        EXPECT_EQ(sim.fileUsable(), !box->shown);
     }
 }
 

@@ -18,7 +18,7 @@ TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {
     }
     const AnsweredBox box = answerNextBox(IDOK);
     loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
-    EXPECT_EQ(box.title() + ": " + box.text(), "Loading Error: Error loading Neighborhood 2");
+    EXPECT_EQ(box->title + ": " + box->text, "Loading Error: Error loading Neighborhood 2");
     EXPECT_EQ(listedNeighborhoodCount(), 1);
     EXPECT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, though nobody will see it";
     EXPECT_EQ(statusLine(), "Loading Neighborhood 100") << "the last";

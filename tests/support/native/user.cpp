@@ -66,7 +66,7 @@ void watchForQuiet() {
         });
 }
 
-void lookAtBox(AnsweredBox::Seen& seen) {
+void lookAtBox(Box& seen) {
     const QWidget& box = *QApplication::activeModalWidget();
     seen.title = programText(box.windowTitle());
     QStringList lines;
@@ -155,12 +155,9 @@ std::string spokenName(HWND window) {
     return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Name));
 }
 
-std::string spokenDescription(HWND window) {
-    return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description));
-}
-
 bool showsText(HWND window, const std::string& text) {
-    return ("\n" + spokenDescription(window)).find("\n" + text) != std::string::npos;
+    const QString spoken = QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description);
+    return ("\n" + programText(spoken)).find("\n" + text) != std::string::npos;
 }
 
 Picture pictureOf(HWND window) {

@@ -26,16 +26,7 @@ std::string classOf(HWND window) {
 
 // The message box or dialog that is open, or null.
 HWND openBox() {
-    HWND box = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM found) -> BOOL {
-            if (classOf(window) != "#32770") return TRUE;
-            *reinterpret_cast<HWND*>(found) = window;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&box));
-    return box;
+    return FindWindowA("#32770", nullptr);
 }
 
 // Its children of a class, from left to right and from top to bottom.
@@ -74,7 +65,7 @@ void CALLBACK workOnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (workWaits(box != nullptr)) workWhenQuiet(box != nullptr);
 }
 
-// A picture to draw on, white at first.
+// A picture to draw on, white at first. What it takes goes with the test.
 class Canvas {
  public:
     Canvas(int width, int height) : width_(width), height_(height) {
@@ -83,14 +74,6 @@ class Canvas {
         SelectObject(dc, CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits_, nullptr, 0));
         PatBlt(dc, 0, 0, width, height, WHITENESS);
     }
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
-    ~Canvas() {
-        const HGDIOBJ bitmap = GetCurrentObject(dc, OBJ_BITMAP);
-        DeleteDC(dc);
-        DeleteObject(bitmap);
-    }
-
     Picture picture() const {
         GdiFlush();
         const auto* const first = static_cast<const std::uint32_t*>(bits_);
@@ -122,7 +105,7 @@ void watchForQuiet() {
     static_cast<void>(timer);
 }
 
-void lookAtBox(AnsweredBox::Seen& seen) {
+void lookAtBox(Box& seen) {
     seen.title = windowText(openBox());
     for (HWND const label : childrenOf(openBox(), "Static"))
         if ((GetWindowLongA(label, GWL_STYLE) & SS_TYPEMASK) != SS_ICON)
