@@ -1,7 +1,7 @@
 #!/bin/sh
 # Starts Tidewright in a directory of the user's own, and puts there first what it lacks of the program's data files.
 set -u
-shared=/usr/share/tidewright
+originals=/usr/share/tidewright
 
 data=${XDG_DATA_HOME:-}
 case $data in
@@ -13,7 +13,7 @@ own=$data/tidewright
 # A copy, for the user to edit. It comes whole or not at all: a piece of it would pass for an edited one ever after.
 bring_skin_sets() {
     [ -e "$own/skinsets.cfg" ] && return
-    cp "$shared/skinsets.cfg" "$own/skinsets.cfg.$$" && mv -n "$own/skinsets.cfg.$$" "$own/skinsets.cfg"
+    cp "$originals/skinsets.cfg" "$own/skinsets.cfg.$$" && mv -n "$own/skinsets.cfg.$$" "$own/skinsets.cfg"
     result=$?
     rm -f "$own/skinsets.cfg.$$"
     return "$result"
@@ -21,7 +21,7 @@ bring_skin_sets() {
 
 # Links, so that the templates stay those of the installed program. A user's own file in place of one stays too.
 bring_template() {
-    [ -e "$own/$1" ] || ln -s "$shared/$1" "$own/$1"
+    [ -e "$own/$1" ] || ln -s "$originals/$1" "$own/$1"
 }
 
 bring_what_is_missing() {
@@ -33,8 +33,8 @@ if ! bring_what_is_missing; then
         echo "tidewright: not started, because files are missing in $own" >&2
         exit 1
     fi
-    echo "tidewright: no $own can be made, so the heads are those of $shared/skinsets.cfg" >&2
-    own=$shared
+    echo "tidewright: no $own can be made, so the heads are those of $originals/skinsets.cfg" >&2
+    own=$originals
 fi
 
 cd "$own" && exec /usr/lib/tidewright/tidewright "$@"
