@@ -1,6 +1,7 @@
 // An evening of a player: everything that the window offers, two saves, and what stands there the next day.
 #include <gtest/gtest.h>
 
+#include "tests/platform/scoped_variable.h"
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
 #include "tests/support/iff_walk.h"
@@ -47,6 +48,7 @@ TEST_F(Stories, AnEveningOfPlay) {
         EXPECT_EQ(program.waitForExit(), 0) << program.errorOutput();
     }
 
+    const ScopedVariable otherStoriesKeepTheirs("WINEPREFIX", prefix());
     loadNeighborhoods(installGame(prefix()).c_str(), toolDirectory().c_str());
     const struct {
         std::size_t neighborhood;
