@@ -8,8 +8,9 @@
 
 namespace {
 
-// Texts stand in rows of 20 pixels. Negative is the height of letters, as opposed to that of rows.
-constexpr LONG largestFont = -15;
+// Texts stand in rows of 20 pixels, and the longest label has 150 to its right end. Negative is the height of letters,
+// as opposed to that of rows.
+constexpr LONG largestFont = -14;
 
 HFONT createMessageFont() {
     // Since Vista the structure has one more field, and XP refuses the longer size; the shorter one serves all.

@@ -16,8 +16,8 @@ class Desktop : public XServer {
     std::string act(const std::string& arguments) const;
 };
 
-// The Windows program that the stories are told of, as a word of the shell, run by Wine in a prefix that serves for nothing else; null if they
-// are told of the native one.
+// The Windows program that the stories are told of, as a word of the shell, run by Wine in a prefix that serves for
+// nothing else; null if they are told of the native one.
 inline const char* const windowsProgram = std::getenv("TIDEWRIGHT_EXE");
 
 class RunningProgram {
