@@ -17,8 +17,9 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     randomGenerator().seed(static_cast<std::uint32_t>(std::time(nullptr)));
     std::array<char, DirectoryText::capacity() + 1> toolDirectory{};
     // What doesn't fit leaves anything in the buffer.
-    if (GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data()) >= toolDirectory.size())
+    if (GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data()) >= toolDirectory.size()) {
         toolDirectory[0] = '\0';
+    }
 
     DirectoryText simsDirectory;
     if (const int refusal = checkStart(simsDirectory, toolDirectory.data()); refusal != 0) return refusal;
