@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 
 // Modes of a status query, as Windows' runtime reports them.
 constexpr std::uint32_t writableDirectoryMode = 0x41FF;
@@ -25,6 +26,9 @@ std::FILE* openFile(const char* path, const char* mode);
 // False, and `status` untouched, when nothing of that name exists or may be asked about.
 bool queryFileStatus(const char* path, FileStatus& status);
 
+// Whether both names lead to one existing file, by whatever links.
+bool isSameFile(const char* first, const char* second);
+
 // While an object of this class lives, the directories that status queries come through are looked at once and then
 // taken to stay as they are: for a run of many queries in one directory, between which nothing is opened, made or
 // deleted. What others change there meanwhile shows or doesn't. A file's own status is always asked anew.
@@ -38,5 +42,44 @@ class SteadyDirectories {
 
 // Hands what was written to the disk itself, so that it outlives a crash of the machine. False if the disk refused.
 bool syncFile(std::FILE* file);
+
+// The new version of a file. It gets its name when it is complete, so that a process or a machine that stops half-way
+// leaves no part of it under that name. Natively it is a file without a name (O_TMPFILE); on Windows it has a name of
+// its own beside the other, "~partN.tmp" with the process's number, and a part that an ended process has left in a
+// directory goes when the next one is opened there. Not every file system can do this: FAT and some network and FUSE
+// file systems can't. There only `atOnce` works. A process may have one version at a time open in a directory.
+class NewVersion {
+ public:
+    enum class Naming { whenComplete, atOnce };
+
+    // Fixes what `path` means now: neither another working directory nor a file of another spelling, come or gone in
+    // the meantime, changes that.
+    explicit NewVersion(const char* path);
+    NewVersion(const NewVersion&) = delete;
+    NewVersion& operator=(const NewVersion&) = delete;
+
+    // Discards what hasn't got its name.
+    ~NewVersion();
+
+    // The empty file to write, without a buffer; it belongs to this object. Null on failure, with the reason in
+    // GetLastError: ERROR_NOT_SUPPORTED if the file system can't name a file later, ERROR_ACCESS_DENIED if the name is
+    // a directory's or a write-protected file's. `whenComplete` leaves the file that has the name as it is; `atOnce`
+    // empties it or makes it.
+    std::FILE* open(Naming naming);
+
+    // Hands all that was written to the disk itself. False if the disk refused; the version is discarded then.
+    bool complete();
+
+    // Gives the complete file its name, on the disk too, in place of the file that had it until now. False on failure,
+    // with the reason as above; the version is discarded then, and the older file may be gone.
+    bool giveName();
+
+    // Drops the new version. A file that was opened `atOnce` is deleted: it is a part.
+    void discard();
+
+ private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
 
 #endif

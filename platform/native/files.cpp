@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/native/file_stream.h"
 #include "platform/native/last_error.h"
 #include "platform/native/paths.h"
 #include "platform/native/permissions.h"
@@ -28,24 +29,6 @@ constexpr struct OpenMode {
     {"a+b", O_RDWR | O_CREAT | O_APPEND},
 };
 
-// Asked before the opening, because opening already does things: it waits for the other end of a pipe, it empties a
-// file.
-bool isRefused(const struct stat& status, int flags) {
-    if (S_ISDIR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) return true;
-    return (flags & O_ACCMODE) != O_RDONLY && isWriteProtected(status);
-}
-
-std::FILE* streamOf(int descriptor, const char* mode) {
-    std::FILE* stream = fdopen(descriptor, mode);
-    if (stream == nullptr) {
-        SetLastError(windowsError(errno));
-        close(descriptor);
-        return nullptr;
-    }
-    std::setvbuf(stream, nullptr, _IONBF, 0);
-    return stream;
-}
-
 }  // namespace
 
 std::FILE* openFile(const char* path, const char* mode) {
@@ -55,21 +38,7 @@ std::FILE* openFile(const char* path, const char* mode) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
-    const NativePath file = locate(path);
-    struct stat status = {};
-    if (fstatat(file.directory, file.name.c_str(), &status, 0) == 0 && isRefused(status, found->flags)) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return nullptr;
-    }
-    // O_NONBLOCK: should a pipe have taken the name just now, this must not wait for it. Regular files don't know it.
-    constexpr mode_t everybodyButUmask = 0666;
-    const int descriptor =
-        openat(file.directory, file.name.c_str(), found->flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, everybodyButUmask);
-    if (descriptor < 0) {
-        setPathError(errno, file);
-        return nullptr;
-    }
-    return streamOf(descriptor, mode);
+    return openStream(locate(path), found->flags, mode);
 }
 
 bool queryFileStatus(const char* path, FileStatus& status) {
@@ -86,6 +55,16 @@ bool queryFileStatus(const char* path, FileStatus& status) {
         status = {writable ? writableFileMode : readOnlyFileMode, found.st_size};
     }
     return true;
+}
+
+bool isSameFile(const char* first, const char* second) {
+    struct stat one = {}, other = {};
+    // Located one after the other: the second path may close the directory of the first.
+    const auto query = [](const char* path, struct stat& status) {
+        const NativePath file = locate(path);
+        return fstatat(file.directory, file.name.c_str(), &status, 0) == 0;
+    };
+    return query(first, one) && query(second, other) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
 SteadyDirectories::SteadyDirectories() {

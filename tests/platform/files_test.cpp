@@ -20,6 +20,14 @@ class FilesTest : public testing::Test {
         fs::permissions("protected.iff", fs::perms::owner_read);
     }
 
+    static constexpr const char* none = "no such file";
+
+    std::string contentOf(const std::string& name) const {
+        if (!directory_.exists(name)) return none;
+        const Bytes bytes = directory_.bytesOf(name);
+        return {bytes.begin(), bytes.end()};
+    }
+
     TempDirectory directory_;
     FileStatus status_ = {};
 };
@@ -60,6 +68,8 @@ TEST_F(FilesTest, AProtectedFileIsNotOpenedForWriting) {
         EXPECT_EQ(openFile("protected.iff", mode), nullptr);
         EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED}) << mode;
     }
+    EXPECT_EQ(NewVersion("protected.iff").open(NewVersion::Naming::whenComplete), nullptr);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
     EXPECT_EQ(directory_.bytesOf("protected.iff"), bytesFrom("kept"));
 }
 
@@ -77,6 +87,52 @@ TEST_F(FilesTest, AStatusTellsKindSizeAndWhetherItMayBeWritten) {
         EXPECT_EQ(status_.size, row.size) << row.path;
     }
     EXPECT_FALSE(queryFileStatus("Sub\\none.iff", status_));
+}
+
+TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
+    using enum NewVersion::Naming;
+    const struct {
+        const char* what;
+        NewVersion::Naming naming;
+        bool isNamed;
+        std::string before, after;  // what the name has until the version gets it, and from then on
+    } rows[] = {{"named", whenComplete, true, "old", "new"},
+                {"discarded", whenComplete, false, "old", "old"},
+                {"named at once", atOnce, true, "new", "new"},
+                {"discarded, named at once", atOnce, false, "new", none}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        directory_.write("User00042.iff", "old");
+        fs::current_path(directory_.path());
+        {
+            NewVersion version("user00042.iff");
+            directory_.write("Sub/user00042.iff", "another file");
+            fs::current_path(directory_.path("Sub"));
+            std::FILE* file = version.open(row.naming);
+            ASSERT_NE(file, nullptr);
+            EXPECT_EQ(std::fwrite("new", 1, 3, file), 3U);
+            EXPECT_TRUE(version.complete());
+            EXPECT_EQ(contentOf("User00042.iff"), row.before);
+            EXPECT_TRUE(!row.isNamed || version.giveName());
+        }
+        EXPECT_EQ(contentOf("User00042.iff"), row.after);
+        EXPECT_EQ(contentOf("Sub/user00042.iff"), "another file");
+        EXPECT_EQ(std::distance(fs::directory_iterator(directory_.path()), {}), row.after == none ? 2 : 3);
+    }
+    fs::current_path(directory_.path());
+    EXPECT_EQ(NewVersion("sub").open(whenComplete), nullptr);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+    EXPECT_EQ(NewVersion("none\\new.iff").open(whenComplete), nullptr);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_PATH_NOT_FOUND});
+}
+
+TEST_F(FilesTest, LinksLeadToTheSameFile) {
+    fs::create_hard_link("User00042.iff", "hard.iff");
+    directory_.write("alike.iff", "old");
+    EXPECT_TRUE(isSameFile("user00042.iff", ".\\sub\\..\\User00042.iff"));
+    EXPECT_TRUE(isSameFile("user00042.iff", "hard.iff"));
+    EXPECT_FALSE(isSameFile("user00042.iff", "alike.iff"));
+    EXPECT_FALSE(isSameFile("none.iff", "none.iff"));
 }
 
 TEST_F(FilesTest, OnlyAWritableFileIsDeleted) {

@@ -1,0 +1,54 @@
+#include "platform/native/file_stream.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "platform/native/last_error.h"
+#include "platform/native/permissions.h"
+#include "platform/native/system.h"
+
+bool isRefused(const struct stat& status, int flags) {
+    if (S_ISDIR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) return true;
+    return (flags & O_ACCMODE) != O_RDONLY && isWriteProtected(status);
+}
+
+std::FILE* streamOf(int descriptor, const char* mode) {
+    std::FILE* stream = fdopen(descriptor, mode);
+    if (stream == nullptr) {
+        SetLastError(windowsError(errno));
+        close(descriptor);
+        return nullptr;
+    }
+    std::setvbuf(stream, nullptr, _IONBF, 0);
+    return stream;
+}
+
+std::FILE* openStream(const NativePath& file, int flags, const char* mode) {
+    struct stat status = {};
+    const bool isThere = fstatat(file.directory, file.name.c_str(), &status, 0) == 0;
+    const bool isNew = !isThere && errno == ENOENT;
+    if (isThere && isRefused(status, flags)) {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return nullptr;
+    }
+    // O_NONBLOCK: should a pipe have taken the name just now, this must not wait for it. Regular files don't know it.
+    constexpr int always = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    constexpr mode_t everybodyButUmask = 0666;
+    const int descriptor = openat(file.directory, file.name.c_str(), (flags & ~O_TRUNC) | always, everybodyButUmask);
+    if (descriptor < 0) {
+        setPathError(errno, file);
+        return nullptr;
+    }
+    std::FILE* stream = streamOf(descriptor, mode);
+    // Emptied only now that nothing else can fail. A device has no length to lose.
+    const bool isEmptied = stream != nullptr && (flags & O_TRUNC) != 0;
+    if (isEmptied && ftruncate(descriptor, 0) != 0 && errno != EINVAL) {
+        SetLastError(windowsError(errno));
+        std::fclose(stream);
+        stream = nullptr;
+    }
+    if (stream == nullptr && isNew) unlinkat(file.directory, file.name.c_str(), 0);
+    return stream;
+}
