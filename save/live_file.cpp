@@ -12,7 +12,9 @@ bool matchesAt(StreamView file, std::int32_t offset, std::string_view bytes) {
     return matchTagHere(file, bytes) == 1;
 }
 
+// Without new families nothing is cut.
 bool isCutThere(StreamView file, const Neighborhood& neighborhood) {
+    if (!neighborhood.hasNewFamilies()) return true;
     if (neighborhood.xxxxOffset() > 0) return matchesAt(file, neighborhood.xxxxOffset(), freeChunkTag);
     if (neighborhood.mapOffset() <= 0) return true;
     file.seek(iffHeader::mapOffset);

@@ -5,8 +5,8 @@
 
 #include "world/neighborhood.h"
 
-// False when a piece that waits to be patched, or the place at which new families cut the file, isn't where the reader
-// found it. A file that can't be opened passes: the copy that follows fails by itself.
+// False when a piece that waits to be patched, or the place at which new families that wait will cut the file, isn't
+// where the reader found it. A file that can't be opened passes: the copy that follows fails by itself.
 bool standsAsRead(const char* path, const Neighborhood& neighborhood);
 
 #endif
