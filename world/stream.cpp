@@ -30,6 +30,11 @@ bool StreamFile::close() {
     return allWritten_ && closed;
 }
 
+bool StreamFile::closeOnDisk() {
+    const bool isSynced = file_ != nullptr && syncFile(file_);
+    return close() && isSynced;
+}
+
 std::span<const std::uint8_t> StreamFile::bytesAt(std::int64_t position, std::size_t least) {
     const std::int64_t at = position - windowStart_;
     const auto windowEnd = static_cast<std::int64_t>(windowSize_);

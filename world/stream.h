@@ -28,6 +28,9 @@ class StreamFile {
     // Closes the file. True only if every write and the closing itself succeeded.
     bool close();
 
+    // Closes a patched file with all of it on the disk itself. True only if that succeeded as well.
+    bool closeOnDisk();
+
     std::int64_t cursor() const { return cursor_; }
     void setCursor(std::int64_t position) { cursor_ = position; }
 
