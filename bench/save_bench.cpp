@@ -15,7 +15,6 @@ void saveOneSim(benchmark::State& state) {
     const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
     Neighborhood neighborhood;
     neighborhood.load(savedNeighborhoodDirectory().c_str(), "neighborhood.iff");
-    neighborhood.setToolDirectory(toolDirectory.c_str());
     Sim& sim = *neighborhood.sim(0);
     sim.guid();
     sim.name();
@@ -24,7 +23,7 @@ void saveOneSim(benchmark::State& state) {
         state.PauseTiming();
         sim.setStage(stageNumber::adult, nullptr);
         state.ResumeTiming();
-        neighborhood.save();
+        neighborhood.save(toolDirectory.c_str());
         if (sim.recordDirty() || neighborhood.isDirty()) state.SkipWithError("the Sim wasn't saved");
     }
 }
@@ -36,7 +35,7 @@ void copySavedBytes(benchmark::State& state, bool durably) {
     const fs::path neighborhood = largeNeighborhoodFile(), character = toolDirectory / "Template.iff";
     for (auto _ : state) {
         for (const auto& file : {neighborhood, character}) {
-            copyPlainly(file, directory / "first", false);
+            copyPlainly(file, directory / "first", durably);
             copyPlainly(file, directory / "second", durably);
             copyPlainly(file, directory / "third", durably);
         }

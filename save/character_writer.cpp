@@ -33,10 +33,12 @@ void writeBodyText(StreamView& stream, const BodyStrings& bodyStrings, std::int1
 
 // 1 when the new file stands at the live path, 0 when the body strings were never found and nothing was done, -1 on
 // failure.
-int Sim::saveCharacterFile(const char* directory) {
+int Sim::saveCharacterFile(const char* toolDirectory, const char* directory) {
     if (tagOffset_ == 0 || bodyOffset_ == 0 || !bodyStrings_) return 0;
-    SetCurrentDirectoryA(directory);
-    SetCurrentDirectoryA(charactersDirectory);
+    neighborhood_->setToolDirectory(toolDirectory);  // where buildCharacterFile finds the template
+    // The backup goes by relative names. Anywhere else than there it would take nothing along, and the live file would
+    // be replaced without one.
+    if (SetCurrentDirectoryA(directory) == FALSE || SetCurrentDirectoryA(charactersDirectory) == FALSE) return -1;
     const SavePath tempPath = joinPath(directory, tempCharacterPrefix, fileName_);
     bool installed = false;
     if (buildCharacterFile(tempPath.c_str()) == 1) {
@@ -53,6 +55,8 @@ int Sim::buildCharacterFile(const char* tempPath) {
     // What is patched must lie inside the template: behind its end a patch would make up bytes.
     FileStatus status{};
     if (!queryFileStatus(templatePath.c_str(), status) || status.size < characterTemplate::smallestSize) return -1;
+    // A temporary name that leads to the live file, by whatever link: writing there would spoil the only old version.
+    if (isSameFile(tempPath, filePath_.c_str())) return -1;
     if (copyFileBytes(templatePath.c_str(), tempPath, 0, CopyMode::overwrite) != copyError::none) return -1;
     StreamFile file;
     if (!file.open(tempPath, StreamFile::Access::readAndPatch, patchWindow)) return -1;
@@ -67,7 +71,7 @@ int Sim::buildCharacterFile(const char* tempPath) {
     stream.write(characterTag_ ? characterFile::adultTag : characterFile::childTag);
     stream.seek(characterTemplate::bodyText);
     writeBodyText(stream, *bodyStrings_, version_);
-    if (!file.close()) return -1;
+    if (!file.closeOnDisk()) return -1;
     characterDirty_ = false;
     return 1;
 }

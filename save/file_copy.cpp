@@ -42,9 +42,10 @@ bool copyBytes(std::FILE* source, std::FILE* destination, std::int32_t limit) {
     return true;
 }
 
-// With `durable`, the copy counts only once the disk itself holds it: a source that is deleted next lives on in nothing
-// else.
-std::int32_t copyFile(const char* source, const char* destination, std::int32_t limit, CopyMode mode, bool durable) {
+}  // namespace
+
+std::int32_t copyFileBytes(const char* source, const char* destination, std::int32_t limit, CopyMode mode) {
+    if (isSameFile(source, destination)) return copyError::destinationNotOpened;
     SetLastError(NO_ERROR);
     std::FILE* from = openFile(source, "rb");
     if (from == nullptr) return sourceFailure(destination);
@@ -54,29 +55,50 @@ std::int32_t copyFile(const char* source, const char* destination, std::int32_t 
         std::fclose(from);
         return error;
     }
-    bool copied = copyBytes(from, to, limit);
+    const bool copied = copyBytes(from, to, limit);
     std::fclose(from);
-    if (durable) copied = copied && syncFile(to);
     const bool closed = std::fclose(to) == 0;
     return copied && closed ? copyError::none : copyError::shortWrite;
-}
-
-}  // namespace
-
-std::int32_t copyFileBytes(const char* source, const char* destination, std::int32_t limit, CopyMode mode) {
-    return copyFile(source, destination, limit, mode, false);
 }
 
 std::int32_t appendFile(const char* source, const char* destination) {
     return copyFileBytes(source, destination, 0, CopyMode::append);
 }
 
+std::int32_t Move::copy(NewVersion::Naming naming) {
+    if (isSameFile(source_.c_str(), destination_.c_str())) return copyError::destinationNotOpened;
+    SetLastError(NO_ERROR);
+    std::FILE* from = openFile(source_.c_str(), "rb");
+    if (from == nullptr) return sourceFailure(destination_.c_str());
+    std::FILE* to = copy_.open(naming);
+    if (to == nullptr) {
+        const std::int32_t error = openFailure(copyError::destinationNotOpened);
+        std::fclose(from);
+        return error;
+    }
+    const bool copied = copyBytes(from, to, 0);
+    std::fclose(from);
+    if (copied && copy_.complete()) return copyError::none;
+    copy_.discard();
+    return copyError::shortWrite;
+}
+
+void Move::copyAhead() {
+    isCopied_ = copy(NewVersion::Naming::whenComplete) == copyError::none;
+}
+
+std::int32_t Move::finish() {
+    const auto named = [this] { return copy_.giveName() ? copyError::none : openFailure(copyError::shortWrite); };
+    std::int32_t error = isCopied_ ? copyError::none : copy(NewVersion::Naming::whenComplete);
+    if (error == copyError::none) error = named();
+    if (error == ERROR_NOT_SUPPORTED) {
+        error = copy(NewVersion::Naming::atOnce);
+        if (error == copyError::none) error = named();
+    }
+    if (error == copyError::none) DeleteFileA(source_.c_str());
+    return error;
+}
+
 std::int32_t moveByCopy(const char* source, const char* destination) {
-    const std::int32_t error = copyFile(source, destination, 0, CopyMode::overwrite, true);
-    // Half a file under a live name would be read as one, and be copied over the whole one that still stands under the
-    // temporary name by the next save; half a backup takes up the room that the live file needs.
-    if (error == copyError::shortWrite) DeleteFileA(destination);
-    if (error != copyError::none) return error;
-    DeleteFileA(source);
-    return copyError::none;
+    return Move(source, destination).finish();
 }

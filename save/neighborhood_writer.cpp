@@ -1,8 +1,10 @@
 // The next version of "neighborhood.iff", under its temporary name: a byte copy of the live file, or of its front when
 // families were added, with the pieces that changed patched in place and the new families behind it.
 #include <algorithm>
+#include <limits>
 
 #include "platform/files.h"
+#include "platform/win32.h"
 #include "save/file_copy.h"
 #include "save/live_file.h"
 #include "save/save_paths.h"
@@ -13,9 +15,12 @@ namespace {
 
 constexpr std::size_t patchWindow = 64;  // patching hardly reads
 
+constexpr std::int32_t unknownSize = -1;
+
 std::int32_t sizeOf(const char* path) {
     FileStatus status{};
-    return queryFileStatus(path, status) ? static_cast<std::int32_t>(status.size) : 0;
+    const bool isKnown = queryFileStatus(path, status) && status.size <= std::numeric_limits<std::int32_t>::max();
+    return isKnown ? static_cast<std::int32_t>(status.size) : unknownSize;
 }
 
 }  // namespace
@@ -73,6 +78,7 @@ int Neighborhood::writeTempFile(const char* tempPath) {
     const std::int32_t copied = copyFileBytes(fileName_.c_str(), tempPath, cut, CopyMode::overwrite);
     if (copied != copyError::none) return copied;
     copiedSize_ = sizeOf(tempPath);
+    if (copiedSize_ == unknownSize) return -1;  // new families would be written over the header
     if (hasNewFamilies_) {
         const std::int32_t appended = appendFamilyTemplates(tempPath);
         if (appended != copyError::none) return appended;
@@ -81,7 +87,8 @@ int Neighborhood::writeTempFile(const char* tempPath) {
     if (!file.open(tempPath, StreamFile::Access::readAndPatch, patchWindow)) return -1;
     const Unwritten before = unwritten();
     const int result = patchTempFile(StreamView(file));
-    if (file.close() && result == 1) return 1;
+    // The pass over the Sims has left this directory and come back. The steps that follow go by relative names.
+    if (file.closeOnDisk() && result == 1 && SetCurrentDirectoryA(directory_.c_str()) != FALSE) return 1;
     restore(before);
     return -1;
 }
@@ -101,7 +108,7 @@ int Neighborhood::appendFamilyTemplates(const char* tempPath) const {
 }
 
 int Neighborhood::patchTempFile(StreamView stream) {
-    saveCharacterFiles(stream);
+    saveCharacterFiles(toolDirectory_.c_str(), directory_.c_str(), stream);
     if (!hasNewFamilies_) return 1;
     stream.seek(iffHeader::mapOffset);
     stream.writeZeros(iffHeader::mapOffsetSize);
@@ -115,12 +122,11 @@ bool Neighborhood::standsInCopy(std::int32_t offset, std::int32_t size) const {
     return offset >= 0 && copiedSize_ - offset >= size;
 }
 
-// One Sim's failure doesn't stop the pass. Always 1.
-int Neighborhood::saveCharacterFiles(StreamView stream) {
+int Neighborhood::saveCharacterFiles(const char* toolDirectory, const char* directory, StreamView stream) {
     for (std::int32_t i = 0; i < simCount_; ++i) {
         Sim& sim = *sims_[static_cast<std::size_t>(i)];
         if (!sim.characterDirty() && !sim.recordOwed()) continue;
-        if (sim.characterDirty() && sim.saveCharacterFile(directory_.c_str()) != 1) continue;
+        if (sim.characterDirty() && sim.saveCharacterFile(toolDirectory, directory) != 1) continue;
         if (sim.recordOffset() < 0) sim.forgetRecord();  // an earlier save has cut it off
         if (!sim.recordDirty()) continue;
         sim.oweRecord();  // until it is written

@@ -9,14 +9,16 @@
 void saveAll() {
     showWaitCursor();
     for (int slot = 0; slot < listedNeighborhoodCount(); ++slot) {
-        neighborhoods[static_cast<std::size_t>(slot)]->save();
+        Neighborhood& neighborhood = *neighborhoods[static_cast<std::size_t>(slot)];
+        neighborhood.save(neighborhood.toolDirectory());
     }
     showArrowCursor();
 }
 
 // Live files are never edited in place: the temporary file is finished first, then the live one goes to its backup,
 // then the temporary one takes the live name.
-void Neighborhood::save() {
+void Neighborhood::save(const char* toolDirectory) {
+    setToolDirectory(toolDirectory);
     // The names of the live file and of its backups' directory are relative. In any other directory than this they
     // would mean another neighborhood's.
     if (SetCurrentDirectoryA(directory_.c_str()) == FALSE) return;

@@ -12,6 +12,8 @@
 #include "world/sim.h"
 #include "world/stream.h"
 
+class Move;
+
 class Neighborhood {
  public:
     static constexpr std::int32_t highestFamilyCount = 100;
@@ -35,7 +37,7 @@ class Neighborhood {
 
     // Where the program's own data files lie; empty before a good load.
     const char* toolDirectory() const { return toolDirectory_.c_str(); }
-    void setToolDirectory(const char* directory) { toolDirectory_.assign(directory); }
+    void setToolDirectory(const char* directory) { toolDirectory_ = FixedText<199>(directory); }
 
     const char* directory() const { return directory_.c_str(); }
 
@@ -62,13 +64,17 @@ class Neighborhood {
     // Whether something must be saved. Once true it stays true until a save is through.
     bool isDirty();
 
-    // Saves what has changed (save/save_command.cpp).
-    void save();
+    // Saves what has changed, with the templates of `toolDirectory` (save/save_command.cpp).
+    void save(const char* toolDirectory);
 
     // The stages of a save (save/neighborhood_writer.cpp, save/backups.cpp), in this order.
     int writeTempFile(const char* tempPath);
     void backupLiveFile();
     void installTempFile(const char* tempPath);
+
+    // The pass of writeTempFile over the Sims, in the temporary file's `stream`: each changed Sim's character file,
+    // below this neighborhood's `directory`, and its record. One Sim's failure doesn't stop the pass. Always 1.
+    int saveCharacterFiles(const char* toolDirectory, const char* directory, StreamView stream);
 
  private:
     void readNeighbors(StreamView stream);
@@ -86,7 +92,6 @@ class Neighborhood {
     int appendFamilyTemplates(const char* tempPath) const;
     int patchTempFile(StreamView stream);
     bool standsInCopy(std::int32_t offset, std::int32_t size) const;
-    int saveCharacterFiles(StreamView stream);
     int writeChangedFamilies(StreamView stream);
     int writeNewFamilies(StreamView stream);
 
@@ -105,7 +110,8 @@ class Neighborhood {
     std::int32_t newFamilyCount_ = 0;
     std::array<Family*, highestNewFamilyCount> newFamilies_{};
     std::int32_t highestFamilyNumber_ = 0;
-    std::int32_t copiedSize_ = 0;  // how much of the live file the temporary one took over
+    std::shared_ptr<Move> install_;  // of the new file, prepared while the old one is backed up
+    std::int32_t copiedSize_ = 0;    // how much of the live file the temporary one took over
 
     // Every family and Sim ever made here, listed or not, so that no link dangles.
     std::vector<std::unique_ptr<Family>> ownedFamilies_;

@@ -17,6 +17,7 @@
 #include "world/stream.h"
 
 class Family;
+class Move;
 class Neighborhood;
 
 // Stages of life. Babies, toddlers and preteens (1, 2, 4) have words but never arise.
@@ -115,7 +116,7 @@ class Sim {
     void splitToNewFamily(const char* familyName, std::uint32_t funds);
 
     // Rewrites what a stage change made stale: save/character_writer.cpp tells each result.
-    int saveCharacterFile(const char* directory);
+    int saveCharacterFile(const char* toolDirectory, const char* directory);
     int buildCharacterFile(const char* tempPath);
     int writeNeighborRecord(StreamView stream);
     void backupCharacterFile(const char* directory);
@@ -172,6 +173,7 @@ class Sim {
     std::int16_t gender_ = genderWord::male;
     std::array<std::uint16_t, neighborRecord::tailWordCount> tailWords_{};
     std::unique_ptr<BodyStrings> bodyStrings_;
+    std::shared_ptr<Move> install_;  // of the new file, prepared while the old one is backed up
     Family* family_ = nullptr;
     Neighborhood* neighborhood_;
 };

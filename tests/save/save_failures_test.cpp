@@ -1,127 +1,156 @@
-// What stands on the disk when a step of a save fails, and what the next save makes of it.
+// What is on the disk when a step of a save fails, and what the next save makes of it.
 #include <optional>
 
-#include "tests/save/saved_files.h"
+#include "tests/save/changed_household.h"
 #include "tests/support/machine.h"
 
 namespace {
 
-enum class Cause { missing, directory, wrongSize, otherFile, full };
+using enum Holds;
 
-// Ann becomes a teen, Bob an adult; then Cleo and Bob move out.
-class SaveFailuresTest : public SaveTest {
+class SaveFailuresTest : public ChangedHousehold {
  public:
-    void start() {
-        SampleNeighborhood content = householdOf(characters_);
-        content.neighbors[0].age = 9;
-        content.freeRoom = true;
-        content.fileSize = 100'000;
-        test_.reset();  // it takes the working directory back
-        test_ = std::make_unique<TestNeighborhood>(content, characters_);
-        EXPECT_TRUE(writeDataFiles(files().path()));
-        original_ = treeOf(files().path());
-        change(**test_, 0, stageNumber::teen);
-        change(**test_, 1, stageNumber::adult);
-        moveOut(*test_, 0, 2, "Cleo's", 500);
-        moveOut(*test_, 0, 1, "Bob's", 700);
+    // Puts the obstacle of a row out of the way again.
+    void mend(const std::string& name) const {
+        if (files().exists(name)) files().remove(name);
+        if (original().contains(name)) files().write(name, original().at(name));
     }
 
-    const TempDirectory& files() const { return test_->files(); }
-
-    Bytes savedFile(bool withAnn, bool withBob) const {
-        const NeighborhoodFile& built = test_->built();
-        Bytes file = built.bytes;
-        if (withAnn) overwrite(file, built.neighborOffsets[0], savedRecord({}, true));
-        if (withBob) overwrite(file, built.neighborOffsets[1], savedRecord({.recordName = "user00002"}, false));
-        overwrite(file, 61, Bytes(3));
-        overwriteFamily(file, built.families[0], 20'000, 1);
-        file.resize(built.freeRoomOffset);
-        const Bytes cleos = newFamilyRecord(2, 500, 3, "Cleo's"), bobs = newFamilyRecord(3, 700, 2, "Bob's");
-        return ByteWriter().bytes(file).bytes(cleos).bytes(bobs).written();
+    void linkTo(const std::string& file, const std::string& link) const {
+        std::filesystem::create_hard_link(files().path(file), files().path(link));
     }
-
-    // The letters tell of the live, temporary and backup files of the neighborhood, of Ann and of Bob: "." is missing,
-    // "o" the old file, "n" the new one, "b" the new one with Bob's record only, "f" the new one with the families
-    // only, "?" whatever broke off under the temporary name. All other files must stay.
-    void saveAndCompare(std::string_view letters) const {
-        Tree expected = treeOf(files().path());
-        save(*test_);
-        for (std::size_t i = 0; i < 9; ++i) {
-            const bool ofSim = i >= 3;
-            const std::string name = ofSim ? characters_[i / 6].recordName : "neighborhood";
-            const std::string dated = "Backups/" + name + ".200235" + (ofSim ? ".iff" : ".147.iff");
-            const std::string names[] = {name + ".iff", "TMP" + name + ".iff", dated};
-            const std::string directory = ofSim ? "UserData/Characters/" : "UserData/";
-            const char letter = letters[i + i / 3];
-            if (letter == '=') continue;
-            Bytes& bytes = expected[directory + names[i % 3]];
-            bytes = ofSim ? savedCharacter(characters_[i / 6]) : savedFile(letter == 'n', letter != 'f');
-            if (letter == 'o') bytes = original_.at(directory + names[0]);
-            if (letter == '?') bytes = files().bytesOf(directory + names[i % 3]);
-            if (letter == '.') expected.erase(directory + names[i % 3]);
-        }
-        EXPECT_EQ(differences(expected, treeOf(files().path())), "");
-    }
-
-    // Ann's old file is longer than all others, so that a disk can run full with it alone.
-    const std::vector<SampleCharacter> characters_ = {
-        {.name = "Ann", .guid = 1, .slots = childSlots(), .fileSize = 200'000},
-        {.recordName = "user00002", .name = "Bob", .guid = 2, .ending = BodyEnding::atEntry33, .hasPictures = false},
-        {.recordName = "user00003", .name = "Cleo", .guid = 3, .hasPictures = false}};
-    std::unique_ptr<TestNeighborhood> test_;
-    Tree original_;
 };
 
+constexpr Copies untouched = {oldFile, nothing, nothing};
+constexpr Copies saved = {newFile, nothing, oldFile};
+constexpr OnDisk nothingSaved = {untouched, untouched, untouched};
+constexpr OnDisk partOfTheTemporaryFile = {{oldFile, someOtherBytes, nothing}, untouched, untouched};
+constexpr OnDisk allSaved = {saved, saved, saved};
+
 TEST_F(SaveFailuresTest, EachStepLeavesWhatItMust) {
-    using enum Cause;
-    start();
-    const NeighborhoodFile built = test_->built();
-    const std::size_t lastFamily = savedFile(true, true).size() - 232;
+    const std::string none = "no such file";
+    enum Obstacle { missing, directory, fileOf55142Bytes, fullDisk };
     const struct {
-        Cause cause;
-        std::string where;  // a full disk: after a file in this directory has been deleted, or at once
-        const char *after, *afterTheNext;
-        std::size_t offset = 0;
-    } rows[] = {{missing, live, "... o.. o..", "n.o n.o n.o"},
-                {directory, "UserData/TMPneighborhood.iff", "o.. o.. o..", "n.o n.o n.o"},
-                {missing, "famtemplate", "o?. o.. o..", "n.o n.o n.o"},
-                {wrongSize, "famtemplate", "o?. o.. o..", "n.o n.o n.o"},
-                {missing, "Template.iff", "f.o o.. o..", "n.f n.o n.o"},
-                {wrongSize, "Template.iff", "f.o o.. o..", "n.f n.o n.o"},
-                {directory, "UserData/Characters/TMPuser00001.iff", "b.o o.. n.o", "n.b n.o n.o"},
-                {directory, "UserData/Characters/user00001.iff", "b.o .n. n.o", "b.b on. n.o"},
-                {wrongSize, "UserData/Characters/Backups", "n.o n.. n..", "n.o n.. n.."},
-                {directory, backup, "n.. n.o n.o", "n.. n.o n.o"},
-                // The game doesn't run when the program starts; it may have run by the time of the save.
-                {otherFile, live, "=.. o.. o..", "n.o n.o n.o", built.neighborOffsets[0] + 8},
-                {otherFile, live, "=.. o.. o..", "n.o n.o n.o", built.freeRoomOffset},
-                {otherFile, live, "=.. o.. o..", "n.o n.o n.o", built.families[0].record + 8},
-                {otherFile, live, "=.. o.. o..", "n.o n.o n.o", built.families[0].memberTable - 4},
-                // Under the temporary file; under Ann's backup; under her new file, which isn't tried again, and Bob's;
-                // under the last patch, when all characters are replaced; under the new neighborhood file.
-                {full, "", "o?. o.. o..", "n.o n.o n.o", 600},
-                {full, "", "n.o n.. n.o", "n.o n.. n.o", 120'000},
-                {full, "UserData/Characters", "o?. .no o?.", "b.o .no n.o", 50'000},
-                {full, "UserData/Characters", "o?. n.o n.o", "n.o n.o n.o", lastFamily},
-                {full, "UserData", ".no n.o n.o", ".no n.o n.o", 600}};
+        const char* what;
+        Obstacle obstacle;
+        std::string where;  // the name that the obstacle takes; none on a full disk
+        OnDisk after, afterTheNext;
+        std::size_t room = 0;  // that each file has on a full disk
+    } rows[] = {
+        {"no live file", missing, live, {{nothing, nothing, nothing}, untouched, untouched}, allSaved},
+        {"no way to make the temporary file", directory, "UserData/TMPneighborhood.iff", nothingSaved, allSaved},
+        {"no room for the temporary file", fullDisk, none, partOfTheTemporaryFile, allSaved, 600},
+        {"no famtemplate", missing, "famtemplate", partOfTheTemporaryFile, allSaved},
+        {"a famtemplate of another size", fileOf55142Bytes, "famtemplate", partOfTheTemporaryFile, allSaved},
+        {"no Template.iff",
+         missing,
+         "Template.iff",
+         {{newFileWithoutBoth, nothing, oldFile}, untouched, untouched},
+         {{newFile, nothing, newFileWithoutBoth}, saved, saved}},
+        {"a Template.iff that lacks a byte",
+         fileOf55142Bytes,
+         "Template.iff",
+         {{newFileWithoutBoth, nothing, oldFile}, untouched, untouched},
+         {{newFile, nothing, newFileWithoutBoth}, saved, saved}},
+        {"no way to make Ann's temporary file",
+         directory,
+         "UserData/Characters/TMPuser00001.iff",
+         {{newFileWithoutAnn, nothing, oldFile}, untouched, saved},
+         {{newFile, nothing, newFileWithoutAnn}, saved, saved}},
+        // Her new file waits under its temporary name, and no later save of this run tries again.
+        {"no way to install Ann's file",
+         directory,
+         "UserData/Characters/user00001.iff",
+         {{newFileWithoutAnn, nothing, oldFile}, {nothing, newFile, nothing}, saved},
+         {{newFileWithoutAnn, nothing, newFileWithoutAnn}, {oldFile, newFile, nothing}, saved}},
+        {"no room for Ann's backup",
+         fullDisk,
+         none,
+         {saved, {newFile, nothing, nothing}, saved},
+         {saved, {newFile, nothing, nothing}, saved},
+         120'000},
+        {"no directory for the characters' backups",
+         fileOf55142Bytes,
+         "UserData/Characters/Backups",
+         {saved, {newFile, nothing, nothing}, {newFile, nothing, nothing}},
+         {saved, {newFile, nothing, nothing}, {newFile, nothing, nothing}}},
+        {"no way to back the neighborhood up",
+         directory,
+         backup,
+         {{newFile, nothing, nothing}, saved, saved},
+         {{newFile, nothing, nothing}, saved, saved}}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << static_cast<int>(row.cause) << " at " << row.where << ", " << row.offset);
-        start();
-        if (row.cause == missing || (row.cause == directory && files().exists(row.where))) files().remove(row.where);
-        if (row.cause == directory) files().makeDirectory(row.where);
-        if (row.cause == wrongSize) files().write(row.where, Bytes(55'142));  // "Template.iff" lacks its last byte
-        Bytes file = built.bytes;
-        if (row.cause == otherFile) overwrite(file, row.offset, u16(9));
-        if (row.cause == otherFile) files().write(live, file);
+        SCOPED_TRACE(row.what);
+        start(200'000);
+        if (files().exists(row.where)) files().remove(row.where);
+        if (row.obstacle == directory) files().makeDirectory(row.where);
+        if (row.obstacle == fileOf55142Bytes) files().write(row.where, Bytes(55'142));
         std::optional<FullDisk> disk;
-        if (row.cause == full) disk.emplace(row.offset, row.where.empty() ? "" : files().path(row.where));
-        saveAndCompare(row.after);
+        if (row.obstacle == fullDisk) disk.emplace(row.room);
+        saveAt(7);
+        EXPECT_EQ(onDisk(), row.after);
 
         disk.reset();
-        if (row.cause == directory || row.cause == wrongSize) files().remove(row.where);
-        if (original_.contains(row.where)) files().write(row.where, original_.at(row.where));
-        saveAndCompare(row.afterTheNext);
+        mend(row.where);
+        saveAt(7);
+        EXPECT_EQ(onDisk(), row.afterTheNext);
+        EXPECT_EQ(otherChanges(), "");
     }
+}
+
+// The game doesn't run when the program starts; it may have run by the time of the save.
+TEST_F(SaveFailuresTest, ALiveFileThatIsNotTheOneReadIsLeftAlone) {
+    start();
+    const FamilyOffsets family = built().families[0];
+    const std::pair<const char*, std::size_t> changedPlaces[] = {{"a Sim's name", built().neighborOffsets[0] + 8},
+                                                                 {"the free chunk", built().freeRoomOffset},
+                                                                 {"a family's number", family.record + 8},
+                                                                 {"a family's size", family.memberTable - 4}};
+    for (const auto& [what, offset] : changedPlaces) {
+        SCOPED_TRACE(what);
+        start();
+        Bytes changed = built().bytes;
+        overwrite(changed, offset, u16(9));
+        files().write(live, changed);
+        saveAt(7);
+        EXPECT_EQ(files().bytesOf(live), changed);
+        EXPECT_EQ(onDisk(), (OnDisk{{someOtherBytes, nothing, nothing}, untouched, untouched}));
+
+        mend(live);
+        saveAt(7);
+        EXPECT_EQ(onDisk(), allSaved);
+    }
+}
+
+TEST_F(SaveFailuresTest, AChangedFreeChunkMattersOnlyToNewFamilies) {
+    start(0, false);
+    Bytes changed = built().bytes;
+    overwrite(changed, built().freeRoomOffset, u16(9));
+    files().write(live, changed);
+    saveAt(7);
+    overwrite(changed, built().neighborOffsets[0], savedRecord({}, true));
+    overwrite(changed, built().neighborOffsets[1], savedRecord({.recordName = "user00002"}, false));
+    EXPECT_EQ(files().bytesOf(live), changed);
+}
+
+TEST_F(SaveFailuresTest, ALinkToALiveFileNeverCostsItsBytes) {
+    start();
+    files().makeDirectory("UserData/Backups");
+    const std::string annsTemporary = "UserData/Characters/TMPuser00001.iff";
+    linkTo(live, "UserData/TMPneighborhood.iff");
+    linkTo(live, backup);
+    linkTo("UserData/Characters/user00001.iff", annsTemporary);
+    saveAt(7);
+    EXPECT_EQ(onDisk(), (OnDisk{{oldFile, oldFile, oldFile}, {oldFile, oldFile, nothing}, untouched}));
+    EXPECT_TRUE(neighborhood().isDirty());
+
+    files().remove("UserData/TMPneighborhood.iff");
+    saveAt(7);
+    EXPECT_EQ(onDisk(), (OnDisk{{newFileWithoutAnn, nothing, oldFile}, {oldFile, oldFile, nothing}, saved}));
+
+    files().remove(annsTemporary);
+    saveAt(8);
+    EXPECT_EQ(onDisk(), allSaved);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class SaveTest : public testing::Test {
     // On 5 March 2002, seven minutes past two in the afternoon or another minute.
     static void save(const TestNeighborhood& test, WORD minute = 7) {
         backupClock().stopAt({2002, 3, 0, 5, 14, minute, 0, 0});
-        test->save();
+        test->save(test->toolDirectory());
     }
 
     static void change(const Neighborhood& neighborhood, int sim, int stage) {

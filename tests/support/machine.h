@@ -17,18 +17,14 @@ void uninstallGame(const std::filesystem::path& prefix);
 // From now on a page that this process opens isn't shown: its address is added to the file, as a line of its own.
 void writePagesTo(const std::string& file);
 
-// A disk that runs full.
+// A full disk: while an object of this class lives, each file that the process writes ends at `size` bytes, and the write
+// that would pass them is cut short.
 class FullDisk {
  public:
-    // While it lives, each file that the process writes ends at `size` bytes: the write that would pass them is cut
-    // short. With a directory, only once a file in it has been deleted.
-    explicit FullDisk(std::uint64_t size, const std::string& afterDeletionIn = {});
+    explicit FullDisk(std::uint64_t size);
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
     ~FullDisk();
-
- private:
-    int watched_ = -1;
 };
 
 #endif

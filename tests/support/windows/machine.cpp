@@ -19,16 +19,7 @@ constexpr const char* gameKey = "Software\\Maxis\\The Sims";  // of 32-bit progr
 // full disk does.
 
 constexpr LONGLONG endless = std::numeric_limits<LONGLONG>::max();
-LONGLONG room = endless;               // that a file has now
-LONGLONG roomAfterDeletion = endless;  // ... and once a file below `watchedDirectory` is deleted
-std::string watchedDirectory;
-decltype(&DeleteFileA) windowsDeleteFile = nullptr;
-
-std::string fullPath(const char* path) {
-    char full[MAX_PATH] = "";
-    GetFullPathNameA(path, sizeof full, full, nullptr);
-    return full;
-}
+LONGLONG room = endless;  // that a file has
 
 BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED overlapped) {
     LARGE_INTEGER at{};
@@ -39,13 +30,6 @@ BOOL WINAPI writeFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, 
     WriteFile(file, bytes, static_cast<DWORD>(fitting), written, overlapped);
     SetLastError(ERROR_DISK_FULL);
     return FALSE;
-}
-
-BOOL WINAPI deleteFile(LPCSTR path) {
-    const std::string full = fullPath(path);
-    const BOOL deleted = windowsDeleteFile(path);
-    if (deleted && full.substr(0, full.rfind('\\')) == watchedDirectory) room = roomAfterDeletion;
-    return deleted;
 }
 
 // Where a module keeps the address of a function that it imports by name.
@@ -66,16 +50,15 @@ FARPROC* importOf(HMODULE module, const char* function) {
     return nullptr;
 }
 
-// Puts a function of ours in the place of Windows', which is returned.
+// Puts a function of ours in the place of Windows'.
 template <typename Function>
-Function* bend(HMODULE module, const char* name, Function* function) {
+void bend(HMODULE module, const char* name, Function* function) {
     FARPROC* const import = importOf(module, name);
     EXPECT_NE(import, nullptr) << name;
     DWORD access = 0;
     VirtualProtect(import, sizeof *import, PAGE_READWRITE, &access);
-    const FARPROC before = std::exchange(*import, std::bit_cast<FARPROC>(function));
+    *import = std::bit_cast<FARPROC>(function);
     VirtualProtect(import, sizeof *import, access, &access);
-    return std::bit_cast<Function*>(before);
 }
 
 }  // namespace
@@ -102,15 +85,12 @@ void writePagesTo(const std::string& file) {
               ERROR_SUCCESS);
 }
 
-FullDisk::FullDisk(std::uint64_t size, const std::string& afterDeletionIn) {
-    if (windowsDeleteFile == nullptr) {
-        bend(GetModuleHandleA("msvcrt.dll"), "WriteFile", writeFile);
-        windowsDeleteFile = bend(GetModuleHandleA(nullptr), "DeleteFileA", deleteFile);
-    }
-    watchedDirectory = afterDeletionIn.empty() ? "" : fullPath(afterDeletionIn.c_str());
-    (afterDeletionIn.empty() ? room : roomAfterDeletion) = static_cast<LONGLONG>(size);
+FullDisk::FullDisk(std::uint64_t size) {
+    static bool isBent = false;
+    if (!std::exchange(isBent, true)) bend(GetModuleHandleA("msvcrt.dll"), "WriteFile", writeFile);
+    room = static_cast<LONGLONG>(size);
 }
 
 FullDisk::~FullDisk() {
-    room = roomAfterDeletion = endless;
+    room = endless;
 }
