@@ -43,6 +43,9 @@ class SteadyDirectories {
 // Hands what was written to the disk itself, so that it outlives a crash of the machine. False if the disk refused.
 bool syncFile(std::FILE* file);
 
+// Hands the names in a directory to the disk itself, where that is a step of its own.
+void syncDirectory(const char* path);
+
 // The new version of a file. It gets its name when it is complete, so that a process or a machine that stops half-way
 // leaves no part of it under that name. Natively it is a file without a name (O_TMPFILE); on Windows it has a name of
 // its own beside the other, "~partN.tmp" with the process's number, and a part that an ended process has left in a
@@ -70,8 +73,9 @@ class NewVersion {
     // Hands all that was written to the disk itself. False if the disk refused; the version is discarded then.
     bool complete();
 
-    // Gives the complete file its name, on the disk too, in place of the file that had it until now. False on failure,
-    // with the reason as above; the version is discarded then, and the older file may be gone.
+    // Gives the complete file its name, in place of the file that had it until now. What is deleted afterwards, in
+    // whatever directory, doesn't go from the disk before this has reached it. False on failure, with the reason as
+    // above; the version is discarded then, and the older file may be gone.
     bool giveName();
 
     // Drops the new version. A file that was opened `atOnce` is deleted: it is a part.

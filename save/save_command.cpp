@@ -1,5 +1,6 @@
 #include "save/save_command.h"
 
+#include "platform/files.h"
 #include "platform/win32.h"
 #include "save/save_paths.h"
 #include "ui/cursors.h"
@@ -27,6 +28,7 @@ void Neighborhood::save(const char* toolDirectory) {
     if (writeTempFile(tempPath.c_str()) != 1) return;
     backupLiveFile();
     installTempFile(tempPath.c_str());
+    syncDirectory(directory_.c_str());
     forgetChanges();
 }
 

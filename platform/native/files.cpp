@@ -75,6 +75,14 @@ SteadyDirectories::~SteadyDirectories() {
     endSteadyDirectories();
 }
 
+void syncDirectory(const char* path) {
+    const NativePath directory = locate(path);
+    const int opened = openat(directory.directory, directory.name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened < 0) return;
+    fsync(opened);
+    close(opened);
+}
+
 bool syncFile(std::FILE* file) {
     if (std::fflush(file) != 0) return false;
     // A device or file system that knows no sync has nothing left to do.

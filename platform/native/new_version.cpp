@@ -1,5 +1,7 @@
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -60,9 +62,16 @@ bool link(std::FILE* unnamed, const NativePath& file) {
     return linkat(AT_FDCWD, opened.c_str(), file.directory, file.name.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
+// Whether no change of a directory reaches the disk before an earlier one does, in whatever directory.
+bool keepsOrder(int directory) {
+    struct statfs status = {};
+    if (fstatfs(directory, &status) != 0) return false;
+    return status.f_type == EXT4_SUPER_MAGIC || status.f_type == XFS_SUPER_MAGIC;
+}
+
 // A file system that knows no sync of directories has its own way to keep them.
-bool syncDirectory(int directory) {
-    return fsync(directory) == 0 || errno == EINVAL || errno == ENOTSUP;
+bool settle(int directory) {
+    return keepsOrder(directory) || fsync(directory) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 // Replaces the older file. False with `errno`.
@@ -71,7 +80,7 @@ bool replace(std::FILE* unnamed, const NativePath& file) {
     if (!isLinked && errno == EEXIST && unlinkat(file.directory, file.name.c_str(), 0) == 0) {
         isLinked = link(unnamed, file);
     }
-    if (!isLinked || syncDirectory(file.directory)) return isLinked;
+    if (!isLinked || settle(file.directory)) return isLinked;
     const int error = errno;
     unlinkat(file.directory, file.name.c_str(), 0);
     errno = error;
@@ -116,8 +125,7 @@ bool NewVersion::complete() {
 }
 
 bool NewVersion::giveName() {
-    const bool isNamed =
-        state_->isNamedPart ? syncDirectory(state_->file.directory) : replace(state_->stream, state_->file);
+    const bool isNamed = state_->isNamedPart ? settle(state_->file.directory) : replace(state_->stream, state_->file);
     if (!isNamed) {
         // Without /proc a file can't be linked either.
         const bool isUnknown = errno == EOPNOTSUPP || errno == EPERM || errno == ENOENT;

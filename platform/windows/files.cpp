@@ -47,6 +47,9 @@ bool isSameFile(const char* first, const char* second) {
 SteadyDirectories::SteadyDirectories() = default;
 SteadyDirectories::~SteadyDirectories() = default;
 
+// NTFS keeps a journal of its names, and a program can't ask for more.
+void syncDirectory(const char*) {}
+
 bool syncFile(std::FILE* file) {
     return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
 }
