@@ -20,13 +20,14 @@ struct ChunkSearch {
     std::int32_t offset;
 };
 
-// Reads the 3 bytes at `distance` from the hit of a scan (the hit's offset plus one).
-std::int32_t offsetNearHit(StreamView stream, std::int32_t hit, int distance) {
+// Reads the 3 bytes at `distance` from the hit of a scan (the hit's offset plus one). A read that the end of the file
+// cuts short raises the caller's flags, so that nothing is read at what it left.
+std::int32_t offsetNearHit(StreamView& stream, std::int32_t hit, int distance) {
     stream.seek(static_cast<std::int64_t>(hit) - 1 + distance);
     return static_cast<std::int32_t>(readU24Le(stream.readBytes<3>()));
 }
 
-ChunkSearch findChunk(StreamView stream, const characterFile::ChunkTag& tag, std::int32_t mapOffset,
+ChunkSearch findChunk(StreamView& stream, const characterFile::ChunkTag& tag, std::int32_t mapOffset,
                       std::int32_t fileSize) {
     stream.seek(mapOffset);
     const std::int32_t hit = findTag(stream, mapOffset == 0 ? tag.inFile : tag.inMap, fileSize);
@@ -47,7 +48,7 @@ ChunkSearch findBodyStringsByLabel(StreamView stream, std::int32_t fileSize) {
     }
 }
 
-ChunkSearch findBodyStrings(StreamView stream, std::int32_t mapOffset, std::int32_t fileSize) {
+ChunkSearch findBodyStrings(StreamView& stream, std::int32_t mapOffset, std::int32_t fileSize) {
     if (mapOffset == 0) return findBodyStringsByLabel(stream, fileSize);
     stream.seek(mapOffset);
     const std::int32_t hit = findTag(stream, characterFile::bodyStringsInMap, fileSize);

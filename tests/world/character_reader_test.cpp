@@ -78,6 +78,8 @@ TEST_F(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
          "\0\0\x40"
          "DJBO1234\0\0\0"s,
          1, -3},
+        {"an entry of the map cut in the middle of its offset", "",
+         "\0\0\x40"s + std::string(64, 'x') + "DJBO1234\1\0"s, 1, -1},
         {"map entry in front of the file", "i\0\xC8\0\x10"s, "\0\0\1"s, -4, -1},
     };
     for (const auto& row : rows) {
