@@ -35,8 +35,8 @@ std::int32_t moveOut(Sim* sim) {
     showWaitCursor();
     if (sim == nullptr || sim->stage() < stageNumber::adult) return -1;
     Family* family = sim->family();
-    if (family == nullptr) return -1;
-    if (sim->neighborhood().newFamilyCount() >= Neighborhood::highestNewFamilyCount) return -1;
+    // A Sim that two families list keeps naming one of them when it has moved out of it.
+    if (family == nullptr || !family->hasMember(*sim)) return -1;
     if (static_cast<std::uint32_t>(family->funds()) < leastFunds) {
         MessageBoxA(
             nullptr,
@@ -45,6 +45,7 @@ std::int32_t moveOut(Sim* sim) {
             "Insufficient funds", MB_OK);
         return -1;
     }
+    if (sim->neighborhood().newFamilyCount() >= Neighborhood::highestNewFamilyCount) return -1;
 
     const std::uint32_t share = splitFunds(*family);
     sim->splitToNewFamily(family->name(), share);

@@ -1,5 +1,6 @@
 #include "world/family.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "world/neighborhood.h"
@@ -38,6 +39,12 @@ void Family::resolveMember(std::size_t index) {
 // An unreadable member keeps the GUID that the file gave it.
 Guid Family::memberGuid(std::size_t index) const {
     return members_[index] != nullptr ? members_[index]->guid() : memberGuids_[index];
+}
+
+bool Family::hasMember(const Sim& sim) const {
+    return std::any_of(members_.begin(), members_.end(), [&](const Sim* member) {
+        return member != nullptr && std::string_view(member->recordName()) == sim.recordName();
+    });
 }
 
 int Family::addMember(Sim& sim) {

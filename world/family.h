@@ -53,6 +53,9 @@ class Family {
     // Null for an unreadable member and for an index out of range. Doesn't resolve: call `memberCount` first.
     Sim* member(std::int32_t index) const;
 
+    // Whether a member has the Sim's record name.
+    bool hasMember(const Sim& sim) const;
+
     // 1, or -1 for a full family.
     int addMember(Sim& sim);
 

@@ -69,6 +69,20 @@ TEST(MoveOutTest, OnlyAnAdultGoesAndAnEleventhWaitsForASave) {
         EXPECT_EQ(read->addNewFamily(std::make_unique<Family>(*read)), i <= 10 ? 1 : -1);
     EXPECT_EQ(moveOut(&read.sim(0)), -1);
     EXPECT_EQ(read.family().funds(), 50'000);
+    read.family().setFunds(9'999);
+    const AnsweredBox box = answerNextBox(IDOK);
+    EXPECT_EQ(moveOut(&read.sim(0)), -1);
+    EXPECT_EQ(box->title, "Insufficient funds") << "money comes first";
+}
+
+// It went by way of another family that lists the same GUID.
+TEST(MoveOutTest, ASimThatItsFamilyDoesNotListAnyMoreStays) {
+    const TestNeighborhood read = household(2, 50'000);
+    EXPECT_EQ(membersOf(read.family()), "12");
+    EXPECT_EQ(moveOut(&read.sim(0)), 1);
+    EXPECT_EQ(moveOut(&read.sim(0)), -1);
+    EXPECT_EQ(read.family().funds(), 30'000);
+    EXPECT_EQ(read->newFamilyCount(), 1);
 }
 
 }  // namespace
