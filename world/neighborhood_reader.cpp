@@ -103,16 +103,15 @@ int Neighborhood::familyAhead(StreamView stream) const {
 }
 
 // 1, or -1 for a family of more than 8 members. A family cut off by the end of the file, or without its record or name,
-// is dropped; the cursor then stands at the end of the file, which ends the pass.
+// isn't listed; the cursor is then at the end of the file, which ends the pass.
 int Neighborhood::readFamily(StreamView stream) {
-    auto family = std::make_unique<Family>(*this);
+    Family* const family = ownedFamilies_.emplace_back(std::make_unique<Family>(*this)).get();
     bool numberRead = false;
     const int result = family->read(stream, fileSize_, numberRead);
     if (numberRead) highestFamilyNumber_ = std::max<std::int32_t>(highestFamilyNumber_, family->familyNumber());
     if (result != 1) return result == 0 ? 1 : result;
     if (family->name() == familyName::unlisted || familyCount_ >= highestFamilyCount) return 1;
-    families_[static_cast<std::size_t>(familyCount_)] = family.get();
+    families_[static_cast<std::size_t>(familyCount_)] = family;
     ++familyCount_;
-    ownedFamilies_.push_back(std::move(family));
     return 1;
 }
