@@ -55,8 +55,8 @@ class NewVersion {
  public:
     enum class Naming { whenComplete, atOnce };
 
-    // Fixes what `path` means now: neither another working directory nor a file of another spelling, come or gone in
-    // the meantime, changes that.
+    // Fixes what `path` means now: another working directory, or a file whose name differs in case only, doesn't change
+    // it later. If the file that is meant now has gone by the time the version gets its name, that is as `path` has it.
     explicit NewVersion(const char* path);
     NewVersion(const NewVersion&) = delete;
     NewVersion& operator=(const NewVersion&) = delete;

@@ -53,11 +53,11 @@ bool isAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+}  // namespace
+
 std::string nameToCreate(std::string_view written) {
     return isUtf8(written) ? std::string(written) : utf8From1252(written);
 }
-
-}  // namespace
 
 std::unique_ptr<DirectoryListing> DirectoryListing::read(std::string path) {
     const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

@@ -12,6 +12,9 @@
 #include <unordered_map>
 #include <vector>
 
+// The name of a new entry that the program calls `written`, in UTF-8 or Windows-1252.
+std::string nameToCreate(std::string_view written);
+
 class DirectoryListing {
  public:
     // Lists the directory `path` (native, relative to the working directory or absolute). Null if it can't be listed.

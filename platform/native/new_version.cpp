@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "platform/native/directory_listing.h"
 #include "platform/native/file_stream.h"
 #include "platform/native/last_error.h"
 #include "platform/native/permissions.h"
@@ -18,7 +19,17 @@
 struct NewVersion::State {
     bool close() { return stream == nullptr || std::fclose(std::exchange(stream, nullptr)) == 0; }
 
+    // Once the older file has been moved away, the new one is called as the program writes the name, and not as another
+    // file whose name differs in case only.
+    void useNewNameIfFree() {
+        struct stat status = {};
+        const bool isFree =
+            fstatat(file.directory, file.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 && errno == ENOENT;
+        if (isFree) file.name = newName;
+    }
+
     NativePath file{-1, {}, false};  // in a directory that this object has open; -1 if it couldn't be opened
+    std::string newName;
     DWORD directoryError = NO_ERROR;
     std::FILE* stream = nullptr;
     bool isNamedPart = false;  // has the name already, but isn't complete
@@ -92,6 +103,8 @@ bool replace(std::FILE* unnamed, const NativePath& file) {
 NewVersion::NewVersion(const char* path) : state_(std::make_unique<State>()) {
     const NativePath found = locate(path);
     state_->file = {openParent(found), found.name.substr(found.name.rfind('/') + 1), false};
+    const std::string_view written = path;
+    state_->newName = nameToCreate(written.substr(written.find_last_of("\\/") + 1));
     if (state_->file.directory >= 0) return;
     setPathError(errno, found);
     state_->directoryError = GetLastError();
@@ -108,6 +121,7 @@ std::FILE* NewVersion::open(Naming naming) {
         return nullptr;
     }
     if (naming == Naming::atOnce) {
+        state_->useNewNameIfFree();
         state_->stream = openStream(state_->file, O_WRONLY | O_CREAT | O_TRUNC, "wb");
         state_->isNamedPart = state_->stream != nullptr;
     } else if (isReplaceable(state_->file)) {
@@ -125,6 +139,7 @@ bool NewVersion::complete() {
 }
 
 bool NewVersion::giveName() {
+    if (!state_->isNamedPart) state_->useNewNameIfFree();
     const bool isNamed = state_->isNamedPart ? settle(state_->file.directory) : replace(state_->stream, state_->file);
     if (!isNamed) {
         // Without /proc a file can't be linked either.

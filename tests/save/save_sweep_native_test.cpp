@@ -171,6 +171,20 @@ TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
     expectNoComplaints();
 }
 
+// Only one of the two is read: the one in small letters, or else the first in the order of bytes.
+TEST_F(SaveSweepTest, OfTwoNamesThatDifferInCaseOnlyTheOneReadIsBackedUpAndReplaced) {
+    for (const std::string read : {"UserData/neighborhood.iff", "UserData/NEIGHBORHOOD.iff"}) {
+        SCOPED_TRACE(read);
+        start();
+        std::filesystem::rename(files().path(live), files().path(read));
+        files().write("UserData/Neighborhood.iff", "another file");
+        saveAt(7);
+        EXPECT_EQ(onDisk(), allSaved);
+        EXPECT_EQ(otherChanges(), "UserData/Neighborhood.iff\n");
+        EXPECT_EQ(files().bytesOf("UserData/Neighborhood.iff"), bytesFrom("another file"));
+    }
+}
+
 TEST_F(SaveSweepTest, EachVersionIsOnTheDiskBeforeAnOlderOneGoes) {
     std::string calls;
     saveTwice([&](const seccomp_data& call) {
