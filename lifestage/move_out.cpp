@@ -14,13 +14,6 @@ namespace {
 constexpr std::uint32_t leastFunds = 10'000;
 constexpr std::uint32_t highestShare = 20'000;
 
-void refillNeighborhoodCombo() {
-    emptyCombo(controls().neighborhoodCombo);
-    emptyCombo(controls().familyCombo);
-    emptyCombo(controls().simCombo);
-    addNeighborhoodEntries(listedNeighborhoodCount());
-}
-
 // What the Sim takes along; the family keeps the rest.
 std::uint32_t splitFunds(Family& family) {
     const auto funds = static_cast<std::uint32_t>(family.funds());
@@ -53,6 +46,13 @@ std::int32_t moveOut(Sim* sim) {
     refillNeighborhoodCombo();
     showArrowCursor();
     return 1;
+}
+
+void refillNeighborhoodCombo() {
+    emptyCombo(controls().neighborhoodCombo);
+    emptyCombo(controls().familyCombo);
+    emptyCombo(controls().simCombo);
+    addNeighborhoodEntries(listedNeighborhoodCount());
 }
 
 // The Sim itself doesn't change: it goes on naming its old family, and none of its files will be rewritten.

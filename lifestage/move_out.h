@@ -7,8 +7,12 @@
 #include "world/sim.h"
 
 // Moves an adult out into a new family of the same name, with its share of the money, in memory only. Empties the
-// family and Sim combo boxes and lists the neighborhoods anew. 1; -1 if the Sim (null: none) isn't an adult, if ten new
-// families wait for a save already, or, with a message, if the family hasn't saved enough. Without a 1 nothing changed.
+// family and Sim combo boxes and lists the neighborhoods anew. 1; -1 if the Sim (null: none) isn't an adult or its
+// family doesn't list it any more; with a message, if the family hasn't saved enough; then, if ten new families wait
+// for a save already. Without a 1 nothing changed.
 std::int32_t moveOut(Sim* sim);
+
+// Empties the three combo boxes and lists the neighborhoods.
+void refillNeighborhoodCombo();
 
 #endif

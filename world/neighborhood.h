@@ -76,6 +76,11 @@ class Neighborhood {
     // below this neighborhood's `directory`, and its record. One Sim's failure doesn't stop the pass. Always 1.
     int saveCharacterFiles(const char* toolDirectory, const char* directory, StreamView stream);
 
+    // Its last two steps, with new families only: the records of families that have changed, always 1; the new
+    // families' in the copies of the template, 1 or, on a stream in a bad state, -1.
+    int writeChangedFamilies(StreamView stream);
+    int writeNewFamilies(StreamView stream);
+
  private:
     void readNeighbors(StreamView stream);
     int nextNeighbor(StreamView stream) const;
@@ -92,8 +97,6 @@ class Neighborhood {
     int appendFamilyTemplates(const char* tempPath) const;
     int patchTempFile(StreamView stream);
     bool standsInCopy(std::int32_t offset, std::int32_t size) const;
-    int writeChangedFamilies(StreamView stream);
-    int writeNewFamilies(StreamView stream);
 
     std::int32_t mapOffset_ = -1;
     std::int32_t xxxxOffset_ = -1;

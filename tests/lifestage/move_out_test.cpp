@@ -77,12 +77,16 @@ TEST(MoveOutTest, OnlyAnAdultGoesAndAnEleventhWaitsForASave) {
 
 // It went by way of another family that lists the same GUID.
 TEST(MoveOutTest, ASimThatItsFamilyDoesNotListAnyMoreStays) {
-    const TestNeighborhood read = household(2, 50'000);
-    EXPECT_EQ(membersOf(read.family()), "12");
-    EXPECT_EQ(moveOut(&read.sim(0)), 1);
-    EXPECT_EQ(moveOut(&read.sim(0)), -1);
-    EXPECT_EQ(read.family().funds(), 30'000);
-    EXPECT_EQ(read->newFamilyCount(), 1);
+    for (const std::int32_t left : {5'000, 30'000}) {
+        const TestNeighborhood read = household(2, 20'000 + left);
+        EXPECT_EQ(membersOf(read.family()), "12");
+        EXPECT_EQ(moveOut(&read.sim(0)), 1);
+        const AnsweredBox box = answerNextBox(IDOK);
+        EXPECT_EQ(moveOut(&read.sim(0)), -1);
+        EXPECT_FALSE(box->shown);
+        EXPECT_EQ(read.family().funds(), left);
+        EXPECT_EQ(read->newFamilyCount(), 1);
+    }
 }
 
 }  // namespace
