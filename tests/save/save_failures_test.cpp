@@ -133,6 +133,32 @@ TEST_F(SaveFailuresTest, AChangedFreeChunkMattersOnlyToNewFamilies) {
     EXPECT_EQ(files().bytesOf(live), changed);
 }
 
+TEST_F(SaveFailuresTest, ATemplateMayEndWithTheLastPatchedByte) {
+    start();
+    Bytes shortest = original().at("Template.iff");
+    shortest.resize(55'143);
+    files().write("Template.iff", shortest);
+    saveAt(7);
+    EXPECT_EQ(onDisk().neighborhood, saved);
+    EXPECT_EQ(files().bytesOf("UserData/Characters/user00001.iff").size(), shortest.size());
+}
+
+TEST_F(SaveFailuresTest, AFullTableOfFamiliesTakesNoNewOne) {
+    const std::vector<SampleCharacter> ann = {{.hasPictures = false}};
+    SampleNeighborhood content = householdOf(ann);
+    while (content.families.size() < 100)
+        content.families.push_back({.number = 2, .members = {}});
+    const TestNeighborhood test(content, ann);
+    ASSERT_TRUE(writeDataFiles(test.files().path()));
+    const Family* const last = &test.family(99);
+    moveOut(test, 0, 0, "Ann's", 500);
+    save(test);
+    EXPECT_FALSE(test->isDirty());
+    EXPECT_EQ(test->familyCount(), 100);
+    EXPECT_EQ(&test.family(99), last);
+    EXPECT_EQ(test->simCount(), 1);
+}
+
 TEST_F(SaveFailuresTest, ALinkToALiveFileNeverCostsItsBytes) {
     start();
     files().makeDirectory("UserData/Backups");
