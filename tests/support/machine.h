@@ -17,8 +17,8 @@ void uninstallGame(const std::filesystem::path& prefix);
 // From now on a page that this process opens isn't shown: its address is added to the file, as a line of its own.
 void writePagesTo(const std::string& file);
 
-// A full disk: while an object of this class lives, each file that the process writes ends at `size` bytes, and the write
-// that would pass them is cut short.
+// A full disk: while an object of this class lives, each file that the process writes ends at `size` bytes, and the
+// write that would pass them is cut short.
 class FullDisk {
  public:
     explicit FullDisk(std::uint64_t size);
