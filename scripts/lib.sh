@@ -11,6 +11,7 @@ display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 wine_packages=(wine wine64 fonts-wine)
 check_packages=(git clang-format clang-tidy)
+fuzz_packages=(clang libclang-rt-14-dev)
 
 say() { printf '%s\n' "$*"; }
 

@@ -64,7 +64,7 @@ class Neighborhood {
     // Whether something must be saved. Once true it stays true until a save is through.
     bool isDirty();
 
-    // Saves what has changed, with the templates of `toolDirectory` (save/save_command.cpp).
+    // Saves what has changed, with the templates of `toolDirectory` (save/neighborhood_save.cpp).
     void save(const char* toolDirectory);
 
     // The stages of a save (save/neighborhood_writer.cpp, save/backups.cpp), in this order.

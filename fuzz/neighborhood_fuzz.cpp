@@ -1,0 +1,25 @@
+// The reader of "neighborhood.iff", and what the families make of it.
+#include <cstring>
+
+#include "fuzz/fuzz_files.h"
+#include "world/neighborhood.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    writeFuzzFile("neighborhood.iff", {data, size});
+    Neighborhood neighborhood;
+    promise(neighborhood.load(fuzzDirectory().c_str(), "neighborhood.iff") == 0, "a file that opens is read");
+    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i) {
+        Family& family = *neighborhood.family(i);
+        promise(std::strlen(family.name()) <= Family::nameCapacity, "the length of a family's name");
+        promise(family.memberTableOffset() + family.tableSize() <= static_cast<std::int32_t>(size),
+                "a table in the file");
+    }
+    // Every Sim is asked for its GUID, of which there is no file.
+    if (Family* family = neighborhood.family(0)) promise(family->memberCount() <= 8, "the number of members");
+    for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
+        const std::int32_t record = neighborhood.sim(i)->recordOffset();
+        promise(record >= 0 && record + neighborRecord::size <= static_cast<std::int32_t>(size),
+                "a record in the file");
+    }
+    return 0;
+}
