@@ -58,9 +58,10 @@ void moveFirstMemberOut(Neighborhood& neighborhood, std::int32_t index) {
 }
 
 void change(Neighborhood& neighborhood, unsigned changes) {
-    for (std::int32_t i = 0; i < neighborhood.simCount() && (changes & growUp) != 0; ++i) {
+    int grownUp = 0;
+    for (std::int32_t i = 0; i < neighborhood.simCount() && grownUp < 2 && (changes & growUp) != 0; ++i) {
         Sim& sim = *neighborhood.sim(i);
-        if (sim.bodyStrings() != nullptr) sim.setStage(stageNumber::teen, nullptr);
+        if (sim.bodyStrings() != nullptr && sim.setStage(stageNumber::teen, nullptr) == 1) ++grownUp;
     }
     if ((changes & moveOut) != 0) moveFirstMemberOut(neighborhood, 0);
     if ((changes & moveOutAgain) != 0) moveFirstMemberOut(neighborhood, 1);
