@@ -26,7 +26,7 @@ std::shared_ptr<Move> backUp(const char* live, const SavePath& backup, const Sav
     return install;
 }
 
-std::int32_t install(std::shared_ptr<Move> prepared, const char* tempPath, const char* live) {
+std::int32_t install(const std::shared_ptr<Move>& prepared, const char* tempPath, const char* live) {
     return prepared && prepared->source() == tempPath ? prepared->finish() : moveByCopy(tempPath, live);
 }
 
@@ -40,7 +40,7 @@ void Neighborhood::backupLiveFile() {
 }
 
 void Neighborhood::installTempFile(const char* tempPath) {
-    install(std::move(install_), tempPath, fileName_.c_str());
+    install(std::exchange(install_, nullptr), tempPath, fileName_.c_str());
 }
 
 void Sim::backupCharacterFile(const char* directory) {
@@ -52,5 +52,5 @@ void Sim::backupCharacterFile(const char* directory) {
 }
 
 int Sim::installCharacterFile(const char* tempPath) {
-    return install(std::move(install_), tempPath, filePath_.c_str()) == copyError::none ? 1 : -1;
+    return install(std::exchange(install_, nullptr), tempPath, filePath_.c_str()) == copyError::none ? 1 : -1;
 }
