@@ -15,6 +15,7 @@
 #include "platform/native/cursor.h"
 #include "platform/native/device_context.h"
 #include "platform/native/key_messages.h"
+#include "platform/native/late_clicks.h"
 #include "platform/native/system.h"
 #include "platform/native/window.h"
 
@@ -138,6 +139,7 @@ void openDisplay() {
     application = new QApplication(argumentCount, __argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     watchKeys();
+    passLateClicks();
 }
 
 bool hasDisplay() {
