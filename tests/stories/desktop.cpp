@@ -4,8 +4,12 @@
 #include <xcb/xcb.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <memory>
+#include <thread>
 #include <utility>
 
 #include "sample/wine_prefix.h"
@@ -33,6 +37,15 @@ std::string registryCommand(const std::string& prefix) {
     return "wine reg add" + value + " /d '" + directory + "'";
 }
 
+// A step that has no effect within 30 seconds fails the test by its name.
+void waitUntil(const std::string& step, const std::function<bool()>& done) {
+    for (int tenths = 0; tenths < 300; ++tenths) {
+        if (done()) return;
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    ADD_FAILURE() << "never happened: " << step;
+}
+
 }  // namespace
 
 // A new server of Wine's: it stays with the display of its first program, and waits for the next one.
@@ -47,6 +60,22 @@ std::string Desktop::act(const std::string& arguments) const {
     const std::string text = readToEnd(output);
     EXPECT_EQ(pclose(output), 0) << command;
     return text.substr(0, text.find('\n'));
+}
+
+std::set<unsigned> Desktop::shownWindows() const {
+    const auto ask = [this](auto request, auto reply, xcb_window_t window) {
+        return std::unique_ptr<std::remove_pointer_t<decltype(reply(connection(), {}, nullptr))>, decltype(&std::free)>(
+            reply(connection(), request(connection(), window), nullptr), &std::free);
+    };
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+    const auto tree = ask(xcb_query_tree, xcb_query_tree_reply, root);
+    std::set<unsigned> shown;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        const xcb_window_t window = xcb_query_tree_children(tree.get())[i];
+        const auto state = ask(xcb_get_window_attributes, xcb_get_window_attributes_reply, window);
+        if (state != nullptr && state->map_state == XCB_MAP_STATE_VIEWABLE) shown.insert(window);
+    }
+    return shown;
 }
 
 RunningProgram::RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop,
@@ -79,11 +108,16 @@ void RunningProgram::clickAt(int x, int y) const {
 }
 
 void RunningProgram::pickEntry(int comboTop, int index) const {
+    const std::string list = "list at " + std::to_string(comboTop) + ", entry " + std::to_string(index);
+    const std::set<unsigned> before = desktop_->shownWindows();
+    const auto listIsOpen = [&] { return !std::ranges::includes(before, desktop_->shownWindows()); };
     clickAt(250, clientTop_ + comboTop + 10);
+    waitUntil(list + " opens", listIsOpen);
     std::string keys = "key Home";
     for (int i = 0; i < index; ++i)
         keys += " Down";
     desktop_->act(keys + " Return");
+    waitUntil(list + " closes", [&] { return !listIsOpen(); });
 }
 
 void RunningProgram::pick(int neighborhood, int family, int sim) const {

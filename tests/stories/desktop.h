@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <set>
 #include <string>
 
 #include "tests/support/x_server.h"
@@ -14,6 +15,9 @@ class Desktop : public XServer {
 
     // Runs xdotool with these arguments and returns the first line of what it prints; a failure fails the test.
     std::string act(const std::string& arguments) const;
+
+    // The windows that the screen shows, menus and lists among them.
+    std::set<unsigned> shownWindows() const;
 };
 
 // The Windows program that the stories are told of, as a word of the shell, run by Wine in a prefix that serves for
