@@ -50,8 +50,9 @@ int openParent(const NativePath& file) {
 bool isReplaceable(const NativePath& file) {
     struct stat status = {};
     if (fstatat(file.directory, file.name.c_str(), &status, 0) != 0) {
-        setPathError(errno, file);
-        return errno == ENOENT;
+        const int error = errno;
+        setPathError(error, file);
+        return error == ENOENT;
     }
     if (!isRefused(status, O_WRONLY) && mayWrite(file, status)) return true;
     SetLastError(ERROR_ACCESS_DENIED);
