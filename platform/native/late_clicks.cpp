@@ -11,8 +11,9 @@ QWindow* ownerOfHiddenPopup(QObject* object) {
     auto* window = qobject_cast<QWindow*>(object);
     if (window == nullptr || window->isVisible()) return nullptr;
     if (window->type() != Qt::Popup) return nullptr;
-    while (window != nullptr && window->type() == Qt::Popup)
+    while (window != nullptr && window->type() == Qt::Popup) {
         window = window->transientParent();
+    }
     return window;
 }
 
