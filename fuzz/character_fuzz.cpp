@@ -7,7 +7,7 @@
 
 namespace {
 
-// A neighborhood of nobody, which only says where its Sims' files are.
+// A neighborhood without Sims or families, which only gives the directory of character files.
 Neighborhood& emptyNeighborhood() {
     static Neighborhood neighborhood;
     static const int loaded = [] {

@@ -1,5 +1,5 @@
 // The only ways in which a save copies and moves files. A move is a whole copy followed by a delete of the source,
-// never a rename: nothing old goes before its copy is known to stand on the disk.
+// never a rename: no old file goes before its copy is known to be on the disk.
 #ifndef SAVE_FILE_COPY_H
 #define SAVE_FILE_COPY_H
 

@@ -22,7 +22,7 @@ void Neighborhood::save(const char* toolDirectory) {
 }
 
 // What was cut off to make room for new families isn't in the file any more, so a later save of this run copies all of
-// it, and writes nothing where a piece that went with it used to stand.
+// it, and writes nothing where a piece was that went with it.
 void Neighborhood::forgetChanges() {
     dirty_ = false;
     if (!hasNewFamilies_) return;

@@ -95,7 +95,7 @@ std::FILE* NewVersion::open(Naming naming) {
 
 bool NewVersion::complete() {
     bool isWhole = syncFile(state_->stream);
-    // A part stays open and so nobody else's until it has its second name.
+    // A part stays open until it has its second name, so that no other process can open it.
     if (state_->isNamedPart) isWhole = state_->close() && isWhole;
     if (!isWhole) discard();
     return isWhole;
