@@ -1,5 +1,5 @@
-# Programs of ours that run during the build: the drawing program and the maker of the data files. They are plain C++,
-# so a cross build compiles them once more for the machine that builds.
+# Programs of ours that run during the build, as the maker of the data files does. They are plain C++, so a cross build
+# compiles them once more for the machine that builds.
 
 find_program(TIDEWRIGHT_HOST_CXX NAMES c++ g++ clang++ REQUIRED)
 
