@@ -23,8 +23,7 @@ void seedNeighborhoods() {
     for (const bool hasMap : {true, false}) {
         SampleNeighborhood content{
             .neighbors = {{}, {.recordName = "robot"}, {.recordName = "user00002", .age = 9, .guid = 2}},
-            .families = {{.members = {sampleGuid, 2}},
-                         {.number = 2, .name = "Oats", .members = {2}, .hasHistory = true}},
+            .families = {{.members = {1, 2}}, {.number = 2, .name = "Oats", .members = {2}, .hasHistory = true}},
             .freeRoom = hasMap,
             .map = hasMap};
         const Bytes file = makeNeighborhoodFile(content).bytes;
