@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <system_error>
 
 #include "platform/win32.h"
@@ -48,10 +47,12 @@ void writeFuzzFile(const std::string& name, FuzzInput bytes) {
 
 Bytes readFuzzFile(const fs::path& path) {
     std::error_code error;
-    Bytes bytes(fs::file_size(path, error));
-    std::ifstream file(path, std::ios::binary);
-    promise(!error && file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size())),
-            "a file to read");
+    const auto size = fs::file_size(path, error);
+    promise(!error, "a file to read");
+    Bytes bytes(size);
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    promise(file != nullptr && std::fread(bytes.data(), 1, bytes.size(), file) == bytes.size(), "a file to read");
+    std::fclose(file);
     return bytes;
 }
 
