@@ -1,7 +1,9 @@
-// A save of a neighborhood that the reader has made something of: what it writes, and where. The first byte of the
-// input says what is changed, the rest is "neighborhood.iff".
+// Two saves in a row of a neighborhood that the reader has made something of: what they write, and where. The first
+// byte of the input says what is changed and what hinders the first save; the rest is "neighborhood.iff".
 #include <algorithm>
+#include <array>
 #include <map>
+#include <system_error>
 #include <utility>
 
 #include "fuzz/fuzz_files.h"
@@ -16,6 +18,7 @@ namespace {
 
 constexpr unsigned growUp = 1, moveOut = 2, moveOutAgain = 4;
 constexpr std::int32_t newRecordSize = 232;
+constexpr std::int32_t headerMap = 61;  // 3 bytes
 constexpr const char* backupName = "neighborhood.200235.147.iff";
 
 fs::path userData() {
@@ -67,79 +70,222 @@ void change(Neighborhood& neighborhood, unsigned changes) {
     if ((changes & moveOutAgain) != 0) moveFirstMemberOut(neighborhood, 1);
 }
 
-// What a save may change in the copy of the old file: bytes from the first offset on, up to the second.
-using Ranges = std::vector<std::pair<std::int32_t, std::int32_t>>;
+enum class Hindrance { none, noBackups, noTempFile, noTemplates, gameSaved };
 
-Ranges changedRanges(const Neighborhood& neighborhood) {
-    Ranges ranges;
+Hindrance hindranceOf(std::uint8_t choice) {
+    constexpr std::array all{Hindrance::none,      Hindrance::none,       Hindrance::none,        Hindrance::none,
+                             Hindrance::noBackups, Hindrance::noTempFile, Hindrance::noTemplates, Hindrance::gameSaved};
+    return all[choice >> 5];
+}
+
+void raise(Hindrance hindrance) {
+    const fs::path live = userData() / "neighborhood.iff";
+    if (hindrance == Hindrance::noBackups) writeFuzzFile("UserData/Backups", {});
+    if (hindrance == Hindrance::noTempFile) fs::create_directory(userData() / "TMPneighborhood.iff");
+    if (hindrance == Hindrance::gameSaved) fs::resize_file(live, fs::file_size(live) / 2);
+}
+
+void lift(Hindrance hindrance) {
+    if (hindrance == Hindrance::noBackups) fs::remove(userData() / "Backups");
+    if (hindrance == Hindrance::noTempFile) fs::remove(userData() / "TMPneighborhood.iff");
+}
+
+// Another neighborhood, which is the current directory at first and never touched.
+const fs::path& neighbor() {
+    static const fs::path directory = fuzzDirectory() / "UserData2";
+    static const bool isMade = [] {
+        for (const char* name : {"neighborhood.iff", "TMPneighborhood.iff", "Characters/user00001.iff"}) {
+            writeFuzzFile(directory.filename() / name, ByteWriter().text("another neighborhood's").written());
+        }
+        return true;
+    }();
+    promise(isMade, "another neighborhood");
+    return directory;
+}
+
+// A file's time shows that it was written, a directory's that a name came or went.
+std::vector<fs::file_time_type> timesOutside() {
+    std::vector<fs::file_time_type> times;
+    for (const char* name : {".", "neighborhood.iff", "TMPneighborhood.iff", "Characters", "Characters/user00001.iff",
+                             "../Template.iff", "../famtemplate"}) {
+        times.push_back(fs::last_write_time(neighbor() / name));
+    }
+    return times;
+}
+
+// Bytes of a file from the first offset on, up to the second.
+using Range = std::pair<std::int32_t, std::int32_t>;
+using Ranges = std::vector<Range>;
+
+bool meets(const Ranges& ranges, std::size_t begin, std::size_t end) {
+    return std::ranges::any_of(ranges, [&](const Range& range) {
+        return range.first < static_cast<std::int32_t>(end) && static_cast<std::int32_t>(begin) < range.second;
+    });
+}
+
+bool isHeaderMap(std::size_t at) {
+    const auto offset = static_cast<std::int32_t>(at);
+    return offset >= headerMap && offset < headerMap + 3;
+}
+
+// What waits for a save, and what it may change in the copy of the old file.
+struct Waiting {
+    explicit Waiting(Neighborhood& neighborhood);
+
+    Bytes live = readFuzzFile(userData() / "neighborhood.iff");
+    bool isDirty;
+    std::size_t kept;  // how much of the old file the new one begins with
+    std::size_t newFamilies;
+    std::int32_t highestFamilyNumber;
+    std::vector<Sim*> sims;
+    std::vector<Family*> families;
+    Ranges records;
+    Ranges familyRecords;
+};
+
+Waiting::Waiting(Neighborhood& neighborhood)
+    : isDirty(neighborhood.isDirty()),
+      kept(live.size()),
+      newFamilies(static_cast<std::size_t>(neighborhood.newFamilyCount())),
+      highestFamilyNumber(neighborhood.highestFamilyNumber()) {
     for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
-        const Sim& sim = *neighborhood.sim(i);
-        if (sim.recordDirty()) ranges.emplace_back(sim.recordOffset(), sim.recordOffset() + 186);
+        Sim& sim = *neighborhood.sim(i);
+        if (!sim.recordDirty()) continue;
+        sims.push_back(&sim);
+        records.emplace_back(sim.recordOffset(), sim.recordOffset() + 186);
     }
-    if (!neighborhood.hasNewFamilies()) return ranges;
-    ranges.emplace_back(61, 64);
-    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i) {
-        const Family& family = *neighborhood.family(i);
-        const std::int32_t table = family.memberTableOffset();
-        if (family.dirty()) ranges.emplace_back(table - 20, table + family.tableSize());
-    }
-    return ranges;
-}
-
-// How much of the old file the new one begins with.
-std::size_t keptSize(const Neighborhood& neighborhood, std::size_t size) {
-    if (!neighborhood.hasNewFamilies()) return size;
+    if (!neighborhood.hasNewFamilies()) return;
     const std::int32_t place = neighborhood.xxxxOffset() > 0 ? neighborhood.xxxxOffset() : neighborhood.mapOffset();
-    return place > 0 ? std::min(static_cast<std::size_t>(place), size) : size;
+    if (place > 0) kept = std::min(static_cast<std::size_t>(place), kept);
+    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i) {
+        Family& family = *neighborhood.family(i);
+        const std::int32_t table = family.memberTableOffset();
+        if (!family.dirty()) continue;
+        families.push_back(&family);
+        familyRecords.emplace_back(table - 20, table + family.tableSize());
+    }
 }
 
-// A new file is the kept part of the old one but for those ranges, with the new families behind it.
-void examineNewFile(const Bytes& before, const Bytes& after, std::size_t kept, std::size_t families,
-                    const Ranges& ranges) {
-    promise(after.size() == kept + families * newRecordSize, "the size of the new file");
-    for (std::size_t at = 0; at < kept; ++at) {
-        const auto offset = static_cast<std::int32_t>(at);
-        const auto holds = [offset](const auto& range) { return range.first <= offset && offset < range.second; };
-        promise(before[at] == after[at] || std::ranges::any_of(ranges, holds), "a byte that had to stay");
+// Whether the pieces that a save may patch lie apart. Where they don't, one save may spoil what the next one looks for,
+// which then rightly refuses.
+bool isTidy(const Neighborhood& neighborhood) {
+    const std::int32_t freeRoom = neighborhood.xxxxOffset();
+    Ranges ranges = {{headerMap, headerMap + 3}, {freeRoom, freeRoom + 4}};
+    for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
+        const std::int32_t record = neighborhood.sim(i)->recordOffset();
+        ranges.emplace_back(record, record + 186);
     }
-    promise(readFuzzFile(userData() / "Backups" / backupName) == before, "the backup");
+    for (std::int32_t i = 0; i < neighborhood.familyCount(); ++i) {
+        const std::int32_t table = neighborhood.family(i)->memberTableOffset();
+        ranges.emplace_back(table - 32, table + neighborhood.family(i)->tableSize());
+    }
+    std::ranges::sort(ranges);
+    return std::ranges::adjacent_find(ranges, [](const Range& a, const Range& b) { return a.second > b.first; }) ==
+           ranges.end();
+}
+
+// The template, with what a family of one has of its own.
+void examineNewFamily(std::span<const std::uint8_t> record, std::size_t offset, std::int32_t number) {
+    static const Bytes blank = makeFamilyTemplate();
+    static const Ranges own = {{9, 11}, {92, 94}, {96, 98}, {116, 120}, {133, 135}, {205, 232}};
+    for (std::size_t at = 0; at < record.size(); ++at) {
+        const bool isHeader = isHeaderMap(offset + at);
+        promise(isHeader || record[at] == blank[at] || meets(own, at, at + 1), "a template's byte");
+        const std::size_t byte = at == 9 || at == 92 || at == 133 ? 0 : 1;
+        const bool isNumber = at - byte == 9 || at - byte == 92 || at - byte == 133;
+        promise(isHeader || !isNumber || record[at] == (number >> 8 * byte & 0xFF), "a number one above the highest");
+    }
+}
+
+// The kept part of the old file but for what was patched, with the new families behind it.
+void examineNewFile(const Waiting& waiting) {
+    const Bytes file = readFuzzFile(userData() / "neighborhood.iff");
+    promise(file.size() == waiting.kept + waiting.newFamilies * newRecordSize, "the size of the new file");
+    for (std::size_t at = 0; at < file.size() && at < waiting.kept; ++at) {
+        const bool isHeader = waiting.newFamilies > 0 && isHeaderMap(at);
+        const bool mayChange = meets(waiting.records, at, at + 1) || meets(waiting.familyRecords, at, at + 1);
+        promise(isHeader || mayChange || file[at] == waiting.live[at], "a byte that had to stay");
+        promise(!isHeader || file[at] == 0 || meets(waiting.familyRecords, at, at + 1), "no map in the header");
+    }
+    for (std::size_t i = 0; i < waiting.newFamilies; ++i) {
+        const std::size_t offset = waiting.kept + i * newRecordSize;
+        examineNewFamily(std::span(file).subspan(offset, newRecordSize), offset,
+                         waiting.highestFamilyNumber + 1 + static_cast<std::int32_t>(i));
+    }
+}
+
+void examineMarks(const Neighborhood& neighborhood, const Waiting& waiting, bool isSaved, bool areSimsSaved) {
+    static const std::size_t newSize = makeCharacterTemplate().size();
+    promise(neighborhood.hasNewFamilies() == (!isSaved && waiting.newFamilies > 0), "the mark of new families");
+    promise(neighborhood.newFamilyCount() == (isSaved ? 0 : static_cast<int>(waiting.newFamilies)), "new families");
+    for (const Family* family : waiting.families) {
+        promise(family->dirty() != isSaved || family->memberTableOffset() == 0, "the mark of a family");
+    }
+    for (const Sim* sim : waiting.sims) {
+        promise(sim->recordDirty() != areSimsSaved, "the mark of a Sim");
+        if (!areSimsSaved) continue;
+        const fs::path characters = userData() / "Characters";
+        promise(fs::file_size(characters / sim->fileName()) == newSize, "a Sim's new file");
+    }
 }
 
 // Only names that a save may use, and no temporary one.
 void examineNames() {
-    for (const auto& entry : fs::recursive_directory_iterator(fuzzDirectory())) {
-        const std::string name = entry.path().lexically_relative(fuzzDirectory());
-        const bool isTool = name == "Template.iff" || name == "famtemplate";
-        promise(isTool || name.starts_with("UserData"), "nothing outside the neighborhood's directory");
+    for (const auto& entry : fs::recursive_directory_iterator(userData())) {
         promise(!entry.path().filename().string().starts_with("TMP"), "no temporary file");
     }
     promise(std::distance(fs::directory_iterator(userData()), {}) <= 3, "no more names than the live ones and Backups");
+    promise(std::distance(fs::directory_iterator(fuzzDirectory()), {}) == 4, "no name beside the neighborhood's");
+}
+
+bool mustSucceed(const Waiting& waiting, Hindrance hindrance) {
+    if (!waiting.isDirty || hindrance == Hindrance::noTempFile) return false;
+    return hindrance != Hindrance::noTemplates || waiting.newFamilies == 0;
+}
+
+// Saves, and says whether the new file has come. `isFileAsRead` if it can't but come where nothing hinders it.
+bool saveAndExamine(Neighborhood& neighborhood, Hindrance hindrance, bool isFileAsRead) {
+    static const std::vector<fs::file_time_type> outside = timesOutside();
+    raise(hindrance);
+    const Waiting waiting(neighborhood);
+    std::error_code ignored;
+    fs::remove(userData() / "Backups" / backupName, ignored);
+    fs::current_path(neighbor());
+    const fs::path tools = hindrance == Hindrance::noTemplates ? neighbor() : fuzzDirectory();
+
+    neighborhood.save(tools.c_str());
+
+    promise(timesOutside() == outside, "nothing written outside the neighborhood's directory");
+    const bool hasBackup = fs::exists(userData() / "Backups" / backupName);
+    const bool isSaved = hindrance == Hindrance::noBackups ? waiting.isDirty : hasBackup;
+    if (isFileAsRead) {
+        promise(isSaved == mustSucceed(waiting, hindrance), "a save that nothing hinders, and only that");
+        examineMarks(neighborhood, waiting, isSaved, isSaved && hindrance != Hindrance::noTemplates);
+    }
+    lift(hindrance);
+    if (!isSaved) {
+        promise(readFuzzFile(userData() / "neighborhood.iff") == waiting.live, "a live file that wasn't replaced");
+        promise(neighborhood.isDirty() == waiting.isDirty, "what isn't saved stays marked");
+        return false;
+    }
+    promise(!hasBackup || readFuzzFile(userData() / "Backups" / backupName) == waiting.live, "the backup");
+    examineNewFile(waiting);
+    if (hindrance == Hindrance::none) examineNames();
+    return true;
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
-    const FuzzInput file(data + 1, size - 1);
-    writeFiles(file);
+    writeFiles({data + 1, size - 1});
     Neighborhood neighborhood;
     promise(neighborhood.load(userData().c_str(), "neighborhood.iff") == 0, "a file that opens is read");
     change(neighborhood, data[0]);
-    const bool wasDirty = neighborhood.isDirty();
-    const std::size_t kept = keptSize(neighborhood, file.size());
-    const auto families = static_cast<std::size_t>(neighborhood.newFamilyCount());
-    const Ranges ranges = changedRanges(neighborhood);
-
-    neighborhood.save(fuzzDirectory().c_str());
-
-    const Bytes before(file.begin(), file.end()), after = readFuzzFile(userData() / "neighborhood.iff");
-    const bool isSaved = fs::exists(userData() / "Backups" / backupName);
-    promise(isSaved || after == before, "a live file that wasn't replaced");
-    promise(isSaved || neighborhood.isDirty() == wasDirty, "what isn't saved stays marked");
-    promise(!isSaved || wasDirty, "nothing saved without a change");
-    if (isSaved) {
-        examineNewFile(before, after, kept, families, ranges);
-        examineNames();
-    }
+    const Hindrance hindrance = hindranceOf(data[0]);
+    const bool isAsRead = hindrance != Hindrance::gameSaved;
+    const bool staysAsRead = isAsRead && isTidy(neighborhood);
+    if (saveAndExamine(neighborhood, hindrance, isAsRead)) change(neighborhood, data[0] >> 3);
+    saveAndExamine(neighborhood, Hindrance::none, staysAsRead);
     return 0;
 }
