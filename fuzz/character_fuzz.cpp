@@ -1,4 +1,8 @@
-// The reader of a character file: name, GUID and body strings, and the text that these are written as.
+// The reader of a character file: name, GUID and body strings, and the text that these are written as. The last bytes
+// of the input say what the Sim's record holds and how much room the text has.
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <algorithm>
 #include <cstring>
 
 #include "fuzz/fuzz_files.h"
@@ -6,6 +10,9 @@
 #include "world/neighborhood.h"
 
 namespace {
+
+constexpr std::int16_t longTextVersion = 7;
+constexpr std::size_t roomForAll = 10'000;
 
 // A neighborhood without Sims or families, which only gives the directory of character files.
 Neighborhood& emptyNeighborhood() {
@@ -18,22 +25,72 @@ Neighborhood& emptyNeighborhood() {
     return neighborhood;
 }
 
+std::string_view slotOf(const BodyStrings& body, std::size_t slot) {
+    return body.slot(static_cast<bodySlot::Index>(slot));
+}
+
+Bytes textOf(const BodyStrings& body, std::size_t room, std::size_t limit, std::int16_t version) {
+    Bytes text(room);
+    const std::size_t size = body.serialise(text, limit, version);
+    promise(size <= room, "a text in its room");
+    text.resize(size);
+    return text;
+}
+
+// How many slots a text carries: without the outfits of the expansions, without the winter's, or all.
+std::size_t carriedSlots(const BodyStrings& body, std::int16_t version) {
+    if (version < longTextVersion) return bodySlot::f100Mesh;
+    const bool hasWinter = slotOf(body, bodySlot::w100Mesh).size() >= 2 && slotOf(body, bodySlot::w100Skin).size() >= 2;
+    return hasWinter ? bodySlot::count : bodySlot::w100Mesh;
+}
+
+// The reader gives up an entry of more than 149 characters, which a mesh of that length is with its "=".
+bool hasTooLongEntry(const BodyStrings& body) {
+    for (std::size_t slot = 0; slot < bodySlot::count; ++slot) {
+        if (slotOf(body, slot).size() == BodyStrings::slotCapacity) return true;
+    }
+    return false;
+}
+
+void readBack(const BodyStrings& body, std::int16_t version) {
+    writeFuzzFile("text", textOf(body, roomForAll, roomForAll, version));
+    StreamFile file;
+    promise(file.open((fuzzDirectory() / "text").c_str(), StreamFile::Access::read, roomForAll), "a text to read");
+    BodyStrings again;
+    again.parse(StreamView(file), version);
+    promise(again.version() == std::min(version, longTextVersion), "the version of a text read back");
+    const std::size_t carried = carriedSlots(body, version);
+    for (std::size_t slot = 0; slot < bodySlot::count; ++slot) {
+        promise(slotOf(again, slot) == (slot < carried ? slotOf(body, slot) : ""), "a slot read back");
+    }
+}
+
+void examineText(const BodyStrings& body, std::size_t room, std::size_t limit, std::int16_t version) {
+    const Bytes whole = textOf(body, roomForAll, limit, version), cut = textOf(body, room, limit, version);
+    promise(whole.size() > limit, "a text filled up to its limit");
+    promise(std::ranges::equal(cut, std::span(whole).first(std::min(room, whole.size()))), "a text cut at its end");
+    if (!hasTooLongEntry(body)) readBack(body, version);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Bytes record = sampleNeighborRecord({});
+    FuzzedDataProvider choices(data, size);
+    const auto version = choices.ConsumeIntegralInRange<std::int16_t>(4, 8);
+    const auto age = choices.PickValueInArray({ageWord::child, ageWord::teen, ageWord::adult, 0});
+    const auto kind = choices.ConsumeIntegralInRange<std::int16_t>(genderWord::male, genderWord::pet);
+    const auto room = choices.ConsumeIntegralInRange<std::size_t>(0, 3000);
+    const auto limit = choices.ConsumeIntegralInRange<std::size_t>(0, 3000);
+    writeFuzzFile("Characters/user00001.iff", choices.ConsumeRemainingBytes<std::uint8_t>());
+
+    const Bytes record = sampleNeighborRecord({.version = version, .age = age, .kind = kind});
     Sim sim(emptyNeighborhood());
-    writeFuzzFile("Characters/user00001.iff", {data, size});
     sim.readRecord(std::span(record).first<neighborRecord::size>(), 0);
     promise(std::strlen(sim.name()) <= 99, "the length of a name");
     sim.guid();
     promise(sim.stage() >= stageNumber::pet && sim.stage() <= stageNumber::adult, "a stage");
-    if (const BodyStrings* body = sim.bodyStrings()) {
-        Bytes text(3000);
-        for (const int version : {6, 7}) {
-            promise(body->serialise(text, 1041, static_cast<std::int16_t>(version)) <= text.size(),
-                    "the length of a text");
-        }
-    }
+    const BodyStrings* body = sim.bodyStrings();
+    promise((body != nullptr) == sim.bodyStringsLoaded(), "body strings that were loaded");
+    if (body != nullptr) examineText(*body, room, limit, version);
     return 0;
 }
