@@ -26,8 +26,6 @@ class ClickPasser : public QObject {
         const auto* const click = dynamic_cast<QMouseEvent*>(event);
         QWindow* const owner = click == nullptr ? nullptr : ownerOfHiddenPopup(object);
         if (owner == nullptr) return false;
-        const QWindow* const modal = QGuiApplication::modalWindow();
-        if (modal != nullptr && modal != owner) return true;
         const QPointF place = click->globalPosition();
         QMouseEvent passed(click->type(), owner->mapFromGlobal(place), place, click->button(), click->buttons(),
                            click->modifiers());
