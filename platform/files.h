@@ -48,9 +48,9 @@ void syncDirectory(const char* path);
 
 // The new version of a file. It gets its name when it is complete, so that a process or a machine that stops half-way
 // leaves no part of it under that name. Natively it is a file without a name (O_TMPFILE); on Windows it has a name of
-// its own beside the other, "~partN.tmp" with the process's number, and a part that an ended process has left in a
-// directory goes when the next one is opened there. Not every file system can do this: FAT and some network and FUSE
-// file systems can't. There only `atOnce` works. A process may have one version at a time open in a directory.
+// its own beside the other, "~partN.tmp" with the process's number. Not every file system can do this: FAT and some
+// network and FUSE file systems can't. There only `atOnce` works. A process may have one version at a time open in a
+// directory.
 class NewVersion {
  public:
     enum class Naming { whenComplete, atOnce };
@@ -85,5 +85,9 @@ class NewVersion {
     struct State;
     std::unique_ptr<State> state_;
 };
+
+// Deletes the "~partN.tmp" files that processes left in `directory` because they ended half-way. Those of running
+// processes stay. Natively there are none.
+void deleteLeftOverParts(const char* directory);
 
 #endif

@@ -5,6 +5,16 @@
 #include "world/neighborhood.h"
 #include "world/tag_scan.h"
 
+namespace {
+
+// Looks in each directory that any save writes to: the one that was cut off may have got further than this one will.
+void deletePartsOfEarlierSaves() {
+    for (const char* directory : {".", "Backups", "Characters", "Characters\\Backups"})
+        deleteLeftOverParts(directory);
+}
+
+}  // namespace
+
 // Live files are never edited in place: the temporary file is finished first, then the live one goes to its backup,
 // then the temporary one takes the live name.
 void Neighborhood::save(const char* toolDirectory) {
@@ -13,6 +23,7 @@ void Neighborhood::save(const char* toolDirectory) {
     // would mean another neighborhood's.
     if (SetCurrentDirectoryA(directory_.c_str()) == FALSE) return;
     if (!isDirty()) return;
+    deletePartsOfEarlierSaves();
     const SavePath tempPath = joinPath(directory_, tempNeighborhoodName);
     if (writeTempFile(tempPath.c_str()) != 1) return;
     backupLiveFile();

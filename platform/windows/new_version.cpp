@@ -29,17 +29,6 @@ std::string directoryOf(const std::string& path) {
     return path.substr(0, path.find_last_of("\\/") + 1);
 }
 
-// Those that ended processes have left. A running one has its part open, so that the deletion is refused.
-void deleteOldParts(const std::string& directory) {
-    WIN32_FIND_DATAA found = {};
-    HANDLE const search = FindFirstFileA((directory + "~part*.tmp").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
-    do {
-        DeleteFileA((directory + found.cFileName).c_str());
-    } while (FindNextFileA(search, &found) != FALSE);
-    FindClose(search);
-}
-
 // Whether the file that has the name now may be replaced, or there is none.
 bool isReplaceable(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
@@ -87,7 +76,6 @@ std::FILE* NewVersion::open(Naming naming) {
         state_->stream = openFile(state_->path.c_str(), "wb");
         state_->isNamedPart = state_->stream != nullptr;
     } else if (isReplaceable(state_->path)) {
-        deleteOldParts(directoryOf(state_->path));
         state_->stream = openPart(state_->part);
     }
     return state_->stream;
@@ -121,4 +109,16 @@ void NewVersion::discard() {
     state_->close();
     if (isPart) DeleteFileA(state_->part.c_str());
     if (std::exchange(state_->isNamedPart, false)) DeleteFileA(state_->path.c_str());
+}
+
+// A running process has its part open, so Windows refuses to delete it.
+void deleteLeftOverParts(const char* directory) {
+    const std::string prefix = std::string(directory) + "\\";
+    WIN32_FIND_DATAA found = {};
+    HANDLE const search = FindFirstFileA((prefix + "~part*.tmp").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        DeleteFileA((prefix + found.cFileName).c_str());
+    } while (FindNextFileA(search, &found) != FALSE);
+    FindClose(search);
 }

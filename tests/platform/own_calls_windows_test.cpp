@@ -61,16 +61,3 @@ TEST(OwnCallsWindowsTest, AFileIsMadeAnewOnceNobodyElseHoldsTheDeletedOne) {
     closing.join();
     if (file != nullptr) std::fclose(file);
 }
-
-TEST(OwnCallsWindowsTest, AnEndedProcesssPartIsTakenAwayButNotARunningOnes) {
-    const TempDirectory directory;
-    directory.write("~part1.tmp", "left behind");
-    directory.write("~part2.tmp", "written just now");
-    HANDLE const writer =
-        CreateFileA(directory.path("~part2.tmp").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    NewVersion version(directory.path("new.iff").c_str());
-    EXPECT_NE(version.open(NewVersion::Naming::whenComplete), nullptr);
-    EXPECT_FALSE(directory.exists("~part1.tmp"));
-    EXPECT_TRUE(directory.exists("~part2.tmp"));
-    CloseHandle(writer);
-}
