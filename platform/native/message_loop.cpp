@@ -1,5 +1,6 @@
 #include "platform/native/message_loop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCursor>
 #include <QElapsedTimer>
@@ -48,6 +49,12 @@ class LoopScope {
 void runEvents(Loop loop, QEventLoop::ProcessEventsFlags flags) {
     const LoopScope scope(loop);
     QCoreApplication::processEvents(flags);
+}
+
+// Called after events that exclude the player's input. Qt keeps clicks and keys that come meanwhile, but the next wait
+// doesn't see them: a click during a save would take effect only when the mouse moves.
+void wakeForKeptInput() {
+    QAbstractEventDispatcher::instance()->wakeUp();
 }
 
 HWND windowThatWaits() {
@@ -113,7 +120,9 @@ void runModal(QWidget& box, const std::function<bool()>& open) {
 }
 
 void bringToScreen() {
-    if (innermost == Loop::none) runEvents(Loop::screen, QEventLoop::ExcludeUserInputEvents);
+    if (innermost != Loop::none) return;
+    runEvents(Loop::screen, QEventLoop::ExcludeUserInputEvents);
+    wakeForKeptInput();
 }
 
 void waitForScreen(const std::function<bool()>& done) {
@@ -124,6 +133,7 @@ void waitForScreen(const std::function<bool()>& done) {
     while (!done() && !timer.hasExpired(longestWaitForScreen)) {
         runEvents(Loop::screen, QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     }
+    wakeForKeptInput();
 }
 
 BOOL GetMessageA(MSG* message, HWND, UINT, UINT) {
