@@ -8,7 +8,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <iterator>
 #include <memory>
+#include <span>
 #include <thread>
 #include <utility>
 
@@ -78,6 +80,22 @@ std::set<unsigned> Desktop::shownWindows() const {
     return shown;
 }
 
+bool Desktop::hasDarkText(int x, int y) const {
+    constexpr int width = 60, height = 12, darkest = 80;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+    const auto asked =
+        xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, root, static_cast<std::int16_t>(x - width / 2),
+                      static_cast<std::int16_t>(y - height / 2), width, height, ~0U);
+    const std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> image(
+        xcb_get_image_reply(connection(), asked, nullptr), &std::free);
+    const std::uint8_t* const pixels = xcb_get_image_data(image.get());
+    for (int i = 0; i < width * height; ++i) {
+        const std::span colors(pixels + 4 * i, 3);
+        if (std::ranges::max(colors) < darkest) return true;
+    }
+    return false;
+}
+
 RunningProgram::RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop,
                                const char* windowsExe)
     : desktop_(desktop) {
@@ -107,17 +125,48 @@ void RunningProgram::clickAt(int x, int y) const {
     desktop_->act("mousemove " + std::to_string(x) + " " + std::to_string(y) + " click 1");
 }
 
-void RunningProgram::pickEntry(int comboTop, int index) const {
-    const std::string list = "list at " + std::to_string(comboTop) + ", entry " + std::to_string(index);
+bool RunningProgram::isButtonEnabled(int x, int aboveBottom) const {
+    return desktop_->hasDarkText(x, windowHeight_ - aboveBottom);
+}
+
+void RunningProgram::expectOnlyMoveOut() const {
+    waitUntil("Move Out is enabled", [this] { return isButtonEnabled(60, 35); });
+    EXPECT_FALSE(isButtonEnabled(60, 135) || isButtonEnabled(170, 135));
+}
+
+void RunningProgram::clickButton(const std::string& name, int x, int aboveBottom) const {
+    const auto isEnabled = [=, this] { return isButtonEnabled(x, aboveBottom); };
+    waitUntil(name + " is enabled", isEnabled);
     const std::set<unsigned> before = desktop_->shownWindows();
-    const auto listIsOpen = [&] { return !std::ranges::includes(before, desktop_->shownWindows()); };
-    clickAt(250, clientTop_ + comboTop + 10);
-    waitUntil(list + " opens", listIsOpen);
-    std::string keys = "key Home";
+    clickAt(x, windowHeight_ - aboveBottom);
+    waitUntil(name + " is disabled, or asks",
+              [&] { return !isEnabled() || !std::ranges::includes(before, desktop_->shownWindows()); });
+}
+
+void RunningProgram::chooseByKeys(const std::string& step, const std::function<void()>& open,
+                                  const std::string& keys) const {
+    const std::set<unsigned> before = desktop_->shownWindows();
+    std::set<unsigned> opened;
+    open();
+    waitUntil(step + " opens", [&] {
+        std::ranges::set_difference(desktop_->shownWindows(), before, std::inserter(opened, opened.end()));
+        return !opened.empty();
+    });
+    desktop_->act("key " + keys);
+    waitUntil(step + " closes", [&] {
+        std::set<unsigned> left;
+        std::ranges::set_intersection(desktop_->shownWindows(), opened, std::inserter(left, left.end()));
+        return left.empty();
+    });
+}
+
+void RunningProgram::pickEntry(int comboTop, int index) const {
+    std::string keys = "Home";
     for (int i = 0; i < index; ++i)
         keys += " Down";
-    desktop_->act(keys + " Return");
-    waitUntil(list + " closes", [&] { return !listIsOpen(); });
+    chooseByKeys(
+        "list at " + std::to_string(comboTop) + ", for entry " + std::to_string(index),
+        [=, this] { clickAt(250, clientTop_ + comboTop + 10); }, keys + " Return");
 }
 
 void RunningProgram::pick(int neighborhood, int family, int sim) const {
@@ -127,7 +176,8 @@ void RunningProgram::pick(int neighborhood, int family, int sim) const {
 }
 
 void RunningProgram::chooseFileItem(char mnemonic) const {
-    desktop_->act(std::string("key alt+f sleep 0.2 key ") + mnemonic + " sleep 0.3");  // at a hand's pace
+    chooseByKeys(
+        "File menu", [this] { desktop_->act("key alt+f"); }, std::string(1, mnemonic));
 }
 
 void RunningProgram::answerBox(const std::string& title, const std::string& key) const {

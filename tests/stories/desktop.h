@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <set>
 #include <string>
 
@@ -18,6 +19,9 @@ class Desktop : public XServer {
 
     // The windows that the screen shows, menus and lists among them.
     std::set<unsigned> shownWindows() const;
+
+    // Whether the middle of the button around this point of the screen has letters as dark as an enabled one's.
+    bool hasDarkText(int x, int y) const;
 };
 
 // The Windows program that the stories are told of, as a word of the shell, run by Wine in a prefix that serves for
@@ -36,9 +40,16 @@ class RunningProgram {
 
     // Picks entries down to a Sim, counted from 0.
     void pick(int neighborhood, int family, int sim) const;
-    void clickChildToTeen() const { clickButton(60, 135); }
-    void clickTeenToAdult() const { clickButton(170, 135); }
-    void clickMoveOut() const { clickButton(60, 35); }
+
+    // Each waits until the button is enabled, and after the click until it is disabled or asks a question.
+    void clickChildToTeen() const { clickButton("Child to Teen", 60, 135); }
+    void clickTeenToAdult() const { clickButton("Teen to Adult", 170, 135); }
+    void clickMoveOut() const { clickButton("Move Out", 60, 35); }
+
+    // Waits until "Move Out" is enabled; the two buttons of stages must be disabled then.
+    void expectOnlyMoveOut() const;
+
+    // Waits for the menu to open, and to close when the item is chosen.
     void chooseFileItem(char mnemonic) const;
 
     // Waits for a box whose title matches this pattern and presses the key in it; it must close.
@@ -53,7 +64,11 @@ class RunningProgram {
 
  private:
     void clickAt(int x, int y) const;
-    void clickButton(int x, int aboveBottom) const { clickAt(x, windowHeight_ - aboveBottom); }
+    bool isButtonEnabled(int x, int aboveBottom) const;
+    void clickButton(const std::string& name, int x, int aboveBottom) const;
+
+    // Waits for a list or a menu that `open` opens, presses the keys, and waits until it is closed.
+    void chooseByKeys(const std::string& step, const std::function<void()>& open, const std::string& keys) const;
     void pickEntry(int comboTop, int index) const;
 
     const Desktop* desktop_;
