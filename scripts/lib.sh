@@ -1,5 +1,5 @@
 # Shared by the scripts: what they need is installed here, once.
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034  # the packages are for the scripts
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -10,7 +10,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgte
 display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 wine_packages=(wine wine64 fonts-wine)
-check_packages=(git clang-format clang-tidy)
+check_packages=(git clang-format clang-tidy shellcheck)
 fuzz_packages=(clang libclang-rt-14-dev)
 
 say() { printf '%s\n' "$*"; }
