@@ -38,8 +38,9 @@ HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWOR
     InitCommonControls();
     HWND const window = CreateWindowExA(extendedStyle, className, windowName, style, x, y, width, height, parent, menu,
                                         instance, parameter);
-    if (window != nullptr && (style & WS_CHILD) != 0)
+    if (window != nullptr && (style & WS_CHILD) != 0) {
         SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(messageFont()), FALSE);
+    }
     return window;
 }
 

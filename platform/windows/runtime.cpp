@@ -27,8 +27,8 @@ ULONGLONG(WINAPI* const importedTickCount)() = tickCount;
 
 // The runtime's own names the exception on a console, which the program doesn't have, and takes 50,000 bytes for it.
 namespace __gnu_cxx {
-void __verbose_terminate_handler();
-void __verbose_terminate_handler() {
+void __verbose_terminate_handler();  // NOLINT(bugprone-reserved-identifier)
+void __verbose_terminate_handler() {  // NOLINT(bugprone-reserved-identifier)
     std::abort();
 }
 }  // namespace __gnu_cxx

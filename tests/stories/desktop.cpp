@@ -90,7 +90,7 @@ bool Desktop::hasDarkText(int x, int y) const {
         xcb_get_image_reply(connection(), asked, nullptr), &std::free);
     const std::uint8_t* const pixels = xcb_get_image_data(image.get());
     for (int i = 0; i < width * height; ++i) {
-        const std::span colors(pixels + 4 * i, 3);
+        const std::span colors(pixels + std::ptrdiff_t{4} * i, 3);
         if (std::ranges::max(colors) < darkest) return true;
     }
     return false;
