@@ -64,6 +64,16 @@ std::string Desktop::act(const std::string& arguments) const {
     return text.substr(0, text.find('\n'));
 }
 
+// xdotool itself gives up when a window goes while it looks.
+std::string Desktop::findWindow(const std::string& title) const {
+    std::string window;
+    waitUntil("a window " + title + " opens", [&] {
+        window = act("search --onlyvisible --name '^" + title + "$' 2>/dev/null || true");
+        return !window.empty();
+    });
+    return window;
+}
+
 std::set<unsigned> Desktop::shownWindows() const {
     const auto ask = [this](auto request, auto reply, xcb_window_t window) {
         return std::unique_ptr<std::remove_pointer_t<decltype(reply(connection(), {}, nullptr))>, decltype(&std::free)>(
@@ -88,6 +98,7 @@ bool Desktop::hasDarkText(int x, int y) const {
                       static_cast<std::int16_t>(y - height / 2), width, height, ~0U);
     const std::unique_ptr<xcb_get_image_reply_t, decltype(&std::free)> image(
         xcb_get_image_reply(connection(), asked, nullptr), &std::free);
+    if (image == nullptr) return false;
     const std::uint8_t* const pixels = xcb_get_image_data(image.get());
     for (int i = 0; i < width * height; ++i) {
         const std::span colors(pixels + std::ptrdiff_t{4} * i, 3);
@@ -110,8 +121,7 @@ RunningProgram::RunningProgram(const std::string& prefix, const std::string& too
                                           (buildDirectory() / "tidewright").string() + "' 2>&1 >/dev/null";
     process_ = popen(("cd '" + toolDirectory + "' && " + command).c_str(), "r");
     if (desktop == nullptr) return;
-    window_ = desktop_->act(
-        "search --sync --onlyvisible --name '^(Tidewright|.*Sims|Installation Problem|Missing Config Files)$'");
+    window_ = desktop_->findWindow("(Tidewright|.*Sims|Installation Problem|Missing Config Files)");
     windowHeight_ = std::atoi(desktop_->act("getwindowgeometry --shell " + window_ + " | sed -n s/HEIGHT=//p").c_str());
     clientTop_ = windowsExe != nullptr ? wineClientTop : windowHeight_ - nativeClientHeight;
     desktop_->act("windowmove --sync " + window_ + " 0 0 windowfocus --sync " + window_);
@@ -181,7 +191,7 @@ void RunningProgram::chooseFileItem(char mnemonic) const {
 }
 
 void RunningProgram::answerBox(const std::string& title, const std::string& key) const {
-    const std::string box = desktop_->act("search --sync --onlyvisible --name '^" + title + "$'");
+    const std::string box = desktop_->findWindow(title);
     desktop_->act("windowfocus --sync " + box + " key " + key + "; while xdotool getwindowname " + box +
                   " >/dev/null 2>&1; do sleep 0.1; done");
 }

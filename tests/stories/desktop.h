@@ -17,6 +17,9 @@ class Desktop : public XServer {
     // Runs xdotool with these arguments and returns the first line of what it prints; a failure fails the test.
     std::string act(const std::string& arguments) const;
 
+    // Waits for a visible window whose title matches this pattern; its number for xdotool.
+    std::string findWindow(const std::string& title) const;
+
     // The windows that the screen shows, menus and lists among them.
     std::set<unsigned> shownWindows() const;
 
