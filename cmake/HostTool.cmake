@@ -13,7 +13,7 @@ function(add_host_tool name)
             get_filename_component(source "${source}" ABSOLUTE)
             list(APPEND sources "${source}")
         endforeach()
-        file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+        file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.h" "${PROJECT_SOURCE_DIR}/gamefiles/*.h")
         add_custom_command(
             OUTPUT "${program}"
             COMMAND "${TIDEWRIGHT_HOST_CXX}" -std=c++20 -O2 -I "${PROJECT_SOURCE_DIR}" ${sources} -o "${program}"

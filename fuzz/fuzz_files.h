@@ -9,7 +9,7 @@
 #include <span>
 #include <string>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 using FuzzInput = std::span<const std::uint8_t>;
 

@@ -2,8 +2,8 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "sample/file_writing.h"
-#include "sample/neighborhood_file.h"
+#include "gamefiles/file_writing.h"
+#include "gamefiles/neighborhood_file.h"
 
 namespace {
 

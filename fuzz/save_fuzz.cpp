@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "fuzz/fuzz_files.h"
+#include "gamefiles/neighborhood_file.h"
 #include "sample/data_files.h"
-#include "sample/neighborhood_file.h"
 #include "save/backup_names.h"
 #include "world/neighborhood.h"
 

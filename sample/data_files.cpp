@@ -1,10 +1,10 @@
 #include "sample/data_files.h"
 
-#include "sample/character_chunks.h"
-#include "sample/character_file.h"
-#include "sample/file_writing.h"
-#include "sample/neighborhood_file.h"
-#include "sample/text_chunk.h"
+#include "gamefiles/character_chunks.h"
+#include "gamefiles/character_file.h"
+#include "gamefiles/file_writing.h"
+#include "gamefiles/neighborhood_file.h"
+#include "gamefiles/text_chunk.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 // "Template.iff", a whole character file of an adult. The program writes over five fields of it and nothing else, so
 // its chunks stand where the program expects them: "OBJD" at 3976, "CTSS" at 4268, "STR#" 200 at 54016. There is room

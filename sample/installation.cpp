@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include "sample/file_writing.h"
+#include "gamefiles/file_writing.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 
 #include <filesystem>
 
+#include "gamefiles/character_file.h"
+#include "gamefiles/neighborhood_file.h"
 #include "sample/cast.h"
-#include "sample/character_file.h"
-#include "sample/neighborhood_file.h"
 #include "sample/wine_prefix.h"
 
 // Writes the prefix with the neighborhoods of sampleCast(). The directory is emptied first, on the terms of

@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <string_view>
 
+#include "gamefiles/file_writing.h"
 #include "sample/data_files.h"
-#include "sample/file_writing.h"
 #include "sample/installation.h"
 #include "sample/skin_file.h"
 

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "sample/file_writing.h"
+#include "gamefiles/file_writing.h"
 #include "sample/skin_file.h"
 
 namespace {

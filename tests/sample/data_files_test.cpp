@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "sample/bodies.h"
+#include "gamefiles/bodies.h"
 #include "tests/support/iff_walk.h"
 
 namespace {

@@ -12,8 +12,8 @@
 #include <string>
 #include <string_view>
 
-#include "sample/byte_writer.h"
-#include "sample/file_writing.h"
+#include "gamefiles/byte_writer.h"
+#include "gamefiles/file_writing.h"
 
 inline Bytes bytesFrom(std::string_view text) {
     return ByteWriter().text(text).written();

@@ -9,7 +9,7 @@
 #include <map>
 #include <string>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 using Tree = std::map<std::string, Bytes>;
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "sample/bodies.h"
+#include "gamefiles/bodies.h"
 #include "tests/support/test_stream.h"
 
 namespace {

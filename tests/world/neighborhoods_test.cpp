@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "sample/neighborhood_file.h"
+#include "gamefiles/neighborhood_file.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
 #include "ui/status_line.h"

@@ -6,7 +6,7 @@
 #include <csignal>
 #include <cstdlib>
 
-#include "sample/file_writing.h"
+#include "gamefiles/file_writing.h"
 
 namespace {
 

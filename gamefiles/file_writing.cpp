@@ -1,4 +1,4 @@
-#include "sample/file_writing.h"
+#include "gamefiles/file_writing.h"
 
 #include <fstream>
 

@@ -1,4 +1,4 @@
-#include "sample/bodies.h"
+#include "gamefiles/bodies.h"
 
 namespace {
 

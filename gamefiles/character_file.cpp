@@ -1,7 +1,7 @@
-#include "sample/character_file.h"
+#include "gamefiles/character_file.h"
 
-#include "sample/character_chunks.h"
-#include "sample/text_chunk.h"
+#include "gamefiles/character_chunks.h"
+#include "gamefiles/text_chunk.h"
 
 namespace {
 

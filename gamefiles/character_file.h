@@ -1,7 +1,7 @@
 // Whole character files, the game's files of one Sim each, for the samples and for tests. A default SampleCharacter
 // makes a valid file; every field that a reader looks at can be set, and a part can be left out.
-#ifndef SAMPLE_CHARACTER_FILE_H
-#define SAMPLE_CHARACTER_FILE_H
+#ifndef GAMEFILES_CHARACTER_FILE_H
+#define GAMEFILES_CHARACTER_FILE_H
 
 #include <cstddef>
 #include <cstdint>
@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "sample/bitmap.h"
-#include "sample/bodies.h"
-#include "sample/body_string_text.h"
-#include "sample/iff_builder.h"
+#include "gamefiles/bitmap.h"
+#include "gamefiles/bodies.h"
+#include "gamefiles/body_string_text.h"
+#include "gamefiles/iff_builder.h"
 
 // The GUID of every default sample Sim. No byte of it is zero, and its 4 bytes in a file read "\x01\x11WT".
 constexpr std::uint32_t sampleGuid = 0x54571101;

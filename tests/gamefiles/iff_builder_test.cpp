@@ -1,8 +1,8 @@
-#include "sample/iff_builder.h"
+#include "gamefiles/iff_builder.h"
 
 #include <gtest/gtest.h>
 
-#include "sample/text_chunk.h"
+#include "gamefiles/text_chunk.h"
 #include "tests/support/iff_walk.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // What the Sims of the samples wear: the 50 body-string slots of an adult, a teen, a child and a pet.
-#ifndef SAMPLE_BODIES_H
-#define SAMPLE_BODIES_H
+#ifndef GAMEFILES_BODIES_H
+#define GAMEFILES_BODIES_H
 
 #include <string>
 
-#include "sample/body_string_text.h"
+#include "gamefiles/body_string_text.h"
 
 enum class BodySex { male, female };
 

@@ -1,4 +1,4 @@
-#include "sample/iff_builder.h"
+#include "gamefiles/iff_builder.h"
 
 #include <algorithm>
 

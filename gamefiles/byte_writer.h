@@ -1,7 +1,7 @@
 // Bytes of a file in the making. The sample files are written through this one place, which the program knows nothing
 // of: a slip in the program's byte order can't hide behind the same slip in its samples.
-#ifndef SAMPLE_BYTE_WRITER_H
-#define SAMPLE_BYTE_WRITER_H
+#ifndef GAMEFILES_BYTE_WRITER_H
+#define GAMEFILES_BYTE_WRITER_H
 
 #include <cstddef>
 #include <cstdint>

@@ -1,11 +1,11 @@
 // Writing the finished files of the sample.
-#ifndef SAMPLE_FILE_WRITING_H
-#define SAMPLE_FILE_WRITING_H
+#ifndef GAMEFILES_FILE_WRITING_H
+#define GAMEFILES_FILE_WRITING_H
 
 #include <filesystem>
 #include <string_view>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 // Writes the file anew, byte for byte; its directory must exist. False if that fails.
 bool writeFile(const std::filesystem::path& path, const Bytes& bytes);

@@ -1,11 +1,11 @@
 // Pictures for the sample's "BMP_" chunks: whole Windows bitmap files.
-#ifndef SAMPLE_BITMAP_H
-#define SAMPLE_BITMAP_H
+#ifndef GAMEFILES_BITMAP_H
+#define GAMEFILES_BITMAP_H
 
 #include <cstddef>
 #include <cstdint>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 // Colours as 0xRRGGBB. None of the bytes may be A3: five in a row mark the end of a Sim's body strings.
 struct PortraitColors {

@@ -1,14 +1,14 @@
 // The chunks that a Sim's character file holds beside its name and body strings: the Sim's behaviour, its object
 // definition and its pictures, with the ids, labels and sizes that the game's own files have.
-#ifndef SAMPLE_CHARACTER_CHUNKS_H
-#define SAMPLE_CHARACTER_CHUNKS_H
+#ifndef GAMEFILES_CHARACTER_CHUNKS_H
+#define GAMEFILES_CHARACTER_CHUNKS_H
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
-#include "sample/bitmap.h"
-#include "sample/iff_builder.h"
+#include "gamefiles/bitmap.h"
+#include "gamefiles/iff_builder.h"
 
 constexpr std::uint16_t characterObjectId = 128;
 constexpr std::uint16_t characterNameId = 2000;

@@ -1,13 +1,13 @@
 // The text of a Sim's body strings, built from its slots: what stands in a character file behind the word "adult" or
 // "child". Written from the format alone, so that tests can hold the program's own text against it.
-#ifndef SAMPLE_BODY_STRING_TEXT_H
-#define SAMPLE_BODY_STRING_TEXT_H
+#ifndef GAMEFILES_BODY_STRING_TEXT_H
+#define GAMEFILES_BODY_STRING_TEXT_H
 
 #include <array>
 #include <cstddef>
 #include <string>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 // 50 texts in the order in which the entries 1 to 33 name them; a pair takes two.
 using BodySlots = std::array<std::string, 50>;

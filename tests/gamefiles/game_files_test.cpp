@@ -1,7 +1,7 @@
 // The places of the fields in the pieces of the builders' files, worked out by hand.
 #include <gtest/gtest.h>
 
-#include "sample/neighborhood_file.h"
+#include "gamefiles/neighborhood_file.h"
 #include "tests/support/iff_walk.h"
 
 namespace {

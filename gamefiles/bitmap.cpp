@@ -1,4 +1,4 @@
-#include "sample/bitmap.h"
+#include "gamefiles/bitmap.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 #include <algorithm>
 

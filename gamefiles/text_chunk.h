@@ -1,13 +1,13 @@
 // Content of the game's text chunks: "STR#", "CTSS" and "FAMs".
-#ifndef SAMPLE_TEXT_CHUNK_H
-#define SAMPLE_TEXT_CHUNK_H
+#ifndef GAMEFILES_TEXT_CHUNK_H
+#define GAMEFILES_TEXT_CHUNK_H
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 // The byte with which the game's own tools fill what strings leave over.
 constexpr std::uint8_t textFill = 0xA3;

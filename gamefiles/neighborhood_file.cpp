@@ -1,8 +1,8 @@
-#include "sample/neighborhood_file.h"
+#include "gamefiles/neighborhood_file.h"
 
 #include <algorithm>
 
-#include "sample/text_chunk.h"
+#include "gamefiles/text_chunk.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "sample/character_chunks.h"
+#include "gamefiles/character_chunks.h"
 
-#include "sample/text_chunk.h"
+#include "gamefiles/text_chunk.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "sample/body_string_text.h"
+#include "gamefiles/body_string_text.h"
 
-#include "sample/text_chunk.h"
+#include "gamefiles/text_chunk.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "sample/text_chunk.h"
+#include "gamefiles/text_chunk.h"
 
 Bytes textChunkContent(const std::vector<std::string>& texts, std::size_t size) {
     constexpr int usEnglish = 1;

@@ -1,14 +1,14 @@
 // Builds the game's container: a header of 64 bytes, then chunks one behind the other, as a rule with a resource map
 // as the last of them. What stands in the chunks is the caller's.
-#ifndef SAMPLE_IFF_BUILDER_H
-#define SAMPLE_IFF_BUILDER_H
+#ifndef GAMEFILES_IFF_BUILDER_H
+#define GAMEFILES_IFF_BUILDER_H
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "sample/byte_writer.h"
+#include "gamefiles/byte_writer.h"
 
 constexpr std::size_t iffHeaderSize = 64;
 constexpr std::size_t iffChunkHeaderSize = 76;

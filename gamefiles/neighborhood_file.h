@@ -1,7 +1,7 @@
 // Whole neighborhood files, the game's lists of neighbours and families, for the samples and for tests. The defaults
 // of every struct make a valid file.
-#ifndef SAMPLE_NEIGHBORHOOD_FILE_H
-#define SAMPLE_NEIGHBORHOOD_FILE_H
+#ifndef GAMEFILES_NEIGHBORHOOD_FILE_H
+#define GAMEFILES_NEIGHBORHOOD_FILE_H
 
 #include <array>
 #include <cstddef>
@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "sample/character_file.h"
-#include "sample/iff_builder.h"
+#include "gamefiles/character_file.h"
+#include "gamefiles/iff_builder.h"
 
 struct SampleRelationship {
     std::uint32_t neighborId = 0;
