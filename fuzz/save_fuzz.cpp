@@ -6,9 +6,9 @@
 #include <system_error>
 #include <utility>
 
+#include "data/data_files.h"
 #include "fuzz/fuzz_files.h"
 #include "gamefiles/neighborhood_file.h"
-#include "sample/data_files.h"
 #include "save/backup_names.h"
 #include "world/neighborhood.h"
 

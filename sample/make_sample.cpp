@@ -1,14 +1,11 @@
-// Writes the program's data files, or a sample installation of the game.
+// Writes a sample installation of the game.
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <string_view>
 
-#include "gamefiles/file_writing.h"
-#include "sample/data_files.h"
 #include "sample/installation.h"
-#include "sample/skin_file.h"
 
 namespace {
 
@@ -16,8 +13,6 @@ constexpr int badUsage = 2;
 
 int usage() {
     std::fputs(
-        "make_sample data DIR                    write Template.iff and famtemplate into DIR\n"
-        "make_sample skin DIR                    write the skin that the game's GameData/Skins must have into DIR\n"
         "make_sample installation DIR            make DIR a Wine prefix with a small installation of the game\n"
         "make_sample large DIR [NEIGHBORHOODS]   the same of a real size, with 1 to 100 neighborhoods (3)\n",
         stderr);
@@ -30,16 +25,10 @@ int report(bool written, const char* directory) {
     return EXIT_FAILURE;
 }
 
-bool writeSkin(const std::filesystem::path& directory) {
-    return writeFile(directory / packageSkinName, packageSkin());
-}
-
 int run(int count, char** arguments) {
     if (count < 3) return usage();
     const std::string_view command = arguments[1];
     const char* directory = arguments[2];
-    if (command == "data" && count == 3) return report(writeDataFiles(directory), directory);
-    if (command == "skin" && count == 3) return report(writeSkin(directory), directory);
     if (command == "installation" && count == 3) return report(writeInstallation(directory), directory);
     const long neighborhoods = count == 4 ? std::strtol(arguments[3], nullptr, 10) : 3;
     if (command != "large" || count > 4 || neighborhoods < 1 || neighborhoods > 100) return usage();

@@ -3,8 +3,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "data/skin_file.h"
 #include "gamefiles/file_writing.h"
-#include "sample/skin_file.h"
 
 namespace {
 

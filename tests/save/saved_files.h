@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "sample/data_files.h"
+#include "data/data_files.h"
 #include "save/backup_names.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/tree.h"

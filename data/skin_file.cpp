@@ -1,4 +1,4 @@
-#include "sample/skin_file.h"
+#include "data/skin_file.h"
 
 std::string_view packageSkin() {
     // In order: mesh, texture, bones, triangles (counter-clockwise from outside), bindings (bone, first vertex, count,

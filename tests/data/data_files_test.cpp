@@ -1,4 +1,4 @@
-#include "sample/data_files.h"
+#include "data/data_files.h"
 
 #include <gtest/gtest.h>
 

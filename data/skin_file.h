@@ -1,6 +1,6 @@
 // The head that the program's package puts into the game's directory; the program looks for it at its start.
-#ifndef SAMPLE_SKIN_FILE_H
-#define SAMPLE_SKIN_FILE_H
+#ifndef DATA_SKIN_FILE_H
+#define DATA_SKIN_FILE_H
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 // The two binary files that lie beside the program: what it makes character files and family records from.
-#ifndef SAMPLE_DATA_FILES_H
-#define SAMPLE_DATA_FILES_H
+#ifndef DATA_DATA_FILES_H
+#define DATA_DATA_FILES_H
 
 #include <filesystem>
 
