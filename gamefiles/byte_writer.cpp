@@ -44,8 +44,3 @@ ByteWriter& ByteWriter::fillTo(std::size_t size, std::uint8_t value) {
     bytes_.resize(std::max(size, bytes_.size()), value);
     return *this;
 }
-
-void putU32Be(Bytes& bytes, std::size_t offset, std::int64_t value) {
-    const Bytes number = ByteWriter().u32Be(value).written();
-    std::copy(number.begin(), number.end(), bytes.begin() + static_cast<std::ptrdiff_t>(offset));
-}

@@ -1,5 +1,5 @@
-// Bytes of a file in the making. The sample files are written through this one place, which the program knows nothing
-// of: a slip in the program's byte order can't hide behind the same slip in its samples.
+// Writes the bytes of the game's files. The program's own reading and writing share no code with it, so a test that
+// compares the two finds a wrong byte order in either.
 #ifndef GAMEFILES_BYTE_WRITER_H
 #define GAMEFILES_BYTE_WRITER_H
 
@@ -10,7 +10,7 @@
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Appends to a growing run of bytes. Numbers are given wide and written narrow: each call takes the low bits.
+// Appends to a growing sequence of bytes. A number that is too large for its width loses its high bits.
 class ByteWriter {
  public:
     ByteWriter& u8(std::int64_t value);
@@ -19,12 +19,12 @@ class ByteWriter {
     ByteWriter& u16Be(std::int64_t value);
     ByteWriter& u32Be(std::int64_t value);
 
-    // The characters, without a terminator.
+    // The characters without a terminator.
     ByteWriter& text(std::string_view characters);
-    // The characters, cut at `width`, with zero bytes up to `width`.
+    // Exactly `width` bytes: the characters, cut or followed by zero bytes.
     ByteWriter& field(std::string_view characters, std::size_t width);
     ByteWriter& bytes(const Bytes& more);
-    // `value` over and over, until `size` bytes stand here; nothing if there are as many already.
+    // Appends `value` until there are `size` bytes in all. Does nothing if there are as many already.
     ByteWriter& fillTo(std::size_t size, std::uint8_t value = 0);
 
     std::size_t size() const { return bytes_.size(); }
@@ -33,8 +33,5 @@ class ByteWriter {
  private:
     Bytes bytes_;
 };
-
-// Overwrites 4 bytes at `offset`, high byte first. They must be there.
-void putU32Be(Bytes& bytes, std::size_t offset, std::int64_t value);
 
 #endif

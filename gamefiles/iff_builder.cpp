@@ -5,16 +5,23 @@
 namespace {
 
 constexpr std::size_t mapOffsetField = 60;
+constexpr std::size_t typeSize = 4;
+constexpr std::size_t labelSize = 64;
 constexpr std::uint16_t bodyStringsId = 200;
+
+// What a deleted chunk leaves in the header of the free room.
+constexpr std::uint16_t deletedId = 4101;
+constexpr const char* deletedLabel = "old tree";
 
 bool isBodyStrings(const IffChunk& chunk) {
     return chunk.type == "STR#" && chunk.id == bodyStringsId;
 }
 
+// The label takes an even number of bytes, its terminator included.
 void writeMapEntry(ByteWriter& map, const IffChunk& header, std::size_t offset) {
     map.u32Le(static_cast<std::int64_t>(offset)).u16Le(header.id).u16Le(header.flags);
-    const std::size_t labelSize = header.label.size() + 1;
-    map.field(header.label, labelSize + labelSize % 2);
+    const std::size_t terminated = header.label.size() + 1;
+    map.field(header.label, terminated + terminated % 2);
 }
 
 }  // namespace
@@ -31,11 +38,11 @@ IffBuilder::IffBuilder() {
 std::size_t IffBuilder::append(const IffChunk& chunk) {
     const std::size_t offset = file_.size();
     const Bytes bytes = ByteWriter()
-                            .field(chunk.type, 4)
+                            .field(chunk.type, typeSize)
                             .u32Be(static_cast<std::int64_t>(iffChunkHeaderSize + chunk.content.size()))
                             .u16Be(chunk.id)
                             .u16Be(chunk.flags)
-                            .field(chunk.label, 64)
+                            .field(chunk.label, labelSize)
                             .bytes(chunk.content)
                             .written();
     file_.insert(file_.end(), bytes.begin(), bytes.end());
@@ -49,48 +56,45 @@ std::size_t IffBuilder::add(const IffChunk& chunk) {
 }
 
 std::size_t IffBuilder::addFreeRoom(std::size_t size) {
-    return append({.type = "XXXX", .id = 4101, .label = "old tree", .content = Bytes(size - iffChunkHeaderSize)});
+    return append(
+        {.type = "XXXX", .id = deletedId, .label = deletedLabel, .content = Bytes(size - iffChunkHeaderSize)});
 }
 
 void IffBuilder::padTo(std::size_t offset) {
     if (offset > size()) addFreeRoom(offset - size());
 }
 
-std::vector<IffBuilder::MapType> IffBuilder::entriesByType() const {
-    // The entry of the body strings comes first of all. Readers find it by its id and flags, the run 00 C8 00 10 with
-    // the high byte of its offset, and an offset or a label further up could hold that run by accident.
+Bytes IffBuilder::mapContent() const {
+    // The entry of the body strings comes first of all. Readers find it by the bytes 00 C8 00 10: the high byte of its
+    // offset, its id and its flags. An earlier offset or label could contain the same bytes by chance.
     std::vector<MapEntry> entries = entries_;
-    std::stable_partition(entries.begin(), entries.end(),
-                          [](const MapEntry& entry) { return isBodyStrings(entry.header); });
-    std::vector<MapType> types;
-    for (const MapEntry& entry : entries) {
-        auto type = std::find_if(types.begin(), types.end(),
-                                 [&entry](const MapType& known) { return known.type == entry.header.type; });
-        if (type == types.end()) type = types.insert(types.end(), {entry.header.type, {}});
-        type->entries.push_back(entry);
+    std::ranges::stable_partition(entries, isBodyStrings, &MapEntry::header);
+    // The entries of each type together, the types in the order of their first entries.
+    ByteWriter list;
+    std::int64_t typeCount = 0;
+    while (!entries.empty()) {
+        const std::string type = entries.front().header.type;
+        const auto others = std::ranges::stable_partition(
+            entries, [&type](const MapEntry& entry) { return entry.header.type == type; });
+        list.text(std::string(type.rbegin(), type.rend())).u32Le(others.begin() - entries.begin());
+        std::for_each(entries.begin(), others.begin(),
+                      [&list](const MapEntry& entry) { writeMapEntry(list, entry.header, entry.offset); });
+        entries.erase(entries.begin(), others.begin());
+        ++typeCount;
     }
-    return types;
+    return ByteWriter()
+        .u32Le(0)
+        .u32Le(0)
+        .text("pmsr")
+        .u32Le(static_cast<std::int64_t>(list.size()))
+        .u32Le(typeCount)
+        .bytes(list.written())
+        .written();
 }
 
 std::size_t IffBuilder::addMap() {
-    const std::vector<MapType> types = entriesByType();
-    ByteWriter list;
-    for (const MapType& type : types) {
-        list.text(std::string(type.type.rbegin(), type.type.rend()))
-            .u32Le(static_cast<std::int64_t>(type.entries.size()));
-        for (const MapEntry& entry : type.entries) {
-            writeMapEntry(list, entry.header, entry.offset);
-        }
-    }
-    const Bytes content = ByteWriter()
-                              .u32Le(0)
-                              .u32Le(0)
-                              .text("pmsr")
-                              .u32Le(static_cast<std::int64_t>(list.size()))
-                              .u32Le(static_cast<std::int64_t>(types.size()))
-                              .bytes(list.written())
-                              .written();
-    const std::size_t offset = append({.type = "rsmp", .content = content});
-    putU32Be(file_, mapOffsetField, static_cast<std::int64_t>(offset));
+    const std::size_t offset = append({.type = "rsmp", .content = mapContent()});
+    const Bytes field = ByteWriter().u32Be(static_cast<std::int64_t>(offset)).written();
+    std::ranges::copy(field, file_.begin() + mapOffsetField);
     return offset;
 }

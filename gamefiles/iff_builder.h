@@ -1,5 +1,5 @@
-// Builds the game's container: a header of 64 bytes, then chunks one behind the other, as a rule with a resource map
-// as the last of them. What stands in the chunks is the caller's.
+// Builds the game's container, the IFF file: a header of 64 bytes, then chunks without gaps. The last chunk is usually
+// a resource map, which lists the others. The contents of the chunks are up to the caller.
 #ifndef GAMEFILES_IFF_BUILDER_H
 #define GAMEFILES_IFF_BUILDER_H
 
@@ -21,22 +21,24 @@ struct IffChunk {
     std::uint16_t flags = 0x0010;
 };
 
+// All offsets count from the start of the file.
 class IffBuilder {
  public:
     IffBuilder();
 
-    // Appends a chunk and returns the file offset of its first letter.
+    // Appends a chunk and returns the offset of its header.
     std::size_t add(const IffChunk& chunk);
 
-    // Appends a chunk of type "XXXX", the free room of a chunk that the game deleted: `size` bytes with its header
-    // (at least 76), the label stale, and no entry in the resource map. Returns its file offset.
+    // Appends free room, the remains of a chunk that the game deleted: `size` bytes with the header, so at least 76.
+    // Its type is "XXXX", its id and label are those of the old chunk, and the resource map doesn't list it. Returns
+    // its offset.
     std::size_t addFreeRoom(std::size_t size);
 
-    // Free room up to the file offset `offset`, which lies at least 76 bytes behind the end or at the end itself.
+    // Appends free room that ends at `offset`. Does nothing if the file ends there already.
     void padTo(std::size_t offset);
 
-    // Appends the resource map of all chunks added so far, and notes its place in the file's header, where it stands
-    // with its high byte first. Returns its file offset. The last call; without it the header says 0, "no map".
+    // Appends the resource map and writes its offset into the file's header. Nothing may be added after it. Without a
+    // map that field is 0. Returns the offset.
     std::size_t addMap();
 
     std::size_t size() const { return file_.size(); }
@@ -47,13 +49,9 @@ class IffBuilder {
         IffChunk header;  // without content
         std::size_t offset = 0;
     };
-    struct MapType {
-        std::string type = {};
-        std::vector<MapEntry> entries = {};
-    };
 
     std::size_t append(const IffChunk& chunk);
-    std::vector<MapType> entriesByType() const;
+    Bytes mapContent() const;
 
     Bytes file_;
     std::vector<MapEntry> entries_;
