@@ -17,8 +17,9 @@ static_assert(templateObject + objectChunkSize == templateName);
 // takes one of its bytes or 63.
 IffChunk templateNameChunk() {
     constexpr std::size_t nameSize = 64;
-    ByteWriter content;
-    content.u8(0xFD).u8(0xFF).u16Le(2).u8(1).field("Sim", nameSize).fillTo(5 + nameSize + 7);
+    constexpr std::size_t zerosBehind = 7;
+    ByteWriter content = beginTextChunk(2);
+    content.u8(usEnglish).field("Sim", nameSize).fillTo(firstTextOffset + nameSize + zerosBehind);
     return {.type = "CTSS", .id = characterNameId, .content = content.written()};
 }
 
@@ -60,8 +61,8 @@ Bytes makeFamilyTemplate() {
                                  .friends = 0,
                                  .flags = 24,  // as the game leaves a family fresh from creation
                                  .trailingNumbers = 1};
-    ByteWriter name;
-    name.u8(0xFD).u8(0xFF).u16Le(1).u8(1).fillTo(nameContentSize - pad).fillTo(nameContentSize, textFill);
+    ByteWriter name = beginTextChunk(1);
+    name.u8(usEnglish).fillTo(nameContentSize - pad).fillTo(nameContentSize, textFill);
     IffBuilder file;
     file.add(sampleFamilyChunk(family));
     file.add({.type = "FAMs", .content = name.written()});

@@ -1,5 +1,7 @@
 #include "gamefiles/bodies.h"
 
+#include <utility>
+
 namespace {
 
 void setPair(BodySlots& slots, std::size_t meshSlot, const std::string& mesh, const std::string& skin) {
@@ -7,30 +9,29 @@ void setPair(BodySlots& slots, std::size_t meshSlot, const std::string& mesh, co
     slots[meshSlot + 1] = skin;
 }
 
-// Anchors, gender, age and tone words, and the hands: the same for all ages. `letter` picks the game's hands: m, f or
-// u.
-BodySlots commonSlots(BodySex sex, const std::string& tone, const std::string& ageText, char letter) {
+// Sets what all ages have: anchors, gender, age and tone, and the six hands. `hands` is the letter in the names of the
+// game's hands: m, f, or u for children.
+BodySlots commonSlots(BodySex sex, const std::string& tone, const std::string& age, char hands) {
     BodySlots slots;
-    slots[4] = "HEAD";
-    slots[5] = "Top";
-    slots[6] = "R_HAND";
-    slots[7] = "Palm";
+    std::size_t slot = sampleSlot::firstAnchor;
+    for (const char* anchor : {"HEAD", "Top", "R_HAND", "Palm"}) {
+        slots[slot++] = anchor;
+    }
     slots[sampleSlot::gender] = sex == BodySex::female ? "female" : "male";
-    slots[sampleSlot::ageText] = ageText;
+    slots[sampleSlot::ageText] = age;
     slots[sampleSlot::skinTone] = tone;
-    const std::string hand = std::string("H") + letter;
-    std::size_t slot = sampleSlot::handLOMesh;
-    for (const char pose : {'O', 'P', 'C'}) {
-        const char lower = static_cast<char>(pose - 'A' + 'a');
+    slot = sampleSlot::handLOMesh;
+    constexpr std::pair<char, const char*> poses[] = {{'O', "huao"}, {'P', "huap"}, {'C', "huac"}};
+    for (const auto& [pose, skin] : poses) {  // open, pointing, closed
         for (const char side : {'L', 'R'}) {
-            setPair(slots, slot, hand + side + pose + ",HAND", std::string("hua") + lower + tone);
+            setPair(slots, slot, std::string({'H', hands, side, pose}) + ",HAND", skin + tone);
             slot += 2;
         }
     }
     return slots;
 }
 
-// Winter, summer, lounge and formal wear: the pairs of the entries 30 to 33. `build` names sex and build ("mafit").
+// Sets formal, summer, lounge and winter wear, the pairs of entries 30 to 33. `build` is sex, age and build ("mafit").
 void setSeasonalOutfits(BodySlots& slots, const std::string& build, const std::string& tone) {
     std::size_t slot = sampleSlot::f100Mesh;
     for (const char occasion : {'f', 's', 'l', 'w'}) {
@@ -40,14 +41,14 @@ void setSeasonalOutfits(BodySlots& slots, const std::string& build, const std::s
     }
 }
 
-BodySlots grownSlots(BodySex sex, const std::string& tone, const std::string& ageText, const std::string& build) {
+BodySlots grownSlots(BodySex sex, const std::string& tone, const std::string& age, const std::string& build) {
     const std::string letter = sex == BodySex::female ? "f" : "m";
-    BodySlots slots = commonSlots(sex, tone, ageText, letter.front());
+    BodySlots slots = commonSlots(sex, tone, age, letter.front());
     setPair(slots, sampleSlot::nBodyMesh, "n" + letter + build + "_01,BODY", "n" + letter + build + tone + "_01");
     setPair(slots, sampleSlot::uBodyMesh, "n" + letter + build + "_01,BODY", "u" + letter + build + tone + "_lguard01");
     setPair(slots, sampleSlot::fBodyMesh, "f" + letter + build + "_01,BODY", "f" + letter + build + tone + "_01");
     setPair(slots, sampleSlot::fHandLOMesh, "HmLO,HAND", "gmao_yeti");
-    setPair(slots, sampleSlot::fHandLOMesh + 2, "HmRO,HAND", "gmao_yeti");
+    setPair(slots, sampleSlot::fHandROMesh, "HmRO,HAND", "gmao_yeti");
     setSeasonalOutfits(slots, letter + "a" + build, tone);
     return slots;
 }
@@ -91,7 +92,7 @@ BodySlots childSlots(BodySex sex, const std::string& tone) {
         setHead(slots, "c001mc_ave,HEAD-HEAD", "c001mc" + tone + "_altblond");
     }
     setPair(slots, sampleSlot::fHandLOMesh, "HuLO,HAND", "huao" + tone);
-    setPair(slots, sampleSlot::fHandLOMesh + 2, "HuRO,HAND", "huao" + tone);
+    setPair(slots, sampleSlot::fHandROMesh, "HuRO,HAND", "huao" + tone);
     return slots;
 }
 

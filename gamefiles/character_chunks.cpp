@@ -1,5 +1,6 @@
 #include "gamefiles/character_chunks.h"
 
+#include "gamefiles/body_string_text.h"
 #include "gamefiles/text_chunk.h"
 
 namespace {
@@ -99,7 +100,7 @@ IffChunk objectChunk(const std::string& label, std::uint32_t guid) {
     ByteWriter content;
     content.u32Le(definitionVersion).fillTo(objectType).u16Le(person);
     content.fillTo(guidField).u32Le(guid);
-    content.fillTo(bodyStringsField).u16Le(characterBodyStringsId).u16Le(characterObjectId);
+    content.fillTo(bodyStringsField).u16Le(bodyStringsId).u16Le(characterObjectId);
     return {.type = "OBJD",
             .id = characterObjectId,
             .label = label,

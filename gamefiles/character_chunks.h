@@ -12,7 +12,6 @@
 
 constexpr std::uint16_t characterObjectId = 128;
 constexpr std::uint16_t characterNameId = 2000;
-constexpr std::uint16_t characterBodyStringsId = 200;
 
 // Size in bytes of the object definition's chunk, its header included.
 constexpr std::size_t objectChunkSize = 292;

@@ -36,15 +36,9 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
 IffChunk sampleBodyStringsChunk(const SampleCharacter& character) {
     const Bytes text =
         character.bodyText.value_or(filledSampleBodyText(character.slots, character.ending, character.bodyTextSize));
-    const Bytes content = ByteWriter()
-                              .u8(0xFD)
-                              .u8(0xFF)
-                              .u16Le(bodyStringCount(character.ending))
-                              .u8(1)
-                              .text(character.tag)
-                              .bytes(text)
-                              .written();
-    return {.type = "STR#", .id = characterBodyStringsId, .label = character.bodyLabel, .content = content};
+    ByteWriter content = beginTextChunk(bodyStringCount(character.ending));
+    content.u8(usEnglish).text(character.tag).bytes(text);
+    return {.type = "STR#", .id = bodyStringsId, .label = character.bodyLabel, .content = content.written()};
 }
 
 CharacterFile makeCharacterFile(const SampleCharacter& character) {

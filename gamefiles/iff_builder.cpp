@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "gamefiles/body_string_text.h"
+
 namespace {
 
 constexpr std::size_t mapOffsetField = 60;
 constexpr std::size_t typeSize = 4;
 constexpr std::size_t labelSize = 64;
-constexpr std::uint16_t bodyStringsId = 200;
 
 // What a deleted chunk leaves in the header of the free room.
 constexpr std::uint16_t deletedId = 4101;

@@ -56,7 +56,7 @@ FamilyOffsets addFamily(const SampleFamily& family, IffBuilder& file) {
         file.add({.type = "FAMh", .id = static_cast<std::uint16_t>(family.number), .content = Bytes(24)});
     }
     offsets.nameChunk = file.add(sampleFamilyNameChunk(family));
-    offsets.name = offsets.nameChunk + iffChunkHeaderSize + 5;
+    offsets.name = offsets.nameChunk + iffChunkHeaderSize + firstTextOffset;
     return offsets;
 }
 

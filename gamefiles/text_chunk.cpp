@@ -1,9 +1,13 @@
 #include "gamefiles/text_chunk.h"
 
-Bytes textChunkContent(const std::vector<std::string>& texts, std::size_t size) {
-    constexpr int usEnglish = 1;
+ByteWriter beginTextChunk(std::size_t textCount) {
     ByteWriter content;
-    content.u8(0xFD).u8(0xFF).u16Le(static_cast<std::int64_t>(texts.size()));
+    content.u8(0xFD).u8(0xFF).u16Le(static_cast<std::int64_t>(textCount));
+    return content;
+}
+
+Bytes textChunkContent(const std::vector<std::string>& texts, std::size_t size) {
+    ByteWriter content = beginTextChunk(texts.size());
     for (const std::string& text : texts) {
         content.u8(usEnglish).text(text).u8(0).u8(0);
     }
