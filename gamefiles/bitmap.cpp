@@ -1,14 +1,22 @@
 #include "gamefiles/bitmap.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace {
 
-constexpr int headersSize = 54;
 constexpr int infoHeaderSize = 40;
+constexpr int headersSize = 14 + infoHeaderSize;
+constexpr int planes = 1;
+constexpr int bitsPerPixel = 24;
 constexpr int dotsPerMeter = 2835;  // 72 to the inch
 
-// Whether (x, y) lies in the disc, in a square of 200 units whose middle is the origin and whose y runs downwards.
+// Rows are padded to multiples of 4 bytes.
+constexpr int rowSize(int width) {
+    return (width * bitsPerPixel / 8 + 3) / 4 * 4;
+}
+
+// Whether (x, y) is in the disc. The portrait is a square of 200 units with the origin in its middle; y runs down.
 bool inDisc(int x, int y, int centerX, int centerY, int radius) {
     return (x - centerX) * (x - centerX) + (y - centerY) * (y - centerY) <= radius * radius;
 }
@@ -23,18 +31,18 @@ std::uint32_t portraitColor(int x, int y, const PortraitColors& colors) {
     return colors.background;
 }
 
-// Whole faces only; what they leave over at the right and at the foot is background.
-std::uint32_t tiledColor(int x, int y, int across, int down, int side, const PortraitColors& colors) {
-    if (x / side >= across || y / side >= down) return colors.background;
-    return portraitColor(x % side * 200 / side - 100, y % side * 200 / side - 100, colors);
+// The colour of a pixel in a picture that whole portraits of `side` pixels tile from its top left corner. What is left
+// over at the right and at the bottom is background.
+std::uint32_t tiledColor(int column, int row, int width, int height, int side, const PortraitColors& colors) {
+    if (column / side >= width / side || row / side >= height / side) return colors.background;
+    return portraitColor(column % side * 200 / side - 100, row % side * 200 / side - 100, colors);
 }
 
 void writeHeaders(ByteWriter& file, int width, int height) {
-    const auto size =
-        static_cast<std::int64_t>(bitmapFileSize(static_cast<std::size_t>(width), static_cast<std::size_t>(height)));
-    file.text("BM").u32Le(size).u32Le(0).u32Le(headersSize);
-    file.u32Le(infoHeaderSize).u32Le(width).u32Le(height).u16Le(1).u16Le(24).u32Le(0).u32Le(size - headersSize);
-    file.u32Le(dotsPerMeter).u32Le(dotsPerMeter).u32Le(0).u32Le(0);
+    const int pixelsSize = rowSize(width) * height;
+    file.text("BM").u32Le(headersSize + pixelsSize).u32Le(0).u32Le(headersSize);
+    file.u32Le(infoHeaderSize).u32Le(width).u32Le(height).u16Le(planes).u16Le(bitsPerPixel);
+    file.u32Le(0).u32Le(pixelsSize).u32Le(dotsPerMeter).u32Le(dotsPerMeter).u32Le(0).u32Le(0);
 }
 
 }  // namespace
@@ -43,13 +51,13 @@ Bytes portraitBitmap(int width, int height, const PortraitColors& colors) {
     const int side = std::max(1, std::min(width, height));
     ByteWriter file;
     writeHeaders(file, width, height);
-    for (int row = height - 1; row >= 0; --row) {  // a bitmap's first row is the lowest
+    for (int row = height - 1; row >= 0; --row) {  // a bitmap begins with its bottom row
+        const std::size_t end = file.size() + static_cast<std::size_t>(rowSize(width));
         for (int column = 0; column < width; ++column) {
-            const std::uint32_t color = tiledColor(column, row, width / side, height / side, side, colors);
+            const std::uint32_t color = tiledColor(column, row, width, height, side, colors);
             file.u8(color).u8(color >> 8).u8(color >> 16);
         }
-        const std::size_t rowSize = bitmapFileSize(static_cast<std::size_t>(width), 1) - headersSize;
-        file.fillTo(headersSize + rowSize * static_cast<std::size_t>(height - row));
+        file.fillTo(end);
     }
     return file.written();
 }
