@@ -4,6 +4,7 @@
 #include "gamefiles/character_file.h"
 #include "gamefiles/file_writing.h"
 #include "gamefiles/neighborhood_file.h"
+#include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
 
 namespace {
@@ -11,7 +12,7 @@ namespace {
 constexpr std::size_t templateObject = 3976;
 constexpr std::size_t templateName = 4268;
 constexpr std::size_t templateBodyStrings = 54016;
-static_assert(templateObject + objectChunkSize == templateName);
+static_assert(templateObject + objectDefinitionSize == templateName);
 
 // The name's 64 bytes, then 7 zero bytes. Zero bytes read on as a second, empty text, the biography, whether the name
 // takes one of its bytes or 63.
@@ -40,10 +41,10 @@ Bytes makeCharacterTemplate() {
     IffBuilder file;
     addBehaviourChunks(file);
     file.padTo(templateObject);
-    file.add(objectChunk("user00000 - Sim", sampleGuid));
+    file.add(objectDefinition("user00000 - Sim", sampleGuid));
     file.add(templateNameChunk());
     addPictureChunks(file, colors);
-    file.add(webPictureChunk(colors));
+    addWebPictureChunk(file, colors);
     file.padTo(templateBodyStrings);
     file.add(templateBodyStringsChunk());
     file.addMap();

@@ -1,130 +1,133 @@
 #include "gamefiles/character_chunks.h"
 
-#include "gamefiles/body_string_text.h"
+#include <string>
+#include <vector>
+
 #include "gamefiles/text_chunk.h"
 
 namespace {
 
-constexpr std::uint16_t mainTreeId = 4096;
+constexpr std::uint16_t mainTree = 4096;
+constexpr std::uint16_t initTree = 4097;
+constexpr std::uint16_t loadTree = 4098;
+constexpr std::uint16_t initTraits = 4100;
 
-struct ChunkFact {
+struct StringsRow {
     std::uint16_t id;
     const char* label;
-    std::size_t size;  // with the chunk's header
+    std::size_t size;  // of the chunk, its header included
+    std::vector<std::string> texts;
 };
 
-Bytes zeroFilled(ByteWriter& content, const ChunkFact& fact) {
-    return content.fillTo(fact.size - iffChunkHeaderSize).written();
-}
-
-// The editor's notes on a behaviour, its tree and the names of its parameters, open with the type reversed and say how
-// much they note: nothing here.
-Bytes emptyNotes(const char* reversedType, const ChunkFact& fact) {
-    ByteWriter content;
-    content.u32Le(0).u32Le(0).text(reversedType).u32Le(0);
-    return zeroFilled(content, fact);
-}
-
-// A behaviour: a header of 12 bytes with the number of instructions, then 12 bytes for each: operation, where to go on
-// when it succeeds and when it fails, 8 bytes of operands. These sleep (0), each goes on to the next, the last returns.
-Bytes sleepingBehaviour(const ChunkFact& fact) {
-    constexpr std::size_t instructionSize = 12;
-    constexpr int returnTrue = 254;
-    constexpr int returnFalse = 255;
-    const std::size_t count = (fact.size - iffChunkHeaderSize) / instructionSize - 1;
-    ByteWriter content;
-    content.u16Le(0x8002).u16Le(static_cast<std::int64_t>(count)).fillTo(instructionSize);
-    for (std::size_t i = 1; i <= count; ++i) {
-        content.u16Le(0).u8(i < count ? static_cast<std::int64_t>(i) : returnTrue).u8(returnFalse);
-        content.fillTo(instructionSize * (i + 1));
-    }
-    return content.written();
-}
-
 void addStrings(IffBuilder& file) {
-    const struct {
-        ChunkFact fact;
-        std::vector<std::string> texts;
-    } rows[] = {
-        {{300, "Behavior editor string set", 130}, {"a Sim of the Tidewright sample household"}},
-        {{257, "", 91}, {"a person"}},
-        {{258, "", 80}, {}},
-        {{304, "suit names", 99}, {"everyday", "party"}},
-        {{256, "person attributes", 190},
+    const StringsRow rows[] = {
+        {300, "Behavior editor string set", 130, {"a Sim of the Tidewright sample household"}},
+        {257, "", 91, {"a person"}},
+        {258, "", 80, {}},
+        {304, "suit names", 99, {"everyday", "party"}},
+        {256,
+         "person attributes",
+         190,
          {"fond of gardens", "hums while cooking", "late for the bus", "collects sea glass", "afraid of geese"}},
     };
-    for (const auto& [fact, texts] : rows) {
+    for (const StringsRow& row : rows) {
         file.add({.type = "STR#",
-                  .id = fact.id,
-                  .label = fact.label,
-                  .content = textChunkContent(texts, fact.size - iffChunkHeaderSize)});
+                  .id = row.id,
+                  .label = row.label,
+                  .content = textChunkContent(row.texts, row.size - iffChunkHeaderSize)});
     }
+}
+
+// The behaviour editor's data on a tree, its parameters or the slots. It begins with two zeros, the type spelled
+// backwards and the number of notes, here 0.
+ByteWriter emptyNotes(const std::string& type, std::size_t) {
+    ByteWriter content;
+    content.u32Le(0).u32Le(0).text(std::string(type.rbegin(), type.rend()));
+    return content;
+}
+
+// A behaviour that does nothing. A header of 12 bytes has the number of instructions. Each instruction takes 12 bytes:
+// operation (0 sleeps), the next instruction after a success and after a failure, and 8 bytes of operands.
+ByteWriter sleepingBehaviour(const std::string&, std::size_t contentSize) {
+    constexpr int behaviourVersion = 0x8002;
+    constexpr std::size_t instructionSize = 12;
+    constexpr int sleep = 0;
+    constexpr std::int64_t returnTrue = 254;
+    constexpr std::int64_t returnFalse = 255;
+    const auto count = static_cast<std::int64_t>(contentSize / instructionSize - 1);
+    ByteWriter content;
+    content.u16Le(behaviourVersion).u16Le(count).fillTo(instructionSize);
+    for (std::int64_t next = 1; next <= count; ++next) {
+        content.u16Le(sleep).u8(next < count ? next : returnTrue).u8(returnFalse).u32Le(0).u32Le(0);
+    }
+    return content;
+}
+
+ByteWriter sharedBehaviours(const std::string&, std::size_t) {
+    return ByteWriter().text("PersonGlobals");
+}
+
+struct ChunkRow {
+    const char* type;
+    std::uint16_t id;
+    const char* label;
+    std::size_t size;  // of the chunk, its header included
+    // What the content begins with; zero bytes fill the rest.
+    ByteWriter (*begin)(const std::string& type, std::size_t contentSize);
+};
+
+constexpr ChunkRow behaviourChunks[] = {
+    {"TREE", initTree, "", 176, emptyNotes},
+    {"TREE", loadTree, "", 176, emptyNotes},
+    {"TREE", mainTree, "", 204, emptyNotes},
+    {"TREE", initTraits, "", 882, emptyNotes},
+    {"TPRP", initTree, "", 144, emptyNotes},
+    {"TPRP", loadTree, "", 144, emptyNotes},
+    {"TPRP", mainTree, "", 144, emptyNotes},
+    {"TPRP", initTraits, "", 178, emptyNotes},
+    {"BHAV", initTree, "init tree", 112, sleepingBehaviour},
+    {"BHAV", loadTree, "load tree", 112, sleepingBehaviour},
+    {"BHAV", mainTree, "Main", 136, sleepingBehaviour},
+    {"BHAV", initTraits, "init traits", 340, sleepingBehaviour},
+    {"SLOT", characterSlotsId, "", 146, emptyNotes},
+    {"GLOB", 128, "Semi-global file", 332, sharedBehaviours},
+};
+
+struct PictureRow {
+    std::uint16_t id;
+    const char* label;
+    int width, height;
+};
+
+void addPicture(IffBuilder& file, const PictureRow& row, const PortraitColors& colors) {
+    file.add(
+        {.type = "BMP_", .id = row.id, .label = row.label, .content = portraitBitmap(row.width, row.height, colors)});
 }
 
 }  // namespace
 
 void addBehaviourChunks(IffBuilder& file) {
-    constexpr ChunkFact trees[] = {{4097, "", 176}, {4098, "", 176}, {mainTreeId, "", 204}, {4100, "", 882}};
-    constexpr ChunkFact parameters[] = {{4097, "", 144}, {4098, "", 144}, {mainTreeId, "", 144}, {4100, "", 178}};
-    constexpr ChunkFact behaviours[] = {
-        {4097, "init tree", 112}, {4098, "load tree", 112}, {mainTreeId, "Main", 136}, {4100, "init traits", 340}};
-    constexpr ChunkFact slots = {128, "", 146};
-    constexpr ChunkFact semiGlobals = {128, "Semi-global file", 332};
-
     addStrings(file);
-    for (const ChunkFact& fact : trees) {
-        file.add({.type = "TREE", .id = fact.id, .label = fact.label, .content = emptyNotes("EERT", fact)});
+    for (const ChunkRow& row : behaviourChunks) {
+        const std::size_t contentSize = row.size - iffChunkHeaderSize;
+        const Bytes content = row.begin(row.type, contentSize).fillTo(contentSize).written();
+        file.add({.type = row.type, .id = row.id, .label = row.label, .content = content});
     }
-    for (const ChunkFact& fact : parameters) {
-        file.add({.type = "TPRP", .id = fact.id, .label = fact.label, .content = emptyNotes("PRPT", fact)});
-    }
-    for (const ChunkFact& fact : behaviours) {
-        file.add({.type = "BHAV", .id = fact.id, .label = fact.label, .content = sleepingBehaviour(fact)});
-    }
-    file.add({.type = "SLOT", .id = slots.id, .label = slots.label, .content = emptyNotes("TOLS", slots)});
-    ByteWriter globals;
-    globals.text("PersonGlobals");
-    file.add({.type = "GLOB",
-              .id = semiGlobals.id,
-              .label = semiGlobals.label,
-              .content = zeroFilled(globals, semiGlobals)});
-}
-
-IffChunk objectChunk(const std::string& label, std::uint32_t guid) {
-    // Offsets within the content; all other words of a person's definition are 0.
-    constexpr std::size_t objectType = 18;
-    constexpr std::size_t guidField = 28;
-    constexpr std::size_t bodyStringsField = 38;
-    constexpr int definitionVersion = 138;
-    constexpr int person = 2;
-    ByteWriter content;
-    content.u32Le(definitionVersion).fillTo(objectType).u16Le(person);
-    content.fillTo(guidField).u32Le(guid);
-    content.fillTo(bodyStringsField).u16Le(bodyStringsId).u16Le(characterObjectId);
-    return {.type = "OBJD",
-            .id = characterObjectId,
-            .label = label,
-            .content = content.fillTo(objectChunkSize - iffChunkHeaderSize).written()};
 }
 
 void addPictureChunks(IffBuilder& file, const PortraitColors& colors, int relationshipRows) {
-    const struct {
-        std::uint16_t id;
-        const char* label;
-        int width, height;
-    } pictures[] = {
-        {2002, "faces", 54, 79},        {2003, "rel. images", 100, relationshipRows},
+    constexpr int relationshipWidth = 100;
+    static_assert(relationshipWidth * 3 == relationshipRowSize);
+    const PictureRow rows[] = {
+        {2002, "faces", 54, 79},        {2003, "rel. images", relationshipWidth, relationshipRows},
         {2004, "thumbnail", 25, 25},    {2005, "speech_med", 16, 16},
         {2006, "speech_large", 32, 32},
     };
-    for (const auto& picture : pictures) {
-        file.add({.type = "BMP_",
-                  .id = picture.id,
-                  .label = picture.label,
-                  .content = portraitBitmap(picture.width, picture.height, colors)});
+    for (const PictureRow& row : rows) {
+        addPicture(file, row, colors);
     }
 }
 
-IffChunk webPictureChunk(const PortraitColors& colors) {
-    return {.type = "BMP_", .id = 2007, .label = "web_image", .content = portraitBitmap(45, 45, colors)};
+void addWebPictureChunk(IffBuilder& file, const PortraitColors& colors) {
+    addPicture(file, {2007, "web_image", 45, 45}, colors);
 }

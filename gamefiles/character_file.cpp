@@ -1,6 +1,7 @@
 #include "gamefiles/character_file.h"
 
 #include "gamefiles/character_chunks.h"
+#include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
 
 namespace {
@@ -16,7 +17,7 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
     addBehaviourChunks(file);
     if (character.freeRoom) built.freeRoomOffset = file.addFreeRoom(freeRoomSize);
     if (character.hasObject) {
-        built.objectOffset = file.add(objectChunk(character.recordName + " - " + character.name, character.guid));
+        built.objectOffset = file.add(objectDefinition(character.recordName + " - " + character.name, character.guid));
     }
     if (character.hasPictures) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasName) {
@@ -25,7 +26,7 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
                                      .content = textChunkContent({character.name, character.biography})});
     }
     if (character.hasBodyStrings) built.bodyStringsOffset = file.add(sampleBodyStringsChunk(character));
-    if (character.hasPictures) file.add(webPictureChunk(character.colors));
+    if (character.hasPictures) addWebPictureChunk(file, character.colors);
     if (character.map) built.mapOffset = file.addMap();
     built.bytes = file.bytes();
     return built;
@@ -44,7 +45,7 @@ IffChunk sampleBodyStringsChunk(const SampleCharacter& character) {
 CharacterFile makeCharacterFile(const SampleCharacter& character) {
     CharacterFile file = buildWith(character, fewRelationshipRows);
     if (!character.hasPictures || file.bytes.size() >= character.fileSize) return file;
-    constexpr std::size_t rowSize = 300;
-    const std::size_t rows = (character.fileSize - file.bytes.size() + rowSize - 1) / rowSize;
+    const std::size_t missing = character.fileSize - file.bytes.size();
+    const std::size_t rows = (missing + relationshipRowSize - 1) / relationshipRowSize;
     return buildWith(character, fewRelationshipRows + static_cast<int>(rows));
 }
