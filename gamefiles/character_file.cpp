@@ -35,10 +35,9 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
 }  // namespace
 
 IffChunk sampleBodyStringsChunk(const SampleCharacter& character) {
-    const Bytes text =
-        character.bodyText.value_or(filledSampleBodyText(character.slots, character.ending, character.bodyTextSize));
     ByteWriter content = beginTextChunk(bodyStringCount(character.ending));
-    content.u8(usEnglish).text(character.tag).bytes(text);
+    content.u8(usEnglish).text(character.tag);
+    content.bytes(filledSampleBodyText(character.slots, character.ending, character.bodyTextSize));
     return {.type = "STR#", .id = bodyStringsId, .label = character.bodyLabel, .content = content.written()};
 }
 

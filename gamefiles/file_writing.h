@@ -1,4 +1,4 @@
-// Writing the finished files of the sample.
+// Writes whole files.
 #ifndef GAMEFILES_FILE_WRITING_H
 #define GAMEFILES_FILE_WRITING_H
 
@@ -7,7 +7,7 @@
 
 #include "gamefiles/byte_writer.h"
 
-// Writes the file anew, byte for byte; its directory must exist. False if that fails.
+// Creates or replaces the file. Its directory must exist. Returns false if that fails.
 bool writeFile(const std::filesystem::path& path, const Bytes& bytes);
 bool writeFile(const std::filesystem::path& path, std::string_view text);
 

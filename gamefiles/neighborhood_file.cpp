@@ -1,38 +1,58 @@
 #include "gamefiles/neighborhood_file.h"
 
-#include <algorithm>
-
 #include "gamefiles/text_chunk.h"
 
 namespace {
 
 constexpr std::size_t freeRoomSize = 396;
-constexpr int listVersion = 0x49;  // as the base game writes it
 
-// 160 bytes; offsets count from the record's marker, 26 bytes before these.
-Bytes personData(const SampleNeighbor& neighbor) {
-    constexpr std::size_t recordOffset = 26;
-    constexpr std::size_t size = 160;
-    constexpr std::size_t valuesInFront = 17;
-    ByteWriter data;
-    const auto fillTo = [&](std::size_t offset) { data.fillTo(offset - recordOffset, neighbor.gapByte); };
-    fillTo(30);
+// Versions that the base game writes.
+constexpr int listVersion = 0x49;
+constexpr int recordVersion = 4;
+constexpr int relationshipVersion = 1;
+
+// Offsets in a neighbor record, from its marker.
+constexpr std::size_t firstValuesField = 30;
+constexpr std::size_t lastValuesField = 118;
+constexpr std::size_t skinToneField = 146;
+constexpr std::size_t wordBField = 152;
+constexpr std::size_t kindField = 156;
+constexpr std::size_t tailWordsField = 160;
+constexpr std::size_t personDataEnd = 186;
+
+constexpr std::size_t lastValues = 17;  // the first of them
+
+// "IMAF" in the content of a "FAMI" chunk, and the member table from there.
+constexpr std::size_t familyRecord = 8;
+constexpr std::size_t memberTableField = 32;
+
+void writePersonData(ByteWriter& record, const SampleNeighbor& neighbor) {
+    const auto skipTo = [&](std::size_t field) { record.fillTo(field, neighbor.gapByte); };
+    skipTo(firstValuesField);
     for (std::size_t i = 0; i < neighbor.personValues.size(); ++i) {
-        if (i == valuesInFront) fillTo(118);
-        data.u16Le(neighbor.personValues[i]);
+        if (i == lastValues) skipTo(lastValuesField);
+        record.u16Le(neighbor.personValues[i]);
     }
-    data.u16Le(neighbor.age);
-    fillTo(146);
-    data.u16Le(neighbor.skinTone).u16Le(neighbor.wordA);
-    fillTo(152);
-    data.u16Le(neighbor.wordB);
-    fillTo(156);
-    data.u16Le(neighbor.kind);
-    fillTo(160);
+    record.u16Le(neighbor.age);
+    skipTo(skinToneField);
+    record.u16Le(neighbor.skinTone).u16Le(neighbor.wordA);
+    skipTo(wordBField);
+    record.u16Le(neighbor.wordB);
+    skipTo(kindField);
+    record.u16Le(neighbor.kind);
+    skipTo(tailWordsField);
     for (const std::int32_t word : neighbor.tailWords) {
-        data.u16Le(word);
+        record.u16Le(word);
     }
-    return data.fillTo(size, neighbor.gapByte).written();
+    skipTo(personDataEnd);
+}
+
+void writeRelationship(ByteWriter& record, const SampleRelationship& relationship) {
+    record.u32Le(relationshipVersion).u32Le(relationship.neighborId);
+    record.u32Le(static_cast<std::int64_t>(relationship.values.size()));
+    for (const std::int32_t value : relationship.values) {
+        record.u32Le(value);
+    }
 }
 
 void addNeighbors(const SampleNeighborhood& neighborhood, IffBuilder& file, NeighborhoodFile& built) {
@@ -47,16 +67,15 @@ void addNeighbors(const SampleNeighborhood& neighborhood, IffBuilder& file, Neig
 }
 
 FamilyOffsets addFamily(const SampleFamily& family, IffBuilder& file) {
+    constexpr std::size_t historySize = 24;
     FamilyOffsets offsets;
-    offsets.familyChunk = file.add(sampleFamilyChunk(family));
-    offsets.record = offsets.familyChunk + iffChunkHeaderSize + 8;
-    offsets.memberTable = offsets.record + 32;
+    offsets.record = file.add(sampleFamilyChunk(family)) + iffChunkHeaderSize + familyRecord;
+    offsets.memberTable = offsets.record + memberTableField;
     offsets.memberTableEnd = offsets.memberTable + 4 * family.members.size();
     if (family.hasHistory) {
-        file.add({.type = "FAMh", .id = static_cast<std::uint16_t>(family.number), .content = Bytes(24)});
+        file.add({.type = "FAMh", .id = static_cast<std::uint16_t>(family.number), .content = Bytes(historySize)});
     }
-    offsets.nameChunk = file.add(sampleFamilyNameChunk(family));
-    offsets.name = offsets.nameChunk + iffChunkHeaderSize + firstTextOffset;
+    offsets.name = file.add(sampleFamilyNameChunk(family)) + iffChunkHeaderSize + firstTextOffset;
     return offsets;
 }
 
@@ -85,18 +104,16 @@ NeighborhoodFile buildWith(const SampleNeighborhood& neighborhood, std::size_t p
 }  // namespace
 
 Bytes sampleNeighborRecord(const SampleNeighbor& neighbor) {
+    constexpr std::size_t longestName = 9;
     ByteWriter record;
-    record.u32Le(1).u32Le(neighbor.recordVersion).field(neighbor.recordName.substr(0, 9), 10).u32Le(0);
+    record.u32Le(1).u32Le(recordVersion);  // the marker
+    record.field(neighbor.recordName.substr(0, longestName), longestName + 1).u32Le(0);
     record.u32Le(neighbor.version);
-    if (neighbor.hasPersonData) record.bytes(personData(neighbor));
+    if (neighbor.hasPersonData) writePersonData(record, neighbor);
     record.u16Le(neighbor.neighborId).u32Le(neighbor.guid).u32Le(-1);
     record.u32Le(static_cast<std::int64_t>(neighbor.relationships.size()));
     for (const SampleRelationship& relationship : neighbor.relationships) {
-        record.u32Le(1).u32Le(relationship.neighborId);
-        record.u32Le(static_cast<std::int64_t>(relationship.values.size()));
-        for (const std::int32_t value : relationship.values) {
-            record.u32Le(value);
-        }
+        writeRelationship(record, relationship);
     }
     return record.written();
 }
@@ -117,16 +134,16 @@ IffChunk sampleFamilyChunk(const SampleFamily& family) {
 }
 
 IffChunk sampleFamilyNameChunk(const SampleFamily& family) {
-    // The name and its two zero bytes take whole pairs, with a pad byte behind a name of odd length. Without it a
-    // reader that goes by pairs would take the first letter of the next chunk along, and miss that family.
+    // The name and its two zero bytes fill whole pairs: a name of odd length has a pad byte behind it. Without one, a
+    // reader of pairs would go on into the first letter of the next chunk and miss that family.
     Bytes content = textChunkContent({family.name});
     if (family.name.size() % 2 != 0) content.push_back(textFill);
     return {.type = "FAMs", .id = static_cast<std::uint16_t>(family.number), .content = content};
 }
 
 NeighborhoodFile makeNeighborhoodFile(const SampleNeighborhood& neighborhood) {
-    constexpr std::size_t emptyTexts = 4;
-    NeighborhoodFile file = buildWith(neighborhood, emptyTexts);
+    NeighborhoodFile file = buildWith(neighborhood, 0);
     if (file.bytes.size() >= neighborhood.fileSize) return file;
-    return buildWith(neighborhood, emptyTexts + neighborhood.fileSize - file.bytes.size());
+    const std::size_t emptyContent = textChunkContent({}).size();
+    return buildWith(neighborhood, emptyContent + neighborhood.fileSize - file.bytes.size());
 }

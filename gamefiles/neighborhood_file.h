@@ -1,5 +1,5 @@
-// Whole neighborhood files, the game's lists of neighbours and families, for the samples and for tests. The defaults
-// of every struct make a valid file.
+// Whole neighborhood files, each of which lists the neighbors and the families of a neighborhood. A default struct
+// makes a valid part of a file.
 #ifndef GAMEFILES_NEIGHBORHOOD_FILE_H
 #define GAMEFILES_NEIGHBORHOOD_FILE_H
 
@@ -18,20 +18,20 @@ struct SampleRelationship {
     std::vector<std::int32_t> values = {};
 };
 
-// One record of the chunk "NBRS". The program's part of it takes 186 bytes from its first, the marker.
+// One record of the chunk "NBRS". Offsets count from the record's marker. The program reads and writes the first 186
+// bytes.
 struct SampleNeighbor {
-    std::string recordName = "user00001";         // the character file's name without ".iff", at most 9 characters
-    std::int32_t recordVersion = 4;               // the second half of the marker
-    std::int32_t version = 7;                     // at 22, 4 bytes; the program calls its low byte the version
+    std::string recordName = "user00001";         // at 8: at most 9 characters, the character file without ".iff"
+    std::int32_t version = 7;                     // at 22, 4 bytes; the program takes the lowest byte
     std::array<std::int32_t, 29> personValues{};  // 0 to 16 at 30, 17 to 28 at 118; 15 is the body skill
     std::int32_t age = 27;                        // at 142: 9, 18 or 27
-    std::int32_t skinTone = 1;                    // at 146: 1 light, 3 medium, 2 dark
+    std::int32_t skinTone = 1;                    // at 146: 1 light, 2 dark, 3 medium
     std::int32_t wordA = 0;                       // at 148
     std::int32_t wordB = 0;                       // at 152
     std::int32_t kind = 1;                        // at 156: 0 male, 1 female, 2 to 5 pet
     std::array<std::int32_t, 4> tailWords{};      // at 160
-    std::uint8_t gapByte = 0;                     // fills the person data that no field above names
-    bool hasPersonData = true;                    // the game's own characters may come without those 160 bytes
+    std::uint8_t gapByte = 0;                     // the bytes of the person data that have no field above
+    bool hasPersonData = true;                    // the 160 bytes at 26; some of the game's own characters lack them
     std::int32_t neighborId = 1;
     std::uint32_t guid = sampleGuid;
     std::vector<SampleRelationship> relationships = {};
@@ -47,10 +47,10 @@ struct SampleFamily {
     std::int32_t houseValue = 15000;
     std::int32_t friends = 2;
     std::int32_t flags = 9;                        // 1 lives in a house, 8 made by the player
-    std::optional<std::int32_t> memberCount = {};  // another number than that of `members`
+    std::optional<std::int32_t> memberCount = {};  // if it isn't the size of `members`
     std::int32_t version = 4;
-    int trailingNumbers = 4;  // zero numbers of 4 bytes behind the members
-    bool hasHistory = false;  // a "FAMh" chunk between the two, as later builds write it
+    int trailingNumbers = 4;  // zeros of 4 bytes behind the members
+    bool hasHistory = false;  // a "FAMh" chunk between the two, which later versions of the game write
 };
 
 struct SampleNeighborhood {
@@ -58,32 +58,30 @@ struct SampleNeighborhood {
     std::vector<SampleFamily> families = {};
     std::vector<IffChunk> before = {};  // in front of "NBRS"
     bool freeRoom = false;              // an "XXXX" chunk behind the families
-    std::vector<IffChunk> behind = {};  // behind that
-    bool map = true;
-    std::size_t fileSize = 0;  // at least; reached by a chunk of texts in front
+    std::vector<IffChunk> behind = {};  // behind the free room
+    bool map = true;                    // a resource map
+    std::size_t fileSize = 0;           // at least this; a chunk of texts in front makes up for the rest
 };
 
-// File offsets in a family's chunks.
+// Offsets in the file.
 struct FamilyOffsets {
-    std::size_t familyChunk = 0;  // "FAMI"
-    std::size_t record = 0;       // "IMAF"
+    std::size_t record = 0;  // of "IMAF"
     std::size_t memberTable = 0;
     std::size_t memberTableEnd = 0;
-    std::size_t nameChunk = 0;  // "FAMs"
     std::size_t name = 0;
 };
 
 struct NeighborhoodFile {
     Bytes bytes;
-    std::vector<std::size_t> neighborOffsets;  // of each record's marker, in the order of `neighbors`
+    std::vector<std::size_t> neighborOffsets;  // of the records' markers, in the order of `neighbors`
     std::vector<FamilyOffsets> families;       // in the order of `families`
-    std::size_t freeRoomOffset = 0;            // 0 when there is none
-    std::size_t mapOffset = 0;                 // 0 when there is none
+    std::size_t freeRoomOffset = 0;            // 0 if there is none
+    std::size_t mapOffset = 0;                 // 0 if there is none
 };
 
 NeighborhoodFile makeNeighborhoodFile(const SampleNeighborhood& neighborhood);
 
-// The pieces, for files that a test puts together by itself.
+// Single records and chunks, for files that a test builds itself.
 Bytes sampleNeighborRecord(const SampleNeighbor& neighbor);
 IffChunk sampleFamilyChunk(const SampleFamily& family);
 IffChunk sampleFamilyNameChunk(const SampleFamily& family);
