@@ -9,28 +9,29 @@
 
 namespace {
 
+// Offsets of the chunks in "Template.iff".
 constexpr std::size_t templateObject = 3976;
 constexpr std::size_t templateName = 4268;
 constexpr std::size_t templateBodyStrings = 54016;
 static_assert(templateObject + objectDefinitionSize == templateName);
 
-// The name's 64 bytes, then 7 zero bytes. Zero bytes read on as a second, empty text, the biography, whether the name
-// takes one of its bytes or 63.
+// The zero bytes behind the name's field make up a second, empty text, the biography. This holds for a name of any
+// length up to 63.
 IffChunk templateNameChunk() {
     constexpr std::size_t nameSize = 64;
     constexpr std::size_t zerosBehind = 7;
     ByteWriter content = beginTextChunk(2);
-    content.u8(usEnglish).field("Sim", nameSize).fillTo(firstTextOffset + nameSize + zerosBehind);
+    content.u8(usEnglish).field("Sim", nameSize + zerosBehind);
     return {.type = "CTSS", .id = characterNameId, .content = content.written()};
 }
 
-// The chunk's count of 33 strings is that of a text that ends with entry 32: with one more, the game would take the
-// fill for a winter outfit where a Sim has none. Behind the fill stand zero bytes, so that the chunk reads as 33
-// strings also when its text ends with entry 29.
+// The chunk counts 33 texts, which fits a text that ends with entry 32. With a larger count the game would take the
+// fill for the winter outfit of a Sim without one. The zero bytes behind the fill complete the 33 texts if the text
+// ends with entry 29.
 IffChunk templateBodyStringsChunk() {
-    constexpr std::size_t closingZeros = 12;
+    constexpr std::size_t zerosBehind = 12;
     IffChunk chunk = sampleBodyStringsChunk({});
-    chunk.content.resize(chunk.content.size() + closingZeros);
+    chunk.content.resize(chunk.content.size() + zerosBehind);
     return chunk;
 }
 
@@ -52,18 +53,18 @@ Bytes makeCharacterTemplate() {
 }
 
 Bytes makeFamilyTemplate() {
-    constexpr std::size_t nameContentSize = 32;
-    constexpr std::size_t pad = 3;  // behind the longest name and the two zero bytes that close it, less one
+    constexpr std::size_t nameEnd = firstTextOffset + 24;
+    constexpr std::size_t fillSize = 3;
     const SampleFamily family = {.number = 0,
                                  .funds = 0,
                                  .members = {0},
                                  .house = 0,
                                  .houseValue = 0,
                                  .friends = 0,
-                                 .flags = 24,  // as the game leaves a family fresh from creation
+                                 .flags = 24,  // a new family in the game
                                  .trailingNumbers = 1};
     ByteWriter name = beginTextChunk(1);
-    name.u8(usEnglish).fillTo(nameContentSize - pad).fillTo(nameContentSize, textFill);
+    name.u8(usEnglish).fillTo(nameEnd).fillTo(nameEnd + fillSize, textFill);
     IffBuilder file;
     file.add(sampleFamilyChunk(family));
     file.add({.type = "FAMs", .content = name.written()});

@@ -1,13 +1,13 @@
-// The head that the program's package puts into the game's directory; the program looks for it at its start.
+// The skin that the packages put into the game's directory. The program looks for it when it starts.
 #ifndef DATA_SKIN_FILE_H
 #define DATA_SKIN_FILE_H
 
 #include <string_view>
 
-// The file's name under "GameData/Skins".
+// The file's name in "GameData/Skins".
 constexpr std::string_view packageSkinName = "xskin-c601fa_amanda-HEAD-HEAD.skn";
 
-// The game's text form of a skin: a head of eight triangles that hangs on the bone "HEAD".
+// The file's text: a head of eight triangles on the bone "HEAD", in the game's text format for skins.
 std::string_view packageSkin();
 
 #endif
