@@ -18,30 +18,30 @@ CastNeighborhood firstNeighborhood() {
                 {2,
                  "Thistlewood",
                  62500,
-                 {{11, "Hazel", adult, female, "lgt", "c001fa_mercedes,HEAD-HEAD", "C001FAlgt_Shannon01", 500},
-                  {12, "Rowan", adult, male, "lgt", "c009ma_beard,HEAD-HEAD", "c009malgt_beard01", 0},
-                  {13, "Bramble", teen, female, "lgt", "c008fa_peg,HEAD-HEAD", "c008falgt_alt", 1000},
-                  {42, "Clover", child, female, "lgt", "c001fc_amanda,HEAD-HEAD", "c001fclgt_amanda01", 500},
-                  {15, "Fern", childOfStrayHead, female, "lgt", "c990fc_sprout,HEAD-HEAD", "c990fclgt_sprout"},
-                  {16, "Moss", childOfOldMeshes, male, "lgt", "c806mc_jr,HEAD-HEAD", "c806mclgt_jr"},
+                 {{11, "Hazel", adult, female, "lgt", "c001fa_mercedes", "C001FAlgt_Shannon01", 500},
+                  {12, "Rowan", adult, male, "lgt", "c009ma_beard", "c009malgt_beard01", 0},
+                  {13, "Bramble", teen, female, "lgt", "c008fa_peg", "c008falgt_alt", 1000},
+                  {42, "Clover", child, female, "lgt", "c001fc_amanda", "c001fclgt_amanda01", 500},
+                  {15, "Fern", childOfStrayHead, female, "lgt", "c990fc_sprout", "c990fclgt_sprout"},
+                  {16, "Moss", childOfOldMeshes, male, "lgt", "c806mc_jr", "c806mclgt_jr"},
                   {17, "Biscuit", pet, 2},
                   {18, "Marmalade", pet, 5}}},
                 {3,
                  "Q&A",
                  24000,
-                 {{21, "Quill", adult, male, "drk", "c007ma_gpa1,HEAD-HEAD", "c007madrk_gpa1", 500},
-                  {22, "Antonia", adult, female, "drk", "c008fa_peg,HEAD-HEAD", "c008fadrk_peg", 0}}},
+                 {{21, "Quill", adult, male, "drk", "c007ma_gpa1", "c007madrk_gpa1", 500},
+                  {22, "Antonia", adult, female, "drk", "c008fa_peg", "c008fadrk_peg", 0}}},
                 {4,
                  "Cr\xE8me",
                  10000,
-                 {{23, "Zo\xEB", adult, female, "med", "c005fa_clove,HEAD-HEAD", "c005famed_clove01", 0},
-                  {24, "Se\xF1or", adult, male, "med", "c017ma_slob,HEAD-HEAD", "c017mamed_slob", 0}}},
+                 {{23, "Zo\xEB", adult, female, "med", "c005fa_clove", "c005famed_clove01", 0},
+                  {24, "Se\xF1or", adult, male, "med", "c017ma_slob", "c017mamed_slob", 0}}},
                 {5,
                  "Pennyfarthing",
                  850,
-                 {{25, "Pip", adult, male, "drk", "c012ma_buzz,HEAD-HEAD", "C012MAdrk_stache", 0},
-                  {26, "Tuppence", adult, female, "drk", "c006fa_deb,HEAD-HEAD", "c006fadrk_deb", 0},
-                  {27, "Farley", teen, male, "drk", "c016ma_lnge,HEAD-HEAD", "c016madrk_lnge", 500}}},
+                 {{25, "Pip", adult, male, "drk", "c012ma_buzz", "C012MAdrk_stache", 0},
+                  {26, "Tuppence", adult, female, "drk", "c006fa_deb", "c006fadrk_deb", 0},
+                  {27, "Farley", teen, male, "drk", "c016ma_lnge", "c016madrk_lnge", 500}}},
                 {6, "Larkspur", 18000, {{28, "Juniper", adult, female}}},
             }};
 }
@@ -54,33 +54,33 @@ CastNeighborhood secondNeighborhood() {
                 {1,
                  "Featherstonehaugh-Wetherby",
                  120000,
-                 {{1, "Augustina", adult, female, "lgt", "c004fa_gma1,HEAD-HEAD", "c004falgt_asian", 0},
-                  {2, "Peregrine", adult, male, "lgt", "c002ma_baldfat,HEAD-HEAD", "c002malgt_gpa2", 0},
-                  {3, "Ottoline", adult, female, "lgt", "c029fa_lynn,HEAD-HEAD", "c029falgt_lynn", 1000},
-                  {4, "Barnaby", teen, male, "lgt", "c013ma_pompa,HEAD-HEAD", "C013MAlgt_pompa", 0},
-                  {5, "Dot", child, female, "lgt", "c004fc_fan,HEAD-HEAD", "c004fclgt_asian"},
-                  {6, "Dash", child, male, "lgt", "c001mc_ave,HEAD-HEAD", "c001mclgt_ave"},
+                 {{1, "Augustina", adult, female, "lgt", "c004fa_gma1", "c004falgt_asian", 0},
+                  {2, "Peregrine", adult, male, "lgt", "c002ma_baldfat", "c002malgt_gpa2", 0},
+                  {3, "Ottoline", adult, female, "lgt", "c029fa_lynn", "c029falgt_lynn", 1000},
+                  {4, "Barnaby", teen, male, "lgt", "c013ma_pompa", "C013MAlgt_pompa", 0},
+                  {5, "Dot", child, female, "lgt", "c004fc_fan", "c004fclgt_asian"},
+                  {6, "Dash", child, male, "lgt", "c001mc_ave", "c001mclgt_ave"},
                   {7, "Colonel Whiskers", pet, 4}}},
                 {2,
                  "Oats",
                  31999,
-                 {{8, "Millie", adult, female, "med", "c013fa_trash,HEAD-HEAD", "C013FAmed_trash", 500},
-                  {9, "Barley", teenOfAdultAge, male, "med", "c019ma_haljor,HEAD-HEAD", "c019mamed_haljor", 500},
-                  {10, "Rye", child, male, "med", "c012mc_buzz,HEAD-HEAD", "c012mcmed_buzz"},
+                 {{8, "Millie", adult, female, "med", "c013fa_trash", "C013FAmed_trash", 500},
+                  {9, "Barley", teenOfAdultAge, male, "med", "c019ma_haljor", "c019mamed_haljor", 500},
+                  {10, "Rye", child, male, "med", "c012mc_buzz", "c012mcmed_buzz"},
                   {11, "Porridge", pet, 3}}},
                 {3,
                  "Moth",
                  9999,
                  {{12, "Luna", adult, female},
-                  {13, "Atlas", adult, male, "lgt", "c014ma_hippy,HEAD-HEAD", "c014malgt_hippy", 0},
+                  {13, "Atlas", adult, male, "lgt", "c014ma_hippy", "c014malgt_hippy", 0},
                   {14, "Vesper", withoutRecord, female}}},
                 {4,
                  "Tumbledown",
                  50000,
-                 {{15, "Mabel", adult, female, "drk", "c001fa_mercedes,HEAD-HEAD", "c001fadrk_sharon", 0},
-                  {16, "Clement", adult, male, "drk", "c018ma_long,HEAD-HEAD", "c018madrk_long", 1000},
-                  {17, "Ivy", child, female, "drk", "c203fc_creepymindy,HEAD-HEAD", "c203fcdrk_creepymindy"},
-                  {18, "Rubble", childOfOldMeshes, male, "drk", "c004mc_nerd,HEAD-HEAD", "c004mcdrk_nerd"},
+                 {{15, "Mabel", adult, female, "drk", "c001fa_mercedes", "c001fadrk_sharon", 0},
+                  {16, "Clement", adult, male, "drk", "c018ma_long", "c018madrk_long", 1000},
+                  {17, "Ivy", child, female, "drk", "c203fc_creepymindy", "c203fcdrk_creepymindy"},
+                  {18, "Rubble", childOfOldMeshes, male, "drk", "c004mc_nerd", "c004mcdrk_nerd"},
                   {19, "Wisp", stranger, female},
                   {20, "Gravel", pet, 2}}},
             }};
@@ -94,21 +94,20 @@ CastNeighborhood thirdNeighborhood() {
                 {1,
                  "Marsh",
                  12345,
-                 {{1, "Reed", adult, male, "med", "c003ma_romancrew,HEAD-HEAD", "c003mamed_dad01", 0},
-                  {2, "Willow", adult, female, "med", "c010fa_hippy,HEAD-HEAD", "C010FAmed_hippy", 0},
-                  {3, "Heron", teen, male, "med", "c008ma_asian,HEAD-HEAD", "c008mamed_asian", 1000},
-                  {4, "Minnow", childOfStrayHead, male, "med", "c991mc_puddle,HEAD-HEAD", "c991mcmed_puddle"},
-                  {5, "Newt", child, female, "med", "c008fc_pony,HEAD-HEAD", "c008fcmed_pony"}}},
-                {2,
-                 "Inkwell",
-                 20001,
-                 {{6, "Nib", teen, female, "med", "c005fa_clove,HEAD-HEAD", "c005famed_clove01", 500}}},
+                 {{1, "Reed", adult, male, "med", "c003ma_romancrew", "c003mamed_dad01", 0},
+                  {2, "Willow", adult, female, "med", "c010fa_hippy", "C010FAmed_hippy", 0},
+                  {3, "Heron", teen, male, "med", "c008ma_asian", "c008mamed_asian", 1000},
+                  {4, "Minnow", childOfStrayHead, male, "med", "c991mc_puddle", "c991mcmed_puddle"},
+                  {5, "Newt", child, female, "med", "c008fc_pony", "c008fcmed_pony"}}},
+                {2, "Inkwell", 20001, {{6, "Nib", teen, female, "med", "c005fa_clove", "c005famed_clove01", 500}}},
                 {3, "Pollywog", 20000, {{7, "Otter", adult, male}, {8, "Shade", withoutFile, female}}},
             }};
 }
 
-// The Sim with this number of a large neighborhood: every eighth a teen, every fourth a child, the rest grown up.
+// The Sim with this file number in a large neighborhood. An eighth of them are teens, a quarter are children.
 CastSim largeSim(int number) {
+    constexpr int skillStep = 50;
+    constexpr int skillEnd = 1050;  // skills go up to 1000
     constexpr std::array<const char*, 12> firsts = {"Al", "Be", "Co", "Da", "El", "Fi",
                                                     "Go", "Hu", "Ir", "Jo", "Ka", "Lu"};
     constexpr std::array<const char*, 18> lasts = {"bert",  "dric", "fred", "gar",  "hild", "kin", "la",  "mund", "na",
@@ -118,34 +117,12 @@ CastSim largeSim(int number) {
     sim.fileNumber = number;
     sim.name = std::string(firsts[index / lasts.size() % firsts.size()]) + lasts[index % lasts.size()];
     sim.kind = number % 8 == 3 ? teen : number % 4 == 2 ? child : adult;
-    sim.kindWord = number % 2;
-    sim.bodySkill = number * 50 % 1050;
+    sim.gender = number % 2;
+    sim.bodySkill = number * skillStep % skillEnd;
     return sim;
 }
 
 }  // namespace
-
-std::string stageWord(SampleKind kind) {
-    switch (kind) {
-        case adult:
-            return "adult";
-        case teen:
-        case teenOfAdultAge:
-            return "teenager";
-        case child:
-        case childOfStrayHead:
-        case childOfOldMeshes:
-            return "child";
-        case pet:
-            return "not applicable (pet)";
-        case stranger:
-            return "unknown";
-        case withoutFile:
-        case withoutRecord:
-            break;
-    }
-    return {};
-}
 
 bool isUnreadable(SampleKind kind) {
     return kind == withoutFile || kind == withoutRecord;
@@ -181,7 +158,7 @@ std::string castRecordName(const CastSim& sim) {
 }
 
 std::uint32_t castGuid(int neighborhoodIndex, const CastSim& sim) {
-    constexpr std::uint32_t family = 0x54570000;
+    constexpr std::uint32_t common = 0x54570000;
     const auto neighborhood = static_cast<std::uint32_t>(neighborhoodIndex % 100 + 0x11);
-    return family | neighborhood << 8 | static_cast<std::uint32_t>(sim.fileNumber % 255 + 1);
+    return common | neighborhood << 8 | static_cast<std::uint32_t>(sim.fileNumber % 255 + 1);
 }

@@ -1,5 +1,4 @@
-// Who lives in the sample installation: its neighborhoods, families and Sims as one table, from which the files are
-// made and by which tests and guides can name them.
+// Who lives in the sample installation: a table of its neighborhoods, families and Sims, from which the files are made.
 #ifndef SAMPLE_CAST_H
 #define SAMPLE_CAST_H
 
@@ -7,32 +6,30 @@
 #include <string>
 #include <vector>
 
-// The kinds of family members that a user can meet.
+// Every kind of family member that the program treats differently.
 enum class SampleKind {
     adult,
-    teen,              // stored with age 18
-    teenOfAdultAge,    // stored with age 27, a teen by its body
+    teen,              // with age 18
+    teenOfAdultAge,    // with age 27, a teen only by its body
     child,             // can become a teen
-    childOfStrayHead,  // can become a teen, but no skin set knows its head
+    childOfStrayHead,  // can become a teen, but no skin set lists its head
     childOfOldMeshes,  // can't become a teen yet: its body strings end with entry 29
-    pet,               // age 27
-    stranger,          // age 27, but its body strings open with neither "adult" nor "child"
-    withoutFile,       // unreadable: its neighbor record leads to no file
-    withoutRecord,     // unreadable: its family's list names it, and nothing else does
+    pet,               // with age 27
+    stranger,          // with age 27, but its body strings begin with neither "adult" nor "child"
+    withoutFile,       // unreadable: it has a neighbor record but no file
+    withoutRecord,     // unreadable: only its family lists it
 };
 
-// What the main window says of the stage of such a Sim; empty for the unreadable.
-std::string stageWord(SampleKind kind);
-
+// Whether the Sim has no character file.
 bool isUnreadable(SampleKind kind);
 
 struct CastSim {
-    int fileNumber = 0;     // 42 for "User00042.iff"; unique in its neighborhood, 1 to 254
+    int fileNumber = 0;     // 42 for "User00042.iff"; 1 to 254, unique in its neighborhood
     std::string name = {};  // Windows-1252
     SampleKind kind = SampleKind::adult;
-    int kindWord = 0;  // 0 male, 1 female, 2 to 5 pet
+    int gender = 0;  // 0 male, 1 female, 2 to 5 pet
     std::string tone = "lgt";
-    std::string headMesh = {};  // empty for the usual head of its kind
+    std::string headMesh = {};  // without ",HEAD-HEAD"; if empty, the Sim has the default head of its kind
     std::string headSkin = {};
     int bodySkill = 0;
 };
@@ -51,14 +48,14 @@ struct CastNeighborhood {
     std::vector<CastFamily> families = {};
 };
 
-// The three neighborhoods of the sample installation. One family is named "Default"; the game keeps it for Sims without
-// a home, and the program doesn't list it.
+// The three neighborhoods of the sample installation. One family is named "Default": the game keeps Sims without a home
+// in it, and the program doesn't list it.
 const std::vector<CastNeighborhood>& sampleCast();
 
-// As many neighborhoods of a real size: 28 families with 216 Sims each.
+// Neighborhoods of a real size: 28 families and 216 Sims in each.
 std::vector<CastNeighborhood> largeCast(int neighborhoods);
 
-// "user00042", the name in the neighbor record.
+// The record name, for example "user00042".
 std::string castRecordName(const CastSim& sim);
 
 // The GUID of a Sim of the neighborhood with this index. None of its bytes is zero.

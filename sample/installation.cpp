@@ -1,52 +1,55 @@
 #include "sample/installation.h"
 
 #include <array>
-#include <utility>
 
+#include "gamefiles/character_file.h"
 #include "gamefiles/file_writing.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// 0 leaves a file at its natural size.
 struct FileSizes {
-    std::size_t neighborhood = 0;
-    bool growingCharacters = false;  // character files of 55,000 to 370,000 bytes, each with a map
+    std::size_t neighborhood = 0;    // at least; 0 for no more than its content takes
+    bool growingCharacters = false;  // pads character files up to 50,000 to 369,000 bytes and gives each a map
     int friendsOfEach = 0;
 };
+
+// Versions of neighbor records: the base game's, and the one since the expansion packs.
+constexpr std::int32_t baseVersion = 5;
+constexpr std::int32_t packVersion = 7;
 
 bool isChild(SampleKind kind) {
     return kind == SampleKind::child || kind == SampleKind::childOfStrayHead || kind == SampleKind::childOfOldMeshes;
 }
 
-// Some grown-ups were last saved before the first expansion pack, and their record and body strings are of that time.
-bool fromBaseGame(const CastSim& sim) {
+// Some adults have the record and body strings of the base game, as if no expansion pack had saved them yet.
+bool isFromBaseGame(const CastSim& sim) {
     return sim.kind == SampleKind::adult && sim.fileNumber % 7 == 0;
 }
 
-std::int32_t ageWord(SampleKind kind) {
+std::int32_t ageOf(SampleKind kind) {
     if (isChild(kind)) return 9;
     return kind == SampleKind::teen ? 18 : 27;
 }
 
-std::int32_t toneWord(const std::string& tone) {
+std::int32_t toneNumber(const std::string& tone) {
     if (tone == "lgt") return 1;
     return tone == "med" ? 3 : 2;
 }
 
 BodyEnding bodyEnding(const CastSim& sim) {
-    if (sim.kind == SampleKind::childOfOldMeshes || fromBaseGame(sim)) return BodyEnding::atEntry29;
-    const bool dressedForWinter = sim.fileNumber % 5 == 0 && !isChild(sim.kind) && sim.kind != SampleKind::pet;
-    return dressedForWinter ? BodyEnding::atEntry33 : BodyEnding::atEntry32;
+    if (sim.kind == SampleKind::childOfOldMeshes || isFromBaseGame(sim)) return BodyEnding::atEntry29;
+    const bool hasWinterOutfit = sim.fileNumber % 5 == 0 && !isChild(sim.kind) && sim.kind != SampleKind::pet;
+    return hasWinterOutfit ? BodyEnding::atEntry33 : BodyEnding::atEntry32;
 }
 
-BodySlots castSlots(const CastSim& sim) {
-    const BodySex sex = sim.kindWord == 1 ? BodySex::female : BodySex::male;
+BodySlots bodySlots(const CastSim& sim) {
+    const BodySex sex = sim.gender == 1 ? BodySex::female : BodySex::male;
     if (sim.kind == SampleKind::pet) return petSlots();
     if (isChild(sim.kind)) return childSlots(sex, sim.tone);
-    const bool teen = sim.kind == SampleKind::teen || sim.kind == SampleKind::teenOfAdultAge;
-    return teen ? teenSlots(sex, sim.tone) : adultSlots(sex, sim.tone);
+    const bool isTeen = sim.kind == SampleKind::teen || sim.kind == SampleKind::teenOfAdultAge;
+    return isTeen ? teenSlots(sex, sim.tone) : adultSlots(sex, sim.tone);
 }
 
 PortraitColors portraitColors(const CastSim& sim) {
@@ -59,17 +62,19 @@ PortraitColors portraitColors(const CastSim& sim) {
 }
 
 SampleNeighbor castNeighbor(int neighborhoodIndex, const CastFamily& family, const CastSim& sim) {
+    constexpr std::size_t bodySkill = 15;
     SampleNeighbor neighbor;
     neighbor.recordName = castRecordName(sim);
-    neighbor.version = fromBaseGame(sim) ? 5 : 7;
+    neighbor.version = isFromBaseGame(sim) ? baseVersion : packVersion;
+    // Made up. No value is the same as the next one, so a test notices one in the wrong place.
     for (std::size_t i = 2; i < neighbor.personValues.size(); ++i) {
         neighbor.personValues[i] = (sim.fileNumber * 7 + static_cast<std::int32_t>(i) * 13) % 10 * 100;
     }
-    neighbor.personValues[15] = sim.bodySkill;
-    neighbor.age = ageWord(sim.kind);
-    neighbor.skinTone = toneWord(sim.tone);
+    neighbor.personValues[bodySkill] = sim.bodySkill;
+    neighbor.age = ageOf(sim.kind);
+    neighbor.skinTone = toneNumber(sim.tone);
     neighbor.wordA = family.number;
-    neighbor.kind = sim.kindWord;
+    neighbor.kind = sim.gender;
     neighbor.neighborId = sim.fileNumber;
     neighbor.guid = castGuid(neighborhoodIndex, sim);
     for (const CastSim& other : family.members) {
@@ -79,14 +84,15 @@ SampleNeighbor castNeighbor(int neighborhoodIndex, const CastFamily& family, con
     return neighbor;
 }
 
-// The game's own characters, in the same list as the players' Sims.
+// One of the game's own characters, which are in the same list as the players' Sims.
 SampleNeighbor ownCharacter(const std::string& recordName, std::int32_t neighborId, bool hasPersonData) {
+    constexpr std::uint32_t ownGuids = 0x11220000;
     SampleNeighbor neighbor;
     neighbor.recordName = recordName;
-    neighbor.version = hasPersonData ? 5 : 0;
+    neighbor.version = hasPersonData ? baseVersion : 0;
     neighbor.hasPersonData = hasPersonData;
     neighbor.neighborId = neighborId;
-    neighbor.guid = 0x11220000U + static_cast<std::uint32_t>(neighborId);
+    neighbor.guid = ownGuids + static_cast<std::uint32_t>(neighborId);
     return neighbor;
 }
 
@@ -103,7 +109,7 @@ SampleFamily castFamily(int neighborhoodIndex, const CastFamily& family) {
     return file;
 }
 
-// A real list of neighbours is large for the friends in it.
+// In a real neighborhood, friends take most of the list of neighbors.
 void addFriends(SampleNeighborhood& neighborhood, int friendsOfEach) {
     constexpr std::int32_t ownCharacters = 2;
     const auto count = static_cast<std::int32_t>(neighborhood.neighbors.size()) - ownCharacters;
@@ -113,6 +119,23 @@ void addFriends(SampleNeighborhood& neighborhood, int friendsOfEach) {
             neighbor.relationships.push_back({other, {i % 100, 0}});
         }
     }
+}
+
+SampleCharacter castCharacter(int neighborhoodIndex, const CastFamily& family, const CastSim& sim) {
+    SampleCharacter character;
+    character.recordName = castRecordName(sim);
+    character.name = sim.name;
+    character.biography = "One of the " + family.name + " household. Likes the tide table and a slow breakfast.";
+    character.guid = castGuid(neighborhoodIndex, sim);
+    character.tag = isChild(sim.kind) ? "child" : "adult";
+    if (sim.kind == SampleKind::stranger) character.tag = "elder";
+    character.slots = bodySlots(sim);
+    if (!sim.headSkin.empty()) setHead(character.slots, sim.headMesh + ",HEAD-HEAD", sim.headSkin);
+    character.ending = bodyEnding(sim);
+    character.map = sim.fileNumber % 3 != 0;
+    character.freeRoom = sim.fileNumber % 4 == 1;
+    character.colors = portraitColors(sim);
+    return character;
 }
 
 bool writeCharacter(const fs::path& directory, SampleCharacter character, const CastSim& sim, const FileSizes& sizes) {
@@ -176,21 +199,4 @@ SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighbo
     }
     file.neighbors.push_back(ownCharacter("npc_clown", 302, false));
     return file;
-}
-
-SampleCharacter castCharacter(int neighborhoodIndex, const CastFamily& family, const CastSim& sim) {
-    SampleCharacter character;
-    character.recordName = castRecordName(sim);
-    character.name = sim.name;
-    character.biography = "One of the " + family.name + " household. Likes the tide table and a slow breakfast.";
-    character.guid = castGuid(neighborhoodIndex, sim);
-    character.tag = isChild(sim.kind) ? "child" : "adult";
-    if (sim.kind == SampleKind::stranger) character.tag = "elder";
-    character.slots = castSlots(sim);
-    if (!sim.headSkin.empty()) setHead(character.slots, sim.headMesh, sim.headSkin);
-    character.ending = bodyEnding(sim);
-    character.map = sim.fileNumber % 3 != 0;
-    character.freeRoom = sim.fileNumber % 4 == 1;
-    character.colors = portraitColors(sim);
-    return character;
 }

@@ -1,4 +1,4 @@
-// Writes a sample installation of the game.
+// Writes a sample installation of the game, in one of two sizes.
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -10,6 +10,8 @@
 namespace {
 
 constexpr int badUsage = 2;
+constexpr long usualNeighborhoods = 3;
+constexpr long mostNeighborhoods = 100;
 
 int usage() {
     std::fputs(
@@ -30,8 +32,8 @@ int run(int count, char** arguments) {
     const std::string_view command = arguments[1];
     const char* directory = arguments[2];
     if (command == "installation" && count == 3) return report(writeInstallation(directory), directory);
-    const long neighborhoods = count == 4 ? std::strtol(arguments[3], nullptr, 10) : 3;
-    if (command != "large" || count > 4 || neighborhoods < 1 || neighborhoods > 100) return usage();
+    const long neighborhoods = count == 4 ? std::strtol(arguments[3], nullptr, 10) : usualNeighborhoods;
+    if (command != "large" || count > 4 || neighborhoods < 1 || neighborhoods > mostNeighborhoods) return usage();
     return report(writeLargeInstallation(directory, static_cast<int>(neighborhoods)), directory);
 }
 
@@ -40,7 +42,7 @@ int run(int count, char** arguments) {
 int main(int count, char** arguments) {
     try {
         return run(count, arguments);
-    } catch (const std::exception& error) {  // the standard library's words for a directory that can't be made
+    } catch (const std::exception& error) {  // a directory that can't be made
         std::fprintf(stderr, "make_sample: %s\n", error.what());
         return EXIT_FAILURE;
     }

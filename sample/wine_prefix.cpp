@@ -54,12 +54,12 @@ fs::path gameDirectory(const fs::path& prefix) {
 bool makeWinePrefix(const fs::path& prefix) {
     if (!emptyOrRefuse(prefix)) return false;
     const fs::path game = gameDirectory(prefix);
-    fs::create_directories(game / "GameData" / "Skins");
+    const fs::path skins = game / "GameData" / "Skins";
+    fs::create_directories(skins);
     fs::create_directories(game / "ExpansionPack4");
     fs::create_directories(prefix / "dosdevices");
-    // Windows has no such link, nor needs one: there the game's directory is used as it is.
+    // Fails on Windows, where the tests use the game's directory without a prefix.
     std::error_code ignored;
     fs::create_directory_symlink(fs::path("..") / "drive_c", prefix / "dosdevices" / "c:", ignored);
-    return writeFile(prefix / "system.reg", systemRegistry) &&
-           writeFile(game / "GameData" / "Skins" / packageSkinName, packageSkin());
+    return writeFile(prefix / "system.reg", systemRegistry) && writeFile(skins / packageSkinName, packageSkin());
 }
