@@ -20,14 +20,14 @@
 
 #else
 
-#include "platform/native/controls.h"
-#include "platform/native/file_system.h"
-#include "platform/native/gdi.h"
-#include "platform/native/registry.h"
-#include "platform/native/resources.h"
-#include "platform/native/system.h"
-#include "platform/native/types.h"
-#include "platform/native/windows.h"
+#include "platform/native/api/controls.h"
+#include "platform/native/api/file_system.h"
+#include "platform/native/api/gdi.h"
+#include "platform/native/api/registry.h"
+#include "platform/native/api/resources.h"
+#include "platform/native/api/system.h"
+#include "platform/native/api/types.h"
+#include "platform/native/api/windowing.h"
 
 #endif
 

@@ -3,10 +3,10 @@
 #include <memory>
 #include <vector>
 
+#include "platform/native/api/system.h"
+#include "platform/native/api/windowing.h"
 #include "platform/native/handle_table.h"
 #include "platform/native/resource_file.h"
-#include "platform/native/system.h"
-#include "platform/native/windows.h"
 
 namespace {
 

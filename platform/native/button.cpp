@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-#include "platform/native/controls.h"
+#include "platform/native/api/controls.h"
 #include "platform/native/qt_text.h"
 
 Button::Button(DWORD style, HWND parent, int id, LPCSTR text, QWidget* area)

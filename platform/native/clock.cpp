@@ -1,6 +1,6 @@
 #include <time.h>
 
-#include "platform/native/system.h"
+#include "platform/native/api/system.h"
 
 void GetSystemTime(SYSTEMTIME* time) {
     constexpr long nanosecondsPerMillisecond = 1'000'000;

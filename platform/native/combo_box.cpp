@@ -5,7 +5,7 @@
 #include <QProxyStyle>
 #include <algorithm>
 
-#include "platform/native/controls.h"
+#include "platform/native/api/controls.h"
 #include "platform/native/qt_text.h"
 
 namespace {

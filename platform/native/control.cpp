@@ -1,6 +1,6 @@
 #include "platform/native/control.h"
 
-#include "platform/native/windows.h"
+#include "platform/native/api/windowing.h"
 
 Control::Control(DWORD style, HWND parent, QWidget* widget) : Window(style, parent), widget_(widget) {}
 

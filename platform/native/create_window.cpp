@@ -1,11 +1,11 @@
 // Windows come and go: CreateWindowExA and DestroyWindow.
 #include <QWidget>
 
+#include "platform/native/api/system.h"
 #include "platform/native/button.h"
 #include "platform/native/client_area.h"
 #include "platform/native/combo_box.h"
 #include "platform/native/display.h"
-#include "platform/native/system.h"
 #include "platform/native/top_level_window.h"
 
 namespace {

@@ -3,12 +3,12 @@
 #include <QGuiApplication>
 #include <QWidget>
 
+#include "platform/native/api/gdi.h"
+#include "platform/native/api/resources.h"
+#include "platform/native/api/system.h"
 #include "platform/native/display.h"
-#include "platform/native/gdi.h"
 #include "platform/native/handle_table.h"
 #include "platform/native/resource_file.h"
-#include "platform/native/resources.h"
-#include "platform/native/system.h"
 
 namespace {
 

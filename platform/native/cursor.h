@@ -2,7 +2,7 @@
 #ifndef PLATFORM_NATIVE_CURSOR_H
 #define PLATFORM_NATIVE_CURSOR_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 class QWidget;
 

@@ -2,12 +2,12 @@
 
 #include <QPainter>
 
+#include "platform/native/api/gdi.h"
+#include "platform/native/api/system.h"
 #include "platform/native/client_area.h"
-#include "platform/native/gdi.h"
 #include "platform/native/handle_table.h"
 #include "platform/native/pictures.h"
 #include "platform/native/screen_drawing.h"
-#include "platform/native/system.h"
 #include "platform/native/window.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <QRegion>
 #include <functional>
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 class ClientArea;
 class QPainter;

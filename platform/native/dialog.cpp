@@ -6,17 +6,17 @@
 #include <QPushButton>
 #include <optional>
 
+#include "platform/native/api/controls.h"
+#include "platform/native/api/resources.h"
+#include "platform/native/api/windowing.h"
 #include "platform/native/button.h"
 #include "platform/native/client_area.h"
-#include "platform/native/controls.h"
 #include "platform/native/dialog_template.h"
 #include "platform/native/display.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/pictures.h"
 #include "platform/native/resource_file.h"
-#include "platform/native/resources.h"
 #include "platform/native/window.h"
-#include "platform/native/windows.h"
 
 namespace {
 

@@ -14,8 +14,8 @@
 #include <optional>
 #include <vector>
 
+#include "platform/native/api/types.h"
 #include "platform/native/resource_bytes.h"
-#include "platform/native/types.h"
 
 struct DialogItem {
     enum class Kind { button, text, other };

@@ -12,11 +12,11 @@
 #include <QPluginLoader>
 #include <cstring>
 
+#include "platform/native/api/system.h"
 #include "platform/native/cursor.h"
 #include "platform/native/device_context.h"
 #include "platform/native/key_messages.h"
 #include "platform/native/late_clicks.h"
-#include "platform/native/system.h"
 #include "platform/native/window.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // Drawing: the answer to WM_PAINT, and the copying of pictures.
 #include <QPainter>
 
+#include "platform/native/api/gdi.h"
 #include "platform/native/client_area.h"
 #include "platform/native/device_context.h"
-#include "platform/native/gdi.h"
 #include "platform/native/pictures.h"
 #include "platform/native/window.h"
 

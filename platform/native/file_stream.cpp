@@ -5,9 +5,9 @@
 
 #include <cerrno>
 
+#include "platform/native/api/system.h"
 #include "platform/native/last_error.h"
 #include "platform/native/permissions.h"
-#include "platform/native/system.h"
 
 bool isRefused(const struct stat& status, int flags) {
     if (S_ISDIR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) return true;

@@ -1,4 +1,4 @@
-#include "platform/native/file_system.h"
+#include "platform/native/api/file_system.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/native/api/system.h"
 #include "platform/native/last_error.h"
 #include "platform/native/paths.h"
 #include "platform/native/permissions.h"
-#include "platform/native/system.h"
 #include "platform/native/text1252.h"
 
 namespace {

@@ -9,11 +9,11 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/native/api/system.h"
 #include "platform/native/file_stream.h"
 #include "platform/native/last_error.h"
 #include "platform/native/paths.h"
 #include "platform/native/permissions.h"
-#include "platform/native/system.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 // Ascending, from well above what a program might pass for an id.
 inline HANDLE newHandle() {

@@ -8,7 +8,7 @@
 #ifndef PLATFORM_NATIVE_KEY_MESSAGES_H
 #define PLATFORM_NATIVE_KEY_MESSAGES_H
 
-#include "platform/native/windows.h"
+#include "platform/native/api/windowing.h"
 
 void watchKeys();
 

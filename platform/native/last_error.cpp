@@ -8,8 +8,8 @@
 #include <iterator>
 #include <string>
 
+#include "platform/native/api/system.h"
 #include "platform/native/paths.h"
-#include "platform/native/system.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
-// The calling thread's last error (GetLastError, platform/native/system.h), set from what the system's calls report.
+// The calling thread's last error (GetLastError, platform/native/api/system.h), set from what the system's calls
+// report.
 #ifndef PLATFORM_NATIVE_LAST_ERROR_H
 #define PLATFORM_NATIVE_LAST_ERROR_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 struct NativePath;
 

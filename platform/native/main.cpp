@@ -1,9 +1,9 @@
 // The process's entry: it prepares what Windows would have prepared, and calls the program's own.
 #include <string>
 
+#include "platform/native/api/system.h"
+#include "platform/native/api/windowing.h"
 #include "platform/native/display.h"
-#include "platform/native/system.h"
-#include "platform/native/windows.h"
 
 int __argc = 0;
 char** __argv = nullptr;

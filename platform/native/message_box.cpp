@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <cstdio>
 
-#include "platform/native/controls.h"
+#include "platform/native/api/controls.h"
 #include "platform/native/display.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/qt_text.h"

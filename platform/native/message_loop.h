@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "platform/native/windows.h"
+#include "platform/native/api/windowing.h"
 
 class QWidget;
 

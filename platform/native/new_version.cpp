@@ -10,11 +10,11 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "platform/native/api/system.h"
 #include "platform/native/directory_listing.h"
 #include "platform/native/file_stream.h"
 #include "platform/native/last_error.h"
 #include "platform/native/permissions.h"
-#include "platform/native/system.h"
 
 struct NewVersion::State {
     bool close() { return stream == nullptr || std::fclose(std::exchange(stream, nullptr)) == 0; }

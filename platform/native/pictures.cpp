@@ -1,11 +1,11 @@
 #include "platform/native/pictures.h"
 
+#include "platform/native/api/gdi.h"
+#include "platform/native/api/resources.h"
+#include "platform/native/api/system.h"
 #include "platform/native/dib.h"
-#include "platform/native/gdi.h"
 #include "platform/native/handle_table.h"
 #include "platform/native/resource_file.h"
-#include "platform/native/resources.h"
-#include "platform/native/system.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <vector>
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 // An icon's pictures, of several sizes; none if the handle is no icon's.
 std::vector<QImage> picturesOf(HICON icon);

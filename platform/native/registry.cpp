@@ -1,4 +1,4 @@
-#include "platform/native/registry.h"
+#include "platform/native/api/registry.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,9 +11,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/native/api/system.h"
 #include "platform/native/paths.h"
 #include "platform/native/registry_file.h"
-#include "platform/native/system.h"
 
 struct HKEY__ {
     // In the order of their rank, lowest first: the plain section's, then those of the 32-bit programs' section.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/native/registry.h"
+#include "platform/native/api/registry.h"
 #include "platform/native/text1252.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 // Name and text are Windows-1252; the key's unnamed value has the name "".
 struct RegistryValue {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/native/resources.h"
+#include "platform/native/api/resources.h"
 #include "platform/native/text1252.h"
 
 extern "C" {

@@ -11,8 +11,8 @@
 #include <optional>
 #include <span>
 
+#include "platform/native/api/types.h"
 #include "platform/native/resource_bytes.h"
-#include "platform/native/types.h"
 
 namespace resourceType {
 constexpr WORD bitmap = 2;

@@ -11,8 +11,8 @@
 #include <thread>
 #include <vector>
 
+#include "platform/native/api/system.h"
 #include "platform/native/last_error.h"
-#include "platform/native/system.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
+#include "platform/native/api/system.h"
+#include "platform/native/api/windowing.h"
 #include "platform/native/handle_table.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/qt_text.h"
-#include "platform/native/system.h"
-#include "platform/native/windows.h"
 #include "platform/native/x_windows.h"
 
 namespace {

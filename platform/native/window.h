@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 class ClientArea;
 class QWidget;

@@ -4,7 +4,7 @@
 
 #include <deque>
 
-#include "platform/native/system.h"
+#include "platform/native/api/system.h"
 
 namespace {
 

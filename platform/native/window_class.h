@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/native/windows.h"
+#include "platform/native/api/windowing.h"
 
 struct WindowClass {
     std::string name;

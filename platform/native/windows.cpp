@@ -2,12 +2,12 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "platform/native/api/gdi.h"
+#include "platform/native/api/system.h"
+#include "platform/native/api/windowing.h"
 #include "platform/native/client_area.h"
-#include "platform/native/gdi.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/system.h"
 #include "platform/native/window.h"
-#include "platform/native/windows.h"
 
 namespace {
 

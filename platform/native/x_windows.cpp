@@ -13,9 +13,9 @@
 #include <thread>
 #include <vector>
 
-#include "platform/native/system.h"
+#include "platform/native/api/system.h"
+#include "platform/native/api/windowing.h"
 #include "platform/native/text1252.h"
-#include "platform/native/windows.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The controls' styles and messages, message boxes and dialogs. A combo box is a QComboBox, a button a QPushButton, a
 // box a QMessageBox: keyboard, wheel, screen readers and scaling are Qt's.
-#ifndef PLATFORM_NATIVE_CONTROLS_H
-#define PLATFORM_NATIVE_CONTROLS_H
+#ifndef PLATFORM_NATIVE_API_CONTROLS_H
+#define PLATFORM_NATIVE_API_CONTROLS_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 // A combo box sends WM_COMMAND with its id and CBN_SELCHANGE when the user picks an entry, also the one that is
 // selected already; no message of the program's own brings it. Left out: every other notification.

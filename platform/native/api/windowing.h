@@ -8,10 +8,10 @@
 // message, such as those of mouse, size and focus, which Qt handles by itself.
 //
 // Without a display no window can be created; everything else here then refuses or does nothing.
-#ifndef PLATFORM_NATIVE_WINDOWS_H
-#define PLATFORM_NATIVE_WINDOWS_H
+#ifndef PLATFORM_NATIVE_API_WINDOWING_H
+#define PLATFORM_NATIVE_API_WINDOWING_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 constexpr UINT WM_CREATE = 0x0001;
 constexpr UINT WM_DESTROY = 0x0002;

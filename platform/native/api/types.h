@@ -1,7 +1,7 @@
 // Win32's types, structures and shared constants with Windows' widths and values. Handles are opaque; a handle that is
 // no longer valid is refused by every operation, never followed.
-#ifndef PLATFORM_NATIVE_TYPES_H
-#define PLATFORM_NATIVE_TYPES_H
+#ifndef PLATFORM_NATIVE_API_TYPES_H
+#define PLATFORM_NATIVE_API_TYPES_H
 
 #include <cstdint>
 

@@ -1,9 +1,9 @@
 // Resources of the program: a compiled resource script (the `.res` form) that the build embeds between two symbols. Ids
 // are given by MAKEINTRESOURCEA.
-#ifndef PLATFORM_NATIVE_RESOURCES_H
-#define PLATFORM_NATIVE_RESOURCES_H
+#ifndef PLATFORM_NATIVE_API_RESOURCES_H
+#define PLATFORM_NATIVE_API_RESOURCES_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 // The text of a string table's entry as Windows-1252, cut to `size` - 1 characters, with its terminator. Returns its
 // length, 0 if there is none.

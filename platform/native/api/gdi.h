@@ -1,8 +1,8 @@
 // Drawing, cursors and pictures.
-#ifndef PLATFORM_NATIVE_GDI_H
-#define PLATFORM_NATIVE_GDI_H
+#ifndef PLATFORM_NATIVE_API_GDI_H
+#define PLATFORM_NATIVE_API_GDI_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 constexpr UINT DT_LEFT = 0x0000;
 constexpr UINT DT_CENTER = 0x0001;

@@ -1,8 +1,8 @@
 // Clock, error code, working of the process, and the web browser.
-#ifndef PLATFORM_NATIVE_SYSTEM_H
-#define PLATFORM_NATIVE_SYSTEM_H
+#ifndef PLATFORM_NATIVE_API_SYSTEM_H
+#define PLATFORM_NATIVE_API_SYSTEM_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 struct SYSTEMTIME {
     WORD wYear, wMonth, wDayOfWeek, wDay, wHour, wMinute, wSecond, wMilliseconds;

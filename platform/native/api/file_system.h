@@ -2,10 +2,10 @@
 // a native absolute path and a relative one stay; backslashes become slashes; each component is looked up first as
 // written, then without regard to ASCII case; what doesn't exist is taken as written. Opening and status:
 // platform/files.h.
-#ifndef PLATFORM_NATIVE_FILE_SYSTEM_H
-#define PLATFORM_NATIVE_FILE_SYSTEM_H
+#ifndef PLATFORM_NATIVE_API_FILE_SYSTEM_H
+#define PLATFORM_NATIVE_API_FILE_SYSTEM_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 constexpr DWORD FILE_ATTRIBUTE_READONLY = 0x1;
 constexpr DWORD FILE_ATTRIBUTE_DIRECTORY = 0x10;

@@ -1,9 +1,9 @@
 // The registry of a Wine prefix, read only: `$WINEPREFIX/system.reg`, else `~/.wine/system.reg`. Nothing else of a
 // registry exists here, so only `HKEY_LOCAL_MACHINE` can be opened.
-#ifndef PLATFORM_NATIVE_REGISTRY_H
-#define PLATFORM_NATIVE_REGISTRY_H
+#ifndef PLATFORM_NATIVE_API_REGISTRY_H
+#define PLATFORM_NATIVE_API_REGISTRY_H
 
-#include "platform/native/types.h"
+#include "platform/native/api/types.h"
 
 // NOLINTNEXTLINE(performance-no-int-to-ptr): Windows' own value
 inline const HKEY HKEY_LOCAL_MACHINE = reinterpret_cast<HKEY>(static_cast<ULONG_PTR>(0x80000002));
