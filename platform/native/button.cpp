@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "platform/native/api/controls.h"
-#include "platform/native/qt_text.h"
+#include "platform/native/base/qt_text.h"
 
 Button::Button(DWORD style, HWND parent, int id, LPCSTR text, QWidget* area)
     : Control(style, parent, new QPushButton(qtText(text), area)) {

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "platform/native/api/controls.h"
-#include "platform/native/qt_text.h"
+#include "platform/native/base/qt_text.h"
 
 namespace {
 

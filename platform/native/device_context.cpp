@@ -4,8 +4,8 @@
 
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/system.h"
+#include "platform/native/base/handle_table.h"
 #include "platform/native/client_area.h"
-#include "platform/native/handle_table.h"
 #include "platform/native/pictures.h"
 #include "platform/native/screen_drawing.h"
 #include "platform/native/window.h"

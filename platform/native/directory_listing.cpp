@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-#include "platform/native/text1252.h"
+#include "platform/native/base/text1252.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cerrno>
 
 #include "platform/native/api/system.h"
-#include "platform/native/last_error.h"
+#include "platform/native/base/last_error.h"
 #include "platform/native/permissions.h"
 
 bool isRefused(const struct stat& status, int flags) {

@@ -12,10 +12,10 @@
 #include <vector>
 
 #include "platform/native/api/system.h"
-#include "platform/native/last_error.h"
+#include "platform/native/base/last_error.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/paths.h"
 #include "platform/native/permissions.h"
-#include "platform/native/text1252.h"
 
 namespace {
 

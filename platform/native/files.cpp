@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "platform/native/api/system.h"
+#include "platform/native/base/last_error.h"
 #include "platform/native/file_stream.h"
-#include "platform/native/last_error.h"
 #include "platform/native/paths.h"
 #include "platform/native/permissions.h"
 

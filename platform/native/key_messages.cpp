@@ -8,8 +8,8 @@
 #include <map>
 #include <memory>
 
+#include "platform/native/base/qt_text.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/qt_text.h"
 #include "platform/native/window.h"
 
 namespace {

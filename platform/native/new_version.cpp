@@ -11,9 +11,9 @@
 
 #include "platform/files.h"
 #include "platform/native/api/system.h"
+#include "platform/native/base/last_error.h"
 #include "platform/native/directory_listing.h"
 #include "platform/native/file_stream.h"
-#include "platform/native/last_error.h"
 #include "platform/native/permissions.h"
 
 struct NewVersion::State {

@@ -3,8 +3,8 @@
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/resources.h"
 #include "platform/native/api/system.h"
+#include "platform/native/base/handle_table.h"
 #include "platform/native/dib.h"
-#include "platform/native/handle_table.h"
 #include "platform/native/resource_file.h"
 
 namespace {

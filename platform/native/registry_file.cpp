@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/native/api/registry.h"
-#include "platform/native/text1252.h"
+#include "platform/native/base/text1252.h"
 
 namespace {
 

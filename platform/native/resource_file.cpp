@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "platform/native/api/resources.h"
-#include "platform/native/text1252.h"
+#include "platform/native/base/text1252.h"
 
 extern "C" {
 // Null when no resources were built in.

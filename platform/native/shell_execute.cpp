@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "platform/native/api/system.h"
-#include "platform/native/last_error.h"
+#include "platform/native/base/last_error.h"
 
 namespace {
 

@@ -5,11 +5,11 @@
 #include <QScreen>
 #include <QWidget>
 
+#include "platform/native/base/qt_text.h"
 #include "platform/native/client_area.h"
 #include "platform/native/menu_bar.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/pictures.h"
-#include "platform/native/qt_text.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/handle_table.h"
+#include "platform/native/base/handle_table.h"
+#include "platform/native/base/qt_text.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/qt_text.h"
 #include "platform/native/x_windows.h"
 
 namespace {

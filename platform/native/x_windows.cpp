@@ -15,7 +15,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/text1252.h"
+#include "platform/native/base/text1252.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Handles: numbers that no two objects share, so that an old handle, or one of another kind, is found to be nobody's.
-#ifndef PLATFORM_NATIVE_HANDLE_TABLE_H
-#define PLATFORM_NATIVE_HANDLE_TABLE_H
+#ifndef PLATFORM_NATIVE_BASE_HANDLE_TABLE_H
+#define PLATFORM_NATIVE_BASE_HANDLE_TABLE_H
 
 #include <cstdint>
 #include <map>

@@ -1,6 +1,6 @@
 // Windows-1252, the program's text, against UTF-8, the text of native file names and windows.
-#ifndef PLATFORM_NATIVE_TEXT1252_H
-#define PLATFORM_NATIVE_TEXT1252_H
+#ifndef PLATFORM_NATIVE_BASE_TEXT1252_H
+#define PLATFORM_NATIVE_BASE_TEXT1252_H
 
 #include <cstdint>
 #include <string>

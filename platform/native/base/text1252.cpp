@@ -1,4 +1,4 @@
-#include "platform/native/text1252.h"
+#include "platform/native/base/text1252.h"
 
 #include <algorithm>
 #include <array>

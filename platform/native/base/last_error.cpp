@@ -1,4 +1,4 @@
-#include "platform/native/last_error.h"
+#include "platform/native/base/last_error.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,6 +1,6 @@
 // The program's text, Windows-1252, as Qt's and back. What Windows-1252 lacks becomes "?".
-#ifndef PLATFORM_NATIVE_QT_TEXT_H
-#define PLATFORM_NATIVE_QT_TEXT_H
+#ifndef PLATFORM_NATIVE_BASE_QT_TEXT_H
+#define PLATFORM_NATIVE_BASE_QT_TEXT_H
 
 #include <QString>
 #include <string>

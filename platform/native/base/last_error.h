@@ -1,7 +1,7 @@
 // The calling thread's last error (GetLastError, platform/native/api/system.h), set from what the system's calls
 // report.
-#ifndef PLATFORM_NATIVE_LAST_ERROR_H
-#define PLATFORM_NATIVE_LAST_ERROR_H
+#ifndef PLATFORM_NATIVE_BASE_LAST_ERROR_H
+#define PLATFORM_NATIVE_BASE_LAST_ERROR_H
 
 #include "platform/native/api/types.h"
 

@@ -1,6 +1,6 @@
-#include "platform/native/qt_text.h"
+#include "platform/native/base/qt_text.h"
 
-#include "platform/native/text1252.h"
+#include "platform/native/base/text1252.h"
 
 QString qtText(std::string_view text) {
     return QString::fromStdString(utf8From1252(text));
