@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "platform/native/api/system.h"
-#include "platform/native/paths.h"
+#include "platform/native/files/paths.h"
 #include "platform/native/registry_file.h"
 
 struct HKEY__ {

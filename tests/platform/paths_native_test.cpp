@@ -1,5 +1,5 @@
 #include "platform/files.h"
-#include "platform/native/paths.h"
+#include "platform/native/files/paths.h"
 
 #include <gtest/gtest.h>
 

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/native/api/system.h"
-#include "platform/native/paths.h"
+#include "platform/native/files/paths.h"
 
 namespace {
 

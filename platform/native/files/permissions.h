@@ -1,6 +1,6 @@
 // Windows' one attribute "read-only", told from the system's permissions.
-#ifndef PLATFORM_NATIVE_PERMISSIONS_H
-#define PLATFORM_NATIVE_PERMISSIONS_H
+#ifndef PLATFORM_NATIVE_FILES_PERMISSIONS_H
+#define PLATFORM_NATIVE_FILES_PERMISSIONS_H
 
 #include <sys/stat.h>
 

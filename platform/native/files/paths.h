@@ -5,8 +5,8 @@
 // one. Each component means the entry that DirectoryListing::spell finds; "." and ".." are left to the system.
 //
 // To be called by one thread at a time.
-#ifndef PLATFORM_NATIVE_PATHS_H
-#define PLATFORM_NATIVE_PATHS_H
+#ifndef PLATFORM_NATIVE_FILES_PATHS_H
+#define PLATFORM_NATIVE_FILES_PATHS_H
 
 #include <string>
 

@@ -1,12 +1,12 @@
 // Files of the directory in which a path was found, opened as streams of the C runtime.
-#ifndef PLATFORM_NATIVE_FILE_STREAM_H
-#define PLATFORM_NATIVE_FILE_STREAM_H
+#ifndef PLATFORM_NATIVE_FILES_FILE_STREAM_H
+#define PLATFORM_NATIVE_FILES_FILE_STREAM_H
 
 #include <sys/stat.h>
 
 #include <cstdio>
 
-#include "platform/native/paths.h"
+#include "platform/native/files/paths.h"
 
 // Whether a file of this status may not be opened with these flags of open(2). Asked before the opening, because
 // opening already does things: it waits for the other end of a pipe, it empties a file.

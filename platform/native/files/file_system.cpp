@@ -14,8 +14,8 @@
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
 #include "platform/native/base/text1252.h"
-#include "platform/native/paths.h"
-#include "platform/native/permissions.h"
+#include "platform/native/files/paths.h"
+#include "platform/native/files/permissions.h"
 
 namespace {
 

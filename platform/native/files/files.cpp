@@ -11,9 +11,9 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
-#include "platform/native/file_stream.h"
-#include "platform/native/paths.h"
-#include "platform/native/permissions.h"
+#include "platform/native/files/file_stream.h"
+#include "platform/native/files/paths.h"
+#include "platform/native/files/permissions.h"
 
 namespace {
 

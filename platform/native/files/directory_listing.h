@@ -1,7 +1,7 @@
 // The names in one directory, for the search without regard to case, kept for as long as they are known to be true. A
 // listing is never trusted by its age: each use asks the system whether the directory is still the same and unchanged.
-#ifndef PLATFORM_NATIVE_DIRECTORY_LISTING_H
-#define PLATFORM_NATIVE_DIRECTORY_LISTING_H
+#ifndef PLATFORM_NATIVE_FILES_DIRECTORY_LISTING_H
+#define PLATFORM_NATIVE_FILES_DIRECTORY_LISTING_H
 
 #include <sys/stat.h>
 

@@ -1,9 +1,9 @@
-#include "platform/native/permissions.h"
+#include "platform/native/files/permissions.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "platform/native/paths.h"
+#include "platform/native/files/paths.h"
 
 bool mayWrite(const NativePath& path, const struct stat& status) {
     static const uid_t user = geteuid();

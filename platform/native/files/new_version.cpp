@@ -12,9 +12,9 @@
 #include "platform/files.h"
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
-#include "platform/native/directory_listing.h"
-#include "platform/native/file_stream.h"
-#include "platform/native/permissions.h"
+#include "platform/native/files/directory_listing.h"
+#include "platform/native/files/file_stream.h"
+#include "platform/native/files/permissions.h"
 
 struct NewVersion::State {
     bool close() { return stream == nullptr || std::fclose(std::exchange(stream, nullptr)) == 0; }

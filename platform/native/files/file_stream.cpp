@@ -1,4 +1,4 @@
-#include "platform/native/file_stream.h"
+#include "platform/native/files/file_stream.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
-#include "platform/native/permissions.h"
+#include "platform/native/files/permissions.h"
 
 bool isRefused(const struct stat& status, int flags) {
     if (S_ISDIR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) return true;

@@ -1,4 +1,4 @@
-#include "platform/native/directory_listing.h"
+#include "platform/native/files/directory_listing.h"
 
 #include <dirent.h>
 #include <fcntl.h>

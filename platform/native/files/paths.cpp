@@ -1,4 +1,4 @@
-#include "platform/native/paths.h"
+#include "platform/native/files/paths.h"
 
 #include <fcntl.h>
 #include <pwd.h>
@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/native/directory_listing.h"
+#include "platform/native/files/directory_listing.h"
 
 namespace {
 
