@@ -2,7 +2,7 @@
 #include <cstdlib>
 
 #include "fuzz/fuzz_files.h"
-#include "platform/native/registry_file.h"
+#include "platform/native/registry/registry_file.h"
 #include "world/sims_directory.h"
 
 namespace {

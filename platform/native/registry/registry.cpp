@@ -13,7 +13,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/files/paths.h"
-#include "platform/native/registry_file.h"
+#include "platform/native/registry/registry_file.h"
 
 struct HKEY__ {
     // In the order of their rank, lowest first: the plain section's, then those of the 32-bit programs' section.

@@ -1,4 +1,4 @@
-#include "platform/native/registry_file.h"
+#include "platform/native/registry/registry_file.h"
 
 #include <algorithm>
 

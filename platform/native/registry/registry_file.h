@@ -1,8 +1,8 @@
 // Wine's text form of a registry: sections with a key's path in brackets, below them lines of "name"=value. Of the
 // values only texts are understood. The file is somebody else's and may be damaged anywhere: a line that isn't whole
 // counts for nothing, and neither does one in front of the first section.
-#ifndef PLATFORM_NATIVE_REGISTRY_FILE_H
-#define PLATFORM_NATIVE_REGISTRY_FILE_H
+#ifndef PLATFORM_NATIVE_REGISTRY_REGISTRY_FILE_H
+#define PLATFORM_NATIVE_REGISTRY_REGISTRY_FILE_H
 
 #include <string>
 #include <string_view>
