@@ -6,7 +6,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/base/handle_table.h"
-#include "platform/native/resource_file.h"
+#include "platform/native/resources/resource_file.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
 #include "platform/native/display.h"
-#include "platform/native/resource_file.h"
+#include "platform/native/resources/resource_file.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
 #include "platform/native/client_area.h"
-#include "platform/native/pictures.h"
+#include "platform/native/resources/pictures.h"
 #include "platform/native/screen_drawing.h"
 #include "platform/native/window.h"
 

@@ -4,7 +4,7 @@
 #include "platform/native/api/gdi.h"
 #include "platform/native/client_area.h"
 #include "platform/native/device_context.h"
-#include "platform/native/pictures.h"
+#include "platform/native/resources/pictures.h"
 #include "platform/native/window.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include <QMenuBar>
 #include <optional>
 
-#include "platform/native/menu_template.h"
 #include "platform/native/message_loop.h"
+#include "platform/native/resources/menu_template.h"
 
 namespace {
 

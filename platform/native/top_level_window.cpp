@@ -9,7 +9,7 @@
 #include "platform/native/client_area.h"
 #include "platform/native/menu_bar.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/pictures.h"
+#include "platform/native/resources/pictures.h"
 
 namespace {
 

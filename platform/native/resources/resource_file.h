@@ -5,14 +5,14 @@
 //
 // Type and name are a number behind FFFF or a UTF-16 text. Among entries of one type and name, for several languages,
 // the first is taken. A damaged entry ends the file: what stands before it is found.
-#ifndef PLATFORM_NATIVE_RESOURCE_FILE_H
-#define PLATFORM_NATIVE_RESOURCE_FILE_H
+#ifndef PLATFORM_NATIVE_RESOURCES_RESOURCE_FILE_H
+#define PLATFORM_NATIVE_RESOURCES_RESOURCE_FILE_H
 
 #include <optional>
 #include <span>
 
 #include "platform/native/api/types.h"
-#include "platform/native/resource_bytes.h"
+#include "platform/native/resources/resource_bytes.h"
 
 namespace resourceType {
 constexpr WORD bitmap = 2;

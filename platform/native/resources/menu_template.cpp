@@ -1,6 +1,6 @@
-#include "platform/native/menu_template.h"
+#include "platform/native/resources/menu_template.h"
 
-#include "platform/native/resource_file.h"
+#include "platform/native/resources/resource_file.h"
 
 namespace {
 

@@ -4,15 +4,15 @@
 //     item:   flags, for all but popups the id, the text in UTF-16 up to a zero
 //
 // all numbers of 2 bytes. The items of a popup follow it, and the flags of the last item of each list say so.
-#ifndef PLATFORM_NATIVE_MENU_TEMPLATE_H
-#define PLATFORM_NATIVE_MENU_TEMPLATE_H
+#ifndef PLATFORM_NATIVE_RESOURCES_MENU_TEMPLATE_H
+#define PLATFORM_NATIVE_RESOURCES_MENU_TEMPLATE_H
 
 #include <QString>
 #include <optional>
 #include <vector>
 
 #include "platform/native/api/types.h"
-#include "platform/native/resource_bytes.h"
+#include "platform/native/resources/resource_bytes.h"
 
 struct MenuItem {
     bool isPopup = false;

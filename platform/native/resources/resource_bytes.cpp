@@ -1,4 +1,4 @@
-#include "platform/native/resource_bytes.h"
+#include "platform/native/resources/resource_bytes.h"
 
 #include <algorithm>
 

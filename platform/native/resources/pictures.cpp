@@ -1,11 +1,11 @@
-#include "platform/native/pictures.h"
+#include "platform/native/resources/pictures.h"
 
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/resources.h"
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
-#include "platform/native/dib.h"
-#include "platform/native/resource_file.h"
+#include "platform/native/resources/dib.h"
+#include "platform/native/resources/resource_file.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // A cursor over the bytes of a compiled resource, little-endian. After the first read past the end all reads give zeros
 // and empty texts, and `failed` says so: a parser reads on and asks once.
-#ifndef PLATFORM_NATIVE_RESOURCE_BYTES_H
-#define PLATFORM_NATIVE_RESOURCE_BYTES_H
+#ifndef PLATFORM_NATIVE_RESOURCES_RESOURCE_BYTES_H
+#define PLATFORM_NATIVE_RESOURCES_RESOURCE_BYTES_H
 
 #include <cstddef>
 #include <cstdint>

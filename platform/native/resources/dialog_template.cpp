@@ -1,4 +1,4 @@
-#include "platform/native/dialog_template.h"
+#include "platform/native/resources/dialog_template.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/native/dib.h"
+#include "platform/native/resources/dib.h"
 
 #include <QColor>
 #include <cstdlib>

@@ -6,8 +6,8 @@
 //
 // numbers of 2 bytes where nothing else is said. Places are in dialog units, a fourth of the font's average width and
 // an eighth of its height.
-#ifndef PLATFORM_NATIVE_DIALOG_TEMPLATE_H
-#define PLATFORM_NATIVE_DIALOG_TEMPLATE_H
+#ifndef PLATFORM_NATIVE_RESOURCES_DIALOG_TEMPLATE_H
+#define PLATFORM_NATIVE_RESOURCES_DIALOG_TEMPLATE_H
 
 #include <QRect>
 #include <QString>
@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "platform/native/api/types.h"
-#include "platform/native/resource_bytes.h"
+#include "platform/native/resources/resource_bytes.h"
 
 struct DialogItem {
     enum class Kind { button, text, other };

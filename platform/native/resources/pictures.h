@@ -1,6 +1,6 @@
 // The pictures behind the handles of icons and bitmaps.
-#ifndef PLATFORM_NATIVE_PICTURES_H
-#define PLATFORM_NATIVE_PICTURES_H
+#ifndef PLATFORM_NATIVE_RESOURCES_PICTURES_H
+#define PLATFORM_NATIVE_RESOURCES_PICTURES_H
 
 #include <QImage>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "platform/native/resource_file.h"
+#include "platform/native/resources/resource_file.h"
 
 #include <algorithm>
 #include <cstring>
