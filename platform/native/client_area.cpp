@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QtMath>
 
-#include "platform/native/cursor.h"
+#include "platform/native/screen/cursor.h"
 #include "platform/native/screen_drawing.h"
 
 ClientArea::ClientArea(const WindowClass& windowClass, QWidget* frame)

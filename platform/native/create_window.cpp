@@ -5,7 +5,7 @@
 #include "platform/native/button.h"
 #include "platform/native/client_area.h"
 #include "platform/native/combo_box.h"
-#include "platform/native/display.h"
+#include "platform/native/screen/display.h"
 #include "platform/native/top_level_window.h"
 
 namespace {

@@ -11,11 +11,11 @@
 #include "platform/native/api/windowing.h"
 #include "platform/native/button.h"
 #include "platform/native/client_area.h"
-#include "platform/native/display.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/resources/dialog_template.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/resources/resource_file.h"
+#include "platform/native/screen/display.h"
 #include "platform/native/window.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include "platform/native/base/qt_text.h"
 #include "platform/native/client_area.h"
 #include "platform/native/device_context.h"
-#include "platform/native/display.h"
+#include "platform/native/screen/display.h"
 #include "platform/native/window.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/display.h"
+#include "platform/native/screen/display.h"
 
 int __argc = 0;
 char** __argv = nullptr;

@@ -11,9 +11,9 @@
 #include <optional>
 
 #include "platform/native/client_area.h"
-#include "platform/native/cursor.h"
-#include "platform/native/display.h"
 #include "platform/native/key_messages.h"
+#include "platform/native/screen/cursor.h"
+#include "platform/native/screen/display.h"
 #include "platform/native/window.h"
 
 namespace {

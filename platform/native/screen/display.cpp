@@ -1,4 +1,4 @@
-#include "platform/native/display.h"
+#include "platform/native/screen/display.h"
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -13,10 +13,10 @@
 #include <cstring>
 
 #include "platform/native/api/system.h"
-#include "platform/native/cursor.h"
 #include "platform/native/device_context.h"
 #include "platform/native/key_messages.h"
-#include "platform/native/late_clicks.h"
+#include "platform/native/screen/cursor.h"
+#include "platform/native/screen/late_clicks.h"
 #include "platform/native/window.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // The cursor over the program's windows.
-#ifndef PLATFORM_NATIVE_CURSOR_H
-#define PLATFORM_NATIVE_CURSOR_H
+#ifndef PLATFORM_NATIVE_SCREEN_CURSOR_H
+#define PLATFORM_NATIVE_SCREEN_CURSOR_H
 
 #include "platform/native/api/types.h"
 

@@ -1,4 +1,4 @@
-#include "platform/native/cursor.h"
+#include "platform/native/screen/cursor.h"
 
 #include <QGuiApplication>
 #include <QWidget>
@@ -7,8 +7,8 @@
 #include "platform/native/api/resources.h"
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
-#include "platform/native/display.h"
 #include "platform/native/resources/resource_file.h"
+#include "platform/native/screen/display.h"
 
 namespace {
 
