@@ -5,10 +5,10 @@
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
-#include "platform/native/client_area.h"
 #include "platform/native/resources/pictures.h"
-#include "platform/native/screen_drawing.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/screen_drawing.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

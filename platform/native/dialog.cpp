@@ -9,14 +9,14 @@
 #include "platform/native/api/controls.h"
 #include "platform/native/api/resources.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/button.h"
-#include "platform/native/client_area.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/resources/dialog_template.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/resources/resource_file.h"
 #include "platform/native/screen/display.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/button.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

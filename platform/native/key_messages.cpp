@@ -10,7 +10,7 @@
 
 #include "platform/native/base/qt_text.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "platform/native/base/text1252.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/screen/display.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

@@ -10,11 +10,11 @@
 #include <deque>
 #include <optional>
 
-#include "platform/native/client_area.h"
 #include "platform/native/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/display.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 #include <QWindow>
 
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 #include "tests/platform/test_window.h"
 #include "tests/support/user.h"
 

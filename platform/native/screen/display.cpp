@@ -17,7 +17,7 @@
 #include "platform/native/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/late_clicks.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

@@ -18,9 +18,9 @@
 #include <algorithm>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/client_area.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/window.h"
 #include "tests/support/native/spoken.h"
 #include "tests/support/window_system.h"
 

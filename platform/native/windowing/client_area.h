@@ -2,15 +2,15 @@
 //
 // The program's drawing is its own affair and Qt's is Qt's: what the program draws stays in the surface, and whenever
 // Qt repaints the widget, it shows the surface. So the program draws when Windows would have it draw, and never twice.
-#ifndef PLATFORM_NATIVE_CLIENT_AREA_H
-#define PLATFORM_NATIVE_CLIENT_AREA_H
+#ifndef PLATFORM_NATIVE_WINDOWING_CLIENT_AREA_H
+#define PLATFORM_NATIVE_WINDOWING_CLIENT_AREA_H
 
 #include <QImage>
 #include <QRegion>
 #include <QWidget>
 
-#include "platform/native/spoken_lines.h"
-#include "platform/native/window_class.h"
+#include "platform/native/windowing/spoken_lines.h"
+#include "platform/native/windowing/window_class.h"
 
 class ClientArea : public QWidget {
  public:

@@ -1,4 +1,4 @@
-#include "platform/native/button.h"
+#include "platform/native/windowing/button.h"
 
 #include <QPushButton>
 

@@ -1,4 +1,4 @@
-#include "platform/native/screen_drawing.h"
+#include "platform/native/windowing/screen_drawing.h"
 
 #include <QImage>
 #include <QPaintEvent>
@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <QtMath>
 
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/native/top_level_window.h"
+#include "platform/native/windowing/top_level_window.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -6,10 +6,10 @@
 #include <QWidget>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/client_area.h"
-#include "platform/native/menu_bar.h"
 #include "platform/native/message_loop.h"
 #include "platform/native/resources/pictures.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/menu_bar.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/native/combo_box.h"
+#include "platform/native/windowing/combo_box.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -1,11 +1,11 @@
-#include "platform/native/client_area.h"
+#include "platform/native/windowing/client_area.h"
 
 #include <QPaintEvent>
 #include <QPainter>
 #include <QtMath>
 
 #include "platform/native/screen/cursor.h"
-#include "platform/native/screen_drawing.h"
+#include "platform/native/windowing/screen_drawing.h"
 
 ClientArea::ClientArea(const WindowClass& windowClass, QWidget* frame)
     : QWidget(frame), classStyle_(windowClass.style), hasBackground_(windowClass.background != nullptr) {

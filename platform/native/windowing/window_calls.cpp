@@ -5,9 +5,9 @@
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/client_area.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/window.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/native/window_class.h"
+#include "platform/native/windowing/window_class.h"
 
 #include <strings.h>
 

@@ -1,6 +1,6 @@
 // What a window handle stands for: a top-level window of a class, a control, a message box or a dialog.
-#ifndef PLATFORM_NATIVE_WINDOW_H
-#define PLATFORM_NATIVE_WINDOW_H
+#ifndef PLATFORM_NATIVE_WINDOWING_WINDOW_H
+#define PLATFORM_NATIVE_WINDOWING_WINDOW_H
 
 #include <QSize>
 #include <memory>

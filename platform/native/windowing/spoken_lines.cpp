@@ -1,4 +1,4 @@
-#include "platform/native/spoken_lines.h"
+#include "platform/native/windowing/spoken_lines.h"
 
 #include <QComboBox>
 #include <QStringList>

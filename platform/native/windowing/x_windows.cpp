@@ -1,4 +1,4 @@
-#include "platform/native/x_windows.h"
+#include "platform/native/windowing/x_windows.h"
 
 #include <xcb/xcb.h>
 

@@ -1,8 +1,8 @@
 // The "Button" class: a push button.
-#ifndef PLATFORM_NATIVE_BUTTON_H
-#define PLATFORM_NATIVE_BUTTON_H
+#ifndef PLATFORM_NATIVE_WINDOWING_BUTTON_H
+#define PLATFORM_NATIVE_WINDOWING_BUTTON_H
 
-#include "platform/native/control.h"
+#include "platform/native/windowing/control.h"
 
 class QPushButton;
 

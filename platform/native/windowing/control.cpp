@@ -1,4 +1,4 @@
-#include "platform/native/control.h"
+#include "platform/native/windowing/control.h"
 
 #include "platform/native/api/windowing.h"
 

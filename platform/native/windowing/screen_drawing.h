@@ -1,7 +1,7 @@
 // What a program draws on the screen itself, where a window of its own lies: it covers that window, with frame and
 // controls, until the window is drawn anew.
-#ifndef PLATFORM_NATIVE_SCREEN_DRAWING_H
-#define PLATFORM_NATIVE_SCREEN_DRAWING_H
+#ifndef PLATFORM_NATIVE_WINDOWING_SCREEN_DRAWING_H
+#define PLATFORM_NATIVE_WINDOWING_SCREEN_DRAWING_H
 
 #include <QRect>
 #include <QRegion>

@@ -1,8 +1,8 @@
 // The "ComboBox" class: a list that drops down, without an edit field.
-#ifndef PLATFORM_NATIVE_COMBO_BOX_H
-#define PLATFORM_NATIVE_COMBO_BOX_H
+#ifndef PLATFORM_NATIVE_WINDOWING_COMBO_BOX_H
+#define PLATFORM_NATIVE_WINDOWING_COMBO_BOX_H
 
-#include "platform/native/control.h"
+#include "platform/native/windowing/control.h"
 
 class QComboBox;
 

@@ -2,11 +2,11 @@
 #include <QWidget>
 
 #include "platform/native/api/system.h"
-#include "platform/native/button.h"
-#include "platform/native/client_area.h"
-#include "platform/native/combo_box.h"
 #include "platform/native/screen/display.h"
-#include "platform/native/top_level_window.h"
+#include "platform/native/windowing/button.h"
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/combo_box.h"
+#include "platform/native/windowing/top_level_window.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // A window of a registered class: the menu bar of its class, below it the client area with the controls.
-#ifndef PLATFORM_NATIVE_TOP_LEVEL_WINDOW_H
-#define PLATFORM_NATIVE_TOP_LEVEL_WINDOW_H
+#ifndef PLATFORM_NATIVE_WINDOWING_TOP_LEVEL_WINDOW_H
+#define PLATFORM_NATIVE_WINDOWING_TOP_LEVEL_WINDOW_H
 
 #include <QPointer>
 
-#include "platform/native/window.h"
-#include "platform/native/window_class.h"
+#include "platform/native/windowing/window.h"
+#include "platform/native/windowing/window_class.h"
 
 // In pixels of the screen; `x` and `width` may be CW_USEDEFAULT.
 struct Placement {

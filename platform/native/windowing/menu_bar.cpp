@@ -1,4 +1,4 @@
-#include "platform/native/menu_bar.h"
+#include "platform/native/windowing/menu_bar.h"
 
 #include <QMenu>
 #include <QMenuBar>

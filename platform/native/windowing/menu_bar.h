@@ -1,6 +1,6 @@
 // The menu bar of a window, from a menu of the resources.
-#ifndef PLATFORM_NATIVE_MENU_BAR_H
-#define PLATFORM_NATIVE_MENU_BAR_H
+#ifndef PLATFORM_NATIVE_WINDOWING_MENU_BAR_H
+#define PLATFORM_NATIVE_WINDOWING_MENU_BAR_H
 
 #include "platform/native/api/types.h"
 

@@ -1,4 +1,4 @@
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 
 #include <QWidget>
 
@@ -7,7 +7,7 @@
 #include "platform/native/base/handle_table.h"
 #include "platform/native/base/qt_text.h"
 #include "platform/native/message_loop.h"
-#include "platform/native/x_windows.h"
+#include "platform/native/windowing/x_windows.h"
 
 namespace {
 

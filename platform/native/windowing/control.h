@@ -1,13 +1,13 @@
 // What the controls share: a parent that hears of them, and an id
 // in what they tell it.
-#ifndef PLATFORM_NATIVE_CONTROL_H
-#define PLATFORM_NATIVE_CONTROL_H
+#ifndef PLATFORM_NATIVE_WINDOWING_CONTROL_H
+#define PLATFORM_NATIVE_WINDOWING_CONTROL_H
 
 #include <QPointer>
 #include <QRect>
 #include <QWidget>
 
-#include "platform/native/window.h"
+#include "platform/native/windowing/window.h"
 
 class Control : public Window {
  public:

@@ -1,7 +1,7 @@
 // The texts that a program draws into its window, for those who can't see them. A label drawn to the left of a combo
 // box names that box to a screen reader; all the lines together describe the window.
-#ifndef PLATFORM_NATIVE_SPOKEN_LINES_H
-#define PLATFORM_NATIVE_SPOKEN_LINES_H
+#ifndef PLATFORM_NATIVE_WINDOWING_SPOKEN_LINES_H
+#define PLATFORM_NATIVE_WINDOWING_SPOKEN_LINES_H
 
 #include <QRect>
 #include <QRegion>

@@ -1,7 +1,7 @@
 // The search for a window by its title: FindWindowA (platform/native/api/windowing.h) asks the program's own windows
 // first and then the X server.
-#ifndef PLATFORM_NATIVE_X_WINDOWS_H
-#define PLATFORM_NATIVE_X_WINDOWS_H
+#ifndef PLATFORM_NATIVE_WINDOWING_X_WINDOWS_H
+#define PLATFORM_NATIVE_WINDOWING_X_WINDOWS_H
 
 #include "platform/native/api/types.h"
 
