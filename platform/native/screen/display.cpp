@@ -13,7 +13,7 @@
 #include <cstring>
 
 #include "platform/native/api/system.h"
-#include "platform/native/device_context.h"
+#include "platform/native/drawing/device_context.h"
 #include "platform/native/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/late_clicks.h"

@@ -2,7 +2,7 @@
 #include <QPainter>
 
 #include "platform/native/api/gdi.h"
-#include "platform/native/device_context.h"
+#include "platform/native/drawing/device_context.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"

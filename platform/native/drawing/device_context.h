@@ -1,6 +1,6 @@
 // Device contexts: what a program draws on.
-#ifndef PLATFORM_NATIVE_DEVICE_CONTEXT_H
-#define PLATFORM_NATIVE_DEVICE_CONTEXT_H
+#ifndef PLATFORM_NATIVE_DRAWING_DEVICE_CONTEXT_H
+#define PLATFORM_NATIVE_DRAWING_DEVICE_CONTEXT_H
 
 #include <QRect>
 #include <QRegion>

@@ -1,4 +1,4 @@
-#include "platform/native/device_context.h"
+#include "platform/native/drawing/device_context.h"
 
 #include <QPainter>
 

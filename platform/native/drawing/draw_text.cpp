@@ -8,7 +8,7 @@
 
 #include "platform/native/api/gdi.h"
 #include "platform/native/base/qt_text.h"
-#include "platform/native/device_context.h"
+#include "platform/native/drawing/device_context.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
