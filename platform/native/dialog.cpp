@@ -9,7 +9,7 @@
 #include "platform/native/api/controls.h"
 #include "platform/native/api/resources.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/message_loop.h"
+#include "platform/native/messages/message_loop.h"
 #include "platform/native/resources/dialog_template.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/resources/resource_file.h"

@@ -14,7 +14,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/drawing/device_context.h"
-#include "platform/native/key_messages.h"
+#include "platform/native/messages/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/late_clicks.h"
 #include "platform/native/windowing/window.h"

@@ -4,7 +4,7 @@
 #include <QMenuBar>
 #include <optional>
 
-#include "platform/native/message_loop.h"
+#include "platform/native/messages/message_loop.h"
 #include "platform/native/resources/menu_template.h"
 
 namespace {

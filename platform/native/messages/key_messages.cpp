@@ -1,4 +1,4 @@
-#include "platform/native/key_messages.h"
+#include "platform/native/messages/key_messages.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/message_loop.h"
+#include "platform/native/messages/message_loop.h"
 #include "platform/native/windowing/window.h"
 
 namespace {

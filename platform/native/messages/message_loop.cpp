@@ -1,4 +1,4 @@
-#include "platform/native/message_loop.h"
+#include "platform/native/messages/message_loop.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -10,7 +10,7 @@
 #include <deque>
 #include <optional>
 
-#include "platform/native/key_messages.h"
+#include "platform/native/messages/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/windowing/client_area.h"

@@ -5,8 +5,8 @@
 // menus and buttons (Alt+F), which Qt acts on before. TranslateMessage follows a press that stands for a character
 // with WM_CHAR or WM_SYSCHAR. Qt gets its event back when the last of a key's messages is dispatched, and only if no
 // accelerator took it. `lParam` names the key press; the virtual key code in `wParam` is left out.
-#ifndef PLATFORM_NATIVE_KEY_MESSAGES_H
-#define PLATFORM_NATIVE_KEY_MESSAGES_H
+#ifndef PLATFORM_NATIVE_MESSAGES_KEY_MESSAGES_H
+#define PLATFORM_NATIVE_MESSAGES_KEY_MESSAGES_H
 
 #include "platform/native/api/windowing.h"
 

@@ -1,6 +1,6 @@
 // The message queue and the loops that run Qt's events.
-#ifndef PLATFORM_NATIVE_MESSAGE_LOOP_H
-#define PLATFORM_NATIVE_MESSAGE_LOOP_H
+#ifndef PLATFORM_NATIVE_MESSAGES_MESSAGE_LOOP_H
+#define PLATFORM_NATIVE_MESSAGES_MESSAGE_LOOP_H
 
 #include <functional>
 
