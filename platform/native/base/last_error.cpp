@@ -1,15 +1,10 @@
 #include "platform/native/base/last_error.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
-#include <string>
 
 #include "platform/native/api/system.h"
-#include "platform/native/files/paths.h"
 
 namespace {
 
@@ -29,13 +24,6 @@ constexpr struct {
     {EEXIST, ERROR_ALREADY_EXISTS},      {ENAMETOOLONG, ERROR_FILENAME_EXCED_RANGE},
 };
 
-bool hasDirectory(const NativePath& path) {
-    const std::size_t slash = path.name.rfind('/');
-    if (slash == std::string::npos || slash == 0) return true;
-    struct stat found = {};
-    return fstatat(path.directory, path.name.substr(0, slash).c_str(), &found, 0) == 0 && S_ISDIR(found.st_mode);
-}
-
 }  // namespace
 
 DWORD GetLastError() {
@@ -50,8 +38,4 @@ DWORD windowsError(int error) {
     const auto* const found =
         std::find_if(std::begin(codes), std::end(codes), [&](const auto& row) { return row.error == error; });
     return found == std::end(codes) ? ERROR_GEN_FAILURE : found->code;
-}
-
-void setPathError(int error, const NativePath& path) {
-    SetLastError(error == ENOENT && !hasDirectory(path) ? ERROR_PATH_NOT_FOUND : windowsError(error));
 }

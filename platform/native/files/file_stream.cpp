@@ -7,6 +7,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
+#include "platform/native/files/path_error.h"
 #include "platform/native/files/permissions.h"
 
 bool isRefused(const struct stat& status, int flags) {

@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "platform/native/api/system.h"
-#include "platform/native/base/last_error.h"
 #include "platform/native/files/file_stream.h"
+#include "platform/native/files/path_error.h"
 #include "platform/native/files/paths.h"
 #include "platform/native/files/permissions.h"
 

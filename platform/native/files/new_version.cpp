@@ -14,6 +14,7 @@
 #include "platform/native/base/last_error.h"
 #include "platform/native/files/directory_listing.h"
 #include "platform/native/files/file_stream.h"
+#include "platform/native/files/path_error.h"
 #include "platform/native/files/permissions.h"
 
 struct NewVersion::State {
