@@ -1,5 +1,4 @@
 // Windows' error codes for those of the system. The last error itself is declared in platform/native/api/system.h.
-// report.
 #ifndef PLATFORM_NATIVE_BASE_LAST_ERROR_H
 #define PLATFORM_NATIVE_BASE_LAST_ERROR_H
 

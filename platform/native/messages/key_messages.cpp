@@ -9,7 +9,8 @@
 #include <memory>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/messages/message_loop.h"
+#include "platform/native/screen/event_pump.h"
+#include "platform/native/screen/message_queue.h"
 #include "platform/native/windowing/window.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include <QMenuBar>
 #include <optional>
 
-#include "platform/native/messages/message_loop.h"
 #include "platform/native/resources/menu_template.h"
+#include "platform/native/screen/message_queue.h"
 
 namespace {
 

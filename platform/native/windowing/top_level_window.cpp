@@ -6,8 +6,8 @@
 #include <QWidget>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/messages/message_loop.h"
 #include "platform/native/resources/pictures.h"
+#include "platform/native/screen/message_queue.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/menu_bar.h"
 

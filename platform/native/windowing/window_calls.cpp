@@ -5,7 +5,7 @@
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/messages/message_loop.h"
+#include "platform/native/screen/event_pump.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 

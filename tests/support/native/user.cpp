@@ -18,7 +18,7 @@
 #include <algorithm>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/messages/message_loop.h"
+#include "platform/native/screen/event_pump.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 #include "tests/support/native/spoken.h"
