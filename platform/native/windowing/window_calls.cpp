@@ -2,7 +2,6 @@
 #include <QWidget>
 #include <QWindow>
 
-#include "platform/native/api/gdi.h"
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/screen/event_pump.h"
@@ -83,13 +82,4 @@ LONG SetWindowLongA(HWND window, int index, LONG value) {
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     Window* const found = findWindow(window);
     return found == nullptr ? 0 : found->receive(message, wParam, lParam);
-}
-
-LRESULT DefWindowProcA(HWND window, UINT message, WPARAM, LPARAM) {
-    if (message == WM_CLOSE) DestroyWindow(window);
-    if (message == WM_PAINT) {
-        PAINTSTRUCT paint{};
-        if (BeginPaint(window, &paint) != nullptr) EndPaint(window, &paint);
-    }
-    return 0;
 }
