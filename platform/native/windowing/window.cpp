@@ -7,7 +7,6 @@
 #include "platform/native/base/handle_table.h"
 #include "platform/native/base/qt_text.h"
 #include "platform/native/screen/message_queue.h"
-#include "platform/native/windowing/x_windows.h"
 
 namespace {
 
@@ -68,6 +67,14 @@ HWND windowOfWidget(const QWidget* widget) {
     return nullptr;
 }
 
+HWND findOwnWindow(const char* title) {
+    const QString wanted = qtText(title);
+    for (const auto& [handle, window] : windows()) {
+        if (window->parent() == nullptr && window->widget()->windowTitle() == wanted) return window->handle();
+    }
+    return nullptr;
+}
+
 void dropWindow(HWND window) {
     for (HWND const control : controlsOf(window)) {
         dropWindow(control);
@@ -80,12 +87,4 @@ void dropWindows() {
     for (HWND const window : allWindows()) {
         dropWindow(window);
     }
-}
-
-HWND findOwnWindow(const char* title) {
-    const QString wanted = qtText(title);
-    for (const auto& [handle, window] : windows()) {
-        if (window->parent() == nullptr && window->widget()->windowTitle() == wanted) return window->handle();
-    }
-    return nullptr;
 }

@@ -55,6 +55,9 @@ std::vector<HWND> controlsOf(HWND window);
 // The window of ours that `widget` is the whole of; null for every other widget.
 HWND windowOfWidget(const QWidget* widget);
 
+// This program's own top-level window, message box or dialog of that whole title; null if there is none.
+HWND findOwnWindow(const char* title);
+
 // Removes a window with its controls; nothing is sent.
 void dropWindow(HWND window);
 void dropWindows();

@@ -1,5 +1,4 @@
-#include "platform/native/windowing/x_windows.h"
-
+// FindWindowA: searches the windows of this program, then those of the X server.
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -16,6 +15,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/base/text1252.h"
+#include "platform/native/windowing/window.h"
 
 namespace {
 

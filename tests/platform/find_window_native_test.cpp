@@ -9,7 +9,7 @@
 
 namespace {
 
-class XWindowsNativeTest : public testing::Test {
+class FindWindowNativeTest : public testing::Test {
  protected:
     xcb_window_t makeWindow(xcb_window_t parent) const {
         const xcb_window_t window = xcb_generate_id(server_.connection());
@@ -30,7 +30,7 @@ class XWindowsNativeTest : public testing::Test {
     ScopedVariable display_{"DISPLAY", server_.display()};
 };
 
-TEST_F(XWindowsNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
+TEST_F(FindWindowNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server_.connection())).data->root;
     const xcb_window_t plain = makeWindow(root);
     setName(plain, "WM_NAME", "STRING", "The Sims House Party");
