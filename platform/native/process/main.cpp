@@ -3,7 +3,12 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
+#include "platform/native/drawing/device_context.h"
+#include "platform/native/messages/key_messages.h"
+#include "platform/native/screen/cursor.h"
 #include "platform/native/screen/display.h"
+#include "platform/native/screen/late_clicks.h"
+#include "platform/native/windowing/window.h"
 
 int __argc = 0;
 char** __argv = nullptr;
@@ -13,6 +18,26 @@ HINSTANCE GetModuleHandleA(LPCSTR moduleName) {
     return moduleName == nullptr ? reinterpret_cast<HINSTANCE>(&program) : nullptr;
 }
 
+namespace {
+
+void openScreen(char** arguments) {
+    openDisplay(arguments);
+    if (!hasDisplay()) return;
+    watchKeys();
+    passLateClicks();
+}
+
+// The windows that are left go without messages.
+void closeScreen() {
+    if (!hasDisplay()) return;
+    dropOverrideCursor();
+    dropDeviceContexts();
+    dropWindows();
+    closeDisplay();
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     __argc = argc;
     __argv = argv;
@@ -20,8 +45,8 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         commandLine.append(i == 1 ? "" : " ").append(argv[i]);
     }
-    openDisplay();
+    openScreen(argv);
     const int result = WinMain(GetModuleHandleA(nullptr), nullptr, commandLine.data(), SW_SHOWNORMAL);
-    closeDisplay();
+    closeScreen();
     return result;
 }

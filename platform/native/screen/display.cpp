@@ -12,13 +12,6 @@
 #include <QPluginLoader>
 #include <cstring>
 
-#include "platform/native/api/system.h"
-#include "platform/native/drawing/device_context.h"
-#include "platform/native/messages/key_messages.h"
-#include "platform/native/screen/cursor.h"
-#include "platform/native/screen/late_clicks.h"
-#include "platform/native/windowing/window.h"
-
 namespace {
 
 // Deleted by closeDisplay alone: when the X server goes away Qt calls exit(), and must not be destroyed while it does.
@@ -123,7 +116,7 @@ void avoidPortals(VariableForStart& theme) {
 
 }  // namespace
 
-void openDisplay() {
+void openDisplay(char** arguments) {
     XServer xServer;
     const QByteArray platform = choosePlatform(xServer);
     if (platform.isEmpty()) return;
@@ -136,10 +129,8 @@ void openDisplay() {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     static int argumentCount = 1;  // Qt would take its own options out of the program's arguments
-    application = new QApplication(argumentCount, __argv);
+    application = new QApplication(argumentCount, arguments);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    watchKeys();
-    passLateClicks();
 }
 
 bool hasDisplay() {
@@ -147,10 +138,6 @@ bool hasDisplay() {
 }
 
 void closeDisplay() {
-    if (!hasDisplay()) return;
-    dropOverrideCursor();
-    dropDeviceContexts();
-    dropWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete application;
     application = nullptr;

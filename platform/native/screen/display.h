@@ -6,13 +6,14 @@
 #define PLATFORM_NATIVE_SCREEN_DISPLAY_H
 
 // Opens the screen that QT_QPA_PLATFORM names, or else that of the X server at $DISPLAY. Called once, before anything
-// else here; without a screen no Qt application exists afterwards.
-void openDisplay();
+// else here; without a screen no Qt application exists afterwards. `arguments` are those of main, whose first names the
+// program.
+void openDisplay(char** arguments);
 
 // Whether a screen was opened. All that touches Qt's widgets asks this first.
 bool hasDisplay();
 
-// Takes down what windows are left, without messages, and the screen with them.
+// Closes the screen that openDisplay opened. Every window must be gone.
 void closeDisplay();
 
 #endif
