@@ -29,9 +29,9 @@ bool queryFileStatus(const char* path, FileStatus& status);
 // Whether both names lead to one existing file, by whatever links.
 bool isSameFile(const char* first, const char* second);
 
-// While an object of this class lives, the directories that status queries come through are looked at once and then
-// taken to stay as they are: for a run of many queries in one directory, between which nothing is opened, made or
-// deleted. What others change there meanwhile shows or doesn't. A file's own status is always asked anew.
+// A promise that nothing changes in the directories asked about while an object of this class lives: no file is made,
+// deleted or renamed there, and the working directory and the environment stay. Each directory is then read only once,
+// which makes many queries in one directory cheap. A file's own status is always asked anew.
 class SteadyDirectories {
  public:
     SteadyDirectories();

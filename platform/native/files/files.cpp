@@ -59,20 +59,11 @@ bool queryFileStatus(const char* path, FileStatus& status) {
 
 bool isSameFile(const char* first, const char* second) {
     struct stat one = {}, other = {};
-    // Located one after the other: the second path may close the directory of the first.
     const auto query = [](const char* path, struct stat& status) {
         const NativePath file = locate(path);
         return fstatat(file.directory, file.name.c_str(), &status, 0) == 0;
     };
     return query(first, one) && query(second, other) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
-}
-
-SteadyDirectories::SteadyDirectories() {
-    beginSteadyDirectories();
-}
-
-SteadyDirectories::~SteadyDirectories() {
-    endSteadyDirectories();
 }
 
 void syncDirectory(const char* path) {
