@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "platform/files.h"
 #include "world/neighborhood.h"
 #include "world/sim.h"
 
@@ -19,6 +20,7 @@ Sim* Family::member(std::int32_t index) const {
 int Family::resolveMembers() {
     if (membersResolved_) return 1;
     membersResolved_ = true;  // at once: a box about a file of an unknown form may let a second pick in
+    const SteadyDirectories steady;  // every Sim's file may be asked for its GUID
     for (std::int32_t i = 0; i < memberCount_; ++i) {
         resolveMember(static_cast<std::size_t>(i));
     }
