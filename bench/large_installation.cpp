@@ -98,6 +98,19 @@ std::size_t readWhole(const fs::path& path) {
     return size;
 }
 
+std::int64_t sizesTogether(const std::vector<fs::path>& files) {
+    const int directory = open(files.front().parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    std::int64_t sum = 0;
+    for (const auto& file : files) {
+        struct stat status {};
+        const char* const name = file.c_str() + file.native().rfind('/') + 1;
+        if (fstatat(directory, name, &status, 0) != 0) std::abort();
+        sum += status.st_size;
+    }
+    close(directory);
+    return sum;
+}
+
 void copyPlainly(const fs::path& from, const fs::path& to, bool durable) {
     const int source = open(from.c_str(), O_RDONLY | O_CLOEXEC);
     if (source < 0) std::abort();

@@ -22,6 +22,9 @@ std::vector<std::filesystem::path> largeCharacterFiles();
 // Opens, reads in one go and closes. Returns the number of bytes.
 std::size_t readWhole(const std::filesystem::path& path);
 
+// Asks for the size of each of these files of one directory. Returns the sum.
+std::int64_t sizesTogether(const std::vector<std::filesystem::path>& files);
+
 // Reads and writes through one buffer. With `durable` the disk holds the copy when this returns.
 void copyPlainly(const std::filesystem::path& from, const std::filesystem::path& to, bool durable);
 

@@ -10,8 +10,9 @@ const struct {
     const char* bare;
 } ratios[] = {
     {"reading a neighborhood / one read of its file", "loadNeighborhood", "readNeighborhoodFile"},
-    {"resolving the largest family and every GUID / reading these files whole", "resolveLargestFamily",
-     "readCharacterFiles"},
+    {"reading a neighborhood / one read of its file and one fstatat for each Sim", "loadNeighborhood",
+     "readNeighborhoodFileAndSizes"},
+    {"resolving the last family / reading all character files whole", "resolveLastFamily", "readCharacterFiles"},
     {"a save with one changed Sim / copying the same bytes as often, as durably", "saveOneSim",
      "copySavedBytesDurably"},
     {"a save with one changed Sim / copying the same bytes as often", "saveOneSim", "copySavedBytes"},
