@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/win32.h"
-#include "tests/platform/scoped_variable.h"
+#include "tests/support/scoped_variable.h"
 #include "tests/support/x_server.h"
 
 namespace {

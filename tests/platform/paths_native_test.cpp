@@ -6,7 +6,7 @@
 #include <chrono>
 #include <thread>
 
-#include "tests/platform/scoped_variable.h"
+#include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 
 namespace fs = std::filesystem;

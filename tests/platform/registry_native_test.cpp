@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32.h"
-#include "tests/platform/scoped_variable.h"
+#include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 
 namespace {

@@ -1,11 +1,11 @@
 // An evening of a player: everything that the window offers, two saves, and what stands there the next day.
 #include <gtest/gtest.h>
 
-#include "tests/platform/scoped_variable.h"
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
 #include "tests/support/iff_walk.h"
 #include "tests/support/machine.h"
+#include "tests/support/scoped_variable.h"
 #include "tests/support/tree.h"
 #include "world/neighborhoods.h"
 

@@ -1,6 +1,6 @@
 // An environment variable for as long as the object lives; then it is as it was.
-#ifndef TESTS_PLATFORM_SCOPED_VARIABLE_H
-#define TESTS_PLATFORM_SCOPED_VARIABLE_H
+#ifndef TESTS_SUPPORT_SCOPED_VARIABLE_H
+#define TESTS_SUPPORT_SCOPED_VARIABLE_H
 
 #include <cstdlib>
 #include <optional>
