@@ -20,7 +20,6 @@ constexpr UINT CB_GETCURSEL = 0x0147;
 constexpr LRESULT CB_ERR = -1;
 
 // A button sends WM_COMMAND with its id and BN_CLICKED.
-constexpr DWORD BS_PUSHBUTTON = 0x0000;
 constexpr int BN_CLICKED = 0;
 
 constexpr int IDOK = 1;

@@ -27,8 +27,6 @@ constexpr UINT WM_SYSCHAR = 0x0106;
 constexpr UINT WM_INITDIALOG = 0x0110;
 constexpr UINT WM_COMMAND = 0x0111;
 
-constexpr DWORD WS_OVERLAPPED = 0x00000000;
-constexpr DWORD WS_POPUP = 0x80000000;
 constexpr DWORD WS_CHILD = 0x40000000;
 constexpr DWORD WS_VISIBLE = 0x10000000;
 constexpr DWORD WS_DISABLED = 0x08000000;
@@ -37,8 +35,6 @@ constexpr DWORD WS_DLGFRAME = 0x00400000;
 constexpr DWORD WS_CAPTION = 0x00C00000;
 constexpr DWORD WS_VSCROLL = 0x00200000;
 constexpr DWORD WS_SYSMENU = 0x00080000;
-constexpr DWORD WS_THICKFRAME = 0x00040000;
-constexpr DWORD WS_TABSTOP = 0x00010000;
 constexpr DWORD WS_MINIMIZEBOX = 0x00020000;
 constexpr DWORD WS_MAXIMIZEBOX = 0x00010000;
 constexpr DWORD WS_OVERLAPPEDWINDOW = 0x00CF0000;
@@ -115,7 +111,6 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // With GWL_STYLE: writes the whole style and returns the old one (0 on failure). WS_DISABLED and WS_VISIBLE take effect
 // at once. Left out: every other index.
 LONG SetWindowLongA(HWND window, int index, LONG value);
-LONG GetWindowLongA(HWND window, int index);
 
 // Calls the window's procedure, or has a control obey (controls.h), and returns its result.
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -66,11 +66,6 @@ BOOL GetClientRect(HWND window, RECT* rectangle) {
     return TRUE;
 }
 
-LONG GetWindowLongA(HWND window, int index) {
-    const Window* const found = findWindow(window);
-    return found == nullptr || index != GWL_STYLE ? 0 : static_cast<LONG>(found->style());
-}
-
 LONG SetWindowLongA(HWND window, int index, LONG value) {
     Window* const found = findWindow(window);
     if (found == nullptr || index != GWL_STYLE) return 0;
