@@ -1,5 +1,6 @@
-// Numbers in files: little-endian, but for the one big-endian offset at the head of the game's IFF files. By shifts, so
-// that neither the host's order nor alignment matters; compilers make one load or store of it.
+// Reads and writes the numbers in files. All are little-endian but one: the offset at the head of the game's IFF files
+// is big-endian. Shifts keep this independent of the host's byte order and of alignment; compilers make one load or
+// store of them.
 #ifndef PLATFORM_BYTE_ORDER_H
 #define PLATFORM_BYTE_ORDER_H
 

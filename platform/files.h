@@ -18,20 +18,20 @@ struct FileStatus {
     std::int64_t size;   // in bytes; 0 for a directory
 };
 
-// Opens `path` with a mode of `fopen`, for raw bytes, without a buffer: each read and write reaches the system as it is
-// asked for, so whoever reads or writes small pieces keeps a buffer. Null on failure, with the reason in GetLastError;
-// a directory can't be opened. The caller closes the stream and looks at the result.
+// Opens `path` for raw bytes, with a mode of `fopen`. The stream has no buffer: each read and write is a call of the
+// system, so callers that read or write small pieces keep a buffer of their own. Null on failure, with the reason in
+// GetLastError; a directory can't be opened. The caller closes the stream and checks the result.
 std::FILE* openFile(const char* path, const char* mode);
 
-// False, and `status` untouched, when nothing of that name exists or may be asked about.
+// False, with `status` unchanged, if nothing of that name exists or the system refuses the query.
 bool queryFileStatus(const char* path, FileStatus& status);
 
-// Whether both names lead to one existing file, by whatever links.
+// Whether both paths lead to the same existing file, through links too.
 bool isSameFile(const char* first, const char* second);
 
 // A promise that nothing changes in the directories asked about while an object of this class lives: no file is made,
 // deleted or renamed there, and the working directory and the environment stay. Each directory is then read only once,
-// which makes many queries in one directory cheap. A file's own status is always asked anew.
+// which makes many queries in one directory cheap. A file's own status is queried each time.
 class SteadyDirectories {
  public:
     SteadyDirectories();
@@ -40,45 +40,46 @@ class SteadyDirectories {
     SteadyDirectories& operator=(const SteadyDirectories&) = delete;
 };
 
-// Hands what was written to the disk itself, so that it outlives a crash of the machine. False if the disk refused.
+// Writes the file's data through to the disk, so that they survive a crash of the machine. False if the disk reports an
+// error.
 bool syncFile(std::FILE* file);
 
-// Hands the names in a directory to the disk itself, where that is a step of its own.
+// Writes a directory's entries through to the disk, on systems where that takes a call of its own.
 void syncDirectory(const char* path);
 
-// The new version of a file. It gets its name when it is complete, so that a process or a machine that stops half-way
-// leaves no part of it under that name. Natively it is a file without a name (O_TMPFILE); on Windows it has a name of
-// its own beside the other, "~partN.tmp" with the process's number. Not every file system can do this: FAT and some
-// network and FUSE file systems can't. There only `atOnce` works. A process may have one version at a time open in a
-// directory.
+// A new version of a file, which takes the file's name only when it is complete: a process or machine that stops
+// half-way leaves no partial file under that name. Natively it is a file without a name (O_TMPFILE). On Windows it is
+// "~partN.tmp" in the same directory, with the process's number. FAT and some network and FUSE file systems can't do
+// this; on those only `atOnce` works. A process may have one version at a time open in a directory.
 class NewVersion {
  public:
     enum class Naming { whenComplete, atOnce };
 
-    // Fixes what `path` means now: another working directory, or a file whose name differs in case only, doesn't change
-    // it later. If the file that is meant now has gone by the time the version gets its name, that is as `path` has it.
+    // Settles which file `path` means: a later change of the working directory, or a new file whose name differs in
+    // case only, makes no difference. If that file is gone by the time the version gets its name, the name is spelled
+    // as in `path`.
     explicit NewVersion(const char* path);
     NewVersion(const NewVersion&) = delete;
     NewVersion& operator=(const NewVersion&) = delete;
 
-    // Discards what hasn't got its name.
+    // Discards a version that has no name yet.
     ~NewVersion();
 
-    // The empty file to write, without a buffer; it belongs to this object. Null on failure, with the reason in
-    // GetLastError: ERROR_NOT_SUPPORTED if the file system can't name a file later, ERROR_ACCESS_DENIED if the name is
-    // a directory's or a write-protected file's. `whenComplete` leaves the file that has the name as it is; `atOnce`
-    // empties it or makes it.
+    // Opens the empty file to write, without a buffer. This object owns the stream. `whenComplete` leaves the existing
+    // file as it is; `atOnce` empties or creates it. Null on failure, with the reason in GetLastError:
+    // ERROR_NOT_SUPPORTED if the file system can't name a file later, ERROR_ACCESS_DENIED if the name belongs to a
+    // directory or a write-protected file.
     std::FILE* open(Naming naming);
 
-    // Hands all that was written to the disk itself. False if the disk refused; the version is discarded then.
+    // Writes all data through to the disk. On false the disk reported an error and the version is discarded.
     bool complete();
 
-    // Gives the complete file its name, in place of the file that had it until now. What is deleted afterwards, in
-    // whatever directory, doesn't go from the disk before this has reached it. False on failure, with the reason as
-    // above; the version is discarded then, and the older file may be gone.
+    // Gives the complete file its name, replacing the older file. A file that is deleted afterwards, in any directory,
+    // is not gone from the disk before this step has reached it. On false the version is discarded, the older file may
+    // be gone, and GetLastError gives the reason as for `open`.
     bool giveName();
 
-    // Drops the new version. A file that was opened `atOnce` is deleted: it is a part.
+    // Discards the new version. A file that was opened `atOnce` is incomplete, so it is deleted.
     void discard();
 
  private:
@@ -86,8 +87,8 @@ class NewVersion {
     std::unique_ptr<State> state_;
 };
 
-// Deletes the "~partN.tmp" files that processes left in `directory` because they ended half-way. Those of running
-// processes stay. Natively there are none.
+// Deletes the "~partN.tmp" files that processes left in `directory` when they ended half-way. Those of running
+// processes stay. Does nothing natively, where such files do not exist.
 void deleteLeftOverParts(const char* directory);
 
 #endif

@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <string_view>
 
-// Holds at most N characters. A longer text is cut, never an error, and nothing is ever written behind the terminator.
+// Holds at most N characters. A longer text is cut, which is not an error; nothing is written beyond the terminator.
 template <std::size_t N>
 class FixedText {
  public:
@@ -31,7 +31,7 @@ class FixedText {
         append(text);
     }
 
-    // `text` may not lie in this object.
+    // `text` must not point into this object.
     void append(std::string_view text) {
         const std::size_t count = std::min(text.size(), N - size_);
         std::copy_n(text.data(), count, chars_.data() + size_);

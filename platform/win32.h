@@ -1,9 +1,8 @@
-// The platform: Win32 by its own names, as far as this program calls it. On Windows these are Windows' own, but
-// for the five of own_calls.h; elsewhere the headers below declare them, each operation with its contract, and
-// `native/` provides them. Constants bear Windows' values and structures its fields, so that code written against this
-// header compiles unchanged for both.
+// The part of Win32 that this program calls, under its own names. On Windows these are the system's calls, except for
+// the five of own_calls.h. Elsewhere the headers below declare them, each with its contract, and `native/` implements
+// them. Constants have Windows' values and structures its fields, so the same code compiles for both.
 //
-// What is declared here is what exists: a message, style or flag that isn't listed does nothing elsewhere.
+// A message, style or flag that these headers do not list does nothing outside Windows.
 #ifndef PLATFORM_WIN32_H
 #define PLATFORM_WIN32_H
 
@@ -13,7 +12,7 @@
 #define NOMINMAX
 #endif
 #include <windows.h>
-// windows.h leaves it out when it is told to be lean.
+// windows.h does not include it under WIN32_LEAN_AND_MEAN.
 #include <shellapi.h>
 
 #include "platform/windows/own_calls.h"

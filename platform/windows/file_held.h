@@ -1,16 +1,16 @@
-// Waiting for other programs, such as virus scanners, that have a file open for a moment.
+// Waits for other programs, such as virus scanners, that have a file open for a moment.
 #ifndef PLATFORM_WINDOWS_FILE_HELD_H
 #define PLATFORM_WINDOWS_FILE_HELD_H
 
 #include <windows.h>
 
-// Whether an operation on `path` failed, by the last error, because another program has the file. It may have it open
-// for itself alone, or had it open when the file was deleted: until it closes it, Windows refuses everybody the name.
-// Leaves the last error as it is.
+// Whether an operation on `path` failed, by the last error, because another program has the file open: exclusively, or
+// since before it was deleted, in which case Windows refuses the name to everyone until it is closed. Leaves the last
+// error unchanged.
 bool isHeldByAnother(const char* path);
 
-// Repeats `attempt` while it fails for that reason, for two seconds at most: the second step of replacing a file must
-// not fail because a program looks at it. Returns what the last attempt returned.
+// Repeats `attempt` while it fails for that reason, for two seconds at most, so that the second step of replacing a
+// file does not fail because a program reads it. Returns the result of the last attempt.
 template <typename Attempt>
 auto whileHeld(const char* path, Attempt attempt) {
     constexpr int tries = 100;

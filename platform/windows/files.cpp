@@ -6,7 +6,7 @@
 #include "platform/windows/file_held.h"
 
 std::FILE* openFile(const char* path, const char* mode) {
-    // The runtime refuses some arguments by itself, without a word to the system.
+    // The runtime refuses some arguments itself, without setting the last error.
     SetLastError(ERROR_INVALID_PARAMETER);
     const auto open = [=] { return std::fopen(path, mode); };
     std::FILE* file = *mode == 'r' ? open() : whileHeld(path, open);
@@ -14,7 +14,7 @@ std::FILE* openFile(const char* path, const char* mode) {
     return file;
 }
 
-// The runtime's own query reports these modes too, but gives programs an extra bit and asks for three times besides.
+// The runtime's own query reports the same modes, but sets an extra bit for programs and also asks for three times.
 bool queryFileStatus(const char* path, FileStatus& status) {
     WIN32_FILE_ATTRIBUTE_DATA found = {};
     if (GetFileAttributesExA(path, GetFileExInfoStandard, &found) == FALSE) return false;
@@ -43,11 +43,11 @@ bool isSameFile(const char* first, const char* second) {
            one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
 }
 
-// Windows finds names in any case by itself; nothing is kept here.
+// Windows ignores case itself, so nothing needs to be kept.
 SteadyDirectories::SteadyDirectories() = default;
 SteadyDirectories::~SteadyDirectories() = default;
 
-// NTFS keeps a journal of its names, and a program can't ask for more.
+// NTFS keeps a journal of its names. A program can do no more.
 void syncDirectory(const char*) {}
 
 bool syncFile(std::FILE* file) {

@@ -7,7 +7,7 @@ int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type) {
     HCURSOR const cursor = SetCursor(LoadCursorA(nullptr, IDC_ARROW));
     const int answer = MessageBoxA(owner, text, title, owner == nullptr ? type | MB_TASKMODAL : type);
     SetCursor(cursor);
-    // A box without an owner leaves it open which window comes to the front after it, of this program or another.
+    // After a box without an owner, Windows may bring a window of another program to the front.
     if (owner == nullptr && focus != nullptr) {
         SetForegroundWindow(GetAncestor(focus, GA_ROOT));
         SetFocus(focus);

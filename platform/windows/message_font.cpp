@@ -8,22 +8,22 @@
 
 namespace {
 
-// Texts stand in rows of 20 pixels, and the longest label has 150 to its right end. Negative is the height of letters,
-// as opposed to that of rows.
+// Rows of text are 20 pixels apart, and the longest label is 150 pixels wide. A negative value is the height of the
+// letters rather than of the row.
 constexpr LONG largestFont = -14;
 
 HFONT createMessageFont() {
-    // Since Vista the structure has one more field, and XP refuses the longer size; the shorter one serves all.
+    // Vista added a field to the structure, and XP refuses the longer size. The shorter size works everywhere.
     static_assert(_WIN32_WINNT < 0x0600);
     NONCLIENTMETRICSA metrics{};
     metrics.cbSize = sizeof metrics;
     if (SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0) == FALSE) return nullptr;
-    // A user may ask for texts of twice the size; the windows would have to grow with them.
+    // A user may choose a font twice as large, for which the windows would have to grow.
     if (metrics.lfMessageFont.lfHeight < largestFont) metrics.lfMessageFont.lfHeight = largestFont;
     return CreateFontIndirectA(&metrics.lfMessageFont);
 }
 
-// Lives as long as the program; null if there is none, which means the system's bitmap font.
+// Lives until the program ends. Null if it can't be created, which selects the system's bitmap font.
 HFONT messageFont() {
     static HFONT const font = createMessageFont();
     return font;
@@ -33,8 +33,8 @@ HFONT messageFont() {
 
 HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
                   int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) {
-    // The call itself does nothing. It makes Windows load the library with the program: the manifest asks for its
-    // controls, and without it XP creates no window and shows no box.
+    // Does nothing itself, but makes Windows load the library. The manifest asks for its controls, and without it XP
+    // creates no window and shows no box.
     InitCommonControls();
     HWND const window = CreateWindowExA(extendedStyle, className, windowName, style, x, y, width, height, parent, menu,
                                         instance, parameter);

@@ -29,7 +29,7 @@ std::string directoryOf(const std::string& path) {
     return path.substr(0, path.find_last_of("\\/") + 1);
 }
 
-// Whether the file that has the name now may be replaced, or there is none.
+// Whether the file that has the name now may be replaced. True if there is none.
 bool isReplaceable(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return true;
@@ -38,7 +38,8 @@ bool isReplaceable(const std::string& path) {
     return false;
 }
 
-// Always a new file: a part of an earlier process may be the live file under a second name, so it is never emptied.
+// Fails if the file exists. It may be a part of an earlier process, which can be the live file under a second name, so
+// it is never emptied.
 std::FILE* openPart(const std::string& part) {
     constexpr DWORD shareNothing = 0;
     HANDLE const file =
@@ -96,7 +97,7 @@ bool NewVersion::giveName() {
         if (DeleteFileA(path) == FALSE && GetLastError() != ERROR_FILE_NOT_FOUND) return false;
         return CreateHardLinkA(path, state_->part.c_str(), nullptr) != FALSE;
     });
-    // What FAT answers.
+    // The error that FAT gives.
     if (!isNamed && GetLastError() == ERROR_INVALID_FUNCTION) SetLastError(ERROR_NOT_SUPPORTED);
     const DWORD error = GetLastError();
     discard();

@@ -1,4 +1,4 @@
-// Two parts of the C++ runtime in a version of this program's own, which the linker finds before the runtime's.
+// Our own versions of two parts of the C++ runtime. The linker finds them before the originals.
 #include <windows.h>
 
 #include <cstdlib>
@@ -17,15 +17,15 @@ ULONGLONG WINAPI tickCount() {
 
 }  // namespace
 
-// The runtime's thread library asks Windows for GetTickCount64, for waits with a time limit; XP doesn't have it and
-// refuses to start a program that asks. The program never waits like that, so the count that XP has serves, although
-// it starts anew after 49 days. The name is that of the pointer through which imported functions are called.
+// The runtime's thread library imports GetTickCount64 for waits with a time limit. XP doesn't have it and refuses to
+// start such a program. This program never waits like that, so XP's GetTickCount will do, although it wraps around
+// after 49 days. The symbol is the pointer through which imported functions are called.
 extern "C" {
 extern ULONGLONG(WINAPI* const importedTickCount)() __asm__(TICK_COUNT_IMPORT);
 ULONGLONG(WINAPI* const importedTickCount)() = tickCount;
 }
 
-// The runtime's own names the exception on a console, which the program doesn't have, and takes 50,000 bytes for it.
+// The original prints the exception's name on a console, which this program doesn't have, and adds 50,000 bytes.
 namespace __gnu_cxx {
 void __verbose_terminate_handler();  // NOLINT(bugprone-reserved-identifier)
 void __verbose_terminate_handler() {  // NOLINT(bugprone-reserved-identifier)

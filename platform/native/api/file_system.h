@@ -1,6 +1,4 @@
-// Directories and file names. Every path goes through one mapping: "C:\x\y" through the Wine prefix's `dosdevices/c:`;
-// a native absolute path and a relative one stay; backslashes become slashes; each component is looked up first as
-// written, then without regard to ASCII case; what doesn't exist is taken as written. Opening and status:
+// Directories and file names. Each path is mapped as in platform/native/files/paths.h. Opening and status:
 // platform/files.h.
 #ifndef PLATFORM_NATIVE_API_FILE_SYSTEM_H
 #define PLATFORM_NATIVE_API_FILE_SYSTEM_H
@@ -22,20 +20,21 @@ struct WIN32_FIND_DATAA {
     char cFileName[MAX_PATH];  // the last component, as the directory spells it
 };
 
-// Looks for the one file or directory `fileName`. INVALID_HANDLE_VALUE with ERROR_FILE_NOT_FOUND or
-// ERROR_PATH_NOT_FOUND if there is none. Left out: wildcards, and so the next match.
+// Finds the one file or directory `fileName`. INVALID_HANDLE_VALUE with ERROR_FILE_NOT_FOUND or ERROR_PATH_NOT_FOUND if
+// there is none. Left out: wildcards, and with them further matches.
 HANDLE FindFirstFileA(LPCSTR fileName, WIN32_FIND_DATAA* found);
 BOOL FindClose(HANDLE search);
 
-// Makes one directory. ERROR_ALREADY_EXISTS if the name is taken, ERROR_PATH_NOT_FOUND if its parent is missing.
+// Creates one directory. Fails with ERROR_ALREADY_EXISTS if the name is taken, with ERROR_PATH_NOT_FOUND if its parent
+// is missing.
 BOOL CreateDirectoryA(LPCSTR path, SECURITY_ATTRIBUTES* attributes);
 
 // The process's working directory. The getter writes a native path with its terminator and returns its length without
-// it; if `size` bytes are too few it writes nothing and returns the size needed.
+// it. If `size` bytes are too few, it writes nothing and returns the size needed, terminator included.
 BOOL SetCurrentDirectoryA(LPCSTR path);
 DWORD GetCurrentDirectoryA(DWORD size, LPSTR path);
 
-// Deletes a file. A directory, or a file that nobody may write, is refused with ERROR_ACCESS_DENIED.
+// Deletes a file. Fails with ERROR_ACCESS_DENIED for a directory and for a file with no write permission at all.
 BOOL DeleteFileA(LPCSTR path);
 
 #endif

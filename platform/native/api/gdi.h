@@ -21,33 +21,32 @@ struct PAINTSTRUCT {
     RECT rcPaint;
 };
 
-// Begins and ends the answer to WM_PAINT: fills the background of what waits to be drawn, where erasing was asked for,
-// and limits the drawing to it. Nothing waits to be drawn afterwards.
+// Begins and ends the answer to WM_PAINT. BeginPaint fills the background of the part that needs drawing, if erasing
+// was requested, and limits drawing to that part. Nothing needs drawing afterwards.
 HDC BeginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
 
-// Draws `text` (`count` characters, -1: up to its zero byte) from the top of `rectangle`, clipped to it, at its left
-// edge or with DT_CENTER between its edges, in the message font. CR, LF or both begin a new line; "&" underlines the
-// character behind it and "&&" draws one. Returns the height of the text. Left out: every other format.
+// Draws `text` (`count` characters; -1: up to its terminator) in the message font, from the top of `rectangle` and
+// clipped to it, at its left edge or centered with DT_CENTER. CR, LF or CR LF start a new line. "&" underlines the next
+// character, "&&" draws one. Returns the height of the text. Left out: every other format.
 int DrawTextA(HDC dc, LPCSTR text, int count, RECT* rectangle, UINT format);
 
-// A device context of the whole screen (`window` null) or of a window's client area. What is drawn on the screen shows
-// on the program's own window that lies there, above everything in it, and stays until that part of the window is drawn
-// anew.
+// A device context of the whole screen (`window` null) or of a window's client area. Drawing on the screen appears on
+// the program's own window at that place, above everything in it, until that part of the window is drawn again.
 HDC GetDC(HWND window);
 int ReleaseDC(HWND window, HDC dc);
 
-// A context in memory, holding the bitmap that SelectObject puts into it. SelectObject returns what it held before.
+// A context in memory with a bitmap that SelectObject puts into it. SelectObject returns the bitmap that it replaces.
 HDC CreateCompatibleDC(HDC dc);
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
 BOOL DeleteDC(HDC dc);
 BOOL DeleteObject(HGDIOBJ object);
 
-// Copies a rectangle between two contexts. Left out: every operation but SRCCOPY.
+// Copies a rectangle from one context to another. Left out: every operation but SRCCOPY.
 BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation);
 
-// The cursor that shows over the program's windows from now on; the arrow gives back each window's own. Returns the one
-// before.
+// Shows `cursor` over all windows of the program from now on. The arrow gives each window its own cursor back. Returns
+// the cursor before.
 HCURSOR SetCursor(HCURSOR cursor);
 
 #endif

@@ -1,11 +1,11 @@
-// Resources of the program: a compiled resource script (the `.res` form) that the build embeds between two symbols. Ids
-// are given by MAKEINTRESOURCEA.
+// The program's resources: a compiled resource script (`.res`) that the build embeds. Ids are given with
+// MAKEINTRESOURCEA.
 #ifndef PLATFORM_NATIVE_API_RESOURCES_H
 #define PLATFORM_NATIVE_API_RESOURCES_H
 
 #include "platform/native/api/types.h"
 
-// The text of a string table's entry as Windows-1252, cut to `size` - 1 characters, with its terminator. Returns its
+// Copies an entry of the string table as Windows-1252, cut to `size` - 1 characters, with a terminator. Returns its
 // length, 0 if there is none.
 int LoadStringA(HINSTANCE instance, UINT id, LPSTR text, int size);
 
@@ -15,8 +15,8 @@ HICON LoadIconA(HINSTANCE instance, LPCSTR name);
 // A cursor of the system (`instance` null): IDC_ARROW, IDC_WAIT or IDC_APPSTARTING.
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
 
-// A bitmap (IMAGE_BITMAP) or icon (IMAGE_ICON) of the resources at its own size (`width` and `height` 0). Null if there
-// is none.
+// A bitmap (IMAGE_BITMAP) or icon (IMAGE_ICON) of the resources in its own size; `width` and `height` must be 0. Null
+// if there is none.
 HANDLE LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags);
 
 #endif

@@ -1,4 +1,4 @@
-// Clock, error code, working of the process, and the web browser.
+// The clock, the last error, the process, and the web browser.
 #ifndef PLATFORM_NATIVE_API_SYSTEM_H
 #define PLATFORM_NATIVE_API_SYSTEM_H
 
@@ -8,7 +8,7 @@ struct SYSTEMTIME {
     WORD wYear, wMonth, wDayOfWeek, wDay, wHour, wMinute, wSecond, wMilliseconds;
 };
 
-// Windows' error codes, as far as the operations of this layer leave them.
+// The error codes of Windows that this layer sets.
 constexpr DWORD NO_ERROR = 0;
 constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
 constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
@@ -32,19 +32,20 @@ constexpr DWORD ERROR_RESOURCE_NAME_NOT_FOUND = 1814;
 // The system clock, in UTC.
 void GetSystemTime(SYSTEMTIME* time);
 
-// The calling thread's last error. A failing operation sets it; a successful one leaves it, unless it says otherwise.
+// The calling thread's last error. An operation that fails sets it; one that succeeds leaves it unchanged, unless it
+// says otherwise.
 DWORD GetLastError();
 void SetLastError(DWORD code);
 
-// Opens the web page `file` for the verb "open" in the user's browser. Returns a value above 32 if something took it.
-// Left out: other verbs, files, parameters, directories.
+// Opens the web page `file` in the user's browser, for the verb "open". Returns a value above 32 if a browser was
+// started. Left out: other verbs, files, parameters, directories.
 HINSTANCE ShellExecuteA(HWND owner, LPCSTR verb, LPCSTR file, LPCSTR parameters, LPCSTR directory, int showCommand);
 
-// The program's own entry, called by the layer's `main` once the screen (or its absence) is known; what it returns is
-// the process's exit code.
+// The program's entry, called by the layer's `main` once the screen is open or known to be missing. Its result is the
+// process's exit code.
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int showCommand);
 
-// The arguments of the process, as Windows' runtime hands them out.
+// The process's arguments, as in Windows' runtime.
 extern int __argc;     // NOLINT(bugprone-reserved-identifier): Windows' own name
 extern char** __argv;  // NOLINT(bugprone-reserved-identifier)
 

@@ -1,5 +1,5 @@
-// Win32's types, structures and shared constants with Windows' widths and values. Handles are opaque; a handle that is
-// no longer valid is refused by every operation, never followed.
+// Win32's types, structures and shared constants, with Windows' widths and values. Handles are opaque: every operation
+// checks that a handle is valid and never dereferences it.
 #ifndef PLATFORM_NATIVE_API_TYPES_H
 #define PLATFORM_NATIVE_API_TYPES_H
 

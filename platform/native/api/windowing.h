@@ -1,13 +1,13 @@
 // Windows and their messages, over Qt Widgets. Coordinates are in pixels of a screen of 96 dots per inch, whatever the
-// real screen's scale; texts are Windows-1252.
+// real screen's scale. Texts are Windows-1252.
 //
-// A window procedure receives WM_CREATE inside CreateWindowExA, WM_PAINT when a part of its client area must be drawn,
-// WM_COMMAND from its controls, its menu and its accelerators, WM_CLOSE when the user asks it to close and WM_DESTROY
-// while it is destroyed, in Windows' order. Controls and accelerators send theirs; the menu and the close button post
-// theirs, for the message loop to deliver. Keys pass through the loop too (key_messages.h). Left out: every other
-// message, such as those of mouse, size and focus, which Qt handles by itself.
+// A window procedure receives, in Windows' order: WM_CREATE inside CreateWindowExA, WM_PAINT when part of its client
+// area must be drawn, WM_COMMAND from its controls, menu and accelerators, WM_CLOSE when the user asks to close it, and
+// WM_DESTROY while it is destroyed. Controls and accelerators send their messages; the menu and the close button post
+// theirs to the message loop. Keys pass through the loop too (key_messages.h). Left out: every other message, such as
+// those of mouse, size and focus, which Qt handles.
 //
-// Without a display no window can be created; everything else here then refuses or does nothing.
+// Without a display, no window can be created and everything else here fails or does nothing.
 #ifndef PLATFORM_NATIVE_API_WINDOWING_H
 #define PLATFORM_NATIVE_API_WINDOWING_H
 
@@ -74,67 +74,68 @@ struct WNDCLASSEXA {
     HICON hIconSm;
 };
 
-// Registers a class under its name (compared without regard to case). 0 with ERROR_CLASS_ALREADY_EXISTS for a second
-// one of that name, with ERROR_INVALID_PARAMETER for a wrong size or no procedure.
+// Registers a class under its name, which is compared without regard to case. Returns 0 with ERROR_CLASS_ALREADY_EXISTS
+// if the name is taken, with ERROR_INVALID_PARAMETER for a wrong size or a missing procedure.
 ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 
-// Creates a top-level window of a registered class, or with WS_CHILD a control ("ComboBox", "Button", any case) in
-// `parent`, whose id stands in place of `menu`. The menu of a top-level window comes from its class. Position and size
-// are those of the whole window without what a window manager adds, of a combo box with its list opened; CW_USEDEFAULT
-// leaves them to the system. A window without WS_CAPTION stands exactly there, without a frame, in front of all. Sends
-// WM_CREATE before it returns, when the client rectangle is known already; an answer of -1 destroys the window again.
-// Null on failure: no such class, no such parent, no display.
+// Creates a top-level window of a registered class or, with WS_CHILD, a control ("ComboBox" or "Button", in any case)
+// in `parent`; `menu` is then the control's id. The menu of a top-level window comes from its class. Position and size
+// are those of the whole window without a window manager's frame, for a combo box with its list open; CW_USEDEFAULT
+// leaves them to the system. A window without WS_CAPTION has no frame, is placed exactly and stays in front. WM_CREATE
+// is sent before this returns; the client rectangle is known by then, and the result -1 destroys the window again. Null
+// on failure: no such class, no such parent, no display.
 HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
                      int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 
 #define CreateWindowA(className, windowName, style, x, y, width, height, parent, menu, instance, parameter) \
     CreateWindowExA(0, className, windowName, style, x, y, width, height, parent, menu, instance, parameter)
 
-// Shows or hides a window; when it returns, a shown window stands on the screen. Returns whether it was visible before.
+// Shows or hides a window. A shown window is on the screen when this returns. Returns whether it was visible before.
 BOOL ShowWindow(HWND window, int showCommand);
 
-// Sends WM_PAINT at once if a part of the window waits to be drawn.
+// Sends WM_PAINT at once if part of the window needs drawing.
 BOOL UpdateWindow(HWND window);
 
-// Adds a rectangle of the client area (null: all of it) to the part that waits to be drawn; with `erase`, its
-// background is filled with the class's before that. The drawing comes with UpdateWindow or once the message queue is
-// empty.
+// Marks a rectangle of the client area (null: all of it) as needing to be drawn. With `erase` it is filled with the
+// class's background first. WM_PAINT comes with UpdateWindow, or once the message queue is empty.
 BOOL InvalidateRect(HWND window, const RECT* rectangle, BOOL erase);
 
-// Sends WM_DESTROY and then removes the window with its controls; the handle is invalid afterwards.
+// Sends WM_DESTROY, then removes the window and its controls. The handle is invalid afterwards.
 BOOL DestroyWindow(HWND window);
 BOOL IsWindow(HWND window);
 
-// The client area: 0, 0, width, height, without frame and menu.
+// The client area, without frame and menu: 0, 0, width, height.
 BOOL GetClientRect(HWND window, RECT* rectangle);
 
-// With GWL_STYLE: writes the whole style and returns the old one (0 on failure). WS_DISABLED and WS_VISIBLE take effect
-// at once. Left out: every other index.
+// Writes the whole style and returns the old one, 0 on failure. WS_DISABLED and WS_VISIBLE take effect at once. Left
+// out: every index but GWL_STYLE.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
-// Calls the window's procedure, or has a control obey (controls.h), and returns its result.
+// Calls the window's procedure, or the control's own (controls.h), and returns its result.
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// What a window does by itself: WM_CLOSE destroys it, WM_PAINT draws the background. Returns 0.
+// The default actions of a window: WM_CLOSE destroys it, WM_PAINT draws its background. Returns 0.
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Finds a top-level window by its whole title, of any class and any program; null if there is none or no display.
-// Left out: search by class (`className` must be null) and of any title (`windowName` must not be null).
+// Finds a top-level window of any class and any program by its whole title. Null if there is none, or no display. Left
+// out: search by class (`className` must be null) and for any title (`windowName` must not be null).
 HWND FindWindowA(LPCSTR className, LPCSTR windowName);
 
-// Waits for the next message. 0 once PostQuitMessage was called and no other message waits (`wParam` is then its code);
-// without a display, where no message can come, 0 at once. Left out: the choice of messages, which must be 0.
+// Waits for the next message. Returns 0 for WM_QUIT, with the exit code in `wParam`, which comes after PostQuitMessage
+// once no posted message is left. Without a display no further message can come, so WM_QUIT follows at once. Left out:
+// the filters, which must be 0.
 BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last);
 
-// Follows a key message with its character message, if it stands for one.
+// Puts a key message's character message, if it has one, in front of the queue.
 BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
 
-// Ends the message loop with `exitCode`. May be called before there is a loop.
+// Ends the message loop with `exitCode`. May be called before the loop starts.
 void PostQuitMessage(int exitCode);
 
-// Accelerators: a table of the resources. TranslateAcceleratorA sends WM_COMMAND with the id in the low word and 1 in
-// the high word and returns nonzero if `message` is a key of the table. Left out: accelerators of virtual keys.
+// Accelerators, from a table of the resources. TranslateAcceleratorA returns nonzero if `message` is a key of the
+// table, after sending WM_COMMAND with the id in the low word and 1 in the high word. Left out: accelerators of virtual
+// keys.
 HACCEL LoadAcceleratorsA(HINSTANCE instance, LPCSTR tableName);
 int TranslateAcceleratorA(HWND window, HACCEL table, MSG* message);
 

@@ -1,4 +1,5 @@
-// Handles: numbers that no two objects share, so that an old handle, or one of another kind, is found to be nobody's.
+// Handles are numbers that no two objects ever share, so an old handle, or one of another kind, is recognised as
+// invalid.
 #ifndef PLATFORM_NATIVE_BASE_HANDLE_TABLE_H
 #define PLATFORM_NATIVE_BASE_HANDLE_TABLE_H
 
@@ -8,13 +9,13 @@
 
 #include "platform/native/api/types.h"
 
-// Ascending, from well above what a program might pass for an id.
+// Ascending, from well above any id that a program might pass.
 inline HANDLE newHandle() {
     static std::uintptr_t last = 0x10000;
-    return reinterpret_cast<HANDLE>(++last);  // NOLINT(performance-no-int-to-ptr): nobody follows it
+    return reinterpret_cast<HANDLE>(++last);  // NOLINT(performance-no-int-to-ptr): never dereferenced
 }
 
-// Objects by handle, in the order in which their handles were made.
+// Objects by handle, in the order of creation.
 template <typename T>
 class HandleTable {
  public:
@@ -33,7 +34,7 @@ class HandleTable {
         return found == objects_.end() ? nullptr : found->second.get();
     }
 
-    // Hands the object over, so that whatever its end sets off no longer finds it here. Null if there is none.
+    // Removes and returns the object, so that its destructor no longer finds it here. Null if there is none.
     std::unique_ptr<T> take(const void* handle) {
         const auto found = objects_.find(reinterpret_cast<std::uintptr_t>(handle));
         if (found == objects_.end()) return nullptr;

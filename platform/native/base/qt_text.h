@@ -1,4 +1,4 @@
-// The program's text, Windows-1252, as Qt's and back. What Windows-1252 lacks becomes "?".
+// Conversion between the program's text, Windows-1252, and Qt's. Characters outside Windows-1252 become "?".
 #ifndef PLATFORM_NATIVE_BASE_QT_TEXT_H
 #define PLATFORM_NATIVE_BASE_QT_TEXT_H
 

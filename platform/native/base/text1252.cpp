@@ -5,7 +5,7 @@
 
 namespace {
 
-// The bytes 80 to 9F; all others stand for the character of their own number.
+// The characters of the bytes 80 to 9F. All other bytes are their own Unicode numbers.
 constexpr std::array<char16_t, 32> highControls = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                                    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -14,10 +14,10 @@ constexpr std::uint8_t firstHighControl = 0x80;
 
 struct Utf8Character {
     char32_t unicode;
-    std::size_t length;  // in bytes; 0 if no character of UTF-8 stands there
+    std::size_t length;  // in bytes; 0 if it isn't valid UTF-8
 };
 
-// By its first byte: the length of a character, and the smallest number that needs this length. A longer form of a
+// The length of a character by its first byte, and the smallest number that needs this length. A longer form of a
 // smaller number isn't UTF-8.
 Utf8Character utf8Head(std::uint8_t first) {
     if (first < 0x80) return {first, 1};
@@ -27,7 +27,7 @@ Utf8Character utf8Head(std::uint8_t first) {
     return {0, 0};
 }
 
-// The character at the head of `text`, which isn't empty.
+// The character at the start of `text`, which isn't empty.
 Utf8Character firstCharacter(std::string_view text) {
     constexpr std::array<char32_t, 5> smallest = {0, 0, 0x80, 0x800, 0x10000};
     Utf8Character character = utf8Head(static_cast<std::uint8_t>(text[0]));

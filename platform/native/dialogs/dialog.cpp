@@ -20,12 +20,12 @@
 
 namespace {
 
-constexpr DWORD alignment = 0x3;  // of a static text: left, centre, right, or an icon in place of a text
+constexpr DWORD alignment = 0x3;  // of a static text: left, centre, right, or an icon instead
 constexpr DWORD iconInPlace = 0x3;
 constexpr DWORD defaultButton = 0x1;  // of a button's style
 constexpr DWORD buttonKind = 0xF;
 
-// Closing and Escape are commands; only EndDialog ends it.
+// Escape and the close button are commands; only EndDialog ends the dialog.
 class DialogWidget : public QDialog {
  public:
     DialogWidget(QWidget* owner, HWND window) : QDialog(owner), window_(window) {}
@@ -35,7 +35,7 @@ class DialogWidget : public QDialog {
     HWND window_;
 };
 
-// Dialog units of a font as pixels.
+// Converts a font's dialog units to pixels.
 class DialogUnits {
  public:
     explicit DialogUnits(const QFont& font) {

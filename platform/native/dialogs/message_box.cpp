@@ -14,7 +14,7 @@ namespace {
 
 constexpr UINT buttonsOfType = 0xF;
 
-// A box has a handle while it shows, so that it is found by its title.
+// A box has a handle while it is shown, so that FindWindowA finds it.
 class Box : public Window {
  public:
     Box(QWidget* owner, const QString& text, const QString& title, bool withCancel)

@@ -1,4 +1,4 @@
-// Device contexts: what a program draws on.
+// Device contexts, the targets of drawing.
 #ifndef PLATFORM_NATIVE_DRAWING_DEVICE_CONTEXT_H
 #define PLATFORM_NATIVE_DRAWING_DEVICE_CONTEXT_H
 
@@ -20,7 +20,7 @@ struct DeviceContext {
     bool limited = false;      // by `limit`, while WM_PAINT is answered
     QRegion limit;
 
-    // Null once its window is gone, and for the other targets.
+    // Null if the window is gone, and for the other targets.
     ClientArea* area() const;
 };
 
@@ -29,8 +29,8 @@ DeviceContext* findDeviceContext(HDC dc);
 bool dropDeviceContext(HDC dc);
 void dropDeviceContexts();
 
-// Has `draw` draw within `area` of the context. On a window it is seen at once, but while WM_PAINT is answered: then
-// EndPaint shows it. False if there is nothing to draw on.
+// Calls `draw` with a painter that is limited to `area` of the context. On a window the result shows at once, or with
+// EndPaint while WM_PAINT is answered. False if there is nothing to draw on.
 bool drawOn(HDC dc, const QRect& area, const std::function<void(QPainter&)>& draw);
 
 #endif

@@ -1,4 +1,4 @@
-// DrawTextA: lines, underlined keys, and what screen readers say of them.
+// DrawTextA: lines, underlined letters, and texts for screen readers.
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPainter>
@@ -20,7 +20,7 @@ struct Line {
     QList<QTextLayout::FormatRange> underlined;
 };
 
-// Takes the "&" out and notes the characters behind them; at the very end it stands for itself.
+// Removes each "&" and notes the character after it. An "&" at the very end is drawn.
 Line readLine(const QString& source) {
     Line line;
     for (qsizetype i = 0; i < source.size(); ++i) {
@@ -36,7 +36,7 @@ Line readLine(const QString& source) {
     return line;
 }
 
-// A line break at the very end begins no line.
+// A line break at the very end starts no new line.
 std::vector<Line> readLines(QString source) {
     source.replace("\r\n", "\n").replace('\r', '\n');
     if (source.endsWith('\n')) source.chop(1);
@@ -47,7 +47,7 @@ std::vector<Line> readLines(QString source) {
     return lines;
 }
 
-// Draws one line in the rectangle's top row and returns the place that its text covers.
+// Draws one line in the top row of the rectangle. Returns the place of its text.
 QRect drawLine(QPainter& painter, const Line& line, const QRect& rectangle, bool centered) {
     QTextLayout layout(line.text, painter.font());
     layout.setFormats(line.underlined);

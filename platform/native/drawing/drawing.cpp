@@ -1,4 +1,4 @@
-// Drawing: the answer to WM_PAINT, and the copying of pictures.
+// The answer to WM_PAINT, and the copying of pictures.
 #include <QPainter>
 
 #include "platform/native/api/gdi.h"
@@ -41,7 +41,7 @@ BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
     dropDeviceContext(paint->hdc);
     ClientArea& area = *found->clientArea();
     area.show(drawn);
-    area.spokenLines().tell(*found->widget(), area);
+    area.spokenLines().describe(*found->widget(), area);
     return TRUE;
 }
 

@@ -43,7 +43,7 @@ std::string DirectoryListing::spell(std::string_view written) const {
     return name != nullptr ? *name : nameToCreate(written);
 }
 
-// The entry of just that spelling, else the first in the order of bytes that differs in case only.
+// The exact match, else the first in byte order that differs in case only.
 const std::string* DirectoryListing::find(std::string_view name) const {
     const std::string* best = nullptr;
     const auto [begin, end] = names_.equal_range(lowered(name));

@@ -1,5 +1,4 @@
-// The names in one directory, for the search without regard to case. A listing shows the directory as it was when it
-// was read.
+// The names in one directory as it was when it was read, for look-ups that ignore case.
 #ifndef PLATFORM_NATIVE_FILES_DIRECTORY_LISTING_H
 #define PLATFORM_NATIVE_FILES_DIRECTORY_LISTING_H
 
@@ -11,23 +10,23 @@
 #include <string_view>
 #include <unordered_map>
 
-// The name of a new entry that the program calls `written`, in UTF-8 or Windows-1252.
+// The native name of a new entry. `written` is UTF-8 or Windows-1252.
 std::string nameToCreate(std::string_view written);
 
 class DirectoryListing {
  public:
-    // Lists the directory `path` (native, relative to the working directory or absolute). Empty if that fails.
+    // Lists the directory `path`, which is native and may be relative. Empty on failure.
     static std::optional<DirectoryListing> read(const std::string& path);
 
-    // The open directory, for the `...at` calls; closed with this object.
+    // The open directory, for the `...at` calls. It is closed with this object.
     int descriptor() const { return dirfd(directory_.get()); }
 
-    // Whether the directory's mount takes writes.
+    // Whether the file system of the directory is mounted for writing.
     bool isMountedForWriting() const { return mountedForWriting_; }
 
-    // The name of the entry that `written` means: the entry of just that spelling; else that of its UTF-8 form, if
-    // `written` is Windows-1252; else one that differs in the case of ASCII letters only (of several, the first in the
-    // order of bytes). If there is none, the name to create.
+    // The name of the entry that `written` means. An exact match comes first, then an exact match of its UTF-8 form if
+    // `written` is Windows-1252, then one that differs in the case of ASCII letters only; of several, the first in byte
+    // order. If there is none, the name for a new entry.
     std::string spell(std::string_view written) const;
 
  private:

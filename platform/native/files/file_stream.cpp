@@ -34,7 +34,8 @@ std::FILE* openStream(const NativePath& file, int flags, const char* mode) {
         SetLastError(ERROR_ACCESS_DENIED);
         return nullptr;
     }
-    // O_NONBLOCK: should a pipe have taken the name just now, this must not wait for it. Regular files don't know it.
+    // O_NONBLOCK: a pipe may have taken the name just now, and opening it must not wait. It doesn't matter for regular
+    // files.
     constexpr int always = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
     constexpr mode_t everybodyButUmask = 0666;
     const int descriptor = openat(file.directory, file.name.c_str(), (flags & ~O_TRUNC) | always, everybodyButUmask);
@@ -43,7 +44,7 @@ std::FILE* openStream(const NativePath& file, int flags, const char* mode) {
         return nullptr;
     }
     std::FILE* stream = streamOf(descriptor, mode);
-    // Emptied only now that nothing else can fail. A device has no length to lose.
+    // Emptied last, when nothing else can fail. Devices have no length.
     const bool isEmptied = stream != nullptr && (flags & O_TRUNC) != 0;
     if (isEmptied && ftruncate(descriptor, 0) != 0 && errno != EINVAL) {
         SetLastError(windowsError(errno));

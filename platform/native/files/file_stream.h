@@ -1,4 +1,4 @@
-// Files of the directory in which a path was found, opened as streams of the C runtime.
+// Opens native paths as streams of the C runtime.
 #ifndef PLATFORM_NATIVE_FILES_FILE_STREAM_H
 #define PLATFORM_NATIVE_FILES_FILE_STREAM_H
 
@@ -8,16 +8,15 @@
 
 #include "platform/native/files/paths.h"
 
-// Whether a file of this status may not be opened with these flags of open(2). Asked before the opening, because
-// opening already does things: it waits for the other end of a pipe, it empties a file.
+// Whether a file with this status must not be opened with these flags of open(2). Ask before opening, because that
+// alone may wait for the other end of a pipe or empty a file.
 bool isRefused(const struct stat& status, int flags);
 
-// Opens `file` with flags of open(2) and the mode of fopen that goes with them, without a buffer. Null on failure, with
-// the last error set; then a file that was there has its bytes, and none has been made.
+// Opens `file` without a buffer, with flags of open(2) and the matching mode of fopen. Null on failure, with the last
+// error set; an existing file then keeps its bytes, and no new file is left behind.
 std::FILE* openStream(const NativePath& file, int flags, const char* mode);
 
-// The stream of an open descriptor, without a buffer. Null on failure, with the last error set and the descriptor
-// closed.
+// Makes an unbuffered stream of an open descriptor. Null on failure, with the last error set and the descriptor closed.
 std::FILE* streamOf(int descriptor, const char* mode);
 
 #endif

@@ -20,7 +20,7 @@
 
 namespace {
 
-// The searches that wait for FindClose. Each has a number of its own for a handle, so that a closed one is known.
+// Searches that FindClose has not closed yet. Each handle is a new number, so that a closed one is recognised.
 std::vector<HANDLE> openSearches;
 ULONG_PTR lastSearch = 0;
 
@@ -82,7 +82,7 @@ BOOL CreateDirectoryA(LPCSTR path, SECURITY_ATTRIBUTES*) {
     constexpr mode_t everybodyButUmask = 0777;
     const NativePath directory = locate(path);
     const int result = mkdirat(directory.directory, directory.name.c_str(), everybodyButUmask);
-    // The name itself can't be missing here: only something on the way to it.
+    // ENOENT means that something on the way to the new directory is missing.
     if (result != 0 && errno == ENOENT) return fail(ERROR_PATH_NOT_FOUND);
     return done(result, directory);
 }

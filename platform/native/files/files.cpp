@@ -76,6 +76,6 @@ void syncDirectory(const char* path) {
 
 bool syncFile(std::FILE* file) {
     if (std::fflush(file) != 0) return false;
-    // A device or file system that knows no sync has nothing left to do.
+    // A device or file system without sync has nothing left to do.
     return fsync(fileno(file)) == 0 || errno == EINVAL || errno == ENOTSUP;
 }

@@ -20,7 +20,7 @@
 struct NewVersion::State {
     bool close() { return stream == nullptr || std::fclose(std::exchange(stream, nullptr)) == 0; }
 
-    // Once the older file has been moved away, the new one is called as the program writes the name, and not as another
+    // Once the older file has been moved away, the new one is spelled as the program wrote it, and not like another
     // file whose name differs in case only.
     void useNewNameIfFree() {
         struct stat status = {};
@@ -29,7 +29,7 @@ struct NewVersion::State {
         if (isFree) file.name = newName;
     }
 
-    NativePath file{-1, {}, false};  // in a directory that this object has open; -1 if it couldn't be opened
+    NativePath file{-1, {}, false};  // this object owns the open directory; -1 if that failed
     std::string newName;
     DWORD directoryError = NO_ERROR;
     std::FILE* stream = nullptr;
@@ -38,7 +38,7 @@ struct NewVersion::State {
 
 namespace {
 
-// Where the process finds its open files by name. It takes a name to link a file without one.
+// The names of the process's open files. Linking a file without a name needs one.
 constexpr const char* openFiles = "/proc/self/fd/";
 
 int openParent(const NativePath& file) {
@@ -47,7 +47,7 @@ int openParent(const NativePath& file) {
     return openat(file.directory, parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
 }
 
-// Whether the file that has the name now may be replaced, or there is none.
+// Whether the file that has the name now may be replaced. True if there is none.
 bool isReplaceable(const NativePath& file) {
     struct stat status = {};
     if (fstatat(file.directory, file.name.c_str(), &status, 0) != 0) {
@@ -64,7 +64,7 @@ std::FILE* openUnnamed(int directory) {
     constexpr mode_t everybodyButUmask = 0666;
     const int descriptor = openat(directory, ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, everybodyButUmask);
     if (descriptor >= 0) return streamOf(descriptor, "wb");
-    // What kernels and file systems without O_TMPFILE answer.
+    // The errors of kernels and file systems without O_TMPFILE.
     const bool isUnknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
     SetLastError(isUnknown ? ERROR_NOT_SUPPORTED : windowsError(errno));
     return nullptr;
@@ -75,19 +75,19 @@ bool link(std::FILE* unnamed, const NativePath& file) {
     return linkat(AT_FDCWD, opened.c_str(), file.directory, file.name.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-// Whether no change of a directory reaches the disk before an earlier one does, in whatever directory.
+// Whether changes of directories reach the disk in the order in which they were made, across directories.
 bool keepsOrder(int directory) {
     struct statfs status = {};
     if (fstatfs(directory, &status) != 0) return false;
     return status.f_type == EXT4_SUPER_MAGIC || status.f_type == XFS_SUPER_MAGIC;
 }
 
-// A file system that knows no sync of directories has its own way to keep them.
+// File systems without a sync of directories keep them in their own way.
 bool settle(int directory) {
     return keepsOrder(directory) || fsync(directory) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
-// Replaces the older file. False with `errno`.
+// Replaces the older file. False, with `errno` set, on failure.
 bool replace(std::FILE* unnamed, const NativePath& file) {
     bool isLinked = link(unnamed, file);
     if (!isLinked && errno == EEXIST && unlinkat(file.directory, file.name.c_str(), 0) == 0) {
@@ -134,7 +134,7 @@ std::FILE* NewVersion::open(Naming naming) {
 
 bool NewVersion::complete() {
     bool isWhole = syncFile(state_->stream);
-    // A file without a name must stay open; with all of it on the disk its closing can't fail any more.
+    // A file without a name must stay open. With all data on the disk, closing it can't fail any more.
     if (state_->isNamedPart) isWhole = state_->close() && isWhole;
     if (!isWhole) discard();
     return isWhole;
@@ -144,7 +144,7 @@ bool NewVersion::giveName() {
     if (!state_->isNamedPart) state_->useNewNameIfFree();
     const bool isNamed = state_->isNamedPart ? settle(state_->file.directory) : replace(state_->stream, state_->file);
     if (!isNamed) {
-        // Without /proc a file can't be linked either.
+        // ENOENT: /proc is missing, so the file can't be linked either.
         const bool isUnknown = errno == EOPNOTSUPP || errno == EPERM || errno == ENOENT;
         SetLastError(isUnknown ? ERROR_NOT_SUPPORTED : windowsError(errno));
         discard();
@@ -161,5 +161,5 @@ void NewVersion::discard() {
     state_->isNamedPart = false;
 }
 
-// A part has no name, and goes with its process.
+// A part has no name here and disappears with its process.
 void deleteLeftOverParts(const char*) {}

@@ -17,8 +17,8 @@
 
 namespace {
 
-// The directories asked for while a SteadyDirectories lives, by the program's own spelling; empty for one that can't be
-// listed.
+// The directories used while a SteadyDirectories exists, by the program's spelling of their paths; no value for one
+// that can't be listed.
 std::map<std::string, std::optional<DirectoryListing>, std::less<>> steadyListings;
 int steadyScopes = 0;
 
@@ -41,7 +41,7 @@ bool isSeparator(char c) {
     return c == '\\' || c == '/';
 }
 
-// The path with native separators and root, each component as written.
+// The native form of a path, each component as written.
 std::string asWritten(std::string_view path) {
     std::string native;
     if (path.size() >= 2 && isDriveLetter(path[0]) && path[1] == ':') {
@@ -65,9 +65,9 @@ bool isSpecial(std::string_view name) {
     return name.empty() || name == "." || name == "..";
 }
 
-// The native path `written` with each component as the file system spells it.
+// `written` with each component as the file system spells it.
 std::string spelled(const std::string& written) {
-    // A path that is longer than the system takes is left to its refusal.
+    // The system refuses a path of this length, so it is not looked up.
     if (written.size() >= PATH_MAX || exists(written)) return written;
     const std::size_t nameAt = written.rfind('/') + 1;
     std::string directory = written.substr(0, nameAt);
@@ -78,8 +78,8 @@ std::string spelled(const std::string& written) {
     return directory + (listing.has_value() ? listing->spell(name) : name);
 }
 
-// The listing of the directory that the program calls `spelling`. Null outside a SteadyDirectories, and if the
-// directory can't be listed.
+// The listing of the directory that the program calls `spelling`. Null if no SteadyDirectories exists or the directory
+// can't be listed.
 const DirectoryListing* steadyListing(std::string_view spelling) {
     if (steadyScopes == 0) return nullptr;
     auto found = steadyListings.find(spelling);

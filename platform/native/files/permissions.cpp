@@ -9,8 +9,8 @@ bool mayWrite(const NativePath& path, const struct stat& status) {
     static const uid_t user = geteuid();
     const bool ownerMay = (status.st_mode & S_IWUSR) != 0;
     if (user == 0 && !ownerMay) return false;
-    // The answer for nearly every file, without another system call: its owner is bound to the owner's bit alone. A
-    // directory may be the root of another mount.
+    // Answers for nearly every file without another system call: only the owner's bit counts for its owner. A directory
+    // may be the root of another mount.
     const bool isOwner = user == 0 || status.st_uid == user;
     if (path.mountedForWriting && S_ISREG(status.st_mode) && isOwner && ownerMay) return true;
     return faccessat(path.directory, path.name.c_str(), W_OK, AT_EACCESS) == 0;

@@ -1,4 +1,4 @@
-// Windows' one attribute "read-only", told from the system's permissions.
+// Windows' attribute "read-only", derived from the system's permissions.
 #ifndef PLATFORM_NATIVE_FILES_PERMISSIONS_H
 #define PLATFORM_NATIVE_FILES_PERMISSIONS_H
 
@@ -6,14 +6,14 @@
 
 struct NativePath;
 
-// Whether nobody may write the file or directory. Root passes over this; on Windows nobody does, so neither do the
-// operations of this layer.
+// Whether the file or directory has no write permission at all. Root may write it all the same; on Windows no user may,
+// so this layer refuses it.
 inline bool isWriteProtected(const struct stat& status) {
     return (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
 }
 
-// Whether this process may write the file or directory `path`, whose status is `status`: as access(2) judges for the
-// effective user, which knows a read-only file system too. Root, who may write anything, is bound to the owner's bit.
+// Whether this process may write the file or directory `path`, whose status is `status`. Decided as access(2) does for
+// the effective user, including read-only file systems, except that the owner's write bit binds root too.
 bool mayWrite(const NativePath& path, const struct stat& status);
 
 #endif

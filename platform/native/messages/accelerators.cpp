@@ -1,4 +1,4 @@
-// Accelerator tables: characters that give commands.
+// Accelerator tables, which map characters to commands.
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -10,7 +10,7 @@
 
 namespace {
 
-// An entry of the table, 8 bytes: flags, character, command, and 2 bytes that fill it up.
+// A table entry has 8 bytes: flags, character, command, and 2 bytes of padding.
 constexpr WORD byVirtualKey = 0x01;
 constexpr WORD withAlt = 0x10;
 constexpr WORD lastEntry = 0x80;

@@ -1,4 +1,4 @@
-// What a window does by default.
+// The default actions of a window.
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/windowing.h"
 

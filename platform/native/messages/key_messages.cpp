@@ -18,10 +18,10 @@ namespace {
 struct KeyEvent {
     QPointer<QWindow> window;
     std::unique_ptr<QEvent> event;
-    bool awaitsCharacter = false;  // its message is followed by one with the character
+    bool awaitsCharacter = false;  // a message with the character follows
 };
 
-// By the number that stands in the messages' `lParam`. Those that accelerators took stay until the next key comes.
+// By the number in the messages' `lParam`. Keys that accelerators took stay until the next key.
 std::map<LPARAM, KeyEvent> keys;
 LPARAM lastKey = 0;
 bool returningKey = false;
@@ -40,8 +40,8 @@ UINT messageOf(const QKeyEvent& event) {
     return system ? WM_SYSKEYUP : WM_KEYUP;
 }
 
-// 0 if the key stands for no character. With Alt some systems leave the text empty; Qt's number of a printable ASCII
-// key is that of its character.
+// 0 if the key has no character. With Alt some systems leave the text empty; Qt's code of a printable ASCII key is its
+// character.
 unsigned char characterOf(const QKeyEvent& event) {
     const std::string text = programText(event.text());
     if (text.size() == 1) return static_cast<unsigned char>(text[0]);
@@ -49,7 +49,7 @@ unsigned char characterOf(const QKeyEvent& event) {
     return text.empty() && printable ? static_cast<unsigned char>(event.key()) : '\0';
 }
 
-// A menu that is open by the time such a key came back would close.
+// Returning such a key to Qt would close a menu that has opened since.
 bool isModifier(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Shift:

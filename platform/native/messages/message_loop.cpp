@@ -23,7 +23,7 @@ HWND windowThatWaits() {
     return nullptr;
 }
 
-// In Windows' order: what was posted, the end, and only then what waits to be drawn.
+// In Windows' order: posted messages, WM_QUIT, and only then WM_PAINT.
 bool nextMessage(MSG& message) {
     if (takeMessage(message)) return true;
     HWND const window = windowThatWaits();

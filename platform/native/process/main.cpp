@@ -1,4 +1,4 @@
-// The process's entry: it prepares what Windows would have prepared, and calls the program's own.
+// The process's entry. Prepares what Windows would have prepared, and calls WinMain.
 #include <string>
 
 #include "platform/native/api/system.h"
@@ -27,7 +27,7 @@ void openScreen(char** arguments) {
     passLateClicks();
 }
 
-// The windows that are left go without messages.
+// The remaining windows are removed without messages.
 void closeScreen() {
     if (!hasDisplay()) return;
     dropOverrideCursor();

@@ -29,8 +29,8 @@ bool isWebAddress(std::string_view address) {
     return address.starts_with("http://") || address.starts_with("https://");
 }
 
-// Starts a program, found along $PATH, in a session of its own, so that it outlives this program and its terminal.
-// Returns 0 or the value of `errno`.
+// Starts a program found along $PATH, in its own session so that it outlives this program and its terminal. Returns 0
+// or the value of `errno`.
 int start(const Arguments& arguments) {
     std::vector<char*> pointers;
     for (const std::string& argument : arguments) {
@@ -49,7 +49,7 @@ int start(const Arguments& arguments) {
     const int error = posix_spawnp(&child, pointers[0], &actions, &attributes, pointers.data(), environ);
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
-    // Somebody must take the child's end, or it stays in the process table until ours.
+    // Without this wait the ended child would stay in the process table until this program ends.
     if (error == 0) std::thread([child] { waitpid(child, nullptr, 0); }).detach();
     return error;
 }
@@ -64,7 +64,7 @@ Arguments dividedAt(char divider, std::string_view text) {
     return parts;
 }
 
-// One command of $BROWSER with the address in place of "%s", or behind it if there is none.
+// The arguments of one command of $BROWSER, with the address in place of "%s", or last if there is none.
 Arguments browserCommand(std::string_view command, const std::string& address) {
     Arguments arguments = dividedAt(' ', command);
     bool placed = false;
@@ -78,7 +78,7 @@ Arguments browserCommand(std::string_view command, const std::string& address) {
     return arguments;
 }
 
-// The desktop's own opener decides by the user's settings; without one, $BROWSER lists commands, divided by colons.
+// xdg-open follows the user's settings. Without it, $BROWSER lists commands, separated by colons.
 int openInBrowser(const std::string& address) {
     int error = start({"xdg-open", address});
     const char* browsers = std::getenv("BROWSER");

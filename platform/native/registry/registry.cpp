@@ -16,7 +16,7 @@
 #include "platform/native/registry/registry_file.h"
 
 struct HKEY__ {
-    // In the order of their rank, lowest first: the plain section's, then those of the 32-bit programs' section.
+    // In ascending order of precedence: the plain section's values, then those of the section of 32-bit programs.
     std::vector<RegistryValue> values;
 };
 
@@ -31,8 +31,8 @@ auto openKey(HKEY key) {
     return std::find_if(openKeys.begin(), openKeys.end(), [&](const auto& open) { return open.get() == key; });
 }
 
-// Empty if the file can't be read or can't be a registry; real ones take a few megabytes. Not more is read than it held
-// at first: Wine may be writing it anew.
+// The file's bytes. Empty if it can't be read or is too large for a registry; real ones take a few megabytes. Reads no
+// more than the size at first, because Wine may be rewriting the file.
 std::string readWhole(const std::string& path) {
     constexpr off_t largest = 256 << 20;
     const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);

@@ -11,26 +11,26 @@ char lowered(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// The value of a digit of any base up to 16; 16 if it is none.
+// The value of a digit of any base up to 16; 16 if it isn't one.
 unsigned digitValue(char c) {
     if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
     const char lower = lowered(c);
     return lower >= 'a' && lower <= 'f' ? static_cast<unsigned>(lower - 'a' + 10) : 16;
 }
 
-// A line, read from its head on.
+// A line and the position of its unread part.
 class LineReader {
  public:
     explicit LineReader(std::string_view line) : rest_(line) {}
 
-    // Takes `text` if it comes next.
+    // Skips `text` if it comes next.
     bool take(std::string_view text) {
         if (rest_.substr(0, text.size()) != text) return false;
         rest_.remove_prefix(text.size());
         return true;
     }
 
-    // Takes a text up to the first `end` that isn't escaped. False if there is none: then the line was cut.
+    // Reads a text up to the first `end` that isn't escaped. False if there is none, because the line is cut off.
     bool takeText(char end, std::string& text) {
         std::string utf8;
         while (!rest_.empty()) {
@@ -63,8 +63,8 @@ class LineReader {
         return number;
     }
 
-    // What follows a backslash: a letter for a control character, an octal number, "x" and a number of UTF-16, or a
-    // character that stands for itself. Added as UTF-8, so that the whole text can be turned into Windows-1252 at once.
+    // Reads what follows a backslash: a letter for a control character, an octal number, "x" and a number of UTF-16, or
+    // a plain character. Appends it as UTF-8, so that the whole text is converted to Windows-1252 at once.
     void appendEscaped(std::string& utf8) {
         constexpr std::string_view letters = "abtnvfr";  // for 7 to 13
         constexpr int octalDigits = 3;
@@ -90,7 +90,7 @@ class LineReader {
     std::string_view rest_;
 };
 
-// What stands behind a value or a key, such as the CR of DOS's line ends, is never looked at.
+// Anything after a value or a key, such as the CR of DOS line ends, is ignored.
 std::string_view takeLine(std::string_view& file) {
     const std::size_t end = std::min(file.find('\n'), file.size());
     const std::string_view line = file.substr(0, end);

@@ -1,6 +1,6 @@
-// Wine's text form of a registry: sections with a key's path in brackets, below them lines of "name"=value. Of the
-// values only texts are understood. The file is somebody else's and may be damaged anywhere: a line that isn't whole
-// counts for nothing, and neither does one in front of the first section.
+// Wine's text form of a registry: sections headed by a key's path in brackets, with lines of "name"=value. Only texts
+// are read. The file is not ours and may be damaged anywhere: incomplete lines, and lines before the first section, are
+// ignored.
 #ifndef PLATFORM_NATIVE_REGISTRY_REGISTRY_FILE_H
 #define PLATFORM_NATIVE_REGISTRY_REGISTRY_FILE_H
 
@@ -10,7 +10,7 @@
 
 #include "platform/native/api/types.h"
 
-// Name and text are Windows-1252; the key's unnamed value has the name "".
+// Name and text are Windows-1252. The key's unnamed value has the name "".
 struct RegistryValue {
     std::string name;
     DWORD type;  // REG_SZ or REG_EXPAND_SZ
@@ -20,8 +20,8 @@ struct RegistryValue {
 // Key paths and the names of values are compared without regard to the case of ASCII letters.
 bool isSameRegistryName(std::string_view a, std::string_view b);
 
-// Adds the text values of each section of the key `key` ("Software\Maxis") to `values`, in the order of the file. False
-// if there is no such section.
+// Appends the text values of all sections of the key `key` ("Software\Maxis") to `values`, in file order. False if
+// there is no such section.
 bool readRegistryKey(std::string_view file, std::string_view key, std::vector<RegistryValue>& values);
 
 #endif

@@ -4,8 +4,8 @@
 //     with DS_SETFONT the font's points and its name; then, each at a multiple of 4, the items:
 //     style (4), extended style (4), x, y, width, height, id, class, title, size of what follows
 //
-// numbers of 2 bytes where nothing else is said. Places are in dialog units, a fourth of the font's average width and
-// an eighth of its height.
+// Numbers take 2 bytes unless noted. Places are in dialog units: a fourth of the font's average width and an eighth of
+// its height.
 #ifndef PLATFORM_NATIVE_RESOURCES_DIALOG_TEMPLATE_H
 #define PLATFORM_NATIVE_RESOURCES_DIALOG_TEMPLATE_H
 
@@ -37,7 +37,7 @@ struct DialogTemplate {
     std::vector<DialogItem> items;
 };
 
-// Null for bytes that are no whole template. Left out: the extended form.
+// Null if the bytes hold no complete template. Left out: the extended form.
 std::optional<DialogTemplate> readDialogTemplate(ResourceBytes bytes);
 
 #endif

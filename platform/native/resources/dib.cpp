@@ -20,7 +20,7 @@ bool known(int bits) {
     return bits == 1 || bits == 4 || bits == 8 || bits == 24 || bits == 32;
 }
 
-// A width of 0 stands for a header that can't be read.
+// A width of 0 means that the header can't be read.
 Header readHeader(ResourceBytes& bytes) {
     const bool rightSize = bytes.u32() == headerSize;
     Header header{bytes.i32(), bytes.i32(), true, 0, {}};

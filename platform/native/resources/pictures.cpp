@@ -12,7 +12,8 @@ namespace {
 HandleTable<QImage> bitmaps;
 HandleTable<std::vector<QImage>> icons;
 
-// A group: 2 unused, kind 1 for icons, count, each 2 bytes; then 14 bytes per picture, the last 2 its number.
+// A group has 2 unused bytes, kind 1 for icons and a count, each of 2 bytes, then 14 bytes for each picture, the last 2
+// of them its number.
 constexpr WORD kindIcon = 1;
 constexpr std::size_t entryBeforeNumber = 12;
 

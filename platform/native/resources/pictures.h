@@ -7,13 +7,13 @@
 
 #include "platform/native/api/types.h"
 
-// An icon's pictures, of several sizes; none if the handle is no icon's.
+// An icon's pictures, in several sizes; none if the handle is not an icon.
 std::vector<QImage> picturesOf(HICON icon);
 
-// Null if the handle is no bitmap's.
+// Null if the handle is not a bitmap.
 QImage* bitmapOf(const void* bitmap);
 
-// The bitmap of one pixel that a new memory context holds. It can't be deleted.
+// The bitmap of one pixel in a new memory context. It can't be deleted.
 HBITMAP emptyBitmap();
 
 bool deleteBitmap(HGDIOBJ bitmap);

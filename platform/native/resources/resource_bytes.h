@@ -1,5 +1,5 @@
-// A cursor over the bytes of a compiled resource, little-endian. After the first read past the end all reads give zeros
-// and empty texts, and `failed` says so: a parser reads on and asks once.
+// A cursor over the little-endian bytes of a compiled resource. After the first read beyond the end, all reads return
+// zeros and empty texts and `failed` is true, so a parser checks once at its end.
 #ifndef PLATFORM_NATIVE_RESOURCES_RESOURCE_BYTES_H
 #define PLATFORM_NATIVE_RESOURCES_RESOURCE_BYTES_H
 
@@ -8,7 +8,7 @@
 #include <span>
 #include <string>
 
-// A type, a class or a name: a text, or a number where the text is empty.
+// A type, class or name: a text, or a number if the text is empty.
 struct ResourceName {
     std::u16string text;
     std::uint16_t id = 0;
@@ -25,14 +25,14 @@ class ResourceBytes {
     std::uint32_t u32();
     std::int32_t i32() { return static_cast<std::int32_t>(u32()); }
 
-    std::u16string text();  // up to its zero, which is passed
+    std::u16string text();  // up to and including its zero
     std::u16string text(std::size_t length);
     ResourceName name();  // FFFF and a number, or a text
 
     std::span<const std::uint8_t> take(std::size_t size);
     std::span<const std::uint8_t> rest() { return take(left()); }
 
-    // Passes what fills up to the next multiple of 4, counted from the first byte; past the end is no failure.
+    // Skips to the next multiple of 4, counted from the first byte. Reaching the end is no failure.
     void align4();
 
     std::size_t position() const { return at_; }

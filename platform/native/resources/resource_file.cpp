@@ -24,7 +24,7 @@ struct Entry {
     std::span<const std::uint8_t> contents;
 };
 
-// False at the end, or at what is no whole entry.
+// False at the end, and at an incomplete entry.
 bool nextEntry(ResourceBytes& file, Entry& entry) {
     const std::uint32_t size = file.u32();
     const std::uint32_t headerSize = file.u32();

@@ -1,10 +1,10 @@
-// Compiled resources (`.res`): one entry after the other, each at a multiple of 4:
+// Compiled resources (`.res`): a sequence of entries, each aligned to 4 bytes:
 //
-//     size of the contents (4), size of this header (4), type, name, filled up to 4,
+//     size of the contents (4), size of this header (4), type, name, padding to 4,
 //     versions, flags and language (16), the contents
 //
-// Type and name are a number behind FFFF or a UTF-16 text. Among entries of one type and name, for several languages,
-// the first is taken. A damaged entry ends the file: what stands before it is found.
+// Type and name are FFFF and a number, or a UTF-16 text. If entries share type and name, in several languages, the
+// first is used. A damaged entry ends the file; those before it are found.
 #ifndef PLATFORM_NATIVE_RESOURCES_RESOURCE_FILE_H
 #define PLATFORM_NATIVE_RESOURCES_RESOURCE_FILE_H
 
@@ -26,7 +26,7 @@ constexpr WORD iconGroup = 14;
 
 class ResourceFile {
  public:
-    // `bytes` must outlive this object and what it finds.
+    // `bytes` must outlive this object and the results of `find`.
     explicit ResourceFile(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
     std::optional<std::span<const std::uint8_t>> find(WORD type, WORD id) const;
@@ -38,10 +38,10 @@ class ResourceFile {
     std::span<const std::uint8_t> bytes_;
 };
 
-// The program's own; empty if none were built in.
+// The program's resources; empty if none were built in.
 const ResourceFile& programResources();
 
-// The number in a name of MAKEINTRESOURCEA; 0, which no resource has, for a real name.
+// The id in a name made by MAKEINTRESOURCEA; 0, which no resource has, for a real name.
 WORD resourceId(LPCSTR name);
 
 #endif

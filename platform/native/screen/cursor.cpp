@@ -18,7 +18,7 @@ HCURSOR makeCursor(Qt::CursorShape shape) {
     return static_cast<HCURSOR>(cursors.add(std::make_unique<Qt::CursorShape>(shape)));
 }
 
-// One handle each, however often it is loaded.
+// Each cursor has one handle, however often it is loaded.
 HCURSOR systemCursor(WORD id) {
     static HCURSOR const arrow = makeCursor(Qt::ArrowCursor);
     static HCURSOR const wait = makeCursor(Qt::WaitCursor);

@@ -6,11 +6,12 @@
 
 class QWidget;
 
-// The cursor of a window's class, which its client area shows while SetCursor names no other. Null leaves the arrow.
+// Sets the cursor of a window's class, which its client area shows while SetCursor has set no other. Null leaves the
+// arrow.
 void setClassCursor(QWidget& widget, HCURSOR cursor);
 
-// While it lives, the windows show their own cursors; afterwards what SetCursor was last given. A box that opens during
-// long work is no part of it.
+// While it exists, windows show their own cursors; afterwards SetCursor's is back. For boxes, which are not part of the
+// long work that they interrupt.
 class CursorPause {
  public:
     CursorPause();
@@ -22,7 +23,7 @@ class CursorPause {
     HCURSOR paused_;
 };
 
-// Before the screen closes.
+// Call before the screen closes.
 void dropOverrideCursor();
 
 #endif

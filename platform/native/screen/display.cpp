@@ -14,7 +14,7 @@
 
 namespace {
 
-// Deleted by closeDisplay alone: when the X server goes away Qt calls exit(), and must not be destroyed while it does.
+// Only closeDisplay deletes it: when the X server goes away, Qt calls exit(), and must not be destroyed during that.
 QApplication* application = nullptr;
 
 bool pluginLoads(const QByteArray& name) {
@@ -23,8 +23,8 @@ bool pluginLoads(const QByteArray& name) {
     return QPluginLoader(folder + "/libq" + QString::fromLatin1(name) + ".so").load();
 }
 
-// Asks the X server, and stays connected until Qt is: some servers start anew when their last client leaves, and answer
-// nobody meanwhile.
+// Asks the X server, and stays connected until Qt is: some servers restart when their last client leaves and refuse
+// connections meanwhile.
 class XServer {
  public:
     XServer() = default;
@@ -58,18 +58,18 @@ bool waylandAnswers() {
     return answers;
 }
 
-// `platform` may carry parameters behind a colon.
+// `platform` may have parameters after a colon.
 bool usable(const QByteArray& platform, XServer& xServer) {
     const QByteArray name = platform.split(':').first();
     if (name == "xcb") return xServer.answers() && pluginLoads(name);
     if (name.startsWith("wayland")) {
         return waylandAnswers() && pluginLoads(name == "wayland" ? QByteArray("wayland-generic") : name);
     }
-    // These need no server. The rest draw on bare hardware, which can't be tried beforehand.
+    // These need no server. The rest draw directly on hardware, which can't be tried in advance.
     return (name == "offscreen" || name == "minimal" || name == "vnc") && pluginLoads(name);
 }
 
-// Empty if there is no screen.
+// The name of the platform to use; empty if there is no screen.
 QByteArray choosePlatform(XServer& xServer) {
     for (const QByteArray& platform : qgetenv("QT_QPA_PLATFORM").split(';')) {
         if (usable(platform, xServer)) return platform;
@@ -77,8 +77,7 @@ QByteArray choosePlatform(XServer& xServer) {
     return usable("xcb", xServer) ? QByteArray("xcb") : QByteArray();
 }
 
-// A variable of the environment as Qt shall find it while it starts; the programs that this one starts later find it as
-// it was.
+// Changes an environment variable while Qt starts. Afterwards it is as before, for programs that this one starts.
 class VariableForStart {
  public:
     explicit VariableForStart(const char* name)
@@ -102,14 +101,14 @@ class VariableForStart {
     QByteArray old_;
 };
 
-// The session's message bus brings screen readers and the desktop's look. Where there is none, libdbus would start one
-// that outlives the program, or wait for somebody who can.
+// The session's message bus serves screen readers and the desktop's look. Without one, libdbus would start a bus that
+// outlives the program, or wait for a service that can.
 void forbidStartingABus(VariableForStart& address) {
     const QByteArray socket = qgetenv("XDG_RUNTIME_DIR") + "/bus";
     if (address.old().isEmpty() && !QFile::exists(QString::fromLocal8Bit(socket))) address.set("disabled:");
 }
 
-// The theme that asks the desktop's portal, and waits for its answer, has nothing that this program shows.
+// This theme asks the desktop's portal and waits for the reply, for nothing that this program shows.
 void avoidPortals(VariableForStart& theme) {
     if (theme.old() == "xdgdesktopportal" || theme.old() == "flatpak" || theme.old() == "snap") theme.set("generic");
 }

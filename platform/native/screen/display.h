@@ -1,16 +1,16 @@
 // The screen that Qt draws on, or its absence.
 //
-// Qt ends the process when it can't open the screen that it was told to use. So each candidate is tried before: its
-// plugin must load and its server must answer.
+// Qt ends the process if it can't open the screen that it should use. So each candidate is tried first: its plugin must
+// load and its server must answer.
 #ifndef PLATFORM_NATIVE_SCREEN_DISPLAY_H
 #define PLATFORM_NATIVE_SCREEN_DISPLAY_H
 
-// Opens the screen that QT_QPA_PLATFORM names, or else that of the X server at $DISPLAY. Called once, before anything
-// else here; without a screen no Qt application exists afterwards. `arguments` are those of main, whose first names the
-// program.
+// Opens the screen that QT_QPA_PLATFORM names, or else the X server at $DISPLAY. Call it once, before anything else
+// here. Without a screen there is no Qt application afterwards. `arguments` are those of main; only the first, the
+// program's name, is used.
 void openDisplay(char** arguments);
 
-// Whether a screen was opened. All that touches Qt's widgets asks this first.
+// Whether a screen is open. Check it before any use of Qt's widgets.
 bool hasDisplay();
 
 // Closes the screen that openDisplay opened. Every window must be gone.

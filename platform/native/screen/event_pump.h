@@ -1,4 +1,4 @@
-// Runs Qt's events, and knows what for.
+// Runs Qt's events and knows for which purpose.
 #ifndef PLATFORM_NATIVE_SCREEN_EVENT_PUMP_H
 #define PLATFORM_NATIVE_SCREEN_EVENT_PUMP_H
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The window that a hidden popup belonged to; null if `object` is anything else.
+// The window that a hidden popup belonged to; null if `object` is not a hidden popup.
 QWindow* ownerOfHiddenPopup(QObject* object) {
     auto* window = qobject_cast<QWindow*>(object);
     if (window == nullptr || window->isVisible()) return nullptr;

@@ -8,7 +8,7 @@ class QPushButton;
 
 class Button : public Control {
  public:
-    // "&" in `text` underlines the key that presses it.
+    // The letter after "&" in `text` is underlined and presses the button.
     Button(DWORD style, HWND parent, int id, LPCSTR text, QWidget* area);
 
     QPushButton& button() const;

@@ -62,7 +62,7 @@ void ClientArea::paintEvent(QPaintEvent* event) {
     painter.drawImage(0, 0, picture);
 }
 
-// A window that was only minimised still has its picture.
+// A minimised window still has its picture.
 void ClientArea::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) invalidate(whole(), true);
 }
@@ -73,7 +73,7 @@ void ClientArea::resizeEvent(QResizeEvent* event) {
     invalidate(wholly ? QRegion(whole()) : QRegion(whole()) - QRect(QPoint(0, 0), event->oldSize()), true);
 }
 
-// Another font or other colours: what is there looks out of date.
+// The font or the colours have changed, so the picture is out of date.
 void ClientArea::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) invalidate(whole(), true);

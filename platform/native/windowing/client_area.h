@@ -1,7 +1,7 @@
-// The part of a window that its program draws: a picture that lasts, and the region that waits to be drawn.
+// The part of a window that the program draws: a lasting picture, and the region that needs drawing.
 //
-// The program's drawing is its own affair and Qt's is Qt's: what the program draws stays in the surface, and whenever
-// Qt repaints the widget, it shows the surface. So the program draws when Windows would have it draw, and never twice.
+// The program's drawing goes to the picture, and Qt's repainting shows the picture. So the program is asked to draw
+// exactly when Windows would ask it.
 #ifndef PLATFORM_NATIVE_WINDOWING_CLIENT_AREA_H
 #define PLATFORM_NATIVE_WINDOWING_CLIENT_AREA_H
 
@@ -18,17 +18,17 @@ class ClientArea : public QWidget {
 
     QRect whole() const { return QRect(QPoint(0, 0), size()); }
 
-    // Adds to what waits to be drawn; nothing waits in a window that isn't visible.
+    // Marks a region as needing to be drawn. Does nothing while the window isn't visible.
     void invalidate(const QRegion& region, bool erase);
     bool waits() const { return isVisible() && !waiting_.isEmpty(); }
 
-    // Erases what waits, if that was asked for anywhere in it, and empties it. Returns what it was.
+    // Ends the need to draw and returns the region that had it, erased if any part of it asked for that.
     QRegion beginDrawing();
 
-    // The picture, of the area's size in device pixels.
+    // The picture, with the area's size in device pixels.
     QImage& surface();
 
-    // Brings a part of the picture to the screen, above what was drawn on the screen there.
+    // Shows part of the picture on the screen, removing what was drawn on the screen there.
     void show(const QRegion& drawn);
 
     SpokenLines& spokenLines() { return spokenLines_; }

@@ -10,11 +10,11 @@
 
 namespace {
 
-// Windows' own is no higher, and programs put boxes 30 pixels apart.
+// Windows' combo boxes are no higher, and programs place them 30 pixels apart.
 constexpr int greatestClosedHeight = 28;
 
-// A list below the box with a scroll bar, as high as the program asked for; many a style would show a menu that covers
-// the screen from top to bottom instead.
+// Shows a list with a scroll bar below the box, as high as the program asked for. Many styles would show a menu that
+// covers the screen from top to bottom.
 class ListBelowStyle : public QProxyStyle {
  public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -12,7 +12,7 @@ class ComboBox : public Control {
 
     LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // The rectangle's height is that of the opened list.
+    // The rectangle's height is that of the box with its list open.
     void place(const QRect& rectangle) override;
 
  private:

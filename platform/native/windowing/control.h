@@ -1,5 +1,4 @@
-// What the controls share: a parent that hears of them, and an id
-// in what they tell it.
+// The base of all controls: a widget in a parent window that is notified of the user's actions.
 #ifndef PLATFORM_NATIVE_WINDOWING_CONTROL_H
 #define PLATFORM_NATIVE_WINDOWING_CONTROL_H
 
@@ -19,14 +18,14 @@ class Control : public Window {
     QWidget* widget() const override { return widget_; }
     LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Puts it into its parent's client area, visible and enabled as its style says.
+    // Places the control in its parent's client area, visible and enabled according to its style.
     virtual void place(const QRect& rectangle);
 
  private:
     QPointer<QWidget> widget_;
 };
 
-// Sends a control's WM_COMMAND to its parent. By its handle: the control itself may be gone meanwhile.
+// Sends a control's WM_COMMAND to its parent. Takes handles, because the control itself may be gone by now.
 void notifyParent(HWND parent, int id, int code, HWND control);
 
 #endif

@@ -1,4 +1,4 @@
-// Windows come and go: CreateWindowExA and DestroyWindow.
+// Creation and destruction of windows.
 #include <QWidget>
 
 #include "platform/native/api/system.h"

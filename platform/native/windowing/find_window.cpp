@@ -19,11 +19,11 @@
 
 namespace {
 
-// Longest wait for a server, which may hang or lie behind a network that does.
+// The longest wait for the server, which may hang or be behind a network that does.
 constexpr std::chrono::seconds patience{1};
-// A window manager puts a program's window into a frame of its own, some into two; below that lie a program's controls.
+// Window managers put a program's window into a frame, some into two. Controls are deeper.
 constexpr int searchDepth = 4;
-// In units of 4 bytes, as the protocol counts.
+// In units of 4 bytes, as in the protocol.
 constexpr std::uint32_t longestTitle = 1024 / 4;
 constexpr std::uint32_t longestWindowList = 65536;
 
@@ -34,8 +34,8 @@ struct Free {
 template <class Reply>
 using ReplyPtr = std::unique_ptr<Reply, Free>;
 
-// One search. Requests of one kind are all sent before the first answer is waited for: a desktop of hundreds of windows
-// costs one way to the server and back for each level, not one for each window.
+// One search. All requests of a kind are sent before the first reply is awaited, so that hundreds of windows cost one
+// round trip for each level instead of one for each window.
 class TitleSearch {
  public:
     TitleSearch(xcb_connection_t* connection, std::string title)
@@ -79,7 +79,7 @@ class TitleSearch {
         return ReplyPtr<xcb_get_property_reply_t>(xcb_get_property_reply(connection_, asked, nullptr));
     }
 
-    // The programs' windows as the window manager knows them; none without one.
+    // The windows that the window manager lists. Empty without a window manager.
     std::vector<xcb_window_t> clientsOf(const std::vector<xcb_window_t>& roots) {
         std::vector<xcb_window_t> clients;
         for (const xcb_window_t root : roots) {
@@ -100,7 +100,7 @@ class TitleSearch {
         }
         std::vector<xcb_window_t> children;
         for (const xcb_query_tree_cookie_t& cookie : asked) {
-            // Without an answer the window has gone meanwhile.
+            // No reply: the window is gone by now.
             const ReplyPtr<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(connection_, cookie, nullptr));
             if (!tree) continue;
             const xcb_window_t* first = xcb_query_tree_children(tree.get());
@@ -120,7 +120,7 @@ class TitleSearch {
                 {askProperty(window, netName_, longestTitle), askProperty(window, XCB_ATOM_WM_NAME, longestTitle)});
         }
         bool found = false;
-        // All answers are taken, so that none is left over.
+        // Takes every reply, so that none is left over.
         for (const Names& names : asked) {
             const auto net = answeredProperty(names.net);
             const auto old = answeredProperty(names.old);
@@ -156,8 +156,8 @@ bool hasServerWindow(const std::string& title) {
     return found;
 }
 
-// On a thread of its own, because nothing in the protocol's library takes a time limit. One that outlasts our patience
-// is left to itself: it holds nothing of ours.
+// Runs on its own thread, because the protocol's library has no time limits. A thread that takes too long is left to
+// itself; it owns all that it uses.
 bool hasServerWindowInTime(const char* title) {
     const char* display = std::getenv("DISPLAY");
     if (display == nullptr || *display == '\0') return false;
@@ -175,7 +175,7 @@ HWND FindWindowA(LPCSTR className, LPCSTR windowName) {
         return nullptr;
     }
     if (HWND own = findOwnWindow(windowName)) return own;
-    // Another program's window is known to be there and serves for nothing else, so one handle stands for them all.
+    // Callers only learn that another program's window exists, so one handle is enough for all of them.
     static char foreignWindow;
     return hasServerWindowInTime(windowName) ? reinterpret_cast<HWND>(&foreignWindow) : nullptr;
 }

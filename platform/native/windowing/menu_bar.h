@@ -7,8 +7,8 @@
 class QMenuBar;
 class QWidget;
 
-// Its items post WM_COMMAND with their id to `window`. Null without a menu: `menuName` is null, or the resources have
-// no whole menu of that id.
+// The menu's items post WM_COMMAND with their id to `window`. Null if `menuName` is null or the resources have no valid
+// menu of that id.
 QMenuBar* createMenuBar(LPCSTR menuName, HWND window, QWidget* frame);
 
 #endif

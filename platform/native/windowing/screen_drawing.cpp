@@ -10,7 +10,7 @@
 
 namespace {
 
-// Lies above all else in a window and is transparent, to clicks too, but for what was drawn.
+// Lies above everything else in a window. It is transparent, and lets clicks through, except for what was drawn.
 class Overlay : public QWidget {
  public:
     explicit Overlay(QWidget* window) : QWidget(window) {
@@ -18,7 +18,7 @@ class Overlay : public QWidget {
         setAttribute(Qt::WA_NoSystemBackground);
     }
 
-    // `area` is in the window's coordinates, `origin` the screen's zero in them.
+    // `area` is in the window's coordinates; `origin` is the screen's origin in them.
     void draw(const QRegion& area, QPoint origin, const std::function<void(QPainter&)>& draw) {
         coverWindow();
         QPainter painter(&picture_);
@@ -32,7 +32,7 @@ class Overlay : public QWidget {
         repaint(area);
     }
 
-    // False when nothing is left of it.
+    // False if nothing of it is left.
     bool uncover(const QRegion& drawn) {
         covered_ -= drawn;
         update(drawn);

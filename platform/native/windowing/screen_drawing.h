@@ -1,5 +1,5 @@
-// What a program draws on the screen itself, where a window of its own lies: it covers that window, with frame and
-// controls, until the window is drawn anew.
+// What the program draws on the screen, at the place of one of its windows: it covers that window, including frame and
+// controls, until the window is drawn again.
 #ifndef PLATFORM_NATIVE_WINDOWING_SCREEN_DRAWING_H
 #define PLATFORM_NATIVE_WINDOWING_SCREEN_DRAWING_H
 
@@ -10,11 +10,11 @@
 class QPainter;
 class QWidget;
 
-// Draws within `area`, in screen coordinates, on the windows that lie there, the newest on top; it is seen at once.
-// Where none of them lies, nothing is drawn.
+// Draws within `area`, in screen coordinates, on the program's windows there, the newest on top, and shows it at once.
+// Draws nothing where there is no such window.
 void drawOnScreen(const QRect& area, const std::function<void(QPainter&)>& draw);
 
-// `drawn`, in the coordinates of the whole window, shows the window itself again.
+// Shows the window itself again within `drawn`, in coordinates of the whole window.
 void uncoverScreenDrawing(QWidget& window, const QRegion& drawn);
 
 #endif

@@ -19,7 +19,7 @@ void SpokenLines::add(const QRect& place, const QString& text) {
     });
 }
 
-// The nearest one that begins left of the control and shares rows with it.
+// The nearest line that starts left of the control and shares rows with it.
 const SpokenLines::Line* SpokenLines::labelOf(const QRect& control) const {
     const Line* label = nullptr;
     for (const Line& line : lines_) {
@@ -30,7 +30,7 @@ const SpokenLines::Line* SpokenLines::labelOf(const QRect& control) const {
     return label;
 }
 
-void SpokenLines::tell(QWidget& window, const QWidget& client) const {
+void SpokenLines::describe(QWidget& window, const QWidget& client) const {
     QStringList all;
     for (const Line& line : lines_) {
         all.append(line.text);

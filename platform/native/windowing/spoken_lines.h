@@ -1,5 +1,5 @@
-// The texts that a program draws into its window, for those who can't see them. A label drawn to the left of a combo
-// box names that box to a screen reader; all the lines together describe the window.
+// The lines of text that the program draws into a window, for screen readers. All of them together describe the window,
+// and a label drawn to the left of a combo box names that box.
 #ifndef PLATFORM_NATIVE_WINDOWING_SPOKEN_LINES_H
 #define PLATFORM_NATIVE_WINDOWING_SPOKEN_LINES_H
 
@@ -12,14 +12,15 @@ class QWidget;
 
 class SpokenLines {
  public:
-    // Drops the lines that `drawn` touches: they are about to be drawn anew.
+    // Removes the lines that `drawn` touches, which are about to be drawn again.
     void forget(const QRegion& drawn);
 
-    // `place` is what the text covers, in the client area.
+    // `place` is the rectangle of the text in the client area.
     void add(const QRect& place, const QString& text);
 
-    // Tells the window and those of its combo boxes that lie directly in `client`, as far as anything changed.
-    void tell(QWidget& window, const QWidget& client) const;
+    // Sets the description of the window and the names of the combo boxes directly in `client`, where they have
+    // changed.
+    void describe(QWidget& window, const QWidget& client) const;
 
  private:
     struct Line {

@@ -13,11 +13,11 @@
 
 namespace {
 
-// What the system chooses for CW_USEDEFAULT, for the client area: a comfortable size where the screen has room for it.
+// The size of the client area for CW_USEDEFAULT, if the screen has room for it.
 constexpr QSize defaultClientSize(560, 430);
 constexpr QSize smallestDefaultClientSize(480, 400);
 
-// The whole window, as far as it is ours: what a window manager puts around it is not.
+// The whole window, without the window manager's frame.
 class Frame : public QWidget {
  public:
     Frame(HWND window, Qt::WindowFlags flags) : QWidget(nullptr, flags), window_(window) {}
@@ -33,7 +33,8 @@ class Frame : public QWidget {
         return menuBar_->heightForWidth(width);
     }
 
-    // At once, and not with the first showing as Qt would: the client rectangle must be true before that.
+    // Called before the window is first shown, which is when Qt would do it: the client rectangle must be right
+    // earlier.
     void layOut() {
         const int height = menuHeight(width());
         if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), height);
@@ -43,7 +44,7 @@ class Frame : public QWidget {
  protected:
     void resizeEvent(QResizeEvent*) override { layOut(); }
 
-    // Whether the window closes is decided by who receives the message.
+    // The receiver of WM_CLOSE decides whether the window closes.
     void closeEvent(QCloseEvent* event) override {
         event->ignore();
         postMessage(window_, WM_CLOSE, 0, 0);  // behind a menu command that the user gave before
@@ -55,8 +56,8 @@ class Frame : public QWidget {
     ClientArea* client_ = nullptr;
 };
 
-// A window without a caption is one that the program places itself, such as a splash window: window managers leave its
-// place to it and don't decorate it, but may put a message box above it.
+// A window without a caption is one that the program places itself, such as a splash window. Window managers leave such
+// a window in place and undecorated, but may put a message box above it.
 Qt::WindowFlags flagsOf(DWORD style) {
     if ((style & WS_CAPTION) != WS_CAPTION) {
         return Qt::SplashScreen | Qt::FramelessWindowHint;

@@ -1,4 +1,4 @@
-// A window of a registered class: the menu bar of its class, below it the client area with the controls.
+// A window of a registered class: its class's menu bar, and below it the client area with the controls.
 #ifndef PLATFORM_NATIVE_WINDOWING_TOP_LEVEL_WINDOW_H
 #define PLATFORM_NATIVE_WINDOWING_TOP_LEVEL_WINDOW_H
 
@@ -14,7 +14,7 @@ struct Placement {
 
 class TopLevelWindow : public Window {
  public:
-    // Nothing is shown and nothing sent yet.
+    // Shows nothing and sends nothing yet.
     TopLevelWindow(const WindowClass& windowClass, LPCSTR title, DWORD style, const Placement& placement);
     TopLevelWindow(const TopLevelWindow&) = delete;
     TopLevelWindow& operator=(const TopLevelWindow&) = delete;
@@ -25,7 +25,7 @@ class TopLevelWindow : public Window {
     QSize clientSize() const override;
     LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Set while WM_DESTROY is on its way, so that it comes once.
+    // Set while WM_DESTROY is being sent, so that it is sent only once.
     bool beingDestroyed = false;
 
  private:

@@ -1,4 +1,4 @@
-// What a window handle stands for: a top-level window of a class, a control, a message box or a dialog.
+// The object behind a window handle: a top-level window of a class, a control, a message box or a dialog.
 #ifndef PLATFORM_NATIVE_WINDOWING_WINDOW_H
 #define PLATFORM_NATIVE_WINDOWING_WINDOW_H
 
@@ -13,7 +13,7 @@ class QWidget;
 
 class Window {
  public:
-    // `parent` is null but for controls.
+    // `parent` is null for all but controls.
     Window(DWORD style, HWND parent);
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
@@ -23,17 +23,17 @@ class Window {
     HWND parent() const { return parent_; }
     DWORD style() const { return style_; }
 
-    // Takes the whole style; what it says of visible and disabled takes effect at once.
+    // Sets the whole style. Visibility and enabling take effect at once.
     void setStyle(DWORD style);
     void noteVisible(bool visible);
 
-    // The whole window. It belongs to this object, which deletes it once no event of it is under way any more.
+    // The widget of the whole window. This object owns it, and deletes it once Qt has finished with its events.
     virtual QWidget* widget() const = 0;
 
-    // What SendMessageA does with it.
+    // The answer to SendMessageA.
     virtual LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
-    // What a program may draw on; null for all but windows of a registered class.
+    // The area that the program draws on. Null except for windows of a registered class.
     virtual ClientArea* clientArea() const { return nullptr; }
     virtual QSize clientSize() const;
 
@@ -45,20 +45,20 @@ class Window {
 
 Window* addWindow(std::unique_ptr<Window> window);
 
-// Null, and ERROR_INVALID_WINDOW_HANDLE, if the handle is nobody's (any more).
+// Null, with ERROR_INVALID_WINDOW_HANDLE, if no window has this handle.
 Window* findWindow(HWND window);
 
-// A copy of what exists, oldest first: a walk over it survives windows that come and go on the way.
+// The handles of all windows, oldest first. A copy, so windows may come and go during a walk over it.
 std::vector<HWND> allWindows();
 std::vector<HWND> controlsOf(HWND window);
 
-// The window of ours that `widget` is the whole of; null for every other widget.
+// The window whose whole widget is `widget`; null for every other widget.
 HWND windowOfWidget(const QWidget* widget);
 
-// This program's own top-level window, message box or dialog of that whole title; null if there is none.
+// The program's top-level window, message box or dialog with exactly this title; null if there is none.
 HWND findOwnWindow(const char* title);
 
-// Removes a window with its controls; nothing is sent.
+// Removes a window and its controls without sending messages.
 void dropWindow(HWND window);
 void dropWindows();
 

@@ -1,4 +1,4 @@
-// What is done to windows that exist: showing, drawing, styles, messages.
+// The calls on existing windows: showing, drawing, styles, messages.
 #include <QWidget>
 #include <QWindow>
 
@@ -14,7 +14,7 @@ void show(Window& window) {
     QWidget& widget = *window.widget();
     widget.show();
     if (window.clientArea() == nullptr) return;
-    // Gives it the keyboard where no window manager does; a splash window has none.
+    // Activates the window in case there is no window manager. A splash window takes no keyboard.
     if (widget.windowType() != Qt::SplashScreen) widget.activateWindow();
     waitForScreen([&widget] { return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed(); });
 }

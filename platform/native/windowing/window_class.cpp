@@ -8,7 +8,7 @@
 
 namespace {
 
-// Grows at its end only, so that a class stays where it is.
+// Only ever grows at its end, so pointers to classes stay valid.
 std::deque<WindowClass> classes;
 
 constexpr ATOM firstAtom = 0xC000;

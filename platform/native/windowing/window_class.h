@@ -17,11 +17,11 @@ struct WindowClass {
     LPCSTR menuName;  // an id of MAKEINTRESOURCEA, or null
 };
 
-// Compared without regard to ASCII case. Null, and ERROR_CANNOT_FIND_WND_CLASS, if there is none. The class lives until
-// the process ends.
+// Finds a class by its name, without regard to ASCII case. Null, with ERROR_CANNOT_FIND_WND_CLASS, if there is none.
+// The class lives until the process ends.
 const WindowClass* findWindowClass(LPCSTR name);
 
-// Whether two names of classes are the same.
+// Whether two class names are equal, without regard to ASCII case.
 bool sameClassName(LPCSTR a, LPCSTR b);
 
 #endif
