@@ -4,7 +4,7 @@
 
 #include "platform/byte_order.h"
 #include "save/template_layout.h"
-#include "world/neighborhood.h"
+#include "world/family.h"
 
 // 1, or -1 on a stream in a bad state. Touches nothing behind the table as it stood when it was read: a member that
 // left gives room that is filled up with zeros.
@@ -28,10 +28,10 @@ int Family::rewriteRecord(StreamView stream) {
 }
 
 // 1, or -1 on a stream in a bad state. `position` is where the template's copy begins.
-int Family::writeNewRecord(StreamView stream, std::int32_t position) {
+int Family::writeNewRecord(StreamView stream, std::int32_t position, std::int16_t familyNumber) {
     using namespace familyTemplate;
     if (!stream.good()) return -1;
-    familyNumber_ = neighborhood_->giveFamilyNumber();
+    familyNumber_ = familyNumber;
     const auto numberBytes = u16Le(static_cast<std::uint16_t>(familyNumber_));
     for (const std::int32_t offset : {firstChunkNumber, number, nameChunkNumber}) {
         stream.seek(position + offset);

@@ -150,7 +150,9 @@ int Neighborhood::writeNewFamilies(StreamView stream) {
     std::int32_t position = copiedSize_;
     for (std::int32_t i = 0; i < newFamilyCount_; ++i) {
         Family& family = *newFamilies_[static_cast<std::size_t>(i)];
-        if (family.writeNewRecord(stream, position) != 1) return -1;
+        const auto number = static_cast<std::int16_t>(highestFamilyNumber_ + 1);
+        if (family.writeNewRecord(stream, position, number) != 1) return -1;
+        ++highestFamilyNumber_;
         if (familyCount_ < highestFamilyCount) {
             families_[static_cast<std::size_t>(familyCount_)] = &family;
             ++familyCount_;
@@ -160,8 +162,4 @@ int Neighborhood::writeNewFamilies(StreamView stream) {
     newFamilies_.fill(nullptr);
     newFamilyCount_ = 0;
     return 1;
-}
-
-std::int16_t Neighborhood::giveFamilyNumber() {
-    return static_cast<std::int16_t>(++highestFamilyNumber_);
 }

@@ -73,7 +73,7 @@ class Family {
 
     // Rewrites the family's record in the temporary file, or puts a new family's record there (save/family_writer.cpp).
     int rewriteRecord(StreamView stream);
-    int writeNewRecord(StreamView stream, std::int32_t position);
+    int writeNewRecord(StreamView stream, std::int32_t position, std::int16_t familyNumber);
 
     // The record was lost with the temporary file of a save that failed later on.
     void markUnwritten() { dirty_ = true; }

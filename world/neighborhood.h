@@ -49,9 +49,6 @@ class Neighborhood {
     // The highest number of a family record of the file, listed or not; 0 if there is none.
     std::int32_t highestFamilyNumber() const { return highestFamilyNumber_; }
 
-    // The next number for a family's record: one above the highest, which it raises.
-    std::int16_t giveFamilyNumber();
-
     // Families that wait for the next save, in the order in which they came; null for an index out of range.
     std::int32_t newFamilyCount() const { return newFamilyCount_; }
     Family* newFamily(std::int32_t index) const;
