@@ -1,8 +1,5 @@
 // A changed Sim's new character file, made from "Template.iff", and its neighbor record in the temporary neighborhood
 // file.
-#include <algorithm>
-
-#include "platform/byte_order.h"
 #include "platform/files.h"
 #include "platform/win32.h"
 #include "save/file_copy.h"
@@ -76,34 +73,12 @@ int Sim::buildCharacterFile(const char* tempPath) {
     return 1;
 }
 
-// The record as it stood when it was read, but for what a stage change has made of it; what isn't known of it is zero.
-std::array<std::uint8_t, neighborRecord::size> Sim::recordBytes() const {
-    using namespace neighborRecord;
-    std::array<std::uint8_t, size> record{};
-    const auto put = [&record](int offset, auto bytes) {
-        std::copy(bytes.begin(), bytes.end(), record.begin() + offset);
-    };
-    put(0, marker);
-    put(neighborRecord::name, recordName_.view());
-    record[neighborRecord::version] = static_cast<std::uint8_t>(version_);
-    for (int k = 0; k < personValueCount; ++k) {
-        put(valueOffset(k), u16Le(personValues_[static_cast<std::size_t>(k)]));
-    }
-    put(neighborRecord::age, u16Le(static_cast<std::uint16_t>(age_)));
-    put(neighborRecord::skinTone, u16Le(static_cast<std::uint16_t>(skinTone_)));
-    put(wordA, u16Le(recordWordA_));
-    put(wordB, u16Le(recordWordB_));
-    put(kind, u16Le(static_cast<std::uint16_t>(gender_)));
-    for (int k = 0; k < tailWordCount; ++k) {
-        put(neighborRecord::tailWords + 2 * k, u16Le(tailWords_[static_cast<std::size_t>(k)]));
-    }
-    return record;
-}
-
 // 1, or -1 on a stream in a bad state, with the record still to be written.
 int Sim::writeNeighborRecord(StreamView stream) {
     using namespace neighborRecord;
     if (!stream.good()) return -1;
+    // Only a stage change makes a record wait, and a Sim is a teen or an adult after it: the file gets no other age. The
+    // Sim takes the word as well, so that memory and file agree.
     if (age_ != ageWord::adult) age_ = ageWord::teen;
     const auto record = recordBytes();
     const auto bytes = std::span(record);

@@ -41,10 +41,7 @@ constexpr int personValueCount = 29;
 static_assert(name == marker.size());
 static_assert(kind + kindRoom == tailWords);
 
-constexpr int valueOffset(int number) {
-    return number < firstValueCount ? firstValues + 2 * number : lastValues + 2 * (number - firstValueCount);
-}
-static_assert(valueOffset(personValueCount) == age);
+static_assert(lastValues + 2 * (personValueCount - firstValueCount) == age);
 
 constexpr int highestPetKind = 5;
 }  // namespace neighborRecord

@@ -141,7 +141,9 @@ class Sim {
     int readGuid(StreamView stream);
     int readBodyStrings(StreamView stream);
     bool textEnds(StreamView stream) const;
-    std::array<std::uint8_t, neighborRecord::size> recordBytes() const;
+    template <typename Direction>
+    void passFields(const Direction& direction);
+    std::array<std::uint8_t, neighborRecord::size> recordBytes();
 
     std::int16_t version_ = 0;
     std::int32_t recordOffset_ = 0;

@@ -1,21 +1,13 @@
-// The Sim's half of the neighbor record's reading.
+// A Sim's neighbor record, read and written by one list of its fields.
 #include <algorithm>
 #include <limits>
 
-#include "platform/byte_order.h"
 #include "platform/files.h"
 #include "world/neighborhood.h"
+#include "world/record_fields.h"
 #include "world/sim.h"
 
 namespace {
-
-std::span<const std::uint8_t, 2> wordAt(std::span<const std::uint8_t, neighborRecord::size> record, int offset) {
-    return record.subspan(static_cast<std::size_t>(offset)).first<2>();
-}
-
-std::int16_t signedByte(std::uint8_t byte) {
-    return static_cast<std::int16_t>(byte < 0x80 ? byte : byte - 0x100);
-}
 
 std::int32_t sizeOfFile(const char* path) {
     FileStatus status{};
@@ -25,29 +17,37 @@ std::int32_t sizeOfFile(const char* path) {
 
 }  // namespace
 
-void Sim::readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset) {
-    using namespace neighborRecord;
-    recordOffset_ = recordOffset;
-    // A shorter name than the game's own is closed by a zero byte.
-    const std::string_view field(reinterpret_cast<const char*>(record.data()) + neighborRecord::name, nameSize);
-    recordName_.assign(field.substr(0, field.find('\0')));
-    version_ = signedByte(record[neighborRecord::version]);
-    for (int k = 0; k < personValueCount; ++k) {
-        personValues_[static_cast<std::size_t>(k)] = readU16Le(wordAt(record, valueOffset(k)));
-    }
-    age_ = readI16Le(wordAt(record, neighborRecord::age));
-    skinTone_ = readI16Le(wordAt(record, neighborRecord::skinTone));
-    recordWordA_ = readU16Le(wordAt(record, wordA));
-    recordWordB_ = readU16Le(wordAt(record, wordB));
-    gender_ = std::min(readI16Le(wordAt(record, kind)), genderWord::pet);
-    for (int k = 0; k < tailWordCount; ++k) {
-        tailWords_[static_cast<std::size_t>(k)] = readU16Le(wordAt(record, neighborRecord::tailWords + 2 * k));
-    }
+template <typename Direction>
+void Sim::passFields(const Direction& direction) {
+    namespace at = neighborRecord;
+    const std::span<std::uint16_t> values(personValues_);
+    direction.text(at::name, recordName_);
+    direction.signedByte(at::version, version_);
+    direction.words(at::firstValues, values.first(at::firstValueCount));
+    direction.words(at::lastValues, values.subspan(at::firstValueCount));
+    direction.word(at::age, age_);
+    direction.word(at::skinTone, skinTone_);
+    direction.word(at::wordA, recordWordA_);
+    direction.word(at::wordB, recordWordB_);
+    direction.word(at::kind, gender_);
+    direction.words(at::tailWords, tailWords_);
+}
 
+void Sim::readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset) {
+    passFields(FieldReader(record));
+    gender_ = std::min(gender_, genderWord::pet);
+    recordOffset_ = recordOffset;
     fileName_.assign(recordName_.c_str());
     fileName_.append(".iff");
     filePath_.assign(neighborhood_->directory());
     filePath_.append("\\Characters\\");
     filePath_.append(fileName_);
     fileSize_ = sizeOfFile(filePath_.c_str());
+}
+
+std::array<std::uint8_t, neighborRecord::size> Sim::recordBytes() {
+    std::array<std::uint8_t, neighborRecord::size> record{};
+    std::ranges::copy(neighborRecord::marker, record.begin());
+    passFields(FieldWriter(record));
+    return record;
 }
