@@ -80,7 +80,7 @@ int Sim::writeNeighborRecord(StreamView stream) {
     // Only a stage change makes a record wait, and a Sim is a teen or an adult after it: the file gets no other age. The
     // Sim takes the word as well, so that memory and file agree.
     if (age_ != ageWord::adult) age_ = ageWord::teen;
-    const auto record = recordBytes();
+    const neighborRecord::Bytes record = recordBytes();
     const auto bytes = std::span(record);
     stream.seek(recordOffset_);
     if (gender_ == genderWord::pet) {

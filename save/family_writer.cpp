@@ -6,22 +6,15 @@
 #include "save/template_layout.h"
 #include "world/family.h"
 
-// 1, or -1 on a stream in a bad state. Touches nothing behind the table as it stood when it was read: a member that
-// left gives room that is filled up with zeros.
+// 1, or -1 on a stream in a bad state or for more members than the table had when it was read. The room of a member
+// that left is filled up with zeros; nothing behind the table is touched.
 int Family::rewriteRecord(StreamView stream) {
     using namespace familyRecord;
-    if (!stream.good() || memberTableOffset_ + memberCount_ * guidSize > memberTableEnd_) return -1;
+    if (!stream.good() || memberCount_ * guidSize > tableSize()) return -1;
+    const Bytes record = recordBytes();
     stream.seek(memberTableOffset_ - memberTable + familyRecord::funds);
-    stream.write(u32Le(static_cast<std::uint32_t>(funds_)));
-    for (const std::uint16_t word : familyWords_) {
-        stream.write(u16Le(word));
-    }
-    stream.write(u16Le(static_cast<std::uint16_t>(memberCount_)));
-    stream.write(u16Le(familyTailWord_));
-    for (std::int32_t i = 0; i < memberCount_; ++i) {
-        stream.write(memberGuid(static_cast<std::size_t>(i)).bytes());
-    }
-    stream.writeZeros(memberTableEnd_ - stream.tell());
+    stream.write(
+        std::span(record).first(static_cast<std::size_t>(memberTable + tableSize())).subspan<familyRecord::funds>());
     if (!stream.good()) return -1;
     dirty_ = false;
     return 1;

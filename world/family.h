@@ -67,9 +67,9 @@ class Family {
     int resolveMembers();
 
     // Reads the record and the name, searching for both from the cursor on. 1; -1 for a family of more than 8 members,
-    // with the cursor behind the GUIDs read so far; 0 for a family cut off by the end of the file. The number is good
-    // whatever the result, once `numberRead` says so.
-    int read(StreamView stream, std::int32_t fileSize, bool& numberRead);
+    // with the cursor behind the GUIDs read so far; 0 for a family cut off by the end of the file. The number stays 0
+    // if the file ends before it.
+    int read(StreamView stream, std::int32_t fileSize);
 
     // Rewrites the family's record in the temporary file, or puts a new family's record there (save/family_writer.cpp).
     int rewriteRecord(StreamView stream);
@@ -84,8 +84,11 @@ class Family {
  private:
     void resolveMember(std::size_t index);
     Guid memberGuid(std::size_t index) const;
+    template <typename Direction>
+    void passFields(const Direction& direction);
     bool readMemberTable(StreamView& stream);
     bool readName(StreamView& stream);
+    familyRecord::Bytes recordBytes();
 
     std::array<Guid, familyRecord::highestMemberCount> memberGuids_;
     bool dirty_ = false;

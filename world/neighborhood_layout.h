@@ -3,6 +3,7 @@
 #ifndef WORLD_NEIGHBORHOOD_LAYOUT_H
 #define WORLD_NEIGHBORHOOD_LAYOUT_H
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -36,6 +37,7 @@ constexpr int kindRoom = 4;          // the kind and 2 bytes behind it
 constexpr int tailWords = 160;       // 4 words
 constexpr int tailWordCount = 4;
 constexpr int size = 186;
+using Bytes = std::array<std::uint8_t, size>;
 
 constexpr int personValueCount = 29;
 static_assert(name == marker.size());
@@ -50,15 +52,16 @@ constexpr int highestPetKind = 5;
 namespace familyRecord {
 constexpr std::string_view chunkTag = "FAMI";
 constexpr std::string_view recordTag = "IMAF";
-constexpr int number = 8;     // 4 bytes, of which the low 2 count, signed
-constexpr int funds = 12;     // 4 bytes, signed
-constexpr int words = 16;     // 6 words: house, value of the house, friends, flags and what else the game keeps there
-constexpr int wordCount = 6;  //
+constexpr int number = 8;  // 4 bytes, of which the low 2 count, signed
+constexpr int funds = 12;  // 4 bytes, signed
+constexpr int words = 16;  // 6 words: house, value of the house, friends, flags and what else the game keeps there
+constexpr int wordCount = 6;
 constexpr int memberCount = 28;  // 2 bytes, signed
 constexpr int tailWord = 30;     // 2 bytes
 constexpr int memberTable = 32;  // one GUID for each member
 constexpr int guidSize = 4;
 constexpr int highestMemberCount = 8;
+using Bytes = std::array<std::uint8_t, memberTable + highestMemberCount * guidSize>;
 
 static_assert(funds + 4 == words && words + 2 * wordCount == memberCount && memberCount + 4 == memberTable);
 }  // namespace familyRecord

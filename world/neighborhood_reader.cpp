@@ -106,9 +106,8 @@ int Neighborhood::familyAhead(StreamView stream) const {
 // isn't listed; the cursor is then at the end of the file, which ends the pass.
 int Neighborhood::readFamily(StreamView stream) {
     Family* const family = ownedFamilies_.emplace_back(std::make_unique<Family>(*this)).get();
-    bool numberRead = false;
-    const int result = family->read(stream, fileSize_, numberRead);
-    if (numberRead) highestFamilyNumber_ = std::max<std::int32_t>(highestFamilyNumber_, family->familyNumber());
+    const int result = family->read(stream, fileSize_);
+    highestFamilyNumber_ = std::max<std::int32_t>(highestFamilyNumber_, family->familyNumber());
     if (result != 1) return result == 0 ? 1 : result;
     if (family->name() == familyName::unlisted || familyCount_ >= highestFamilyCount) return 1;
     families_[static_cast<std::size_t>(familyCount_)] = family;

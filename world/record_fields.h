@@ -1,6 +1,6 @@
 // The two ways through a record's list of fields. A record lists its fields once, each with its offset and its member.
-// FieldReader fills the members from the bytes, FieldWriter puts the members into the bytes, so no field can be read and
-// then forgotten in writing. Numbers are little-endian; offsets count from the record's first byte.
+// FieldReader fills the members from the bytes, FieldWriter puts the members into the bytes, so no field can be read
+// and then forgotten in writing. Numbers are little-endian; offsets count from the record's first byte.
 #ifndef WORLD_RECORD_FIELDS_H
 #define WORLD_RECORD_FIELDS_H
 

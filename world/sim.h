@@ -143,7 +143,7 @@ class Sim {
     bool textEnds(StreamView stream) const;
     template <typename Direction>
     void passFields(const Direction& direction);
-    std::array<std::uint8_t, neighborRecord::size> recordBytes();
+    neighborRecord::Bytes recordBytes();
 
     std::int16_t version_ = 0;
     std::int32_t recordOffset_ = 0;

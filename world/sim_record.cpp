@@ -45,8 +45,8 @@ void Sim::readRecord(std::span<const std::uint8_t, neighborRecord::size> record,
     fileSize_ = sizeOfFile(filePath_.c_str());
 }
 
-std::array<std::uint8_t, neighborRecord::size> Sim::recordBytes() {
-    std::array<std::uint8_t, neighborRecord::size> record{};
+neighborRecord::Bytes Sim::recordBytes() {
+    neighborRecord::Bytes record{};
     std::ranges::copy(neighborRecord::marker, record.begin());
     passFields(FieldWriter(record));
     return record;
