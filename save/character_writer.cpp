@@ -77,8 +77,8 @@ int Sim::buildCharacterFile(const char* tempPath) {
 int Sim::writeNeighborRecord(StreamView stream) {
     using namespace neighborRecord;
     if (!stream.good()) return -1;
-    // Only a stage change makes a record wait, and a Sim is a teen or an adult after it: the file gets no other age. The
-    // Sim takes the word as well, so that memory and file agree.
+    // Only a stage change makes a record wait, and a Sim is a teen or an adult after it: the file gets no other age.
+    // The Sim takes the word as well, so that memory and file agree.
     if (age_ != ageWord::adult) age_ = ageWord::teen;
     const neighborRecord::Bytes record = recordBytes();
     const auto bytes = std::span(record);
@@ -92,6 +92,6 @@ int Sim::writeNeighborRecord(StreamView stream) {
         stream.write(bytes);
     }
     if (!stream.good()) return -1;
-    recordDirty_ = recordOwed_ = false;
+    recordDirty_ = false;
     return 1;
 }

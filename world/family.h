@@ -11,6 +11,7 @@
 #include "world/stream.h"
 
 class Neighborhood;
+class SaveAttempt;
 class Sim;
 
 class Family {
@@ -75,13 +76,9 @@ class Family {
     int rewriteRecord(StreamView stream);
     int writeNewRecord(StreamView stream, std::int32_t position, std::int16_t familyNumber);
 
-    // The record was lost with the temporary file of a save that failed later on.
-    void markUnwritten() { dirty_ = true; }
-
-    // The file doesn't hold the record any more.
-    void forgetTable() { memberTableOffset_ = memberTableEnd_ = 0; }
-
  private:
+    friend class SaveAttempt;
+
     void resolveMember(std::size_t index);
     Guid memberGuid(std::size_t index) const;
     template <typename Direction>

@@ -11,14 +11,18 @@
 #include "world/family.h"
 #include "world/sim.h"
 #include "world/stream.h"
+#include "world/tag_scan.h"
 
-class Move;
+class SaveAttempt;
 
 class Neighborhood {
  public:
     static constexpr std::int32_t highestFamilyCount = 100;
     static constexpr std::int32_t highestSimCount = 820;
     static constexpr std::int32_t highestNewFamilyCount = 10;
+
+    // What `xxxxOffset` is in a file without a free chunk.
+    static constexpr std::int32_t noFreeChunk = tagNotFound - 1;
 
     Neighborhood() = default;
     Neighborhood(const Neighborhood&) = delete;
@@ -78,22 +82,18 @@ class Neighborhood {
     int writeChangedFamilies(StreamView stream);
     int writeNewFamilies(StreamView stream);
 
+    // The save that is under way (save/save_attempt.h). Begins one if there is none.
+    SaveAttempt& saveAttempt();
+
  private:
+    friend class SaveAttempt;
+
     void readNeighbors(StreamView stream);
     int nextNeighbor(StreamView stream) const;
     int readNeighbor(StreamView stream);
     int familyAhead(StreamView stream) const;
     int readFamily(StreamView stream);
     void readPasses(StreamView stream);
-
-    struct Unwritten;
-    Unwritten unwritten() const;
-    void restore(const Unwritten& state);
-    void forgetChanges();
-    std::int32_t cutForNewFamilies() const;
-    int appendFamilyTemplates(const char* tempPath) const;
-    int patchTempFile(StreamView stream);
-    bool standsInCopy(std::int32_t offset, std::int32_t size) const;
 
     std::int32_t mapOffset_ = -1;
     std::int32_t xxxxOffset_ = -1;
@@ -110,8 +110,8 @@ class Neighborhood {
     std::int32_t newFamilyCount_ = 0;
     std::array<Family*, highestNewFamilyCount> newFamilies_{};
     std::int32_t highestFamilyNumber_ = 0;
-    std::shared_ptr<Move> install_;  // of the new file, prepared while the old one is backed up
-    std::int32_t copiedSize_ = 0;    // how much of the live file the temporary one took over
+
+    std::shared_ptr<SaveAttempt> saveAttempt_;  // null while nothing is being saved or owed
 
     // Every family and Sim ever made here, listed or not, so that no link dangles.
     std::vector<std::unique_ptr<Family>> ownedFamilies_;

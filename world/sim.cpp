@@ -73,6 +73,5 @@ int Sim::setStage(std::int32_t stage, std::unique_ptr<BodyStrings> bodyStrings) 
     stage_ = stage;
     characterDirty_ = true;
     recordDirty_ = true;
-    recordOwed_ = false;  // the record now waits for the new character file
     return 1;
 }

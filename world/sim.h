@@ -17,8 +17,8 @@
 #include "world/stream.h"
 
 class Family;
-class Move;
 class Neighborhood;
+class SaveAttempt;
 
 // Stages of life. Babies, toddlers and preteens (1, 2, 4) have words but never arise.
 namespace stageNumber {
@@ -122,18 +122,9 @@ class Sim {
     void backupCharacterFile(const char* directory);
     int installCharacterFile(const char* tempPath);
 
-    // After a save that failed behind this Sim's turn: its character file is new, but its new record went with the
-    // temporary file.
-    void oweRecord() { recordDirty_ = recordOwed_ = true; }
-    bool recordOwed() const { return recordOwed_; }
-
-    // The file doesn't hold the record any more, so nothing waits to be written there.
-    void forgetRecord() {
-        recordOffset_ = -1;
-        recordDirty_ = recordOwed_ = false;
-    }
-
  private:
+    friend class SaveAttempt;
+
     static constexpr std::size_t bodySkillValue = 15;
 
     bool openCharacterFile(StreamFile& file);
@@ -155,7 +146,6 @@ class Sim {
     bool stageKnown_ = false;
     bool characterDirty_ = false;
     bool recordDirty_ = false;
-    bool recordOwed_ = false;
     FixedText<13> fileName_;
     FixedText<199> filePath_;
     Guid guid_;
@@ -175,7 +165,6 @@ class Sim {
     std::int16_t gender_ = genderWord::male;
     std::array<std::uint16_t, neighborRecord::tailWordCount> tailWords_{};
     std::unique_ptr<BodyStrings> bodyStrings_;
-    std::shared_ptr<Move> install_;  // of the new file, prepared while the old one is backed up
     Family* family_ = nullptr;
     Neighborhood* neighborhood_;
 };

@@ -1,0 +1,64 @@
+#include "save/save_attempt.h"
+
+SaveAttempt& Neighborhood::saveAttempt() {
+    if (!saveAttempt_) saveAttempt_ = std::make_shared<SaveAttempt>(*this);
+    return *saveAttempt_;
+}
+
+void SaveAttempt::noteWaiting() {
+    const Neighborhood& from = neighborhood_;
+    waiting_ = {{}, {}, from.newFamilies_, from.newFamilyCount_, from.familyCount_, from.highestFamilyNumber_};
+    for (std::int32_t i = 0; i < from.simCount(); ++i) {
+        if (from.sim(i)->recordDirty()) waiting_.records.push_back(from.sim(i));
+    }
+    for (std::int32_t i = 0; i < from.familyCount(); ++i) {
+        if (from.family(i)->dirty()) waiting_.families.push_back(from.family(i));
+    }
+    for (std::int32_t i = 0; i < from.newFamilyCount(); ++i) {
+        waiting_.families.push_back(from.newFamily(i));
+    }
+}
+
+void SaveAttempt::restoreWaiting() {
+    for (Sim* sim : waiting_.records) {
+        if (!sim->recordDirty()) owe(*sim);
+    }
+    for (Family* family : waiting_.families) {
+        family->dirty_ = true;
+    }
+    neighborhood_.newFamilies_ = waiting_.newFamilies;
+    neighborhood_.newFamilyCount_ = waiting_.newFamilyCount;
+    neighborhood_.familyCount_ = waiting_.familyCount;
+    neighborhood_.highestFamilyNumber_ = waiting_.highestFamilyNumber;
+}
+
+void SaveAttempt::owe(Sim& sim) {
+    owed_.insert(&sim);
+    sim.recordDirty_ = true;
+}
+
+void SaveAttempt::forgetRecord(Sim& sim) {
+    settle(sim);
+    sim.recordOffset_ = -1;
+    sim.recordDirty_ = false;
+}
+
+// After a cut the neighborhood is as a fresh read of the new file would make it. A later save of this run copies all of
+// the file, and passes over the pieces that are gone.
+void SaveAttempt::finish() {
+    neighborhood_.dirty_ = false;
+    if (!neighborhood_.hasNewFamilies_) return;
+    neighborhood_.hasNewFamilies_ = false;
+    neighborhood_.xxxxOffset_ = Neighborhood::noFreeChunk;
+    neighborhood_.mapOffset_ = 0;
+    for (std::int32_t i = 0; i < neighborhood_.simCount(); ++i) {
+        Sim& sim = *neighborhood_.sim(i);
+        if (!isCopied(sim.recordOffset(), neighborRecord::size)) forgetRecord(sim);
+    }
+    for (std::int32_t i = 0; i < neighborhood_.familyCount(); ++i) {
+        Family& family = *neighborhood_.family(i);
+        if (!isCopied(family.memberTableOffset(), family.tableSize())) {
+            family.memberTableOffset_ = family.memberTableEnd_ = 0;
+        }
+    }
+}
