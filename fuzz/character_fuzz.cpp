@@ -77,8 +77,8 @@ void examineText(const BodyStrings& body, std::size_t room, std::size_t limit, s
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider choices(data, size);
     const auto version = choices.ConsumeIntegralInRange<std::int16_t>(4, 8);
-    const auto age = choices.PickValueInArray({ageWord::child, ageWord::teen, ageWord::adult, 0});
-    const auto kind = choices.ConsumeIntegralInRange<std::int16_t>(genderWord::male, genderWord::pet);
+    const auto age = choices.PickValueInArray({ageNumber::child, ageNumber::teen, ageNumber::adult, 0});
+    const auto kind = choices.ConsumeIntegralInRange<std::int16_t>(genderNumber::male, genderNumber::pet);
     const auto room = choices.ConsumeIntegralInRange<std::size_t>(0, 3000);
     const auto limit = choices.ConsumeIntegralInRange<std::size_t>(0, 3000);
     writeFuzzFile("Characters/user00001.iff", choices.ConsumeRemainingBytes<std::uint8_t>());

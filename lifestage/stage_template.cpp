@@ -62,7 +62,7 @@ std::string_view toneWord(std::int16_t skinTone) {
 BodyStrings::BodyStrings(std::int16_t gender, std::uint8_t age, std::int16_t skinTone, std::int16_t version,
                          std::int16_t bodyType)
     : version_(version) {
-    const bool female = gender == genderWord::female;
+    const bool female = gender == genderNumber::female;
     const std::string_view tone = toneWord(skinTone);
     slots_[bodySlot::gender].assign(female ? "female" : "male");
     setFixedSlots(tone);

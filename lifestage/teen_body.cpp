@@ -58,7 +58,7 @@ void setOutfits(BodyStrings& body, const TeenNames& names, std::string_view tone
 }  // namespace
 
 BodyStrings teenBody(std::int16_t gender, std::int16_t skinTone, std::int16_t version) {
-    const TeenNames& names = gender == genderWord::female ? girlNames : boyNames;
+    const TeenNames& names = gender == genderNumber::female ? girlNames : boyNames;
     const std::string_view tone = toneWord(skinTone);
     BodyStrings body(gender, grownBody, skinTone, version, bodyType::skinny);
     body.setNBodyMesh("nuTNR_01,BODY");

@@ -79,11 +79,11 @@ int Sim::writeNeighborRecord(StreamView stream) {
     if (!stream.good()) return -1;
     // Only a stage change makes a record wait, and a Sim is a teen or an adult after it: the file gets no other age.
     // The Sim takes the word as well, so that memory and file agree.
-    if (age_ != ageWord::adult) age_ = ageWord::teen;
+    if (age_ != ageNumber::adult) age_ = ageNumber::teen;
     const neighborRecord::Bytes record = recordBytes();
     const auto bytes = std::span(record);
     stream.seek(recordOffset_);
-    if (gender_ == genderWord::pet) {
+    if (gender_ == genderNumber::pet) {
         // Memory holds one pet for the kinds 2 to 5, so the file's own kind stays.
         stream.write(bytes.first<kind>());
         stream.readBytes<kindRoom>();

@@ -17,7 +17,7 @@ std::int16_t kindOf(std::span<const std::uint8_t, neighborRecord::size> record) 
 }
 
 bool isKnownKind(std::int16_t kind) {
-    return kind >= genderWord::male && kind <= neighborRecord::highestPetKind;
+    return kind >= genderNumber::male && kind <= neighborRecord::highestPetKind;
 }
 
 }  // namespace

@@ -3,6 +3,23 @@
 #include <cstring>
 #include <utility>
 
+namespace {
+
+constexpr std::uint16_t teenCareer = 4;
+
+bool isTeenBody(const BodyStrings& body) {
+    const char* skin = body.slot(bodySlot::bodySkin);
+    return std::strstr(skin, "TNR") != nullptr || std::strstr(skin, "tnr") != nullptr;
+}
+
+std::int32_t stageOfGrown(std::int16_t gender, const BodyStrings* body) {
+    if (gender == genderNumber::pet) return stageNumber::pet;
+    if (body == nullptr) return stageNumber::unknown;
+    return isTeenBody(*body) ? stageNumber::teen : stageNumber::adult;
+}
+
+}  // namespace
+
 const char* Sim::name() {
     if (!nameLoaded_) loadName();
     return name_.c_str();
@@ -23,28 +40,13 @@ std::int32_t Sim::stage() {
     return stage_;
 }
 
-namespace {
-
-bool isTeenBody(const BodyStrings& body) {
-    const char* skin = body.slot(bodySlot::bodySkin);
-    return std::strstr(skin, "TNR") != nullptr || std::strstr(skin, "tnr") != nullptr;
-}
-
-std::int32_t stageOfGrown(std::int16_t gender, const BodyStrings* body) {
-    if (gender == genderWord::pet) return stageNumber::pet;
-    if (body == nullptr) return stageNumber::unknown;
-    return isTeenBody(*body) ? stageNumber::teen : stageNumber::adult;
-}
-
-}  // namespace
-
 int Sim::deriveStage() {
     if (!bodyStringsLoaded_ && fileUsable_) loadBodyStrings();
-    if (age_ == ageWord::adult) {
+    if (age_ == ageNumber::adult) {
         stage_ = stageOfGrown(gender_, bodyStrings_.get());
-    } else if (age_ == ageWord::teen) {
+    } else if (age_ == ageNumber::teen) {
         stage_ = stageNumber::teen;
-    } else if (age_ == ageWord::child) {
+    } else if (age_ == ageNumber::child) {
         stage_ = stageNumber::child;
     } else {
         stage_ = stageNumber::unknown;
@@ -54,20 +56,21 @@ int Sim::deriveStage() {
 }
 
 int Sim::setStage(std::int32_t stage, std::unique_ptr<BodyStrings> bodyStrings) {
+    using namespace personValue;
     if (stage >= stageNumber::baby && stage <= stageNumber::preteen) return -2;
     if (stage == stageNumber::teen) {
-        age_ = ageWord::teen;
-        personValues_[27] = 4;
-        for (const std::size_t value : {8, 9, 10, 13, 15, 16, 28}) {
-            personValues_[value] = 0;
+        age_ = ageNumber::teen;
+        for (const std::size_t skill : skills) {
+            personValues_[skill] = 0;
         }
+        personValues_[career] = teenCareer;
     } else if (stage == stageNumber::adult) {
-        age_ = ageWord::adult;
-        personValues_[27] = 0;
-        personValues_[28] = 0;
+        age_ = ageNumber::adult;
+        personValues_[career] = 0;
     } else {
         return -3;
     }
+    personValues_[careerLevel] = 0;
     characterTag_ = true;
     if (bodyStrings) bodyStrings_ = std::move(bodyStrings);
     stage_ = stage;

@@ -32,18 +32,27 @@ constexpr std::int32_t teen = 5;
 constexpr std::int32_t adult = 6;
 }  // namespace stageNumber
 
-// Values of a record's age word.
-namespace ageWord {
+// The ages that the game stores.
+namespace ageNumber {
 constexpr std::int32_t child = 9;
 constexpr std::int32_t teen = 18;
 constexpr std::int32_t adult = 27;
-}  // namespace ageWord
+}  // namespace ageNumber
 
-namespace genderWord {
+namespace genderNumber {
 constexpr std::int16_t male = 0;
 constexpr std::int16_t female = 1;
-constexpr std::int16_t pet = 2;  // stands for the kinds 2 to 5 of the file
-}  // namespace genderWord
+constexpr std::int16_t pet = 2;  // the kinds 2 to 5 of the file
+}  // namespace genderNumber
+
+// Numbers of the person values that the program uses. The others are kept as they are.
+namespace personValue {
+constexpr std::size_t bodySkill = 15;  // 0 to 1000, as the other skills
+// Cooking, charisma, mechanical, creativity, body, logic.
+constexpr std::array<std::size_t, 6> skills = {8, 9, 10, 13, bodySkill, 16};
+constexpr std::size_t career = 27;  // 0 for none
+constexpr std::size_t careerLevel = 28;
+}  // namespace personValue
 
 class Sim {
  public:
@@ -63,7 +72,7 @@ class Sim {
     std::int16_t skinTone() const { return skinTone_; }
     std::int16_t gender() const { return gender_; }
     std::int16_t personValue(std::size_t number) const { return static_cast<std::int16_t>(personValues_.at(number)); }
-    std::int16_t bodySkill() const { return personValue(bodySkillValue); }  // 0 to 1000
+    std::int16_t bodySkill() const { return personValue(personValue::bodySkill); }
 
     Neighborhood& neighborhood() const { return *neighborhood_; }
 
@@ -125,8 +134,6 @@ class Sim {
  private:
     friend class SaveAttempt;
 
-    static constexpr std::size_t bodySkillValue = 15;
-
     bool openCharacterFile(StreamFile& file);
     int readName(StreamView stream);
     int readGuid(StreamView stream);
@@ -157,12 +164,12 @@ class Sim {
     FixedText<99> name_;
     std::array<std::uint16_t, neighborRecord::personValueCount> personValues_{};
     bool characterTag_ = true;
-    std::int32_t age_ = ageWord::adult;
+    std::int32_t age_ = ageNumber::adult;
     std::int32_t stage_ = stageNumber::unknown;
     std::int16_t skinTone_ = 64;
     std::uint16_t recordWordA_ = 0;
     std::uint16_t recordWordB_ = 0;
-    std::int16_t gender_ = genderWord::male;
+    std::int16_t gender_ = genderNumber::male;
     std::array<std::uint16_t, neighborRecord::tailWordCount> tailWords_{};
     std::unique_ptr<BodyStrings> bodyStrings_;
     Family* family_ = nullptr;

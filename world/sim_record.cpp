@@ -35,7 +35,7 @@ void Sim::passFields(const Direction& direction) {
 
 void Sim::readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset) {
     passFields(FieldReader(record));
-    gender_ = std::min(gender_, genderWord::pet);
+    gender_ = std::min(gender_, genderNumber::pet);
     recordOffset_ = recordOffset;
     fileName_.assign(recordName_.c_str());
     fileName_.append(".iff");
