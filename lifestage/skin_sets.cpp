@@ -7,6 +7,8 @@
 #include "lifestage/random_generator.h"
 #include "lifestage/text_lines.h"
 #include "platform/files.h"
+#include "world/joined_text.h"
+#include "world/paths.h"
 #include "world/sim.h"
 
 namespace {
@@ -95,8 +97,7 @@ void pickOutfit(const std::array<std::string_view, N>& outfits, OutfitText& outf
 
 int findNextStageHead(std::int32_t stage, const char* headSkin, const char* toolDirectory, HeadText& newSkin,
                       HeadText& newMesh) {
-    FixedText<299> path(toolDirectory);
-    path.append("\\skinsets.cfg");
+    const auto path = joined<PathText>(toolDirectory, "\\skinsets.cfg");
     std::FILE* file = openFile(path.c_str(), "rb");
     if (file == nullptr) return -1;
     SkinSet set(stage, headSkin);

@@ -2,15 +2,12 @@
 // they are, so their odd capitals stay.
 #include "lifestage/stage_template.h"
 
-#include <initializer_list>
-
 #include "world/body_string_text.h"
 #include "world/body_strings.h"
+#include "world/joined_text.h"
 #include "world/sim.h"
 
 namespace {
-
-using Parts = std::initializer_list<std::string_view>;
 
 std::string_view bodyWord(std::int16_t type) {
     switch (type) {
@@ -24,13 +21,6 @@ std::string_view bodyWord(std::int16_t type) {
             return "fat";
         default:
             return "";
-    }
-}
-
-void set(BodyStrings::Slot& slot, Parts parts) {
-    slot.clear();
-    for (const std::string_view part : parts) {
-        slot.append(part);
     }
 }
 
@@ -77,11 +67,11 @@ BodyStrings::BodyStrings(std::int16_t gender, std::uint8_t age, std::int16_t ski
 // The slots that are the same for every age.
 void BodyStrings::setFixedSlots(std::string_view tone) {
     using namespace bodySlot;
-    set(slots_[anchorBoneA], {"HEAD"});
-    set(slots_[anchorPointA], {"Top"});
-    set(slots_[anchorBoneB], {"R_HAND"});
-    set(slots_[anchorPointB], {"Palm"});
-    set(slots_[skinTone], {tone});
+    slots_[anchorBoneA].assign("HEAD");
+    slots_[anchorPointA].assign("Top");
+    slots_[anchorBoneB].assign("R_HAND");
+    slots_[anchorPointB].assign("Palm");
+    slots_[skinTone].assign(tone);
     const struct {
         Index mesh;
         std::string_view meshName, skinStem;
@@ -91,8 +81,8 @@ void BodyStrings::setFixedSlots(std::string_view tone) {
         {fHandLOMesh, "HuLO,HAND", "huao"}, {fHandROMesh, "HuRO,HAND", "huao"},
     };
     for (const auto& hand : hands) {
-        set(slots_[hand.mesh], {hand.meshName});
-        set(slots_[bodyText::secondOf(hand.mesh)], {hand.skinStem, tone});
+        slots_[hand.mesh].assign(hand.meshName);
+        slots_[bodyText::secondOf(hand.mesh)] = joined<Slot>(hand.skinStem, tone);
     }
 }
 
@@ -103,19 +93,19 @@ void BodyStrings::setGrownSlots(bool female, std::string_view tone, std::int16_t
     const auto& bodies = female ? femaleBodies : maleBodies;
     if (type >= bodyType::teen && type <= bodyType::fat) {
         const BodyNames& names = bodies[static_cast<std::size_t>(type)];
-        set(slots_[bodyMesh], {names.mesh});
-        set(slots_[bodySkin], {names.skinStem, tone, names.skinEnd});
+        slots_[bodyMesh].assign(names.mesh);
+        slots_[bodySkin] = joined<Slot>(names.skinStem, tone, names.skinEnd);
     }
-    set(slots_[bodySlot::headMesh], {female ? "c012fa_gma2,HEAD-HEAD" : "c007ma_gpa1,HEAD-HEAD"});
-    set(slots_[bodySlot::headSkin], {female ? "c012fa" : "c007ma", tone, female ? "_asian" : "_alt"});
-    set(slots_[ageText], {"27"});
+    slots_[bodySlot::headMesh].assign(female ? "c012fa_gma2,HEAD-HEAD" : "c007ma_gpa1,HEAD-HEAD");
+    slots_[bodySlot::headSkin] = joined<Slot>(female ? "c012fa" : "c007ma", tone, female ? "_asian" : "_alt");
+    slots_[ageText].assign("27");
     // Men and women of the skinny type share one mesh.
-    set(slots_[nBodyMesh], {"n", type == bodyType::skinny ? "u" : sex, body, "_01,BODY"});
-    set(slots_[nBodySkin], {"n", sex, body, tone, "_01"});
+    slots_[nBodyMesh] = joined<Slot>("n", type == bodyType::skinny ? "u" : sex, body, "_01,BODY");
+    slots_[nBodySkin] = joined<Slot>("n", sex, body, tone, "_01");
     slots_[uBodyMesh] = slots_[nBodyMesh];
-    set(slots_[uBodySkin], {"u", sex, body, tone, "_lguard01"});
-    set(slots_[fBodyMesh], {"f", sex, body, "_01,BODY"});
-    set(slots_[fBodySkin], {"f", sex, body, tone, "_01"});
+    slots_[uBodySkin] = joined<Slot>("u", sex, body, tone, "_lguard01");
+    slots_[fBodyMesh] = joined<Slot>("f", sex, body, "_01,BODY");
+    slots_[fBodySkin] = joined<Slot>("f", sex, body, tone, "_01");
 }
 
 void BodyStrings::setGrownOutfits(bool female, std::string_view tone, std::int16_t type) {
@@ -127,21 +117,21 @@ void BodyStrings::setGrownOutfits(bool female, std::string_view tone, std::int16
         std::string_view stem;
     } outfits[] = {{f100Mesh, "F100"}, {s100Mesh, "S100"}, {l100Mesh, "L100"}};
     for (const auto& outfit : outfits) {
-        set(slots_[outfit.mesh], {outfit.stem, sex, body, "_original,BODY"});
-        set(slots_[bodyText::secondOf(outfit.mesh)], {outfit.stem, sex, body, tone, "_original"});
+        slots_[outfit.mesh] = joined<Slot>(outfit.stem, sex, body, "_original,BODY");
+        slots_[bodyText::secondOf(outfit.mesh)] = joined<Slot>(outfit.stem, sex, body, tone, "_original");
     }
 }
 
 void BodyStrings::setChildSlots(bool female, std::string_view tone) {
     using namespace bodySlot;
     // The boy's mesh and skin differ in their number.
-    set(slots_[bodyMesh], {female ? "b001fcchd_01,BODY" : "b002mcchd_01,BODY"});
-    set(slots_[bodySkin], {female ? "b001fcchd" : "b001mcchd", tone, female ? "_girl01" : "_slob"});
-    set(slots_[bodySlot::headMesh], {female ? "c001fc_amanda,HEAD-HEAD" : "c001mc_ave,HEAD-HEAD"});
-    set(slots_[bodySlot::headSkin], {female ? "c001fc" : "c001mc", tone, female ? "_amanda01" : "_altblond"});
-    set(slots_[ageText], {"9"});
-    set(slots_[nBodyMesh], {"nuchd_01,BODY"});
-    set(slots_[nBodySkin], {"nuchd", tone, "_01"});
+    slots_[bodyMesh].assign(female ? "b001fcchd_01,BODY" : "b002mcchd_01,BODY");
+    slots_[bodySkin] = joined<Slot>(female ? "b001fcchd" : "b001mcchd", tone, female ? "_girl01" : "_slob");
+    slots_[bodySlot::headMesh].assign(female ? "c001fc_amanda,HEAD-HEAD" : "c001mc_ave,HEAD-HEAD");
+    slots_[bodySlot::headSkin] = joined<Slot>(female ? "c001fc" : "c001mc", tone, female ? "_amanda01" : "_altblond");
+    slots_[ageText].assign("9");
+    slots_[nBodyMesh].assign("nuchd_01,BODY");
+    slots_[nBodySkin] = joined<Slot>("nuchd", tone, "_01");
     slots_[uBodyMesh] = slots_[nBodyMesh];
-    set(slots_[uBodySkin], {female ? "ufchd" : "umchd", tone, "_undies01"});
+    slots_[uBodySkin] = joined<Slot>(female ? "ufchd" : "umchd", tone, "_undies01");
 }

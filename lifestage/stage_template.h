@@ -9,7 +9,10 @@
 // The word for a skin tone: 1 "lgt", 3 "med", all else "drk".
 std::string_view toneWord(std::int16_t skinTone);
 
-// Body types as the templates take them. No operation asks for the teen's: a new teen is made out of the skinny body.
+// The age that selects the grown body. Any other but 0, the child's, would do.
+constexpr std::uint8_t grownBody = 27;
+
+// Body types of the grown body. No operation asks for the teen's: a new teen is made out of the skinny body.
 namespace bodyType {
 constexpr std::int16_t teen = 0;
 constexpr std::int16_t skinny = 1;

@@ -1,20 +1,22 @@
 #include "lifestage/teen_body.h"
 
-#include <initializer_list>
+#include <string_view>
 
 #include "lifestage/skin_sets.h"
 #include "lifestage/stage_template.h"
 #include "platform/files.h"
+#include "world/joined_text.h"
 #include "world/sim.h"
 #include "world/sims_directory.h"
 
 namespace {
 
-constexpr std::uint8_t grownBody = 27;
+using Slot = BodyStrings::Slot;
 
 // What the names of a girl's and of a boy's teen body differ in.
 struct TeenNames {
-    std::string_view bodyMesh, bodyStem;
+    const char* bodyMesh;
+    std::string_view bodyStem;
     std::string_view sex;        // in the names of nightwear, underwear and formal wear
     std::string_view outfitSex;  // in the names of the expansions' outfits
     std::string_view undergarment;
@@ -24,26 +26,20 @@ struct TeenNames {
 constexpr TeenNames girlNames = {"b609faTNR_01,BODY", "b609faTNR", "f", "fa", "_undies01", pickTeenGirlOutfit};
 constexpr TeenNames boyNames = {"b614maTNR_01,BODY", "b614maTNR", "m", "ma", "_briefs01", pickTeenBoyOutfit};
 
-BodyStrings::Slot joined(std::initializer_list<std::string_view> parts) {
-    BodyStrings::Slot text;
-    for (const std::string_view part : parts) {
-        text.append(part);
-    }
-    return text;
-}
-
 // A directory that may be written, as the game's installer leaves it; the status query shows it by this mode alone.
 bool hasFourthExpansion() {
-    DirectoryText path;
-    if (findSimsDirectory(path) != 0) return false;
-    path.append("\\ExpansionPack4");
+    DirectoryText directory;
+    if (findSimsDirectory(directory) != 0) return false;
+    const auto path = joined<PathText>(directory, "\\ExpansionPack4");
     FileStatus status{};
     return queryFileStatus(path.c_str(), status) && status.mode == writableDirectoryMode;
 }
 
 void setOutfits(BodyStrings& body, const TeenNames& names, std::string_view tone) {
-    const auto mesh = [&](std::string_view stem) { return joined({stem, names.outfitSex, "TNR_original,BODY"}); };
-    const auto skin = [&](std::string_view stem) { return joined({stem, names.outfitSex, "TNR", tone, "_original"}); };
+    const auto mesh = [&](std::string_view stem) { return joined<Slot>(stem, names.outfitSex, "TNR_original,BODY"); };
+    const auto skin = [&](std::string_view stem) {
+        return joined<Slot>(stem, names.outfitSex, "TNR", tone, "_original");
+    };
     body.setF100Mesh(mesh("F100").c_str());
     body.setF100Skin(skin("F100").c_str());
     body.setS100Mesh(mesh("S100").c_str());
@@ -63,15 +59,15 @@ BodyStrings teenBody(std::int16_t gender, std::int16_t skinTone, std::int16_t ve
     BodyStrings body(gender, grownBody, skinTone, version, bodyType::skinny);
     body.setNBodyMesh("nuTNR_01,BODY");
     body.setUBodyMesh("nuTNR_01,BODY");
-    body.setBodyMesh(joined({names.bodyMesh}).c_str());
-    body.setNBodySkin(joined({"n", names.sex, "TNR", tone, "_01"}).c_str());
-    body.setUBodySkin(joined({"u", names.sex, "TNR", tone, names.undergarment}).c_str());
-    body.setFBodyMesh(joined({"f", names.sex, "TNR_01,BODY"}).c_str());
-    body.setFBodySkin(joined({"f", names.sex, "TNR", tone, "_01"}).c_str());
+    body.setBodyMesh(names.bodyMesh);
+    body.setNBodySkin(joined<Slot>("n", names.sex, "TNR", tone, "_01").c_str());
+    body.setUBodySkin(joined<Slot>("u", names.sex, "TNR", tone, names.undergarment).c_str());
+    body.setFBodyMesh(joined<Slot>("f", names.sex, "TNR_01,BODY").c_str());
+    body.setFBodySkin(joined<Slot>("f", names.sex, "TNR", tone, "_01").c_str());
 
     OutfitText outfit;
     names.pickOutfit(outfit);
-    body.setBodySkin(joined({names.bodyStem, tone, "_", outfit}).c_str());
+    body.setBodySkin(joined<Slot>(names.bodyStem, tone, "_", outfit).c_str());
     setOutfits(body, names, tone);
     body.setAgeText("18");
     return body;

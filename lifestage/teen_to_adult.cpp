@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr std::uint8_t grownBody = 27;
 constexpr int drawsOfALevel = 3276;
 constexpr int skillOfALevel = 100;
 

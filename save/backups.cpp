@@ -7,7 +7,7 @@
 
 // Both copies are made before the old file goes, so that there is no live file only for the time of a few calls. The
 // backup's copy comes first: it must not fail for the room on the disk that the other one takes.
-void SaveAttempt::backUp(const char* live, const SavePath& backup, const SavePath& tempPath,
+void SaveAttempt::backUp(const char* live, const PathText& backup, const PathText& tempPath,
                          const char* liveAfterwards) {
     CreateDirectoryA(backupsDirectory, nullptr);  // usually it exists already
     Move move(live, backup.c_str());
@@ -26,8 +26,9 @@ std::int32_t SaveAttempt::install(const char* tempPath, const char* live) {
 
 void Neighborhood::backupLiveFile() {
     const SYSTEMTIME now = backupClock().now();
-    const SavePath backup = joinPath(directory_, "\\Backups\\neighborhood.", dateText(now), ".", timeText(now), ".iff");
-    saveAttempt().backUp(fileName_.c_str(), backup, joinPath(directory_, tempNeighborhoodName), fileName_.c_str());
+    const auto backup = joined<PathText>(directory_, '\\', backupsDirectory, "\\neighborhood.", dateText(now), '.',
+                                         timeText(now), ".iff");
+    saveAttempt().backUp(fileName_.c_str(), backup, tempNeighborhoodPath(directory_), fileName_.c_str());
 }
 
 void Neighborhood::installTempFile(const char* tempPath) {
@@ -36,8 +37,9 @@ void Neighborhood::installTempFile(const char* tempPath) {
 
 void Sim::backupCharacterFile(const char* directory) {
     const SYSTEMTIME now = backupClock().now();
-    const SavePath backup = joinPath(directory, "\\Characters\\Backups\\", recordName_, ".", dateText(now), ".iff");
-    neighborhood_->saveAttempt().backUp(fileName_.c_str(), backup, joinPath(directory, tempCharacterPrefix, fileName_),
+    const auto backup = joined<PathText>(directory, '\\', charactersDirectory, '\\', backupsDirectory, '\\',
+                                         recordName_, '.', dateText(now), ".iff");
+    neighborhood_->saveAttempt().backUp(fileName_.c_str(), backup, tempCharacterPath(directory, fileName_),
                                         filePath_.c_str());
 }
 

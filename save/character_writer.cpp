@@ -36,7 +36,7 @@ int Sim::saveCharacterFile(const char* toolDirectory, const char* directory) {
     // The backup goes by relative names. Anywhere else than there it would take nothing along, and the live file would
     // be replaced without one.
     if (SetCurrentDirectoryA(directory) == FALSE || SetCurrentDirectoryA(charactersDirectory) == FALSE) return -1;
-    const SavePath tempPath = joinPath(directory, tempCharacterPrefix, fileName_);
+    const PathText tempPath = tempCharacterPath(directory, fileName_);
     bool installed = false;
     if (buildCharacterFile(tempPath.c_str()) == 1) {
         backupCharacterFile(directory);
@@ -48,7 +48,7 @@ int Sim::saveCharacterFile(const char* toolDirectory, const char* directory) {
 }
 
 int Sim::buildCharacterFile(const char* tempPath) {
-    const SavePath templatePath = joinPath(neighborhood_->toolDirectory(), characterTemplateName);
+    const auto templatePath = joined<PathText>(neighborhood_->toolDirectory(), '\\', characterTemplateName);
     // What is patched must lie inside the template: behind its end a patch would make up bytes.
     FileStatus status{};
     if (!queryFileStatus(templatePath.c_str(), status) || status.size < characterTemplate::smallestSize) return -1;

@@ -5,10 +5,12 @@
 
 namespace {
 
-// Looks in each directory that any save writes to: the one that was cut off may have got further than this one will.
+// Looks in every directory that a save writes to: the save that was cut off may have got further than this one will.
 void deletePartsOfEarlierSaves() {
-    for (const char* directory : {".", "Backups", "Characters", "Characters\\Backups"})
-        deleteLeftOverParts(directory);
+    for (const std::string_view directory : {".", charactersDirectory}) {
+        deleteLeftOverParts(PathText(directory).c_str());
+        deleteLeftOverParts(joined<PathText>(directory, '\\', backupsDirectory).c_str());
+    }
 }
 
 }  // namespace
@@ -22,7 +24,7 @@ void Neighborhood::save(const char* toolDirectory) {
     if (SetCurrentDirectoryA(directory_.c_str()) == FALSE) return;
     if (!isDirty()) return;
     deletePartsOfEarlierSaves();
-    const SavePath tempPath = joinPath(directory_, tempNeighborhoodName);
+    const PathText tempPath = tempNeighborhoodPath(directory_);
     if (writeTempFile(tempPath.c_str()) == 1) {
         backupLiveFile();
         installTempFile(tempPath.c_str());

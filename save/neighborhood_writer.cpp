@@ -29,7 +29,7 @@ std::int32_t cutForNewFamilies(const Neighborhood& neighborhood) {
 
 // Appends a template for each new family. 0, or the error of the copy.
 std::int32_t appendFamilyTemplates(const Neighborhood& neighborhood, const char* tempPath) {
-    const SavePath templatePath = joinPath(neighborhood.toolDirectory(), familyTemplateName);
+    const auto templatePath = joined<PathText>(neighborhood.toolDirectory(), '\\', familyTemplateName);
     // A template of another size would put every record behind it in the wrong place. A missing one fails in the copy.
     FileStatus status{};
     if (queryFileStatus(templatePath.c_str(), status) && status.size != familyTemplate::size) {

@@ -39,7 +39,7 @@ class SaveAttempt {
     void forgetRecord(Sim& sim);
 
     // Moves the live file to `backup`, and prepares the move of the temporary file to `liveAfterwards`.
-    void backUp(const char* live, const SavePath& backup, const SavePath& tempPath, const char* liveAfterwards);
+    void backUp(const char* live, const PathText& backup, const PathText& tempPath, const char* liveAfterwards);
 
     // Moves the temporary file to the live name. 0, or the error of the copy.
     std::int32_t install(const char* tempPath, const char* live);

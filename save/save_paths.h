@@ -1,24 +1,24 @@
-// The paths of a save. The temporary files lie beside the live ones, the backups in a directory below them.
+// The names of the files that a save makes or needs. Temporary files lie beside the live ones, backups in a directory
+// below them.
 #ifndef SAVE_SAVE_PATHS_H
 #define SAVE_SAVE_PATHS_H
 
-#include "platform/fixed_text.h"
+#include <string_view>
 
-using SavePath = FixedText<299>;
+#include "world/joined_text.h"
+#include "world/paths.h"
 
-// All parts one behind the other.
-template <typename... Parts>
-SavePath joinPath(const Parts&... parts) {
-    SavePath path;
-    (path.append(parts), ...);
-    return path;
+constexpr const char* backupsDirectory = "Backups";
+constexpr const char* characterTemplateName = "Template.iff";
+constexpr const char* familyTemplateName = "famtemplate";
+
+// `directory` is the neighborhood's.
+inline PathText tempNeighborhoodPath(std::string_view directory) {
+    return joined<PathText>(directory, "\\TMPneighborhood.iff");
 }
 
-constexpr const char* characterTemplateName = "\\Template.iff";
-constexpr const char* familyTemplateName = "\\famtemplate";
-constexpr const char* tempNeighborhoodName = "\\TMPneighborhood.iff";
-constexpr const char* tempCharacterPrefix = "\\Characters\\TMP";
-constexpr const char* charactersDirectory = "Characters";
-constexpr const char* backupsDirectory = "Backups";
+inline PathText tempCharacterPath(std::string_view directory, std::string_view fileName) {
+    return joined<PathText>(directory, '\\', charactersDirectory, "\\TMP", fileName);
+}
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/win32.h"
+#include "world/joined_text.h"
 
 namespace {
 
@@ -36,28 +37,22 @@ int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
     simsDirectory.append('\\');
     if (gameRuns()) {
         return refuse(
-            "The Sims is currently running.  Please save and exit The Sims before using Marrowfen or any other "
-            "Sims-modifying "
-            "software.",
+            "The Sims is currently running.  "
+            "Please save and exit The Sims before using Marrowfen or any other Sims-modifying software.",
             "Exit The Sims", exitCode::gameRunning);
     }
-
-    FixedText<299> skin(simsDirectory);
-    skin.append(installedSkin);
-    if (!hasBytes(skin.c_str())) {
-        FixedText<399> text(
-            "Tidewright appears to have been installed incorrectly.  It must be unzipped to your Sims "
-            "directory.\n\nYour Sims "
-            "directory appears to be\n");
-        text.append(simsDirectory);
+    if (!hasBytes(joined<PathText>(simsDirectory, installedSkin).c_str())) {
+        const auto text = joined<FixedText<399>>(
+            "Tidewright appears to have been installed incorrectly.  It must be unzipped to your Sims directory.\n\n"
+            "Your Sims directory appears to be\n",
+            simsDirectory);
         return refuse(text.c_str(), "Installation Problem", exitCode::badInstallation);
     }
     // Files that the program couldn't name later on count as missing, or no save would ever reach the disk.
     if (*toolDirectory == '\0' || !hasBytes("skinsets.cfg")) {
         return refuse(
-            "Tidewright cannot find its config files.  It must be in the same directory as its skin config file and "
-            "template "
-            "files.",
+            "Tidewright cannot find its config files.  "
+            "It must be in the same directory as its skin config file and template files.",
             "Missing Config Files", exitCode::missingSkinSets);
     }
     return 0;

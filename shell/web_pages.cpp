@@ -2,6 +2,7 @@
 
 #include "platform/fixed_text.h"
 #include "platform/win32.h"
+#include "world/joined_text.h"
 
 namespace {
 
@@ -22,7 +23,6 @@ const char* pathOf(WebPage page) {
 }  // namespace
 
 void openWebPage(WebPage page) {
-    FixedText<99> address(host);
-    address.append(pathOf(page));
+    const auto address = joined<FixedText<99>>(host, pathOf(page));
     ShellExecuteA(nullptr, "open", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }

@@ -3,6 +3,7 @@
 #include "platform/fixed_text.h"
 #include "shell/selection.h"
 #include "ui/cursors.h"
+#include "world/joined_text.h"
 
 namespace {
 
@@ -26,14 +27,9 @@ void drawLabels(HDC dc, const RECT& client) {
 }
 
 void drawSim(HDC dc, const RECT& client, Sim& sim, const Family& family) {
-    LineText name("Name: ");
-    name.append(sim.name());
-    name.append(' ');
-    name.append(family.name());
+    const auto name = joined<LineText>("Name: ", sim.name(), ' ', family.name());
     drawLine(dc, client, name.c_str(), 130, 160);
-
-    LineText stage("Stage: ");
-    stage.append(stageWord(sim.stage()));
+    const auto stage = joined<LineText>("Stage: ", stageWord(sim.stage()));
     drawLine(dc, client, stage.c_str(), 160, 190);
 }
 

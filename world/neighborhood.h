@@ -9,6 +9,7 @@
 
 #include "platform/fixed_text.h"
 #include "world/family.h"
+#include "world/paths.h"
 #include "world/sim.h"
 #include "world/stream.h"
 #include "world/tag_scan.h"
@@ -41,7 +42,7 @@ class Neighborhood {
 
     // Where the program's own data files lie; empty before a good load.
     const char* toolDirectory() const { return toolDirectory_.c_str(); }
-    void setToolDirectory(const char* directory) { toolDirectory_ = FixedText<199>(directory); }
+    void setToolDirectory(const char* directory) { toolDirectory_ = DirectoryText(directory); }  // may be its own text
 
     const char* directory() const { return directory_.c_str(); }
 
@@ -98,8 +99,8 @@ class Neighborhood {
     std::int32_t mapOffset_ = -1;
     std::int32_t xxxxOffset_ = -1;
     FixedText<99> fileName_;
-    FixedText<199> directory_;
-    FixedText<199> toolDirectory_;
+    DirectoryText directory_;
+    DirectoryText toolDirectory_;
     std::int32_t fileSize_ = 0;
     bool dirty_ = false;
     bool hasNewFamilies_ = false;

@@ -4,6 +4,7 @@
 
 #include "platform/byte_order.h"
 #include "platform/files.h"
+#include "world/joined_text.h"
 #include "world/neighborhood.h"
 #include "world/tag_scan.h"
 
@@ -24,9 +25,7 @@ bool isKnownKind(std::int16_t kind) {
 
 int Neighborhood::load(const char* directory, const char* fileName) {
     directory_.assign(directory);
-    FixedText<299> path(directory);
-    path.append("\\");
-    path.append(fileName);
+    const auto path = joined<PathText>(directory, '\\', fileName);
     FileStatus status{};
     queryFileStatus(path.c_str(), status);
     fileSize_ =

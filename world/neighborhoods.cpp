@@ -1,9 +1,10 @@
 #include "world/neighborhoods.h"
 
-#include <cstdio>
+#include <string>
 
 #include "platform/win32.h"
 #include "ui/status_line.h"
+#include "world/joined_text.h"
 
 // Never destroyed: the process ends without freeing its objects.
 NeighborhoodTable& neighborhoods = *new NeighborhoodTable;
@@ -16,14 +17,7 @@ using NeighborhoodPath = FixedText<119>;
 
 // The first directory's name has no number, the second's is 2.
 NeighborhoodPath directoryOf(const char* simsDirectory, int number) {
-    NeighborhoodPath path(simsDirectory);
-    path.append("UserData");
-    if (number > 1) {
-        char digits[12];
-        std::snprintf(digits, sizeof digits, "%d", number);
-        path.append(digits);
-    }
-    return path;
+    return joined<NeighborhoodPath>(simsDirectory, "UserData", number > 1 ? std::to_string(number) : "");
 }
 
 bool exists(const char* path) {
@@ -35,16 +29,13 @@ bool exists(const char* path) {
 }
 
 void tellProgress(int number) {
-    char text[64];
-    std::snprintf(text, sizeof text, "Loading Neighborhood %d", number);
-    setStatusLine(text);
+    setStatusLine("Loading Neighborhood " + std::to_string(number));
     showStatusLine();
 }
 
 void tellFailure(int number) {
-    char text[64];
-    std::snprintf(text, sizeof text, "Error loading Neighborhood %d", number);
-    MessageBoxA(nullptr, text, "Loading Error", MB_OK);
+    const std::string text = "Error loading Neighborhood " + std::to_string(number);
+    MessageBoxA(nullptr, text.c_str(), "Loading Error", MB_OK);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "world/body_strings.h"
 #include "world/guid.h"
 #include "world/neighborhood_layout.h"
+#include "world/paths.h"
 #include "world/stream.h"
 
 class Family;
@@ -154,7 +155,7 @@ class Sim {
     bool characterDirty_ = false;
     bool recordDirty_ = false;
     FixedText<13> fileName_;
-    FixedText<199> filePath_;
+    DirectoryText filePath_;
     Guid guid_;
     std::int32_t fileSize_ = 0;
     std::int32_t mapOffset_ = 0;

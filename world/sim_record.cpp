@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "platform/files.h"
+#include "world/joined_text.h"
 #include "world/neighborhood.h"
 #include "world/record_fields.h"
 #include "world/sim.h"
@@ -37,11 +38,8 @@ void Sim::readRecord(std::span<const std::uint8_t, neighborRecord::size> record,
     passFields(FieldReader(record));
     gender_ = std::min(gender_, genderNumber::pet);
     recordOffset_ = recordOffset;
-    fileName_.assign(recordName_.c_str());
-    fileName_.append(".iff");
-    filePath_.assign(neighborhood_->directory());
-    filePath_.append("\\Characters\\");
-    filePath_.append(fileName_);
+    fileName_ = joined<decltype(fileName_)>(recordName_, ".iff");
+    filePath_ = joined<DirectoryText>(neighborhood_->directory(), '\\', charactersDirectory, '\\', fileName_);
     fileSize_ = sizeOfFile(filePath_.c_str());
 }
 
