@@ -60,18 +60,17 @@ ChunkSearch findBodyStrings(StreamView& stream, std::int32_t mapOffset, std::int
 
 int Sim::readHeaderOffset() {
     StreamFile file;
-    if (!file.open(filePath_.c_str(), StreamFile::Access::read, iffHeader::mapOffset + iffHeader::mapOffsetSize)) {
-        return -1;
-    }
-    StreamView stream(file);
-    mapOffset_ = readMapOffset(stream);
-    headerRead_ = true;
-    return 1;
+    return openCharacterFile(file) ? 1 : -1;
 }
 
 bool Sim::openCharacterFile(StreamFile& file) {
-    if (!headerRead_) readHeaderOffset();
-    return file.open(filePath_.c_str(), StreamFile::Access::read, characterWindow);
+    if (!file.open(filePath_.c_str(), StreamFile::Access::read, characterWindow)) return false;
+    if (!headerRead_) {
+        StreamView header(file);
+        mapOffset_ = readMapOffset(header);
+        headerRead_ = true;
+    }
+    return true;
 }
 
 int Sim::loadName() {

@@ -19,22 +19,22 @@ Sim* Family::member(std::int32_t index) const {
 
 int Family::resolveMembers() {
     if (membersResolved_) return 1;
-    membersResolved_ = true;  // at once: a box about a file of an unknown form may let a second pick in
-    const SteadyDirectories steady;  // every Sim's file may be asked for its GUID
+    membersResolved_ =
+        true;  // first of all: while a box about a broken file is open, the user can pick the family again
+    linkMembers();
     for (std::int32_t i = 0; i < memberCount_; ++i) {
-        resolveMember(static_cast<std::size_t>(i));
+        if (member(i) != nullptr && member(i)->stage() >= stageNumber::adult) ++adultCount_;
     }
     return 1;
 }
 
-void Family::resolveMember(std::size_t index) {
-    for (std::int32_t i = 0; i < neighborhood_->simCount(); ++i) {
-        Sim& sim = *neighborhood_->sim(i);
-        if (!(sim.guid() == memberGuids_[index])) continue;
-        members_[index] = &sim;
-        sim.setFamily(this);
-        if (sim.stage() >= stageNumber::adult) ++adultCount_;
-        return;
+// The stages aren't asked for here. A box would let the user save, and a save needs listings that are up to date.
+void Family::linkMembers() {
+    const SteadyDirectories steady;  // every Sim's file may be asked for its GUID
+    for (std::int32_t i = 0; i < memberCount_; ++i) {
+        const auto slot = static_cast<std::size_t>(i);
+        members_[slot] = neighborhood_->simWithGuid(memberGuids_[slot]);
+        if (members_[slot] != nullptr) members_[slot]->setFamily(this);
     }
 }
 

@@ -79,7 +79,7 @@ class Family {
  private:
     friend class SaveAttempt;
 
-    void resolveMember(std::size_t index);
+    void linkMembers();
     Guid memberGuid(std::size_t index) const;
     template <typename Direction>
     void passFields(const Direction& direction);

@@ -1,5 +1,6 @@
 #include "world/neighborhood.h"
 
+#include <algorithm>
 #include <utility>
 
 Family* Neighborhood::family(std::int32_t index) const {
@@ -10,6 +11,12 @@ Family* Neighborhood::family(std::int32_t index) const {
 Sim* Neighborhood::sim(std::int32_t index) const {
     if (index < 0 || index >= simCount_) return nullptr;
     return sims_[static_cast<std::size_t>(index)];
+}
+
+Sim* Neighborhood::simWithGuid(const Guid& guid) const {
+    const auto listed = std::span(sims_).first(static_cast<std::size_t>(simCount_));
+    const auto found = std::ranges::find_if(listed, [&](Sim* sim) { return sim->guid() == guid; });
+    return found != listed.end() ? *found : nullptr;
 }
 
 Family* Neighborhood::newFamily(std::int32_t index) const {

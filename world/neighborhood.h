@@ -40,6 +40,9 @@ class Neighborhood {
     std::int32_t simCount() const { return simCount_; }
     Sim* sim(std::int32_t index) const;
 
+    // The first Sim whose character file has the GUID; null if there is none.
+    Sim* simWithGuid(const Guid& guid) const;
+
     // Where the program's own data files lie; empty before a good load.
     const char* toolDirectory() const { return toolDirectory_.c_str(); }
     void setToolDirectory(const char* directory) { toolDirectory_ = DirectoryText(directory); }  // may be its own text
