@@ -225,7 +225,7 @@ void examineMarks(const Neighborhood& neighborhood, const Waiting& waiting, bool
         promise(sim->recordDirty() != areSimsSaved, "the mark of a Sim");
         if (!areSimsSaved) continue;
         const fs::path characters = userData() / "Characters";
-        promise(fs::file_size(characters / sim->fileName()) == newSize, "a Sim's new file");
+        promise(fs::file_size(characters / (std::string(sim->recordName()) + ".iff")) == newSize, "a Sim's new file");
     }
 }
 

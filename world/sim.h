@@ -65,8 +65,6 @@ class Sim {
 
     // The record's own: never from the character file.
     const char* recordName() const { return recordName_.c_str(); }
-    const char* fileName() const { return fileName_.c_str(); }
-    const char* filePath() const { return filePath_.c_str(); }
     std::int32_t recordOffset() const { return recordOffset_; }
     std::int16_t version() const { return version_; }
     std::int32_t age() const { return age_; }
@@ -103,9 +101,7 @@ class Sim {
     // True for the word "adult" in the character file, false for "child".
     bool characterTag() const { return characterTag_; }
     bool fileUsable() const { return fileUsable_; }
-    bool bodyStringsLoaded() const { return bodyStringsLoaded_; }
     std::int32_t tagOffset() const { return tagOffset_; }
-    std::int32_t bodyOffset() const { return bodyOffset_; }
 
     // The one way in which a Sim changes its stage: to teen or adult, with age, character tag and person values that go
     // with it. `bodyStrings` may be null, which keeps the old ones. 1; -2 for a stage from 1 to 4, -3 for any other,
