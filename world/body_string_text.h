@@ -1,5 +1,5 @@
-// The building blocks of the body-string text, once for its reader and its writer. Each entry is 0x01, its characters
-// and two zero bytes; what the strings don't need of the text's room is fill.
+// The building blocks of the body-string text. An entry is 0x01, its characters and two zero bytes. Room that the
+// entries don't need is filled up.
 #ifndef WORLD_BODY_STRING_TEXT_H
 #define WORLD_BODY_STRING_TEXT_H
 
@@ -15,14 +15,14 @@ using namespace std::string_view_literals;
 constexpr std::uint8_t entryMarker = 0x01;
 constexpr std::uint8_t fill = 0xA3;
 constexpr char pairMark = '=';
-constexpr auto separator = "\x00\x00\x01"sv;  // closes an entry and opens the next
+constexpr auto separator = "\x00\x00\x01"sv;  // ends an entry and begins the next
 constexpr auto halfSeparator = "\x00\x00"sv;
 constexpr auto trailer =
     "\x00\x00\xA3\x00\x00\x00\xA3\x00\x00\x00\xA3\x00\x00\x00\xA3\x00\x00\x00\xA3\x00\x00\x00\xA3\x00\x00\x00\xA3\x00"
     "\x00\x00"sv;
 static_assert(trailer.size() == 30);
 
-// From this version on the text goes on behind entry 29, in files of the later expansions.
+// From this version on, that of the later expansions, the text goes on behind entry 29.
 constexpr std::int16_t extendedVersion = 7;
 
 // Entry 33 is left out when one of its slots has fewer characters.
@@ -33,7 +33,7 @@ struct Entry {
     bool pair;
 };
 
-// Entries 1 to 29, which every text has.
+// Entries 1 to 29. Every text has these.
 constexpr std::array<Entry, 29> commonEntries = {{
     {bodySlot::bodyMesh, true},      {bodySlot::headMesh, true},     {bodySlot::anchorBoneA, false},
     {bodySlot::anchorPointA, false}, {bodySlot::anchorBoneB, false}, {bodySlot::anchorPointB, false},
@@ -47,7 +47,7 @@ constexpr std::array<Entry, 29> commonEntries = {{
     {bodySlot::fHandLOMesh, true},   {bodySlot::fHandROMesh, true},
 }};
 
-// The slot behind the first of a pair.
+// The second slot of a pair.
 constexpr bodySlot::Index secondOf(bodySlot::Index first) {
     return static_cast<bodySlot::Index>(first + 1);
 }

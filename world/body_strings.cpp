@@ -12,7 +12,7 @@ int readToken(TokenText& text, StreamView& stream) {
         const std::uint8_t byte = stream.readBytes<1>()[0];
         if (stream.failed() || byte == bodyText::fill) return tokenStatus::endMark;
         if (byte == bodyText::entryMarker) {
-            // Only the byte behind tells an empty entry from the zero bytes between two entries.
+            // The next byte decides whether this is an empty entry or just the beginning of one.
             if (stream.peek() == 0) return tokenStatus::read;
             continue;
         }
@@ -53,8 +53,7 @@ void BodyStrings::parse(StreamView stream, std::int16_t simVersion) {
     }
     version_ = simVersion;
     if (readPair(slots_[bodySlot::f100Mesh], slots_[bodySlot::f100Skin], stream) != tokenStatus::read) {
-        // The end mark stands where entry 30 should be: the text of a game without the later expansions, whatever the
-        // record says.
+        // The text ends before entry 30: it comes from a game without the later expansions, whatever the record says.
         if (simVersion == bodyText::extendedVersion) version_ = bodyText::extendedVersion - 1;
         slots_[bodySlot::f100Mesh].clear();
         slots_[bodySlot::f100Skin].clear();

@@ -1,5 +1,5 @@
-// What dresses one Sim: its meshes and skins, its hands, and the words for gender, age and skin tone. Comes out of a
-// character file or from a stage template, and writes itself back as the text of the game's "bodystring" chunk.
+// What one Sim looks like: its meshes and skins, its hands, and the words for gender, age and skin tone. Read from a
+// character file or made from a stage template, and written as the text of the game's "bodystring" chunk.
 #ifndef WORLD_BODY_STRINGS_H
 #define WORLD_BODY_STRINGS_H
 
@@ -12,8 +12,7 @@
 #include "platform/fixed_text.h"
 #include "world/stream.h"
 
-// The slots in the order in which the text holds them. Mesh and skin of one part of the body share an entry of the
-// text.
+// The slots, in the order of the text. The mesh and the skin of one part of the body share an entry of the text.
 namespace bodySlot {
 enum Index : std::size_t {
     bodyMesh,
@@ -75,12 +74,12 @@ class BodyStrings {
     static constexpr std::size_t slotCapacity = 149;
     using Slot = FixedText<slotCapacity>;
 
-    // All slots empty but the gender, "female": what `parse` starts from.
+    // All slots are empty, except that the gender is "female". `parse` starts from this.
     BodyStrings();
 
-    // A complete body for a stage: lifestage/stage_template.cpp. `gender` 1 is female, all else male; `age` 0 is the
-    // child's body, all else the grown one; `skinTone` 1 light, 3 medium, all else dark; `version` below 7 leaves the
-    // slots from `f100Mesh` on empty; `bodyType` 0 "TNR", 1 "skn", 2 "fit", 3 "fat".
+    // A complete body for a stage (lifestage/stage_template.cpp). `gender` is 1 for a female, anything else for a male;
+    // `age` 0 for a child's body, anything else for a grown one; `skinTone` 1 light, 3 medium, anything else dark;
+    // `bodyType` 0 "TNR", 1 "skn", 2 "fit", 3 "fat". A `version` below 7 leaves the slots from `f100Mesh` on empty.
     BodyStrings(std::int16_t gender, std::uint8_t age, std::int16_t skinTone, std::int16_t version,
                 std::int16_t bodyType);
 
@@ -88,7 +87,7 @@ class BodyStrings {
     BodyStrings& operator=(const BodyStrings&) = default;
     virtual ~BodyStrings() = default;
 
-    // The layout of the text that was found or built: 7 for one with the entry of `f100Mesh`.
+    // The layout of the text that was read, 7 if it has the entry of `f100Mesh`; or what the constructor was given.
     std::int16_t version() const { return version_; }
 
     const char* headMesh() const { return slots_[bodySlot::headMesh].c_str(); }
@@ -115,14 +114,14 @@ class BodyStrings {
     void setW100Mesh(const char* text) { slots_[bodySlot::w100Mesh].assign(text); }
     void setW100Skin(const char* text) { slots_[bodySlot::w100Skin].assign(text); }
 
-    // Reads the text from the cursor, which stands just behind the character tag. `simVersion` is the version of the
-    // Sim's neighbor record. Sets `version`: 7 for a text with entry 30, else `simVersion` with 7 lowered to 6. Bad
-    // input ends in empty slots.
+    // Reads the text from the cursor, which is just behind the character tag. `simVersion` is the version of the Sim's
+    // neighbor record. Sets `version` to 7 for a text with entry 30; else to `simVersion`, or to 6 if that is 7. Bad
+    // input results in empty slots.
     void parse(StreamView stream, std::int16_t simVersion);
 
-    // Writes the text in the layout that `simVersion` selects, then fill bytes up to and including index `limit`.
-    // Returns the position behind the last byte written; a text that already reaches beyond `limit` isn't filled.
-    // Nothing is ever written behind `buffer`.
+    // Writes the text in the layout of `simVersion`, then fill bytes up to and including index `limit`. A text that
+    // reaches beyond `limit` gets no fill, and one that reaches beyond `buffer` is cut there. Returns the position
+    // behind the last byte written.
     std::size_t serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion) const;
 
  private:
@@ -137,22 +136,22 @@ class BodyStrings {
     std::array<Slot, bodySlot::count> slots_;
 };
 
-// Statuses of the two readers of entries.
+// Results of readToken and readPair.
 namespace tokenStatus {
 constexpr int read = 1;
-constexpr int endMark = -1;  // a fill byte came up and has been consumed, or the stream ended
-constexpr int tooLong = -2;  // the text had reached 150 characters and one more byte came
+constexpr int endMark = -1;  // a fill byte was read, or the stream ended
+constexpr int tooLong = -2;  // one more byte was read after 150 characters
 }  // namespace tokenStatus
 
-// Text of one entry: up to 149 characters when it was read, 150 when it was too long.
+// The text of one entry: up to 149 characters, or the first 150 of one that was too long.
 using TokenText = FixedText<BodyStrings::slotCapacity + 1>;
 
-// Reads one entry into `text`. Zero bytes in front of it are skipped; 0x01 never enters the text. Whatever was read so
-// far stays in `text`.
+// Reads one entry into `text`. Zero bytes in front of it are skipped, and so is every 0x01. `text` keeps what was read,
+// whatever the status.
 int readToken(TokenText& text, StreamView& stream);
 
-// Reads one entry and splits it at its first "="; without one all of it is `first`. Both stay untouched unless the
-// status is 1.
+// Reads one entry and splits it at its first "="; without one, all of it goes to `first`. Changes neither text unless
+// the status is 1.
 int readPair(BodyStrings::Slot& first, BodyStrings::Slot& second, StreamView& stream);
 
 #endif

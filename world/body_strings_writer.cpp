@@ -1,5 +1,5 @@
-// The writing half of BodyStrings. The text takes the same room whatever the strings are, so no position in the file
-// that it goes into ever moves.
+// Writes BodyStrings as text. The text takes the same room whatever the strings are, so that nothing behind it in the
+// file has to move.
 #include <algorithm>
 
 #include "world/body_string_text.h"
@@ -25,7 +25,7 @@ class TextWriter {
         append(std::string_view(&character, 1));
     }
 
-    // Writes fill bytes up to, not including, index `end`.
+    // Appends fill bytes up to, but not including, index `end`.
     void fillTo(std::size_t end) {
         while (position_ < std::min(end, buffer_.size())) {
             append(bodyText::fill);

@@ -1,5 +1,5 @@
-// What the program knows of a character file: where the name, the GUID and the body strings stand in their chunks, and
-// how the resource map leads there. Offsets in a chunk count from the first byte of its tag.
+// What the program knows of a character file: where name, GUID and body strings are in their chunks, and how the
+// resource map leads to the chunks. Offsets in a chunk count from the first byte of its tag.
 #ifndef WORLD_CHARACTER_LAYOUT_H
 #define WORLD_CHARACTER_LAYOUT_H
 
@@ -8,8 +8,7 @@
 namespace characterFile {
 using namespace std::string_view_literals;
 
-// A chunk by its tag, and by its tag in the resource map, which spells it backwards. The chunk's offset stands 8 bytes
-// behind that: 3 bytes, little-endian.
+// The resource map spells a chunk's tag backwards. The chunk's offset is 8 bytes behind that: 3 bytes, little-endian.
 struct ChunkTag {
     std::string_view inFile;
     std::string_view inMap;
@@ -18,9 +17,9 @@ constexpr ChunkTag nameChunk{"CTSS", "SSTC"};
 constexpr ChunkTag objectChunk{"OBJD", "DJBO"};
 constexpr int mapTagToOffset = 8;
 
-// The body strings are told from the other text chunks by their id 200 and the usual flags: in the map these follow the
-// three low bytes of the chunk's offset, of which a file shorter than 16 MiB has no fourth; without a map by their
-// label.
+// Body strings are in one of several text chunks. The map shows which one by its id 200 and the usual flags, right
+// behind the chunk's offset; the pattern begins with the offset's top byte, which is zero below 16 MiB. Without a map
+// the chunk's label shows it.
 constexpr auto bodyStringsInMap = "\x00\xC8\x00\x10"sv;
 constexpr int mapPatternToOffset = -3;
 constexpr std::string_view bodyStringsTag = "STR#";
@@ -35,8 +34,8 @@ constexpr auto childTag = "child"sv;
 constexpr int characterTagSize = 5;
 static_assert(adultTag.size() == characterTagSize && childTag.size() == characterTagSize);
 
-// One of these must follow the character tag somewhere, or the file's form is unknown. The second closes a text that
-// fills its room to the last byte.
+// One of these must come somewhere behind the character tag, or the file is of an unknown form. The second ends a text
+// that leaves no room for fill bytes.
 constexpr auto fillPattern = "\xA3\xA3\xA3\xA3\xA3"sv;
 constexpr auto trailerPattern = "\x00\x00\x00\xA3\x00\x00\x00\xA3"sv;
 }  // namespace characterFile

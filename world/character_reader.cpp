@@ -1,6 +1,6 @@
-// What a Sim takes out of its character file: name, GUID, character tag and body strings. Each load opens the file,
-// takes what it wants and closes it again. The game's files carry a resource map, which spares a scan of the whole
-// file; without one the file is scanned for the chunk's tag.
+// Reads a Sim's name, GUID, character tag and body strings from its character file. Each load opens the file, reads one
+// of them and closes the file. The resource map shows where the chunks are; a file without one is scanned for their
+// tags.
 #include <cstring>
 
 #include "platform/byte_order.h"
@@ -11,17 +11,18 @@
 
 namespace {
 
-// Map, object chunk and body strings lie far apart: a few pages at a time are read, never the file.
+// Two pages at a time, because the map, the object chunk and the body strings are far apart.
 constexpr std::size_t characterWindow = 8192;
 
-// Where a chunk was found. A map may also lead to offset 0, which is no chunk's.
+// `offset` is where the chunk begins if it was found, else a negative result of findTag. A bad map may lead to offset
+// 0, where no chunk can be.
 struct ChunkSearch {
     bool found;
     std::int32_t offset;
 };
 
-// Reads the 3 bytes at `distance` from the hit of a scan (the hit's offset plus one). A read that the end of the file
-// cuts short raises the caller's flags, so that nothing is read at what it left.
+// Reads the 3 bytes at `distance` from the hit that findTag returned. If the file ends in them, the caller's view fails
+// and reads nothing more.
 std::int32_t offsetNearHit(StreamView& stream, std::int32_t hit, int distance) {
     stream.seek(static_cast<std::int64_t>(hit) - 1 + distance);
     return static_cast<std::int32_t>(readU24Le(stream.readBytes<3>()));
@@ -154,8 +155,8 @@ int Sim::readBodyStrings(StreamView stream) {
     return 1;
 }
 
-// Whether one of the end patterns follows the character tag anywhere in the file. It only decides whether the file is
-// of a known form; the reader of the text finds its own way.
+// Whether the file is of a known form: one of the two patterns that end a text must come somewhere behind the character
+// tag. Reading the text doesn't depend on where it is.
 bool Sim::textEnds(StreamView stream) const {
     for (const auto pattern : {characterFile::fillPattern, characterFile::trailerPattern}) {
         stream.seek(bodyOffset_);

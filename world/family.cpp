@@ -19,8 +19,7 @@ Sim* Family::member(std::int32_t index) const {
 
 int Family::resolveMembers() {
     if (membersResolved_) return 1;
-    membersResolved_ =
-        true;  // first of all: while a box about a broken file is open, the user can pick the family again
+    membersResolved_ = true;  // first of all: the user can pick the family again while a stage has a box open
     linkMembers();
     for (std::int32_t i = 0; i < memberCount_; ++i) {
         if (member(i) != nullptr && member(i)->stage() >= stageNumber::adult) ++adultCount_;
@@ -28,9 +27,10 @@ int Family::resolveMembers() {
     return 1;
 }
 
-// The stages aren't asked for here. A box would let the user save, and a save needs listings that are up to date.
+// The directory is listed once for all files that are asked for a GUID. Stages come later: a broken file opens a box,
+// during which the user can save, and a save needs to see what is in the directory then.
 void Family::linkMembers() {
-    const SteadyDirectories steady;  // every Sim's file may be asked for its GUID
+    const SteadyDirectories steady;
     for (std::int32_t i = 0; i < memberCount_; ++i) {
         const auto slot = static_cast<std::size_t>(i);
         members_[slot] = neighborhood_->simWithGuid(memberGuids_[slot]);
@@ -38,7 +38,7 @@ void Family::linkMembers() {
     }
 }
 
-// An unreadable member keeps the GUID that the file gave it.
+// An unreadable member keeps its GUID from the file.
 Guid Family::memberGuid(std::size_t index) const {
     return members_[index] != nullptr ? members_[index]->guid() : memberGuids_[index];
 }
@@ -61,7 +61,7 @@ int Family::addMember(Sim& sim) {
 
 int Family::removeMember(Sim& sim) {
     if (memberCount_ < 1) return -1;
-    // The GUIDs move along with the links, so that an unreadable member keeps its own.
+    // The GUIDs move with the links, so that each unreadable member keeps its own.
     decltype(members_) keptMembers{};
     decltype(memberGuids_) keptGuids{};
     std::size_t kept = 0;

@@ -1,4 +1,4 @@
-// One family of a neighborhood: its record in the file, and the Sims behind its GUIDs.
+// One family of a neighborhood: its record in the file, and the Sims that its GUIDs lead to.
 #ifndef WORLD_FAMILY_H
 #define WORLD_FAMILY_H
 
@@ -26,32 +26,34 @@ class Family {
     const char* name() const { return name_.c_str(); }
     void setName(const char* name) { name_.assign(name); }
 
-    // Money, signed as the file holds it. Setting it doesn't set `dirty`: only a change of members puts it on its way
-    // to the file.
+    // The family's money. Setting it doesn't make the record wait to be written; only a change of members does.
     std::int32_t funds() const { return funds_; }
     void setFunds(std::int32_t funds) { funds_ = funds; }
 
     Neighborhood& neighborhood() const { return *neighborhood_; }
     void setNeighborhood(Neighborhood& neighborhood) { neighborhood_ = &neighborhood; }
 
-    // Members at stage 6 or above; 0 until the members are resolved. In memory only.
+    // How many members are adults; 0 until the members are resolved.
     std::int16_t adultCount() const { return adultCount_; }
     void setAdultCount(std::int16_t count) { adultCount_ = count; }
 
     bool membersResolved() const { return membersResolved_; }
+
+    // Whether the record waits to be rewritten.
     bool dirty() const { return dirty_; }
 
-    // 0 in a family that the file doesn't hold yet.
+    // 0 until the file holds the family.
     std::int16_t familyNumber() const { return familyNumber_; }
 
-    // File offset of the member table; 0 in a family that has come since the file was read.
+    // Where the member table begins in the file, and its size in bytes when it was read. Both are 0 for a family that
+    // came later.
     std::int32_t memberTableOffset() const { return memberTableOffset_; }
     std::int32_t tableSize() const { return memberTableEnd_ - memberTableOffset_; }
 
-    // Resolves the members if that hasn't been done.
+    // Resolves the members first if that hasn't been done.
     std::int32_t memberCount();
 
-    // Null for an unreadable member and for an index out of range. Doesn't resolve: call `memberCount` first.
+    // Null for an unreadable member and for an index out of range. Call `memberCount` first: this doesn't resolve.
     Sim* member(std::int32_t index) const;
 
     // Whether a member has the Sim's record name.
@@ -60,19 +62,21 @@ class Family {
     // 1, or -1 for a full family.
     int addMember(Sim& sim);
 
-    // Takes out the members of the Sim's record name; those behind move up. 1, or -1 if there was none.
+    // Removes the members with the Sim's record name; those behind them move up. 1, or -1 if there was none.
     int removeMember(Sim& sim);
 
-    // Turns the GUIDs of the file into links to Sims: the first Sim of the neighborhood with the GUID is the member, no
-    // Sim leaves the link null. Reads the character files that this takes. Always 1.
+    // Finds the Sims that the GUIDs of the file mean: the neighborhood's first Sim with a GUID is the member. A GUID
+    // that no Sim has leaves the link null. Reads as many character files as that takes. Always 1.
     int resolveMembers();
 
-    // Reads the record and the name, searching for both from the cursor on. 1; -1 for a family of more than 8 members,
-    // with the cursor behind the GUIDs read so far; 0 for a family cut off by the end of the file. The number stays 0
-    // if the file ends before it.
+    // Searches for the record and the name from the cursor on, and reads them. Returns 1; 0 if one of them is missing
+    // or cut off by the end of the file; or -1 for more than 8 members, with the cursor behind the GUIDs read so far.
+    // The family number counts whatever the result; it is 0 if it couldn't be read.
     int read(StreamView stream, std::int32_t fileSize);
 
-    // Rewrites the family's record in the temporary file, or puts a new family's record there (save/family_writer.cpp).
+    // Rewrite the family's record in the temporary file, or write a new family's (save/family_writer.cpp). `position`
+    // is where the template's copy begins. 1, or -1 on a stream in a bad state; rewriteRecord also returns -1 if there
+    // are more members than the table had when it was read.
     int rewriteRecord(StreamView stream);
     int writeNewRecord(StreamView stream, std::int32_t position, std::int16_t familyNumber);
 

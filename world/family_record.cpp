@@ -1,5 +1,4 @@
-// A family's record, from "IMAF" inside the chunk "FAMI", read and written by one list of its fields; and the reading
-// of its name in "FAMs".
+// Reads and writes a family's record, both by one list of its fields, and reads the family's name.
 #include "world/family.h"
 #include "world/record_fields.h"
 #include "world/tag_scan.h"
@@ -39,8 +38,8 @@ bool Family::readMemberTable(StreamView& stream) {
     return true;
 }
 
-// False if the file ends before the name does. The last pair of an odd name takes one byte of what follows: the pad
-// byte that the game writes there or, without one, the first letter of the next chunk, which is then not found.
+// False if the file ends before the name does. The pair that ends a name of odd length takes one byte from behind the
+// name. The game writes a pad byte there; if it is missing, the next chunk loses its first letter and isn't found.
 bool Family::readName(StreamView& stream) {
     for (;;) {
         const auto pair = stream.readBytes<2>();

@@ -8,14 +8,13 @@
 #include <span>
 #include <string_view>
 
-// Held with a terminating zero and compared as text: bytes behind a zero byte don't count, and a GUID whose first byte
-// is zero is empty.
+// Compared as text: bytes behind a zero byte don't count, and a GUID whose first byte is zero is empty.
 class Guid {
  public:
     Guid() = default;
     explicit Guid(const std::array<std::uint8_t, 4>& bytes) { std::copy(bytes.begin(), bytes.end(), bytes_.begin()); }
 
-    // The 4 bytes as files hold them.
+    // The 4 bytes as they are in files.
     std::span<const std::uint8_t, 4> bytes() const { return std::span(bytes_).first<4>(); }
 
     friend bool operator==(const Guid& a, const Guid& b) { return a.text() == b.text(); }

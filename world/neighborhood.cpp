@@ -36,7 +36,7 @@ int Neighborhood::addNewFamily(std::unique_ptr<Family> family) {
 
 bool Neighborhood::isDirty() {
     for (std::int32_t i = 0; i < simCount_; ++i) {
-        if (sims_[static_cast<std::size_t>(i)]->recordDirty()) dirty_ = true;
+        if (sim(i)->recordDirty()) dirty_ = true;
     }
     return dirty_;
 }

@@ -1,4 +1,4 @@
-// One neighborhood: a `UserData` directory of the game with its "neighborhood.iff", read whole at start-up.
+// One neighborhood: a "UserData" directory of the game and its "neighborhood.iff", which is read whole at start-up.
 #ifndef WORLD_NEIGHBORHOOD_H
 #define WORLD_NEIGHBORHOOD_H
 
@@ -30,11 +30,11 @@ class Neighborhood {
     Neighborhood& operator=(const Neighborhood&) = delete;
     virtual ~Neighborhood() = default;
 
-    // Reads `fileName` in `directory` (no trailing backslash). 0, or -1 if the file can't be opened; a file that opens
-    // gives 0 whatever it holds. What goes beyond the tables is read and not listed.
+    // Reads `fileName` in `directory` (no trailing backslash). Returns 0 whatever the file holds, or -1 if it can't be
+    // opened. Families and Sims for which the tables have no room are read but not listed.
     int load(const char* directory, const char* fileName);
 
-    // Null for an index out of range. Families and Sims stand in file order; families that a save has added come last.
+    // Null for an index out of range. The order is the file's; families that a save has added come last.
     std::int32_t familyCount() const { return familyCount_; }
     Family* family(std::int32_t index) const;
     std::int32_t simCount() const { return simCount_; }
@@ -43,46 +43,48 @@ class Neighborhood {
     // The first Sim whose character file has the GUID; null if there is none.
     Sim* simWithGuid(const Guid& guid) const;
 
-    // Where the program's own data files lie; empty before a good load.
+    // Where the program's own data files are. `directory` may be what toolDirectory() returns.
     const char* toolDirectory() const { return toolDirectory_.c_str(); }
-    void setToolDirectory(const char* directory) { toolDirectory_ = DirectoryText(directory); }  // may be its own text
+    void setToolDirectory(const char* directory) { toolDirectory_ = DirectoryText(directory); }
 
     const char* directory() const { return directory_.c_str(); }
 
-    // File offset of the resource map and of the first free chunk. -1 before the read; then 0 and negative where there
-    // is none.
+    // Where the resource map and the first free chunk begin in the file. Without a map `mapOffset` is 0, and without a
+    // free chunk `xxxxOffset` is negative. Both are -1 before the read.
     std::int32_t mapOffset() const { return mapOffset_; }
     std::int32_t xxxxOffset() const { return xxxxOffset_; }
 
-    // The highest number of a family record of the file, listed or not; 0 if there is none.
+    // The highest family number in the file, of listed families and others; 0 if there is none.
     std::int32_t highestFamilyNumber() const { return highestFamilyNumber_; }
 
-    // Families that wait for the next save, in the order in which they came; null for an index out of range.
+    // Families that aren't in the file yet, in the order in which they were added; null for an index out of range.
     std::int32_t newFamilyCount() const { return newFamilyCount_; }
     Family* newFamily(std::int32_t index) const;
     bool hasNewFamilies() const { return hasNewFamilies_; }
 
-    // Takes a family that the file doesn't hold yet and marks the neighborhood as changed. 1, or -1 for a full table,
-    // with nothing changed and the family gone.
+    // Adds a family that isn't in the file yet, and marks the neighborhood as changed. If the table is full, returns
+    // -1, deletes the family and changes nothing; else returns 1.
     int addNewFamily(std::unique_ptr<Family> family);
 
-    // Whether something must be saved. Once true it stays true until a save is through.
+    // Whether something must be saved. Once true, it stays true until a save has gone through.
     bool isDirty();
 
     // Saves what has changed, with the templates of `toolDirectory` (save/neighborhood_save.cpp).
     void save(const char* toolDirectory);
 
-    // The stages of a save (save/neighborhood_writer.cpp, save/backups.cpp), in this order.
+    // The stages of a save, in this order (save/neighborhood_writer.cpp, save/backups.cpp). writeTempFile returns 1, or
+    // another number for a failure; everything then still waits to be saved.
     int writeTempFile(const char* tempPath);
     void backupLiveFile();
     void installTempFile(const char* tempPath);
 
-    // The pass of writeTempFile over the Sims, in the temporary file's `stream`: each changed Sim's character file,
-    // below this neighborhood's `directory`, and its record. One Sim's failure doesn't stop the pass. Always 1.
+    // Steps of writeTempFile, on the temporary file's `stream`. The first one replaces the character file of each
+    // changed Sim, in this neighborhood's `directory`, and writes its record. A Sim that fails doesn't stop the others.
+    // Always 1.
     int saveCharacterFiles(const char* toolDirectory, const char* directory, StreamView stream);
 
-    // Its last two steps, with new families only: the records of families that have changed, always 1; the new
-    // families' in the copies of the template, 1 or, on a stream in a bad state, -1.
+    // The other two are for a save with new families. They write the records of families that have changed, always 1,
+    // and those of the new families: 1, or -1 on a stream in a bad state.
     int writeChangedFamilies(StreamView stream);
     int writeNewFamilies(StreamView stream);
 
@@ -117,7 +119,7 @@ class Neighborhood {
 
     std::shared_ptr<SaveAttempt> saveAttempt_;  // null while nothing is being saved or owed
 
-    // Every family and Sim ever made here, listed or not, so that no link dangles.
+    // All families and Sims created here, including those not listed. Links stay valid until exit.
     std::vector<std::unique_ptr<Family>> ownedFamilies_;
     std::vector<std::unique_ptr<Sim>> ownedSims_;
 };

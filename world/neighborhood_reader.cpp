@@ -1,6 +1,5 @@
-// The reading of "neighborhood.iff", in three passes over the raw bytes: neighbors, families, the first free chunk.
+// Reads "neighborhood.iff" in three passes over its bytes: for the neighbors, the families and the first free chunk.
 #include <algorithm>
-#include <limits>
 
 #include "platform/byte_order.h"
 #include "platform/files.h"
@@ -10,7 +9,7 @@
 
 namespace {
 
-// The whole file in one read, up to a size that no real neighborhood comes near.
+// The file is read at once, unless it is far larger than any real neighborhood.
 constexpr std::int64_t largestWindow = 16 << 20;
 
 std::int16_t kindOf(std::span<const std::uint8_t, neighborRecord::size> record) {
@@ -26,10 +25,7 @@ bool isKnownKind(std::int16_t kind) {
 int Neighborhood::load(const char* directory, const char* fileName) {
     directory_.assign(directory);
     const auto path = joined<PathText>(directory, '\\', fileName);
-    FileStatus status{};
-    queryFileStatus(path.c_str(), status);
-    fileSize_ =
-        static_cast<std::int32_t>(std::min<std::int64_t>(status.size, std::numeric_limits<std::int32_t>::max()));
+    fileSize_ = sizeOfFile(path.c_str());
     fileName_.assign(fileName);
 
     StreamFile file;
@@ -39,7 +35,7 @@ int Neighborhood::load(const char* directory, const char* fileName) {
     return 0;
 }
 
-// A header that is cut short raises this view's flags, and with them every pass ends at once.
+// If the file ends in the header, this view's flags go up, and every pass ends at once.
 void Neighborhood::readPasses(StreamView stream) {
     mapOffset_ = readMapOffset(stream);
     readNeighbors(stream);
@@ -52,13 +48,13 @@ void Neighborhood::readPasses(StreamView stream) {
 }
 
 void Neighborhood::readNeighbors(StreamView stream) {
-    const SteadyDirectories steady;  // each record asks for the size of a file in one and the same directory
+    const SteadyDirectories steady;  // each record asks for the size of a file in the same directory
     while (nextNeighbor(stream) == 1) {
         readNeighbor(stream);
     }
 }
 
-// 1 with the cursor on a record's name, 0 when no record is left, -4 at the end of the file.
+// Returns 1 with the cursor on a record's name, 0 if there are no more records, or -4 at the end of the file.
 int Neighborhood::nextNeighbor(StreamView stream) const {
     while (!stream.endOfFile()) {
         const std::int32_t hit = findTag(stream, neighborRecord::marker, fileSize_);
@@ -69,13 +65,13 @@ int Neighborhood::nextNeighbor(StreamView stream) const {
             stream.seek(stream.tell() - static_cast<int>(prefix.size()));
             return 1;
         }
-        stream.skip(1);  // so the next search begins 13 bytes behind the false marker's first
+        stream.skip(1);  // the next search begins 13 bytes behind the beginning of this marker
     }
     return tagNotFound;
 }
 
-// 1, or -2 for a record of an unknown kind, with the cursor just behind it. A record cut off by the end of the file is
-// dropped: rewritten, it would make the file longer.
+// Returns 1, or -2 for a record of an unknown kind, with the cursor just behind the kind. A record that the end of the
+// file cuts off is dropped, because rewriting it would make the file longer.
 int Neighborhood::readNeighbor(StreamView stream) {
     std::array<std::uint8_t, neighborRecord::size> record{};
     constexpr std::size_t kindEnd = neighborRecord::kind + 2;
@@ -94,15 +90,15 @@ int Neighborhood::readNeighbor(StreamView stream) {
     return 1;
 }
 
-// 1 if a family's chunk lies ahead, else 0; -4 at the end of the file. It only looks: the cursor stays at the end of
-// the last family's name, where the search for the next record starts.
+// Returns 1 if there is another family's chunk, else 0; -4 at the end of the file. A hit leaves the cursor behind the
+// last family's name, where the search for the next record begins.
 int Neighborhood::familyAhead(StreamView stream) const {
     if (stream.endOfFile()) return tagNotFound;
     return findTag(stream, familyRecord::chunkTag, fileSize_) > 0 ? 1 : 0;
 }
 
-// 1, or -1 for a family of more than 8 members. A family cut off by the end of the file, or without its record or name,
-// isn't listed; the cursor is then at the end of the file, which ends the pass.
+// Returns 1, or -1 for a family of more than 8 members. A family without a whole record and name isn't listed; it
+// leaves the cursor at the end of the file, which ends the pass.
 int Neighborhood::readFamily(StreamView stream) {
     Family* const family = ownedFamilies_.emplace_back(std::make_unique<Family>(*this)).get();
     const int result = family->read(stream, fileSize_);

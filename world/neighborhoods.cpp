@@ -6,7 +6,7 @@
 #include "ui/status_line.h"
 #include "world/joined_text.h"
 
-// Never destroyed: the process ends without freeing its objects.
+// Never destroyed, because the process ends without freeing its objects.
 NeighborhoodTable& neighborhoods = *new NeighborhoodTable;
 
 namespace {
@@ -15,7 +15,7 @@ constexpr const char* neighborhoodFileName = "neighborhood.iff";
 
 using NeighborhoodPath = FixedText<119>;
 
-// The first directory's name has no number, the second's is 2.
+// The first directory's name has no number; the second's number is 2.
 NeighborhoodPath directoryOf(const char* simsDirectory, int number) {
     return joined<NeighborhoodPath>(simsDirectory, "UserData", number > 1 ? std::to_string(number) : "");
 }

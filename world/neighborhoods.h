@@ -9,17 +9,16 @@
 
 constexpr int highestNeighborhoodCount = 100;
 
-// Slot k holds the neighborhood of directory number k + 1, or null. Whoever walks the table stops at the first null
-// slot.
+// Slot k holds the neighborhood of directory number k + 1, or null. Every walk over the table stops at the first null.
 using NeighborhoodTable = std::array<std::unique_ptr<Neighborhood>, highestNeighborhoodCount>;
 extern NeighborhoodTable& neighborhoods;
 
-// The number of slots in front of the first null one.
+// How many slots come before the first null.
 int listedNeighborhoodCount();
 
-// Reads "UserData", "UserData2" and so on to "UserData100" below `simsDirectory` (with its trailing backslash) into the
-// table, up to the first that doesn't exist. One that can't be read leaves its slot null, with a box, and the walk goes
-// on. Each is told in the status line first.
+// Reads "UserData", "UserData2" and so on to "UserData100" in `simsDirectory` (with a trailing backslash) into the
+// table, and stops at the first that doesn't exist. The status line names each one before it is read. A neighborhood
+// that can't be read leaves its slot null, after a message box, and the next one is read all the same.
 void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory);
 
 #endif

@@ -1,7 +1,7 @@
-// One Sim: the copy of its neighbor record, and what its character file holds, fetched on first use.
+// One Sim: its neighbor record, and the parts of its character file that have been asked for.
 //
-// The neighborhood's reader makes Sims, one for each record, also when the character file is missing. Reading stands in
-// world/, writing in save/, changes of stage in lifestage/.
+// The neighborhood's reader makes a Sim for each record, even if the character file is missing. The operations are
+// defined in world/ for reading, in save/ for writing, and in lifestage/ for moving out.
 #ifndef WORLD_SIM_H
 #define WORLD_SIM_H
 
@@ -21,7 +21,7 @@ class Family;
 class Neighborhood;
 class SaveAttempt;
 
-// Stages of life. Babies, toddlers and preteens (1, 2, 4) have words but never arise.
+// Stages of life. No Sim is ever a baby, a toddler or a preteen; these only have words.
 namespace stageNumber {
 constexpr std::int32_t pet = -1;
 constexpr std::int32_t unknown = 0;
@@ -57,13 +57,13 @@ constexpr std::size_t careerLevel = 28;
 
 class Sim {
  public:
-    // What a record then overwrites: an adult with nothing known of the character file.
+    // An adult with nothing known of its files, until a record is read.
     explicit Sim(Neighborhood& neighborhood) : neighborhood_(&neighborhood) {}
     Sim(const Sim&) = delete;
     Sim& operator=(const Sim&) = delete;
     virtual ~Sim() = default;
 
-    // The record's own: never from the character file.
+    // The record's fields. They never come from the character file.
     const char* recordName() const { return recordName_.c_str(); }
     std::int32_t recordOffset() const { return recordOffset_; }
     std::int16_t version() const { return version_; }
@@ -75,22 +75,23 @@ class Sim {
 
     Neighborhood& neighborhood() const { return *neighborhood_; }
 
-    // The family that lists the Sim, once it has resolved its members; else null.
+    // The family that lists the Sim. Null until that family has resolved its members.
     Family* family() const { return family_; }
     void setFamily(Family* family) { family_ = family; }
 
-    // Each loads the character file's part on first use. Empty or null if that fails; a file that couldn't be opened is
-    // tried again at the next call.
+    // Each of these loads its part of the character file on first use. If that fails, the result is empty or null, and
+    // a file that couldn't be opened is tried again at the next call. The stage is then 0 for a Sim of an adult's age.
     const char* name();
     const Guid& guid();
     BodyStrings* bodyStrings();
     std::int32_t stage();
 
-    // Works the stage out of age, gender and body strings. Always 1.
+    // Derives the stage from age, gender and body strings. Always 1.
     int deriveStage();
 
-    // The loads: 1 if the part is there or the load ran, -1 if the file can't be opened, -3 if the file was found
-    // unusable before, -4 if the object chunk isn't there; for body strings also -1 if they can't be found or read.
+    // 1 if the part is loaded or the file turned out to have none; -1 if the file can't be opened; -3 for the GUID and
+    // the body strings of a file that was found unusable before; -4 if there is no object chunk, which holds the GUID.
+    // loadBodyStrings also returns -1 for body strings that can't be found or read.
     int loadName();
     int loadGuid();
     int loadBodyStrings();
@@ -103,30 +104,35 @@ class Sim {
     bool fileUsable() const { return fileUsable_; }
     std::int32_t tagOffset() const { return tagOffset_; }
 
-    // The one way in which a Sim changes its stage: to teen or adult, with age, character tag and person values that go
-    // with it. `bodyStrings` may be null, which keeps the old ones. 1; -2 for a stage from 1 to 4, -3 for any other,
-    // with nothing changed.
+    // Makes the Sim a teen or an adult, with the age, the character tag and the person values of that stage, and with
+    // `bodyStrings` unless they are null. Returns 1. For any other stage nothing changes, and the result is -2 for the
+    // stages 1 to 4 and -3 for the rest.
     int setStage(std::int32_t stage, std::unique_ptr<BodyStrings> bodyStrings);
 
-    // The character file, or the neighbor record, waits to be rewritten.
+    // Whether the character file, or the neighbor record, waits to be rewritten.
     bool characterDirty() const { return characterDirty_; }
     bool recordDirty() const { return recordDirty_; }
 
-    // Takes the fields of a record whose kind has been found good, 186 bytes from its marker, and the size of the
-    // character file. `recordOffset` is the marker's file offset.
+    // Takes the fields of `record`, whose kind is known to be good, and asks for the size of the character file.
+    // `recordOffset` is where the record begins in the file.
     void readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset);
 
-    // Takes the Sim out of its family into a new one that waits for the next save: lifestage/move_out.cpp. `funds` is
-    // what it takes along; the old family's money is the caller's to lower. The Sim must have a family, and its
-    // neighborhood room for a new one.
+    // Moves the Sim out of its family into a new one, which waits for the next save (lifestage/move_out.cpp). The new
+    // family gets `funds`; the caller takes them from the old one. The Sim must have a family, and its neighborhood
+    // must have room for a new one.
     void splitToNewFamily(const char* familyName, std::uint32_t funds);
 
-    // Rewrites what a stage change made stale: save/character_writer.cpp tells each result.
+    // Replaces the character file by a new one, made from the template in `toolDirectory` (save/character_writer.cpp).
+    // `directory` is the neighborhood's. Returns 1 if the new file has the live name, 0 if the body strings were never
+    // found and nothing was done, or -1. Its steps follow; each returns 1, or -1 if it failed.
     int saveCharacterFile(const char* toolDirectory, const char* directory);
     int buildCharacterFile(const char* tempPath);
-    int writeNeighborRecord(StreamView stream);
     void backupCharacterFile(const char* directory);
     int installCharacterFile(const char* tempPath);
+
+    // Writes the record into the temporary neighborhood file. 1, or -1 on a stream in a bad state: the record then
+    // still waits to be written.
+    int writeNeighborRecord(StreamView stream);
 
  private:
     friend class SaveAttempt;

@@ -1,22 +1,10 @@
-// A Sim's neighbor record, read and written by one list of its fields.
+// Reads and writes a Sim's neighbor record, both by one list of its fields.
 #include <algorithm>
-#include <limits>
 
-#include "platform/files.h"
 #include "world/joined_text.h"
 #include "world/neighborhood.h"
 #include "world/record_fields.h"
 #include "world/sim.h"
-
-namespace {
-
-std::int32_t sizeOfFile(const char* path) {
-    FileStatus status{};
-    if (!queryFileStatus(path, status)) return 0;
-    return static_cast<std::int32_t>(std::min<std::int64_t>(status.size, std::numeric_limits<std::int32_t>::max()));
-}
-
-}  // namespace
 
 template <typename Direction>
 void Sim::passFields(const Direction& direction) {

@@ -4,8 +4,8 @@
 
 #include "world/paths.h"
 
-// The game's directory as its installer wrote it into the registry, without a trailing backslash. 0, or -1 with
-// `directory` untouched if it isn't there.
+// Reads from the registry where the installer has put the game, without a trailing backslash. 0, or -1 with `directory`
+// untouched if there is no such entry.
 int findSimsDirectory(DirectoryText& directory);
 
 #endif

@@ -4,14 +4,21 @@
 #include <array>
 #include <climits>
 #include <cstring>
+#include <limits>
 
 #include "platform/files.h"
 
 namespace {
 
-constexpr std::size_t smallestWindow = 64;  // no smaller than any run that `bytesAt` is asked for
+constexpr std::size_t smallestWindow = 64;  // enough for the longest run that `bytesAt` is asked for
 
 }  // namespace
+
+std::int32_t sizeOfFile(const char* path) {
+    FileStatus status{};
+    if (!queryFileStatus(path, status)) return 0;
+    return static_cast<std::int32_t>(std::min<std::int64_t>(status.size, std::numeric_limits<std::int32_t>::max()));
+}
 
 StreamFile::~StreamFile() {
     if (file_ != nullptr) std::fclose(file_);
@@ -53,7 +60,7 @@ std::span<const std::uint8_t> StreamFile::bytesAt(std::int64_t position, std::si
 }
 
 bool StreamFile::write(std::span<const std::uint8_t> bytes) {
-    windowSize_ = 0;  // what the window holds may be what is written over
+    windowSize_ = 0;  // the write may change the bytes that the window holds
     windowEndsFile_ = false;
     const bool written = std::fseek(file_, static_cast<long>(cursor_), SEEK_SET) == 0 &&
                          std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();

@@ -1,5 +1,5 @@
-// Reading and patching the game's IFF files. Nobody walks their chunks: each piece is found by scanning the raw bytes
-// for a tag, from the cursor forward.
+// Reading and patching the game's IFF files. Their chunks are not walked: each piece is found by scanning the raw bytes
+// for a tag, from the cursor on.
 #ifndef WORLD_STREAM_H
 #define WORLD_STREAM_H
 
@@ -11,7 +11,10 @@
 #include <span>
 #include <string_view>
 
-// An open file and its one cursor. Bytes are read a window at a time, so that a scan runs at the speed of memory.
+// The size of a file in bytes, at most 2^31 - 1; 0 if there is no such file.
+std::int32_t sizeOfFile(const char* path);
+
+// An open file and its cursor. Bytes are read a window at a time, so that a scan runs at the speed of memory.
 class StreamFile {
  public:
     enum class Access { read, readAndPatch };
@@ -21,24 +24,24 @@ class StreamFile {
     StreamFile& operator=(const StreamFile&) = delete;
     ~StreamFile();
 
-    // Opens an existing file; its bytes and length stay. `windowSize`, in bytes, is how much one read takes: the whole
-    // file for a reader that scans all of it, a few pages for one that looks up pieces. False if it can't be opened.
+    // Opens an existing file without changing it. `windowSize` is how many bytes one read takes: the whole file for a
+    // reader that scans all of it, a few pages for one that looks up pieces. False if the file can't be opened.
     bool open(const char* path, Access access, std::size_t windowSize);
 
     // Closes the file. True only if every write and the closing itself succeeded.
     bool close();
 
-    // Closes a patched file with all of it on the disk itself. True only if that succeeded as well.
+    // Syncs the file to the disk and closes it. True only if that succeeded as well.
     bool closeOnDisk();
 
     std::int64_t cursor() const { return cursor_; }
     void setCursor(std::int64_t position) { cursor_ = position; }
 
-    // The bytes from `position` on, as many as the window holds: at least `least` (up to 64), unless the file ends
-    // before that. Valid until the next call.
+    // The bytes from `position` on that are in the window: at least `least` (up to 64), unless the file ends before
+    // that. Valid until the next call.
     std::span<const std::uint8_t> bytesAt(std::int64_t position, std::size_t least);
 
-    // Writes at the cursor and moves it. A write that fails is also remembered for `close`.
+    // Writes at the cursor and moves it. `close` also reports a write that failed.
     bool write(std::span<const std::uint8_t> bytes);
 
  private:
@@ -52,8 +55,9 @@ class StreamFile {
     bool windowEndsFile_ = false;
 };
 
-// A routine's own view of an open file, handed on by value: the cursor is everybody's, the flags are the routine's.
-// They start as a copy of the caller's and are gone with the view, so status travels down the calls and never up.
+// A routine's own view of an open file, passed by value. All views of a file share its cursor, but each has its own
+// flags, which begin as a copy of the caller's. So a routine knows of its caller's failures, and the caller never knows
+// of the routine's.
 class StreamView {
  public:
     explicit StreamView(StreamFile& file) : file_(&file) {}
@@ -62,27 +66,27 @@ class StreamView {
     bool failed() const { return failed_; }
     bool good() const { return !endOfFile_ && !failed_; }
 
-    // Copies the next bytes. With fewer left it copies those and raises both flags; with a flag up already it copies
+    // Copies the next bytes. If fewer are left, copies those and raises both flags. If a flag was up already, copies
     // nothing and raises "failed".
     void read(std::span<std::uint8_t> destination);
 
-    // The next N bytes; those that couldn't be read are zero.
+    // The next N bytes. Those that can't be read are zero.
     template <std::size_t N>
     std::array<std::uint8_t, N> readBytes();
 
-    // Moves the cursor on, less if the file ends first: then it raises "end of file", and "failed" if it didn't move at
-    // all. With a flag up it does nothing.
+    // Moves the cursor forward. If the file ends first, stops there and raises "end of file", and "failed" too if the
+    // cursor couldn't move at all. Does nothing with a flag up.
     void skip(std::int64_t count);
 
-    // The byte at the cursor, or -1 at the end of the file or with a flag up. Raises no flag.
+    // The byte at the cursor; -1 at the end of the file or with a flag up. Raises no flag.
     int peek() const;
 
     std::int64_t tell() const { return file_->cursor(); }
 
-    // Sets the cursor whatever the flags are. A negative position is refused and raises "failed".
+    // Sets the cursor, whatever the flags are. A negative position only raises "failed".
     void seek(std::int64_t position);
 
-    // Writes at the cursor and moves it. With a flag up it writes nothing; a failed write raises "failed".
+    // Writes at the cursor and moves it. Writes nothing with a flag up. A write that fails raises "failed".
     void write(std::span<const std::uint8_t> bytes);
     void write(std::string_view text);
     void writeZeros(std::int64_t count);

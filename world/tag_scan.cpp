@@ -12,12 +12,12 @@ std::string_view asText(std::span<const std::uint8_t> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-// Where `tag` first stands in `bytes`, or npos. Zero bytes are everywhere in these files, and ones open every
-// relationship of a neighbor, so the search goes by the tag's last byte that isn't zero.
+// Where the first `tag` in `bytes` begins, or npos. These files are full of zeros, and each relationship of a neighbor
+// begins with a 1; so the search is for the last byte of the tag that isn't zero.
 std::size_t findBytes(std::string_view bytes, std::string_view tag) {
     const std::size_t first = tag.find_first_not_of('\0'), last = tag.find_last_not_of('\0');
     const char* const begin = bytes.data();
-    const char* const end = begin + (bytes.size() - tag.size()) + last + 1;  // behind the last place of that byte
+    const char* const end = begin + (bytes.size() - tag.size()) + last + 1;  // one behind the last place for that byte
     const char* at = begin + last;
     while (at < end) {
         at = static_cast<const char*>(std::memchr(at, tag[last], static_cast<std::size_t>(end - at)));
@@ -31,7 +31,7 @@ std::size_t findBytes(std::string_view bytes, std::string_view tag) {
     return std::string_view::npos;
 }
 
-// The offset of the first `tag` at or behind `from` that begins in front of `end`, or -1.
+// The offset of the first `tag` that begins at `from` or later, but before `end`; -1 if there is none.
 std::int64_t scan(StreamFile& file, std::string_view tag, std::int64_t from, std::int64_t end) {
     while (from < end) {
         const std::string_view bytes = asText(file.bytesAt(from, tag.size()));
@@ -54,7 +54,8 @@ std::int32_t findTag(StreamView stream, std::string_view tag, std::int32_t fileS
     const std::int64_t offset = stream.failed() ? -1 : scan(stream.file(), tag, start, fileSize);
     if (offset >= 0) return static_cast<std::int32_t>(offset + 1);
 
-    // The last comparison of a scan stands at the file's size; a file that has grown since may even match there.
+    // A miss leaves the cursor where the last comparison ends, and that one is made at the noted size. In a file that
+    // has grown since, it may even match.
     stream.seek(std::max<std::int64_t>(start, fileSize));
     matchTagHere(stream, tag);
     return tagNotFound;
