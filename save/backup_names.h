@@ -1,4 +1,4 @@
-// The dated names of backups, and the clock behind them.
+// The dates in the names of backups, and the clock that they come from.
 #ifndef SAVE_BACKUP_NAMES_H
 #define SAVE_BACKUP_NAMES_H
 
@@ -7,12 +7,12 @@
 
 using DateText = FixedText<15>;
 
-// Year, month and day, or hour and minute, in decimal without leading zeros and without a separator, as backups have
+// Year, month and day, or hour and minute, as decimal numbers without leading zeros or separators, as backups have
 // always been named: 5 March 2002 is 200235, 14:07 is 147.
 DateText dateText(const SYSTEMTIME& time);
 DateText timeText(const SYSTEMTIME& time);
 
-// The clock that dates backups: the system's, in UTC, until somebody sets it to stand still.
+// The clock that dates backups: the system's, in UTC, unless it is stopped at a time.
 class BackupClock {
  public:
     SYSTEMTIME now() const;

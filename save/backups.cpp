@@ -1,12 +1,12 @@
-// Moves the live file to its dated backup, and the temporary file to the live name. The backups' sources and
-// directories are relative names: a save first makes the neighborhood's directory, or its "Characters" for a character
-// file, the current one.
+// Moves the live file to its dated backup, and the temporary file to the live name. The live file's name is relative
+// when it is backed up, and so is that of the backups' directory: the current directory is then the neighborhood's, or
+// its "Characters" for a character file.
 #include "platform/win32.h"
 #include "save/backup_names.h"
 #include "save/save_attempt.h"
 
-// Both copies are made before the old file goes, so that there is no live file only for the time of a few calls. The
-// backup's copy comes first: it must not fail for the room on the disk that the other one takes.
+// Both copies are made before the old file is deleted, so that the live name is missing only for a few calls. The
+// backup's copy is made first, so that the other one can't take its room on the disk.
 void SaveAttempt::backUp(const char* live, const PathText& backup, const PathText& tempPath,
                          const char* liveAfterwards) {
     CreateDirectoryA(backupsDirectory, nullptr);  // usually it exists already

@@ -15,8 +15,8 @@ std::int32_t openFailure(std::int32_t withoutCode) {
     return code != 0 ? static_cast<std::int32_t>(code) : withoutCode;
 }
 
-// What a missing source leaves of the destination: its bytes as they were, or nothing. It is opened all the same,
-// because the error is the destination's if both can't be opened.
+// The error if the source can't be opened. The destination is opened all the same, without changing it, because its
+// error counts if both fail.
 std::int32_t sourceFailure(const char* destination) {
     const std::int32_t error = openFailure(copyError::sourceNotOpened);
     FileStatus status{};
@@ -25,7 +25,7 @@ std::int32_t sourceFailure(const char* destination) {
     std::FILE* file = openFile(destination, "a+b");
     if (file == nullptr) return openFailure(copyError::destinationNotOpened);
     std::fclose(file);
-    if (!existed) DeleteFileA(destination);  // an empty file would pass for a backup
+    if (!existed) DeleteFileA(destination);  // an empty file would look like a backup
     return error;
 }
 

@@ -1,5 +1,5 @@
-// The only ways in which a save copies and moves files. A move is a whole copy followed by a delete of the source,
-// never a rename: no old file goes before its copy is known to be on the disk.
+// How a save copies and moves files. A move is a copy and then a delete of the source, never a rename: no old file is
+// deleted before its copy is known to be on the disk.
 #ifndef SAVE_FILE_COPY_H
 #define SAVE_FILE_COPY_H
 
@@ -11,26 +11,27 @@
 namespace copyError {
 constexpr std::int32_t none = 0;
 constexpr std::int32_t shortWrite = -1;
-constexpr std::int32_t destinationNotOpened = -2;  // and the platform gives no error code
-constexpr std::int32_t sourceNotOpened = -3;       // the same
+constexpr std::int32_t destinationNotOpened = -2;  // without an error code of the platform
+constexpr std::int32_t sourceNotOpened = -3;       // likewise
 }  // namespace copyError
 
 enum class CopyMode { overwrite, append };
 
-// Copies `source` to `destination`, at most `limit` bytes of it (0: all). 0 on success; an error of the table above; or
-// the platform's code of the open that failed, the destination's if both did. Every write and the closing must have
-// succeeded. An existing destination keeps its bytes when the source can't be opened, and when it is the source, by
-// whatever links: that is destinationNotOpened.
+// Copies at most `limit` bytes of `source` to `destination`, or all of it if `limit` is 0. Returns 0 if every write and
+// the closing succeeded, an error of the list above, or the platform's code of the open that failed; the destination's
+// if both did. If the source can't be opened, an existing destination keeps its bytes. So does one that is the source
+// itself, by whatever links, with the result destinationNotOpened.
 std::int32_t copyFileBytes(const char* source, const char* destination, std::int32_t limit, CopyMode mode);
 
 std::int32_t appendFile(const char* source, const char* destination);
 
-// A move that can be prepared: what takes time and can fail is the copy, and that needn't wait for the moment at which
-// the destination may be replaced. The destination has its name only when the copy is complete and on the disk; where
-// the file system can't do that, it is written under its name, and deleted if it breaks off.
+// A move in two steps. The copy, which takes time and can fail, is made before the destination may be replaced. It gets
+// the destination's name when it is complete and on the disk. Where the file system can't do that, it is written under
+// that name and deleted if it fails.
 class Move {
  public:
-    // Fixes what `destination` means now (NewVersion). `source` is looked up at each step.
+    // `destination` means what it means now, even if the working directory changes (NewVersion). `source` is looked up
+    // at each step.
     Move(const char* source, const char* destination)
         : source_(source), destination_(destination), copy_(destination) {}
 
@@ -39,8 +40,8 @@ class Move {
     // Makes the copy, without its name. If that fails, `finish` tries again.
     void copyAhead();
 
-    // Names the copy, in place of an older file of that name, and deletes the source. 0, or the copy's error with the
-    // source in place.
+    // Gives the copy its name, in place of an older file, and deletes the source. Returns 0, or the error of the copy;
+    // the source is kept then.
     std::int32_t finish();
 
  private:
@@ -52,7 +53,7 @@ class Move {
     bool isCopied_ = false;
 };
 
-// Both steps of a move.
+// A move in one step.
 std::int32_t moveByCopy(const char* source, const char* destination);
 
 #endif

@@ -12,7 +12,7 @@ bool matchesAt(StreamView file, std::int32_t offset, std::string_view bytes) {
     return matchTagHere(file, bytes) == 1;
 }
 
-// Without new families nothing is cut.
+// Nothing is cut without new families.
 bool isCutThere(StreamView file, const Neighborhood& neighborhood) {
     if (!neighborhood.hasNewFamilies()) return true;
     if (neighborhood.xxxxOffset() > 0) return matchesAt(file, neighborhood.xxxxOffset(), freeChunkTag);
@@ -21,7 +21,7 @@ bool isCutThere(StreamView file, const Neighborhood& neighborhood) {
     return static_cast<std::int32_t>(readU24Be(file.readBytes<iffHeader::mapOffsetSize>())) == neighborhood.mapOffset();
 }
 
-// A piece that lost its place in the file isn't patched any more.
+// A record that an earlier save cut off isn't patched, so it needn't be there.
 bool isRecordThere(StreamView file, const Sim& sim) {
     const std::int32_t record = sim.recordOffset();
     return record < 0 || matchesAt(file, record + neighborRecord::name, sim.recordName());
@@ -35,14 +35,14 @@ bool isFamilyThere(StreamView file, const Family& family) {
     file.seek(record + number);
     if (readI16Le(file.readBytes<2>()) != family.familyNumber()) return false;
     file.seek(record + memberCount);
-    // A save of this run may have left fewer members in a table that keeps its size.
+    // There may be fewer members than the table has room for, after an earlier save.
     const int count = readI16Le(file.readBytes<2>());
     return count >= 0 && count * guidSize <= family.tableSize();
 }
 
 }  // namespace
 
-bool standsAsRead(const char* path, const Neighborhood& neighborhood) {
+bool isAsRead(const char* path, const Neighborhood& neighborhood) {
     StreamFile file;
     if (!file.open(path, StreamFile::Access::read, pieceWindow)) return true;
     const StreamView view(file);

@@ -1,5 +1,6 @@
-// The next version of "neighborhood.iff", under its temporary name: a byte copy of the live file, or of its front when
-// families were added, with the pieces that changed patched in place and the new families behind it.
+// Writes the next version of "neighborhood.iff" under its temporary name. It is a copy of the live file in which the
+// changed pieces are patched. If families were added, only the front of the live file is copied, and their records
+// follow it.
 #include <algorithm>
 #include <limits>
 
@@ -11,8 +12,7 @@
 
 namespace {
 
-constexpr std::size_t patchWindow = 64;  // patching hardly reads
-
+constexpr std::size_t patchWindow = 64;  // bytes; patching hardly reads
 constexpr std::int32_t unknownSize = -1;
 
 std::int32_t sizeOf(const char* path) {
@@ -21,7 +21,8 @@ std::int32_t sizeOf(const char* path) {
     return isKnown ? static_cast<std::int32_t>(status.size) : unknownSize;
 }
 
-// Where new families cut the file, in bytes from its start; 0 for a file that has neither free room nor a map.
+// How much of the live file to copy when new families follow, in bytes; 0 for all of a file without a free chunk and a
+// map.
 std::int32_t cutForNewFamilies(const Neighborhood& neighborhood) {
     if (neighborhood.xxxxOffset() > 0) return neighborhood.xxxxOffset();
     return std::max(neighborhood.mapOffset(), 0);
@@ -30,7 +31,7 @@ std::int32_t cutForNewFamilies(const Neighborhood& neighborhood) {
 // Appends a template for each new family. 0, or the error of the copy.
 std::int32_t appendFamilyTemplates(const Neighborhood& neighborhood, const char* tempPath) {
     const auto templatePath = joined<PathText>(neighborhood.toolDirectory(), '\\', familyTemplateName);
-    // A template of another size would put every record behind it in the wrong place. A missing one fails in the copy.
+    // A template of another size would put the records behind it in the wrong place. A missing one fails in the copy.
     FileStatus status{};
     if (queryFileStatus(templatePath.c_str(), status) && status.size != familyTemplate::size) {
         return copyError::shortWrite;
@@ -45,18 +46,17 @@ std::int32_t appendFamilyTemplates(const Neighborhood& neighborhood, const char*
 int patchTempFile(Neighborhood& neighborhood, StreamView stream) {
     neighborhood.saveCharacterFiles(neighborhood.toolDirectory(), neighborhood.directory(), stream);
     if (!neighborhood.hasNewFamilies()) return 1;
-    stream.seek(iffHeader::mapOffset);
-    stream.writeZeros(iffHeader::mapOffsetSize);
+    stream.writeAt(iffHeader::mapOffset, std::array<std::uint8_t, iffHeader::mapOffsetSize>{});
     neighborhood.writeChangedFamilies(stream);
     return neighborhood.writeNewFamilies(stream);
 }
 
 }  // namespace
 
-// 1, or the error of the copy, or -1 if the live file isn't the one that was read or the copy can't be patched to its
-// last byte. Whatever the failure, all that waited to be saved still waits.
+// Returns 1; the error of a copy; or -1 if the live file isn't the one that was read, or if the temporary file couldn't
+// be patched to its last byte.
 int Neighborhood::writeTempFile(const char* tempPath) {
-    if (!standsAsRead(fileName_.c_str(), *this)) return -1;
+    if (!isAsRead(fileName_.c_str(), *this)) return -1;
     const std::int32_t cut = hasNewFamilies_ ? cutForNewFamilies(*this) : 0;
     const std::int32_t copied = copyFileBytes(fileName_.c_str(), tempPath, cut, CopyMode::overwrite);
     if (copied != copyError::none) return copied;
@@ -71,7 +71,7 @@ int Neighborhood::writeTempFile(const char* tempPath) {
     if (!file.open(tempPath, StreamFile::Access::readAndPatch, patchWindow)) return -1;
     attempt.noteWaiting();
     const int result = patchTempFile(*this, StreamView(file));
-    // The pass over the Sims has left this directory and come back. The steps that follow go by relative names.
+    // The next steps of the save go by relative names, and the pass over the Sims has changed the directory.
     if (file.closeOnDisk() && result == 1 && SetCurrentDirectoryA(directory_.c_str()) != FALSE) return 1;
     attempt.restoreWaiting();
     return -1;
@@ -80,14 +80,14 @@ int Neighborhood::writeTempFile(const char* tempPath) {
 int Neighborhood::saveCharacterFiles(const char* toolDirectory, const char* directory, StreamView stream) {
     SaveAttempt& attempt = saveAttempt();
     for (std::int32_t i = 0; i < simCount_; ++i) {
-        Sim& sim = *sims_[static_cast<std::size_t>(i)];
+        Sim& sim = *this->sim(i);
         if (sim.characterDirty()) {
-            attempt.settle(sim);  // an owed record has to wait for the newer character file
+            attempt.settle(sim);  // a record that was owed waits for the newer character file
             if (sim.saveCharacterFile(toolDirectory, directory) != 1) continue;
         } else if (!attempt.owes(sim)) {
             continue;
         }
-        if (sim.recordOffset() < 0) attempt.forgetRecord(sim);  // an earlier save has cut it off
+        if (sim.recordOffset() < 0) attempt.forgetRecord(sim);  // an earlier save cut it off
         if (!sim.recordDirty()) continue;
         attempt.owe(sim);
         const bool isCopied = attempt.isCopied(sim.recordOffset(), neighborRecord::size);
@@ -96,10 +96,10 @@ int Neighborhood::saveCharacterFiles(const char* toolDirectory, const char* dire
     return 1;
 }
 
-// A family that has come since the file was read has no table in it. Always 1.
+// A family that was added since the file was read has no member table and is passed over.
 int Neighborhood::writeChangedFamilies(StreamView stream) {
     for (std::int32_t i = 0; i < familyCount_; ++i) {
-        Family& family = *families_[static_cast<std::size_t>(i)];
+        Family& family = *this->family(i);
         const std::int32_t table = family.memberTableOffset();
         const bool isCopied = table > 0 && saveAttempt().isCopied(table, family.tableSize());
         if (family.dirty() && isCopied) family.rewriteRecord(stream);
@@ -107,11 +107,11 @@ int Neighborhood::writeChangedFamilies(StreamView stream) {
     return 1;
 }
 
-// 1, or -1 on a stream in a bad state. The families' templates follow the copied front, one for each.
+// The copies of the template, one for each family, are behind what was copied of the live file.
 int Neighborhood::writeNewFamilies(StreamView stream) {
     std::int32_t position = saveAttempt().copiedSize();
     for (std::int32_t i = 0; i < newFamilyCount_; ++i) {
-        Family& family = *newFamilies_[static_cast<std::size_t>(i)];
+        Family& family = *newFamily(i);
         const auto number = static_cast<std::int16_t>(highestFamilyNumber_ + 1);
         if (family.writeNewRecord(stream, position, number) != 1) return -1;
         ++highestFamilyNumber_;

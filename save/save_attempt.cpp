@@ -43,8 +43,8 @@ void SaveAttempt::forgetRecord(Sim& sim) {
     sim.recordDirty_ = false;
 }
 
-// After a cut the neighborhood is as a fresh read of the new file would make it. A later save of this run copies all of
-// the file, and passes over the pieces that are gone.
+// After a cut the offsets are those that a fresh read of the new file would give. So a later save of this run copies
+// the whole file, and passes over the pieces that are gone.
 void SaveAttempt::finish() {
     neighborhood_.dirty_ = false;
     if (!neighborhood_.hasNewFamilies_) return;

@@ -1,5 +1,5 @@
-// What a save keeps in mind beside the objects that it saves. A neighborhood makes one of these when a save begins. It
-// goes when the save ends, or stays for the next save while a record is owed.
+// What a save has to remember about its neighborhood. The object is made when a save begins and deleted when it ends.
+// It stays for the next save if a record is still owed.
 #ifndef SAVE_SAVE_ATTEMPT_H
 #define SAVE_SAVE_ATTEMPT_H
 
@@ -17,25 +17,25 @@ class SaveAttempt {
  public:
     explicit SaveAttempt(Neighborhood& neighborhood) : neighborhood_(neighborhood) {}
 
-    // How many bytes of the live file the temporary one took over. A piece of the live file beyond them is gone, and
-    // nothing is written in its place.
+    // How many bytes of the live file were copied to the temporary one. Nothing is written in the place of a piece that
+    // wasn't copied.
     std::int32_t copiedSize() const { return copiedSize_; }
     void setCopiedSize(std::int32_t size) { copiedSize_ = size; }
     bool isCopied(std::int32_t offset, std::int32_t size) const { return offset >= 0 && copiedSize_ - offset >= size; }
 
-    // Notes what waits to be written into the temporary file, and makes all of it wait again when that file is lost.
-    // Character files that were replaced in between stay as they are: their Sims' records are owed.
+    // Notes what waits to be written into the temporary file, and marks it all as waiting again if that file is lost.
+    // The records of Sims whose character files were replaced in between are owed then.
     void noteWaiting();
     void restoreWaiting();
 
-    // A record is owed when the Sim's character file is new but the live neighborhood file hasn't got the record yet.
-    // The next save writes it without making the character file again.
+    // A record is owed if the Sim's character file is new, but the record isn't in the live neighborhood file yet. The
+    // next save then writes the record without another character file.
     void owe(Sim& sim);
     void settle(const Sim& sim) { owed_.erase(&sim); }
     bool owes(const Sim& sim) const { return owed_.contains(&sim); }
     bool owesNothing() const { return owed_.empty(); }
 
-    // The file no longer holds the Sim's record, so there is nothing to write.
+    // Gives up a record that was cut off the file.
     void forgetRecord(Sim& sim);
 
     // Moves the live file to `backup`, and prepares the move of the temporary file to `liveAfterwards`.
@@ -44,7 +44,7 @@ class SaveAttempt {
     // Moves the temporary file to the live name. 0, or the error of the copy.
     std::int32_t install(const char* tempPath, const char* live);
 
-    // Everything is in the live file: clears the neighborhood's marks, and forgets the pieces that were cut off.
+    // Clears the neighborhood's marks when everything is in the live file, and gives up the pieces that were cut off.
     void finish();
 
  private:

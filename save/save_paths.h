@@ -1,5 +1,4 @@
-// The names of the files that a save makes or needs. Temporary files lie beside the live ones, backups in a directory
-// below them.
+// The names of a save's files. Temporary files are beside the live ones, backups in a directory below them.
 #ifndef SAVE_SAVE_PATHS_H
 #define SAVE_SAVE_PATHS_H
 

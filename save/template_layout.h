@@ -1,5 +1,5 @@
-// Where the fields stand that a save patches into its two templates. All have a fixed place and a fixed width, so no
-// chunk length and no position in a resource map ever changes.
+// Where a save patches its two templates. Each field has a fixed place and a fixed width, so that chunk lengths and the
+// resource map stay right.
 #ifndef SAVE_TEMPLATE_LAYOUT_H
 #define SAVE_TEMPLATE_LAYOUT_H
 
@@ -8,7 +8,7 @@
 #include "world/character_layout.h"
 #include "world/neighborhood_layout.h"
 
-// "Template.iff", from which every rewritten character file is made: offsets in the file.
+// "Template.iff", from which every new character file is made: offsets in the file.
 namespace characterTemplate {
 constexpr std::int32_t objectChunk = 3976;
 constexpr std::int32_t nameChunk = 4268;
@@ -27,10 +27,10 @@ static_assert(recordName == 3988 && guid == 4080 && displayName == 4349);
 static_assert(characterTag == 54097 && bodyText == 54102);
 }  // namespace characterTemplate
 
-// `famtemplate`, the record of a new family of one member: offsets in the record. The family's number stands in both
-// chunk headers and in the record proper.
+// "famtemplate", the record of a new family of one member: offsets in the record. The family's number is in the headers
+// of both chunks, as the chunk's id, and in the record proper.
 namespace familyTemplate {
-constexpr std::int32_t firstChunkNumber = 9;  // 2 bytes, as the other numbers
+constexpr std::int32_t firstChunkNumber = 9;  // 2 bytes, like the other numbers
 constexpr std::int32_t record = 84;           // "IMAF"
 constexpr std::int32_t number = record + familyRecord::number;
 constexpr std::int32_t funds = record + familyRecord::funds;         // its low 2 bytes
@@ -40,7 +40,7 @@ constexpr std::int32_t nameChunkNumber = nameChunk + 9;
 constexpr std::int32_t name = nameChunk + familyName::name;
 constexpr std::int32_t size = 232;
 
-// Behind the name stand 00 00 A3; a name shorter than 21 characters is followed by as many zero bytes as it lacks.
+// The name ends with 00 00 A3. If it is shorter than 21 characters, zeros make up the difference.
 constexpr std::int32_t nameEndSize = 3;
 constexpr std::int32_t nameRoom = 21;
 constexpr std::int32_t longestName = size - name - nameEndSize;

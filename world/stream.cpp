@@ -125,6 +125,16 @@ void StreamView::write(std::string_view text) {
     write({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
+void StreamView::writeAt(std::int64_t position, std::span<const std::uint8_t> bytes) {
+    seek(position);
+    write(bytes);
+}
+
+void StreamView::writeAt(std::int64_t position, std::string_view text) {
+    seek(position);
+    write(text);
+}
+
 void StreamView::writeZeros(std::int64_t count) {
     constexpr std::array<std::uint8_t, 64> zeros{};
     for (; count > 0 && good(); count -= static_cast<std::int64_t>(zeros.size())) {

@@ -91,6 +91,10 @@ class StreamView {
     void write(std::string_view text);
     void writeZeros(std::int64_t count);
 
+    // Seeks to `position` first.
+    void writeAt(std::int64_t position, std::span<const std::uint8_t> bytes);
+    void writeAt(std::int64_t position, std::string_view text);
+
     StreamFile& file() const { return *file_; }
 
  private:
