@@ -12,7 +12,7 @@
 
 namespace {
 
-// The form that carries the outfits of the later expansions.
+// The text with the outfits of the later expansions.
 constexpr std::int16_t requiredVersion = 7;
 
 void refuse(std::int16_t meshVersion, std::int16_t simVersion) {

@@ -10,11 +10,11 @@
 
 namespace {
 
-// Amounts are compared as unsigned numbers, so that a family in debt counts as a rich one.
+// Amounts are compared as unsigned numbers, so a family in debt counts as rich.
 constexpr std::uint32_t leastFunds = 10'000;
 constexpr std::uint32_t highestShare = 20'000;
 
-// What the Sim takes along; the family keeps the rest.
+// Returns the share that the Sim takes along. The family keeps the rest.
 std::uint32_t splitFunds(Family& family) {
     const auto funds = static_cast<std::uint32_t>(family.funds());
     const std::uint32_t share = funds > highestShare ? highestShare : funds;
@@ -28,7 +28,7 @@ std::int32_t moveOut(Sim* sim) {
     showWaitCursor();
     if (sim == nullptr || sim->stage() < stageNumber::adult) return -1;
     Family* family = sim->family();
-    // A Sim that two families list keeps naming one of them when it has moved out of it.
+    // A Sim still names the family that it has moved out of, which matters if another family lists it too.
     if (family == nullptr || !family->hasMember(*sim)) return -1;
     if (static_cast<std::uint32_t>(family->funds()) < leastFunds) {
         MessageBoxA(
@@ -55,7 +55,7 @@ void refillNeighborhoodCombo() {
     addNeighborhoodEntries(listedNeighborhoodCount());
 }
 
-// The Sim itself doesn't change: it goes on naming its old family, and none of its files will be rewritten.
+// The Sim itself doesn't change: it still names its old family, and neither its record nor its file is rewritten.
 void Sim::splitToNewFamily(const char* familyName, std::uint32_t funds) {
     auto newFamily = std::make_unique<Family>(*neighborhood_);
     newFamily->setFunds(static_cast<std::int32_t>(funds));

@@ -14,6 +14,6 @@ RandomGenerator& randomGenerator() {
 }
 
 std::size_t pickIndex(int draw, std::size_t count) {
-    // Only the highest draw would give `count` itself; it takes the last entry.
+    // The highest draw would give `count`; it picks the last entry instead.
     return std::min(count * static_cast<std::size_t>(draw) / highestDraw, count - 1);
 }

@@ -1,4 +1,4 @@
-// The program's one source of chance.
+// Random numbers.
 #ifndef LIFESTAGE_RANDOM_GENERATOR_H
 #define LIFESTAGE_RANDOM_GENERATOR_H
 
@@ -19,11 +19,10 @@ class RandomGenerator {
     std::uint32_t state_ = 1;
 };
 
-// The generator of the whole program; the entry seeds it from the clock.
+// The one generator of the program. The entry seeds it from the clock.
 RandomGenerator& randomGenerator();
 
-// The index that one draw (0 to 32767) picks among `count` entries, at least one, each with about an equal share of the
-// draws.
+// The index, below `count`, that a draw from 0 to 32767 picks. Each index has about an equal share of the draws.
 std::size_t pickIndex(int draw, std::size_t count);
 
 #endif

@@ -46,7 +46,7 @@ bool equalInUpperCase(std::string_view a, std::string_view b) {
                       [](char x, char y) { return upperCase(x) == upperCase(y); });
 }
 
-// The skin set that is being read.
+// What matters of the skin set that is being read.
 class SkinSet {
  public:
     SkinSet(std::int32_t stage, std::string_view headSkin)
@@ -74,7 +74,7 @@ class SkinSet {
     std::array<Entry, highestCandidateCount> candidates_;
 };
 
-// Reads up to the end of the skin set that holds the head, or of the file.
+// Reads to the end of the skin set with the head, or to the end of the file if there is none.
 void readSkinSet(std::FILE* file, SkinSet& set) {
     TextLines lines(file);
     for (std::string_view line; lines.next(line);) {

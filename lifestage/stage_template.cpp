@@ -1,5 +1,5 @@
-// The complete new bodies of a stage, out of fixed names and a few facts about the Sim. The game looks the names up as
-// they are, so their odd capitals stay.
+// Makes the complete body of a stage out of fixed names and a few facts about the Sim. The odd capitals are those of
+// the game's own files.
 #include "lifestage/stage_template.h"
 
 #include "world/body_string_text.h"
@@ -24,7 +24,7 @@ std::string_view bodyWord(std::int16_t type) {
     }
 }
 
-// Mesh and skin of the everyday body, which follow no rule.
+// Mesh and skin of the everyday body. These names follow no rule.
 struct BodyNames {
     std::string_view mesh, skinStem, skinEnd;
 };
@@ -64,7 +64,7 @@ BodyStrings::BodyStrings(std::int16_t gender, std::uint8_t age, std::int16_t ski
     if (version >= bodyText::extendedVersion) setGrownOutfits(female, tone, bodyType);
 }
 
-// The slots that are the same for every age.
+// The slots that don't depend on the age.
 void BodyStrings::setFixedSlots(std::string_view tone) {
     using namespace bodySlot;
     slots_[anchorBoneA].assign("HEAD");
@@ -99,7 +99,7 @@ void BodyStrings::setGrownSlots(bool female, std::string_view tone, std::int16_t
     slots_[bodySlot::headMesh].assign(female ? "c012fa_gma2,HEAD-HEAD" : "c007ma_gpa1,HEAD-HEAD");
     slots_[bodySlot::headSkin] = joined<Slot>(female ? "c012fa" : "c007ma", tone, female ? "_asian" : "_alt");
     slots_[ageText].assign("27");
-    // Men and women of the skinny type share one mesh.
+    // Skinny men and women share one mesh.
     slots_[nBodyMesh] = joined<Slot>("n", type == bodyType::skinny ? "u" : sex, body, "_01,BODY");
     slots_[nBodySkin] = joined<Slot>("n", sex, body, tone, "_01");
     slots_[uBodyMesh] = slots_[nBodyMesh];
@@ -124,7 +124,7 @@ void BodyStrings::setGrownOutfits(bool female, std::string_view tone, std::int16
 
 void BodyStrings::setChildSlots(bool female, std::string_view tone) {
     using namespace bodySlot;
-    // The boy's mesh and skin differ in their number.
+    // The boy's mesh really is number 2 and his skin number 1.
     slots_[bodyMesh].assign(female ? "b001fcchd_01,BODY" : "b002mcchd_01,BODY");
     slots_[bodySkin] = joined<Slot>(female ? "b001fcchd" : "b001mcchd", tone, female ? "_girl01" : "_slob");
     slots_[bodySlot::headMesh].assign(female ? "c001fc_amanda,HEAD-HEAD" : "c001mc_ave,HEAD-HEAD");

@@ -1,4 +1,4 @@
-// The words that a Sim's facts make in the names of meshes and skins. The templates themselves are a constructor of
+// The parts of names of meshes and skins that depend on the Sim. The templates themselves are a constructor of
 // BodyStrings.
 #ifndef LIFESTAGE_STAGE_TEMPLATE_H
 #define LIFESTAGE_STAGE_TEMPLATE_H
@@ -6,13 +6,13 @@
 #include <cstdint>
 #include <string_view>
 
-// The word for a skin tone: 1 "lgt", 3 "med", all else "drk".
+// The word for a skin tone: "lgt" for 1, "med" for 3, "drk" for any other.
 std::string_view toneWord(std::int16_t skinTone);
 
-// The age that selects the grown body. Any other but 0, the child's, would do.
+// The age that selects the grown body. Any age but 0 would.
 constexpr std::uint8_t grownBody = 27;
 
-// Body types of the grown body. No operation asks for the teen's: a new teen is made out of the skinny body.
+// The types of the grown body. No operation uses the teen's: a new teen is made out of the skinny body.
 namespace bodyType {
 constexpr std::int16_t teen = 0;
 constexpr std::int16_t skinny = 1;

@@ -13,7 +13,7 @@ namespace {
 
 using Slot = BodyStrings::Slot;
 
-// What the names of a girl's and of a boy's teen body differ in.
+// The parts of names that differ between girls and boys.
 struct TeenNames {
     const char* bodyMesh;
     std::string_view bodyStem;
@@ -26,7 +26,7 @@ struct TeenNames {
 constexpr TeenNames girlNames = {"b609faTNR_01,BODY", "b609faTNR", "f", "fa", "_undies01", pickTeenGirlOutfit};
 constexpr TeenNames boyNames = {"b614maTNR_01,BODY", "b614maTNR", "m", "ma", "_briefs01", pickTeenBoyOutfit};
 
-// A directory that may be written, as the game's installer leaves it; the status query shows it by this mode alone.
+// Whether the expansion's directory exists and may be written, as the game's installer leaves it.
 bool hasFourthExpansion() {
     DirectoryText directory;
     if (findSimsDirectory(directory) != 0) return false;

@@ -6,8 +6,8 @@
 
 #include "world/body_strings.h"
 
-// A teen's body: the skinny adult's with the teen's meshes and skins over it, and an outfit picked by one draw. The
-// head is the template's default. The last pair of slots is set only where the game's fourth expansion is installed.
+// A teen's body: the skinny adult's, with a teen's meshes and skins and an outfit that a draw picks. The head is the
+// template's. The last pair of slots is set only if the game's fourth expansion is installed.
 BodyStrings teenBody(std::int16_t gender, std::int16_t skinTone, std::int16_t version);
 
 #endif

@@ -13,7 +13,7 @@ int TextLines::nextCharacter() {
     const int byte = nextByte();
     if (byte != '\r') return byte;
     if (nextByte() == '\n') return '\n';
-    if (blockSize_ != 0) --blockAt_;  // a CR on its own is a character as any other
+    if (blockSize_ != 0) --blockAt_;  // a CR without LF is a character like any other
     return '\r';
 }
 

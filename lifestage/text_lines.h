@@ -1,4 +1,4 @@
-// Lines of a text file, a block of it at a time.
+// Reads a text file line by line.
 #ifndef LIFESTAGE_TEXT_LINES_H
 #define LIFESTAGE_TEXT_LINES_H
 
@@ -7,20 +7,20 @@
 #include <cstdio>
 #include <string_view>
 
-// A line ends with LF, or with CR LF, which counts the same, or with the file. At most 319 characters make a line: of a
-// longer one the rest is a line of its own.
+// A line ends with LF, with CR LF or with the file. It has at most 319 characters; the rest of a longer one is a line
+// of its own.
 class TextLines {
  public:
     static constexpr std::size_t longestLine = 319;
 
-    // `file` is open for reading raw bytes and stays the caller's.
+    // `file` is open for reading raw bytes. The caller closes it.
     explicit TextLines(std::FILE* file) : file_(file) {}
 
-    // The next line without its end, good until the next call; false at the end of the file.
+    // Reads the next line, without its end. It is valid until the next call. False at the end of the file.
     bool next(std::string_view& line);
 
  private:
-    // The next character, CR LF read as LF; EOF at the end of the file.
+    // The next character, with CR LF as LF; EOF at the end of the file.
     int nextCharacter();
     int nextByte();
 

@@ -28,7 +28,7 @@ static_assert(characterTag == 54097 && bodyText == 54102);
 }  // namespace characterTemplate
 
 // "famtemplate", the record of a new family of one member: offsets in the record. The family's number is in the headers
-// of both chunks, as the chunk's id, and in the record proper.
+// of both chunks and in the record proper.
 namespace familyTemplate {
 constexpr std::int32_t firstChunkNumber = 9;  // 2 bytes, like the other numbers
 constexpr std::int32_t record = 84;           // "IMAF"

@@ -1,11 +1,11 @@
-// What the controls and the menu of the main window do.
+// The commands of the main window's controls and menu.
 #ifndef SHELL_COMMANDS_H
 #define SHELL_COMMANDS_H
 
 #include "platform/win32.h"
 
-// Carries out the command `id` with the notification code of a control. False, with nothing done, for an id that is
-// none of the window's. A control's other notifications are known and do nothing.
+// Runs the command `id`. `notification` is a control's notification code; a control runs its command for one code and
+// ignores the others. False for an id that isn't one of the window's.
 bool runCommand(int id, int notification);
 
 #endif

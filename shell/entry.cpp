@@ -16,7 +16,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int showCommand) {
     loadCursors();
     randomGenerator().seed(static_cast<std::uint32_t>(std::time(nullptr)));
     std::array<char, DirectoryText::capacity() + 1> toolDirectory{};
-    // What doesn't fit leaves anything in the buffer.
+    // If the path is too long, the buffer's contents are undefined.
     if (GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data()) >= toolDirectory.size()) {
         toolDirectory[0] = '\0';
     }

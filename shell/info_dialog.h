@@ -4,10 +4,10 @@
 
 #include "platform/win32.h"
 
-// Shows the dialog resource `id` over the main window until the user closes it.
+// Shows the dialog `id` of the resources until the user closes it.
 void showInfoDialog(int id);
 
-// The dialogs' procedure: OK, Escape and the close button end the dialog with the id of the button that they stand for.
+// The dialogs' procedure. OK ends the dialog with IDOK; Escape and the close button end it with IDCANCEL.
 INT_PTR CALLBACK infoDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
 #endif

@@ -4,11 +4,11 @@
 
 #include "platform/win32.h"
 
-// Opens the main window, takes the splash window away and runs the message loop. Returns the process's exit code; 0 if
+// Opens the main window, closes the splash window and runs the message loop. Returns the process's exit code, or 0 if
 // the window can't be created.
 int runMainWindow(int showCommand);
 
-// The window's procedure: creation, painting, commands, the close request and destruction.
+// The window's procedure.
 LRESULT CALLBACK mainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 #endif

@@ -1,11 +1,11 @@
-// What the user has picked, from a neighborhood down to a Sim.
+// The neighborhood, the family and the Sim that the user has picked.
 #ifndef SHELL_SELECTION_H
 #define SHELL_SELECTION_H
 
 #include "world/neighborhoods.h"
 
-// The indexes are those of the combo boxes' entries, -1 for none; the links are what stands behind them, null for none.
-// There is no Sim behind the entry of an unreadable member.
+// The indexes are those of the picked entries, or -1. The pointers are to what was picked, or null; the entry of an
+// unreadable member has no Sim.
 struct Selection {
     int neighborhoodIndex = -1;
     int familyIndex = -1;
@@ -18,7 +18,7 @@ struct Selection {
 // The one selection of the program.
 Selection& selection();
 
-// The answers to a pick in each combo box: the levels below are emptied and filled anew, the buttons follow the Sim.
+// To be called when an entry was picked in the combo box. They refill the boxes below it and set the buttons.
 void neighborhoodPicked();
 void familyPicked();
 void simPicked();

@@ -34,7 +34,7 @@ LRESULT CALLBACK splashProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     }
 }
 
-// Drawn once, on the screen itself: nothing repaints it.
+// Draws on the screen itself, once. Nothing repaints the picture.
 void drawPicture() {
     const HANDLE picture =
         LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_SPLASH), IMAGE_BITMAP, 0, 0, LR_DEFAULTCOLOR);

@@ -6,7 +6,7 @@
 
 namespace {
 
-// A skin of this program's own that its package puts into the game's directory.
+// A skin that this program's package puts into the game's directory.
 constexpr const char* installedSkin = "GameData\\Skins\\xskin-c601fa_amanda-HEAD-HEAD.skn";
 
 int refuse(const char* text, const char* title, int code) {
@@ -48,7 +48,7 @@ int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
             simsDirectory);
         return refuse(text.c_str(), "Installation Problem", exitCode::badInstallation);
     }
-    // Files that the program couldn't name later on count as missing, or no save would ever reach the disk.
+    // If the path is too long, the program couldn't open its files later, and no save would reach the disk.
     if (*toolDirectory == '\0' || !hasBytes("skinsets.cfg")) {
         return refuse(
             "Tidewright cannot find its config files.  "

@@ -1,4 +1,4 @@
-// What must be true before the program starts.
+// The checks before the program starts.
 #ifndef SHELL_START_CHECKS_H
 #define SHELL_START_CHECKS_H
 
@@ -12,9 +12,9 @@ constexpr int badInstallation = -3;
 constexpr int missingSkinSets = -4;
 }  // namespace exitCode
 
-// Finds the game's directory (with a trailing backslash behind it), and refuses to go on while the game runs or while a
-// file of the program's own is missing. `toolDirectory` is where these lie, the working directory; it is empty when its
-// path is too long for the program. Returns 0, or the exit code after the box that says why.
+// Finds the game's directory, with a trailing backslash, and refuses to start while the game runs or if one of the
+// program's own files is missing. `toolDirectory` is the working directory, where these files are; it is empty if its
+// path is too long. Returns 0, or the exit code after a box that says why.
 int checkStart(DirectoryText& simsDirectory, const char* toolDirectory);
 
 #endif

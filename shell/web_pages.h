@@ -4,7 +4,7 @@
 
 enum class WebPage { help, questions, donation };
 
-// Opens the page in the user's browser. A page that doesn't open does nothing.
+// Opens the page in the user's browser, if possible.
 void openWebPage(WebPage page);
 
 #endif

@@ -9,7 +9,7 @@ namespace {
 
 using LineText = FixedText<255>;
 
-// Draws in a rectangle that is told by its distances from the client area's left and top edges, up to `right`.
+// Draws `text` in the client area, between the rows `top` and `bottom` and up to the column `right`.
 void drawText(HDC dc, const RECT& client, const char* text, LONG top, LONG bottom, LONG right) {
     RECT rectangle{client.left + 10, client.top + top, right, client.top + bottom};
     DrawTextA(dc, text, -1, &rectangle, 0);
@@ -20,7 +20,7 @@ void drawLine(HDC dc, const RECT& client, const char* text, LONG top, LONG botto
 }
 
 void drawLabels(HDC dc, const RECT& client) {
-    const LONG right = client.right + 150;  // beyond the edge: a label is never cut but by the window
+    const LONG right = client.right + 150;  // beyond the edge, so that only the window cuts a label
     drawText(dc, client, "Pick a Neighborhood: ", 10, 30, right);
     drawText(dc, client, "Pick a Family: ", 40, 60, right);
     drawText(dc, client, "Pick a Sim: ", 70, 90, right);
@@ -64,7 +64,7 @@ void paintMainWindow(HWND window) {
     GetClientRect(window, &client);
     drawLabels(dc, client);
     const Selection& picked = selection();
-    // Behind the entry of an unreadable member there is no Sim, and so nothing to tell.
+    // An unreadable member has no Sim, and nothing is known of it.
     if (picked.simIndex >= 0 && picked.currentSim != nullptr && picked.currentFamily != nullptr) {
         drawSim(dc, client, *picked.currentSim, *picked.currentFamily);
     }

@@ -1,4 +1,4 @@
-// What the main window draws by itself.
+// The texts that the main window draws.
 #ifndef SHELL_WINDOW_TEXTS_H
 #define SHELL_WINDOW_TEXTS_H
 
@@ -6,7 +6,7 @@
 
 #include "platform/win32.h"
 
-// The answer to WM_PAINT: the labels of the combo boxes, and the two lines that tell of the picked Sim.
+// Handles WM_PAINT: draws the labels of the combo boxes, and two lines about the picked Sim.
 void paintMainWindow(HWND window);
 
 // The word for a stage of life.

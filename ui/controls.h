@@ -1,5 +1,4 @@
-// The main window and its six controls: their handles, which everybody may use, and the few things done to them from
-// more than one place.
+// The handles of the main window and its six controls, and what more than one place does with them.
 #ifndef UI_CONTROLS_H
 #define UI_CONTROLS_H
 
@@ -14,7 +13,7 @@ constexpr int teenToAdultButton = 2002;
 constexpr int moveOutButton = 2010;
 }  // namespace controlId
 
-// All null before the main window has been created.
+// All handles are null until the main window has been created.
 struct Controls {
     HWND mainWindow;
     HWND neighborhoodCombo;
@@ -27,18 +26,15 @@ struct Controls {
 
 Controls& controls();
 
-// Both write the button's whole style anew.
+// These replace the button's whole style.
 void enableButton(HWND button);
 void disableButton(HWND button);
 void disableStageButtons();
 
-// `text` needs a terminator behind it.
 void addEntry(HWND combo, const char* text);
-
-// Takes away the first entry as often as there are entries.
 void emptyCombo(HWND combo);
 
-// Adds "Neighborhood 1" to "Neighborhood `count`" to the neighborhood combo box, so that an entry's index is its slot.
+// Adds "Neighborhood 1" and so on, up to `count`, to the neighborhood combo box. An entry's index is its slot's.
 void addNeighborhoodEntries(int count);
 
 #endif

@@ -1,8 +1,8 @@
-// The two cursors of the program: the wait cursor during long work, the arrow for the rest.
+// The two cursors of the program: the wait cursor during long work, else the arrow.
 #ifndef UI_CURSORS_H
 #define UI_CURSORS_H
 
-// Loads both from the system. The entry calls it before anything else.
+// Loads both cursors. The entry calls this before anything else.
 void loadCursors();
 
 void showWaitCursor();

@@ -1,4 +1,4 @@
-// The line at the foot of the splash window, which tells what is being read.
+// The line at the bottom of the splash window, which says what is being read.
 #ifndef UI_STATUS_LINE_H
 #define UI_STATUS_LINE_H
 
@@ -16,10 +16,10 @@ void setStatusLine(std::string_view text);
 void setSplashWindow(HWND window);
 HWND splashWindow();
 
-// Where the line stands in `window`: the bottom 30 pixels of its client area.
+// The place of the line in `window`: the bottom 30 pixels of the client area.
 RECT statusLineRectangle(HWND window);
 
-// Has the splash window show the line as it stands, before this returns. Without a splash window it does nothing.
+// Makes the splash window repaint the line before this returns. Does nothing without a splash window.
 void showStatusLine();
 
 #endif

@@ -28,12 +28,12 @@ bool exists(const char* path) {
     return true;
 }
 
-void tellProgress(int number) {
+void showProgress(int number) {
     setStatusLine("Loading Neighborhood " + std::to_string(number));
     showStatusLine();
 }
 
-void tellFailure(int number) {
+void reportFailure(int number) {
     const std::string text = "Error loading Neighborhood " + std::to_string(number);
     MessageBoxA(nullptr, text.c_str(), "Loading Error", MB_OK);
 }
@@ -54,13 +54,13 @@ void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory) {
         slot.reset();
         const NeighborhoodPath directory = directoryOf(simsDirectory, number);
         if (!exists(directory.c_str())) return;
-        tellProgress(number);
+        showProgress(number);
         auto neighborhood = std::make_unique<Neighborhood>();
         if (neighborhood->load(directory.c_str(), neighborhoodFileName) == 0) {
             neighborhood->setToolDirectory(toolDirectory);
             slot = std::move(neighborhood);
         } else {
-            tellFailure(number);
+            reportFailure(number);
         }
     }
 }

@@ -7,7 +7,7 @@
 using DirectoryText = FixedText<199>;  // a directory, or a character file
 using PathText = FixedText<299>;       // any other file in one of these directories
 
-// The character files lie in this directory of a neighborhood's.
+// A neighborhood keeps its character files in this directory.
 constexpr const char* charactersDirectory = "Characters";
 
 #endif

@@ -96,7 +96,7 @@ class Sim {
     int loadGuid();
     int loadBodyStrings();
 
-    // Reads where the character file's resource map lies. 1, or -1 if the file can't be opened.
+    // Reads where the resource map begins in the character file. 1, or -1 if the file can't be opened.
     int readHeaderOffset();
 
     // True for the word "adult" in the character file, false for "child".
