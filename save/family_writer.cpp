@@ -12,7 +12,7 @@ int Family::rewriteRecord(StreamView stream) {
     namespace at = familyRecord;
     if (!stream.good() || memberCount_ * at::guidSize > tableSize()) return -1;
     const at::Bytes record = recordBytes();
-    const auto end = static_cast<std::size_t>(at::memberTable + tableSize());
+    const std::size_t end = at::memberTable + static_cast<std::size_t>(tableSize());
     stream.writeAt(memberTableOffset_ - at::memberTable + at::funds, std::span(record).first(end).subspan<at::funds>());
     if (!stream.good()) return -1;
     dirty_ = false;

@@ -26,7 +26,9 @@ class FieldReader {
     }
 
     void signedByte(std::size_t offset, std::int16_t& member) const {
-        if (has(offset, 1)) member = static_cast<std::int8_t>(record_[offset]);
+        if (!has(offset, 1)) return;
+        const int byte = record_[offset];
+        member = static_cast<std::int16_t>(byte < 0x80 ? byte : byte - 0x100);
     }
 
     // 2 bytes, signed if the member is.
