@@ -1,10 +1,25 @@
-// Message boxes, answered by a user who is told beforehand.
+// Message boxes, and dialogs of the resources.
 #include <gtest/gtest.h>
 
 #include "tests/platform/test_window.h"
 #include "tests/support/user.h"
 
-TEST(MessageBoxTest, EachAnswerHasItsResult) {
+namespace {
+
+// What the dialog procedure received.
+Log received;
+
+// Ends with 40 more than the command's id.
+INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) received = {"init " + std::to_string(lParam)};
+    if (message != WM_COMMAND) return FALSE;
+    received.push_back("command " + std::to_string(LOWORD(wParam)));
+    return EndDialog(dialog, LOWORD(wParam) + 40);
+}
+
+}  // namespace
+
+TEST(BoxesTest, EachAnswerHasItsResult) {
     const struct {
         const char* what;
         UINT type;
@@ -28,7 +43,7 @@ TEST(MessageBoxTest, EachAnswerHasItsResult) {
     }
 }
 
-TEST(MessageBoxTest, TheOwnerIsBlockedAndStillDrawn) {
+TEST(BoxesTest, TheOwnerIsBlockedAndStillDrawn) {
     TestWindow owner;
     HWND const button = owner.addControl("Button", "Below", WS_VISIBLE, 3, {10, 300, 100, 30});
     owner.show();
@@ -50,4 +65,20 @@ TEST(MessageBoxTest, TheOwnerIsBlockedAndStillDrawn) {
         EXPECT_EQ(owner.takeLog(), Log{"command 3 0"});
     }
     SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
+
+TEST(BoxesTest, ADialogsProcedureAnswersIt) {
+    TestWindow owner;
+    owner.show();
+    for (const auto& [answer, command] : {std::pair(IDOK, IDOK), {answerByEscape, IDCANCEL}}) {
+        HWND found = nullptr;
+        const AnsweredBox box = answerNextBox(answer, [&] { found = FindWindowA(nullptr, "About"); });
+        EXPECT_EQ(DialogBoxParamA(nullptr, MAKEINTRESOURCEA(IDD_ABOUT), owner.handle, procedure, 5), command + 40);
+        EXPECT_EQ(received, (Log{"init 5", "command " + std::to_string(command)}));
+        EXPECT_EQ(box->text.find("Marrowfen Plus (Build 2)\n"), 0U) << box->text;
+        EXPECT_EQ(box->buttons, std::vector<std::string>{"OK"});
+        EXPECT_NE(found, nullptr) << "a box is found by its title while it shows";
+        EXPECT_FALSE(IsWindow(found));
+    }
+    EXPECT_EQ(DialogBoxParamA(nullptr, MAKEINTRESOURCEA(9999), owner.handle, procedure, 0), -1);
 }

@@ -12,14 +12,6 @@ class ControlsTest : public testing::Test {
  protected:
     ControlsTest() { window.show(); }
 
-    // With three entries.
-    HWND combo() const {
-        HWND const made = window.addControl("combobox", "", CBS_DROPDOWNLIST | WS_VISIBLE, 7, {160, 10, 200, 200});
-        for (const char* const entry : {"a", "Q&A", "caf\xE9 \x80"})
-            SendMessageA(made, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
-        return made;
-    }
-
     static int selection(HWND box) { return static_cast<int>(SendMessageA(box, CB_GETCURSEL, 0, 0)); }
 
     TestWindow window;
@@ -28,7 +20,7 @@ class ControlsTest : public testing::Test {
 }  // namespace
 
 TEST_F(ControlsTest, EveryPickIsToldAlsoOfTheSameEntry) {
-    HWND const box = combo();
+    HWND const box = window.addCombo({"a", "Q&A", "caf\xE9 \x80"});
     EXPECT_EQ(SendMessageA(box, CB_GETCOUNT, 0, 0), 3);
     EXPECT_EQ(entryText(box, 1) + entryText(box, 2), "Q&Acaf\xE9 \x80");
     EXPECT_EQ(selection(box), none) << "nothing was picked";
@@ -50,7 +42,7 @@ TEST_F(ControlsTest, ADeletionKeepsTheSelectedEntrySelectedUnlessItIsThatOne) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        HWND const box = combo();
+        HWND const box = window.addCombo({"a", "b", "c"});
         if (row.selected != none) pickEntry(box, row.selected);
         window.takeLog();
         EXPECT_EQ(SendMessageA(box, CB_DELETESTRING, static_cast<WPARAM>(row.deleted), 0), row.left);
@@ -62,11 +54,9 @@ TEST_F(ControlsTest, ADeletionKeepsTheSelectedEntrySelectedUnlessItIsThatOne) {
 
 TEST_F(ControlsTest, AButtonsStyleSaysWhetherItCanBeClicked) {
     HWND const button = window.addControl("Button", "&Move Out", WS_VISIBLE | WS_DISABLED, 2010, {10, 300, 100, 30});
-    constexpr auto enabled = static_cast<LONG>(WS_CHILD | WS_VISIBLE);
-    constexpr auto disabled = static_cast<LONG>(WS_CHILD | WS_VISIBLE | WS_DISABLED);
-    constexpr auto hidden = static_cast<LONG>(WS_CHILD);
-    for (const LONG style : {disabled, enabled, disabled, enabled, hidden, enabled}) {
-        SetWindowLongA(button, GWL_STYLE, style);
+    constexpr DWORD hidden = WS_CHILD, enabled = WS_CHILD | WS_VISIBLE, disabled = enabled | WS_DISABLED;
+    for (const DWORD style : {disabled, enabled, disabled, enabled, hidden, enabled}) {
+        SetWindowLongA(button, GWL_STYLE, static_cast<LONG>(style));
         window.takeLog();
         clickButton(button);
         EXPECT_EQ(window.takeLog(), style == enabled ? Log{"command 2010 0"} : Log{});

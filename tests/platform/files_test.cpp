@@ -2,12 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <tuple>
+
 #include "platform/win32.h"
 #include "tests/support/temp_directory.h"
 
 namespace fs = std::filesystem;
 
 namespace {
+
+using enum NewVersion::Naming;
 
 // The working directory holds "User00042.iff", the directory "Sub", and "protected.iff", which lets nobody write.
 class FilesTest : public testing::Test {
@@ -20,77 +25,77 @@ class FilesTest : public testing::Test {
         fs::permissions("protected.iff", fs::perms::owner_read);
     }
 
-    static constexpr const char* none = "no such file";
-
     std::string contentOf(const std::string& name) const {
-        if (!directory_.exists(name)) return none;
-        const Bytes bytes = directory_.bytesOf(name);
+        const Bytes bytes = directory_.exists(name) ? directory_.bytesOf(name) : bytesFrom("no such file");
         return {bytes.begin(), bytes.end()};
     }
 
     TempDirectory directory_;
     FileStatus status_ = {};
+    WIN32_FIND_DATAA found_ = {};
 };
 
 TEST_F(FilesTest, AModeDecidesWhatAnOpenedFileHolds) {
-    const struct {
-        const char *mode, *content;  // once "XY" was written
-    } rows[] = {{"r+b", "XYd"}, {"wb", "XY"}, {"a+b", "oldXY"}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.mode);
+    for (const auto& [mode, content] : {std::pair("r+b", "XYd"), {"wb", "XY"}, {"a+b", "oldXY"}}) {
         directory_.write("User00042.iff", "old");
-        std::FILE* file = openFile("sub\\..\\user00042.IFF", row.mode);
-        ASSERT_NE(file, nullptr);
+        std::FILE* file = openFile("sub\\..\\user00042.IFF", mode);
+        ASSERT_NE(file, nullptr) << mode;
         EXPECT_EQ(std::fwrite("XY", 1, 2, file), 2U);
-        EXPECT_EQ(directory_.bytesOf("User00042.iff"), bytesFrom(row.content)) << "held back in a buffer";
+        EXPECT_EQ(contentOf("User00042.iff"), content) << mode << ": held back in a buffer";
         EXPECT_EQ(std::fclose(file), 0);
     }
 }
 
-TEST_F(FilesTest, AFileThatCannotBeOpenedTellsWhy) {
+TEST_F(FilesTest, EachRefusalHasItsReason) {
+    const auto opens = [](const char* path, const char* mode) { return openFile(path, mode) != nullptr; };
+    const auto replaces = [](const char* path) { return NewVersion(path).open(whenComplete) != nullptr; };
     const struct {
-        std::string file;
-        const char* mode;
+        const char* what;
+        std::function<bool()> works;
         DWORD error;
-    } rows[] = {{"none.iff", "rb", ERROR_FILE_NOT_FOUND},
-                {"none.iff", "r+b", ERROR_FILE_NOT_FOUND},
-                {"none\\none.iff", "wb", ERROR_PATH_NOT_FOUND},
-                {"sub", "rb", ERROR_ACCESS_DENIED}};
+    } rows[] = {
+        {"read a missing file", [&] { return opens("none.iff", "rb"); }, ERROR_FILE_NOT_FOUND},
+        {"change a missing file", [&] { return opens("none.iff", "r+b"); }, ERROR_FILE_NOT_FOUND},
+        {"write in a missing directory", [&] { return opens("none\\none.iff", "wb"); }, ERROR_PATH_NOT_FOUND},
+        {"read a directory", [&] { return opens("sub", "rb"); }, ERROR_ACCESS_DENIED},
+        {"replace a directory", [&] { return replaces("sub"); }, ERROR_ACCESS_DENIED},
+        {"replace in a missing directory", [&] { return replaces("none\\new.iff"); }, ERROR_PATH_NOT_FOUND},
+        {"find", [&] { return FindFirstFileA("none", &found_) != INVALID_HANDLE_VALUE; }, ERROR_FILE_NOT_FOUND},
+        {"delete a directory", [] { return DeleteFileA("sub"); }, ERROR_ACCESS_DENIED},
+        {"delete a protected file", [] { return DeleteFileA("protected.iff"); }, ERROR_ACCESS_DENIED},
+        {"delete a missing file", [] { return DeleteFileA("none.iff"); }, ERROR_FILE_NOT_FOUND},
+        {"make a directory twice", [] { return CreateDirectoryA("SUB", nullptr); }, ERROR_ALREADY_EXISTS},
+        {"make one in none", [] { return CreateDirectoryA("none\\New", nullptr); }, ERROR_PATH_NOT_FOUND},
+    };
     for (const auto& row : rows) {
-        EXPECT_EQ(openFile(row.file.c_str(), row.mode), nullptr) << row.file;
-        EXPECT_EQ(GetLastError(), row.error) << row.file << " " << row.mode;
+        SetLastError(NO_ERROR);
+        EXPECT_FALSE(row.works()) << row.what;
+        EXPECT_EQ(GetLastError(), row.error) << row.what;
     }
-    EXPECT_EQ(openFile(std::string(300, 'x').c_str(), "wb"), nullptr) << "no name is cut";
+    EXPECT_FALSE(opens(std::string(300, 'x').c_str(), "wb")) << "no name is cut";
 }
 
-TEST_F(FilesTest, AProtectedFileIsNotOpenedForWriting) {
-    for (const char* const mode : {"wb", "a+b"}) {
-        EXPECT_EQ(openFile("protected.iff", mode), nullptr);
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED}) << mode;
-    }
-    EXPECT_EQ(NewVersion("protected.iff").open(NewVersion::Naming::whenComplete), nullptr);
+TEST_F(FilesTest, AProtectedFileIsNotWritten) {
+    for (const char* const mode : {"wb", "a+b"})
+        EXPECT_EQ(openFile("protected.iff", mode), nullptr) << mode;
+    SetLastError(NO_ERROR);
+    EXPECT_EQ(NewVersion("protected.iff").open(whenComplete), nullptr);
     EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
-    EXPECT_EQ(directory_.bytesOf("protected.iff"), bytesFrom("kept"));
+    EXPECT_EQ(contentOf("protected.iff"), "kept");
 }
 
 TEST_F(FilesTest, AStatusTellsKindSizeAndWhetherItMayBeWritten) {
-    const struct {
-        const char* path;
-        std::uint32_t mode;
-        std::int64_t size;
-    } rows[] = {{"USER00042.IFF", writableFileMode, 3},
-                {"PROTECTED.iff", readOnlyFileMode, 4},
-                {".\\sub", writableDirectoryMode, 0}};
-    for (const auto& row : rows) {
-        ASSERT_TRUE(queryFileStatus(row.path, status_)) << row.path;
-        EXPECT_EQ(status_.mode, row.mode) << row.path;
-        EXPECT_EQ(status_.size, row.size) << row.path;
+    for (const auto& [path, mode, size] : {std::tuple("USER00042.IFF", writableFileMode, 3),
+                                           {"PROTECTED.iff", readOnlyFileMode, 4},
+                                           {".\\sub", writableDirectoryMode, 0}}) {
+        ASSERT_TRUE(queryFileStatus(path, status_)) << path;
+        EXPECT_EQ(status_.mode, mode) << path;
+        EXPECT_EQ(status_.size, size) << path;
     }
     EXPECT_FALSE(queryFileStatus("Sub\\none.iff", status_));
 }
 
 TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
-    using enum NewVersion::Naming;
     const struct {
         const char* what;
         NewVersion::Naming naming;
@@ -99,7 +104,7 @@ TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
     } rows[] = {{"named", whenComplete, true, "old", "new"},
                 {"discarded", whenComplete, false, "old", "old"},
                 {"named at once", atOnce, true, "new", "new"},
-                {"discarded, named at once", atOnce, false, "new", none}};
+                {"discarded, named at once", atOnce, false, "new", "no such file"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         directory_.write("User00042.iff", "old");
@@ -117,50 +122,32 @@ TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
         }
         EXPECT_EQ(contentOf("User00042.iff"), row.after);
         EXPECT_EQ(contentOf("Sub/user00042.iff"), "another file");
-        EXPECT_EQ(std::distance(fs::directory_iterator(directory_.path()), {}), row.after == none ? 2 : 3);
+        EXPECT_EQ(std::distance(fs::directory_iterator(directory_.path()), {}), directory_.exists("User00042.iff") + 2);
     }
-    fs::current_path(directory_.path());
-    EXPECT_EQ(NewVersion("sub").open(whenComplete), nullptr);
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
-    EXPECT_EQ(NewVersion("none\\new.iff").open(whenComplete), nullptr);
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_PATH_NOT_FOUND});
 }
 
 TEST_F(FilesTest, LinksLeadToTheSameFile) {
     fs::create_hard_link("User00042.iff", "hard.iff");
     directory_.write("alike.iff", "old");
-    EXPECT_TRUE(isSameFile("user00042.iff", ".\\sub\\..\\User00042.iff"));
-    EXPECT_TRUE(isSameFile("user00042.iff", "hard.iff"));
+    EXPECT_TRUE(isSameFile("user00042.iff", ".\\sub\\..\\hard.iff"));
     EXPECT_FALSE(isSameFile("user00042.iff", "alike.iff"));
     EXPECT_FALSE(isSameFile("none.iff", "none.iff"));
 }
 
-TEST_F(FilesTest, OnlyAWritableFileIsDeleted) {
-    for (const char* kept : {"sub", "protected.iff"}) {
-        EXPECT_FALSE(DeleteFileA(kept));
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED}) << kept;
-    }
+TEST_F(FilesTest, NamesAreDeletedFoundAndEnteredInAnyCase) {
     EXPECT_TRUE(DeleteFileA("user00042.iff"));
-    EXPECT_FALSE(fs::exists("User00042.iff"));
-    EXPECT_FALSE(DeleteFileA("user00042.iff"));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
-}
-
-TEST_F(FilesTest, ADirectoryIsMadeOnceFoundAndEntered) {
+    EXPECT_FALSE(directory_.exists("User00042.iff"));
     EXPECT_TRUE(CreateDirectoryA("sub\\Backups", nullptr));
-    EXPECT_FALSE(CreateDirectoryA("Sub\\BACKUPS", nullptr));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ALREADY_EXISTS});
-    EXPECT_FALSE(CreateDirectoryA("none\\Backups", nullptr));
-    WIN32_FIND_DATAA found = {};
-    EXPECT_TRUE(FindClose(FindFirstFileA("SUB\\backups", &found)));
-    EXPECT_EQ(FindFirstFileA("none", &found), INVALID_HANDLE_VALUE);
-
+    EXPECT_TRUE(FindClose(FindFirstFileA("SUB\\backups", &found_)));
+    EXPECT_STREQ(found_.cFileName, "Backups");
     EXPECT_TRUE(SetCurrentDirectoryA("sub"));
     EXPECT_TRUE(queryFileStatus("backups", status_));
-    EXPECT_FALSE(queryFileStatus("user00042.iff", status_));
-    char path[MAX_PATH] = "";
-    GetCurrentDirectoryA(sizeof path, path);
+    char path[MAX_PATH] = "", exact[MAX_PATH] = "-";
+    const DWORD length = GetCurrentDirectoryA(sizeof path, path);
     EXPECT_TRUE(fs::equivalent(path, directory_.path("Sub")));
+    EXPECT_EQ(GetCurrentDirectoryA(length, exact), length + 1) << "no room for the terminator";
+    EXPECT_EQ(GetCurrentDirectoryA(length + 1, exact), length);
+    EXPECT_STREQ(exact, path);
 }
 
 }  // namespace

@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <thread>
-
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 
@@ -21,10 +18,14 @@ class PathsNativeTest : public testing::Test {
  protected:
     PathsNativeTest() {
         fs::current_path(directory_.path());
-        directory_.write("Prefix/drive_c/Sims/Data/User42.iff", "x");
+        for (const char* const file : {"SIMS/x", "Sims/Data/USER42.iff", "Sims/Data/User42.iff"})
+            directory_.write(std::string("Prefix/drive_c/") + file, "x");
         directory_.makeDirectory("Prefix/dosdevices");
         fs::create_directory_symlink("../drive_c", "Prefix/dosdevices/c:");
     }
+
+    static std::string located(const std::string& path) { return locate(path.c_str()).name; }
+    static auto openDescriptors() { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); }
 
     TempDirectory directory_;
     ScopedVariable prefix_{"WINEPREFIX", directory_.path("Prefix")};
@@ -33,16 +34,21 @@ class PathsNativeTest : public testing::Test {
 TEST_F(PathsNativeTest, DrivesSeparatorsAndCaseAreMapped) {
     const std::string drive = directory_.path("Prefix/dosdevices/c:");
     const struct {
+        const char* what;
         std::string path, native;
     } rows[] = {
-        {"C:\\", drive + "/"},
-        {"C:/sims\\\\DATA/user42.IFF", drive + "/Sims/Data/User42.iff"},
-        {"C:\\sims\\New\\Too.iff", drive + "/Sims/New/Too.iff"},
-        {"c:\\sims\\..\\SIMS\\.\\data", drive + "/Sims/../Sims/./Data"},
-        {directory_.path("prefix") + "\\Drive_C", directory_.path("Prefix/drive_c")},
+        {"a drive", "C:\\", drive + "/"},
+        {"slashes", "C:/Sims\\\\DATA/user42.IFF", drive + "/Sims/Data/USER42.iff"},
+        {"the exact spelling first", "c:\\Sims\\data\\User42.iff", drive + "/Sims/Data/User42.iff"},
+        {"the first in byte order else", "C:\\sims\\Data\\New.iff", drive + "/SIMS/Data/New.iff"},
+        {"steps back", "C:\\Sims\\..\\sIMS\\.\\X", drive + "/Sims/../SIMS/./x"},
+        {"no such drive", "Z:\\x", directory_.path("Prefix/dosdevices/z:/x")},
+        {"a native path", directory_.path("prefix") + "\\Drive_C", directory_.path("Prefix/drive_c")},
+        {"a relative path", "prefix\\DRIVE_C\\", "Prefix/drive_c/"},
+        {"in the root", "/PROC", "/proc"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(nativePath(row.path.c_str()), row.native) << row.path;
+        EXPECT_EQ(nativePath(row.path.c_str()), row.native) << row.what;
     }
     prefix_.set("");
     const ScopedVariable home("HOME", directory_.path("home"));
@@ -57,38 +63,24 @@ TEST_F(PathsNativeTest, ANameOutsideAsciiIsFoundRawThenAsUtf8AndMadeAsUtf8) {
     }
 }
 
-// Each step asks right after its change, and again when the listing had the time to settle.
-TEST_F(PathsNativeTest, EveryChangeShowsAtOnce) {
-    const std::string drive = "Prefix/drive_c/";
-    const struct {
-        const char *what, *from, *to;  // renamed; only `to`: written; in the drive
-        const char* spelling;
-    } steps[] = {
-        {"at first", nullptr, nullptr, "Sims/Data/User42.iff"},
-        {"the spelling that is asked for", nullptr, "Sims/Data/user42.iff", "Sims/Data/user42.iff"},
-        {"it goes", "Sims/Data/user42.iff", "Sims/gone", "Sims/Data/User42.iff"},
-        {"another case", "Sims/Data/User42.iff", "Sims/Data/USER42.iff", "Sims/Data/USER42.iff"},
-        {"the directory goes", "Sims/Data", "Aside", "Sims/Data/user42.iff"},
-        {"another one comes", nullptr, "Sims/Data/USER42.IFF", "Sims/Data/USER42.IFF"},
-        {"the first comes back", "Aside", "Sims/dATA", "Sims/Data/USER42.IFF"},
-        {"the second goes", "Sims/Data", "Aside", "Sims/dATA/USER42.iff"},
-        {"another case above", "Sims", "SIMS", "SIMS/dATA/USER42.iff"},
-        {"a better directory above", nullptr, "Sims/x", "Sims/Data/user42.iff"},
-    };
-    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
-    for (const auto& step : steps) {
-        SCOPED_TRACE(step.what);
-        const char* changed = step.from != nullptr ? step.from : step.to;
-        if (step.from != nullptr) fs::rename(drive + step.from, drive + step.to);
-        if (step.from == nullptr && step.to != nullptr) directory_.write(drive + step.to, "x");
-        // As programs do that unpack archives: the time of writing tells nothing then.
-        if (changed != nullptr) fs::last_write_time(fs::path(drive + changed).parent_path(), longAgo);
-        for (const int wait : {0, 0, 40, 0}) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(wait));
-            EXPECT_EQ(nativePath("C:\\Sims\\Data\\user42.iff"),
-                      directory_.path("Prefix/dosdevices/c:/") + step.spelling);
+TEST_F(PathsNativeTest, ASteadyDirectoryIsReadOnceAndLetGo) {
+    const std::string data = "c:\\Sims\\DATA\\";
+    const auto before = openDescriptors();
+    {
+        const SteadyDirectories steady;
+        for (const auto& [asked, found] : {std::pair("User42.iff", "User42.iff"), {"user42.iff", "USER42.iff"}}) {
+            const SteadyDirectories nested;
+            EXPECT_EQ(located(data + asked), found);
+            EXPECT_EQ(openDescriptors(), before + 1);
         }
+        directory_.write("Prefix/drive_c/Sims/Data/NEW.iff", "x");  // against the promise
+        EXPECT_EQ(located(data + "new.iff"), "new.iff");
     }
+    EXPECT_EQ(openDescriptors(), before);
+    const std::string way = "/dosdevices/c:/Sims/";
+    EXPECT_EQ(located(data + "new.iff"), directory_.path("Prefix") + way + "Data/NEW.iff");
+    prefix_.set(directory_.path("Other"));
+    EXPECT_EQ(located(data + "new.iff"), directory_.path("Other") + way + "DATA/new.iff");
 }
 
 TEST_F(PathsNativeTest, ADirectoryThatLetsNobodyWriteSaysSo) {

@@ -36,10 +36,12 @@ TEST_F(RegistryNativeTest, TextsAreFoundUnderTheirKeyAndNames) {
     const std::string plain = "[Software\\\\Maxis\\\\The Sims] 1234567\n#time=1d5\n";
     const std::string wow = "[Software\\\\Wow6432Node\\\\Maxis\\\\The Sims]\n";
     // Quotation marks are written as apostrophes.
+    const std::string fits(99, 'x');
     const struct {
         const char* what;
         std::string file;
-        const char *name, *text;
+        const char* name;
+        std::string text;
     } rows[] = {
         {"no key", "[Software\\\\Maxis\\\\The Sims\\\\Sub]\n'a'='below'\n", "a", "-"},
         {"plain", plain + "'sims_Data'='C:\\\\The Sims'\n", "SIMS_DATA", "C:\\The Sims"},
@@ -47,6 +49,9 @@ TEST_F(RegistryNativeTest, TextsAreFoundUnderTheirKeyAndNames) {
         {"then the plain one", plain + "'b'='q'\n" + wow + "'a'='w'\n", "b", "q"},
         {"escapes", plain + "'a\\'b'='\\\\ \\' \\n\\r\\t\\e.'\n", "a\"b", "\\ \" \n\r\te."},
         {"code page", plain + "'a'='\\xe9\\x20ACf\\x00e9\\x65e5\\351\\xg'\n", "a", "\xE9\x80\x66\xE9?\xE9xg"},
+        {"as long as the buffer", plain + "'a'='" + fits + "'\n", "a", fits},
+        {"too long for the buffer", plain + "'a'='x" + fits + "'\n", "a", "-"},
+        {"Z in another case", plain + "'Az'='1'\n", "aZ", "1"},
         {"line ends of DOS", "[Software\\\\Maxis\\\\The Sims]\r\n'a'='1'\r\n", "a", "1"},
         {"not a text", plain + "'a'=dword:00000001\n'a'=hex:01,\\\n  02\n'a'=str(7):'x'\n", "a", "-"},
         {"damaged lines", plain + "'a\n'a'\n'a'=\n'a'='\n'a'='x\\\n='x'\n[\n'a'='in no key'\n", "a", "-"},

@@ -11,11 +11,16 @@
 #include "resources/ids.h"
 
 using Log = std::vector<std::string>;
+using Sides = std::vector<int>;  // left, top, right, bottom
 
-inline std::vector<int> clientOf(HWND window) {
+inline Sides sidesOf(const RECT& r) {
+    return {r.left, r.top, r.right, r.bottom};
+}
+
+inline Sides clientOf(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
-    return {client.left, client.top, client.right, client.bottom};
+    return sidesOf(client);
 }
 
 class TestWindow {
@@ -36,10 +41,7 @@ class TestWindow {
     }
     TestWindow(const TestWindow&) = delete;
     TestWindow& operator=(const TestWindow&) = delete;
-    ~TestWindow() {
-        DestroyWindow(handle);
-        current_ = nullptr;
-    }
+    ~TestWindow() { DestroyWindow(handle); }
 
     void show() {
         ShowWindow(handle, SW_SHOWNORMAL);
@@ -52,39 +54,43 @@ class TestWindow {
                              handle, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
     }
 
+    HWND addCombo(std::initializer_list<const char*> entries) const {
+        HWND const combo = addControl("comboBOX", "", CBS_DROPDOWNLIST | WS_VISIBLE, 7, {160, 10, 200, 200});
+        for (const char* const entry : entries)
+            SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+        return combo;
+    }
+
     // What came since the last call: "create", "paint", "command" with id and code, "close", "destroy".
     Log takeLog() { return std::exchange(log_, {}); }
 
     HWND handle = nullptr;
-    std::vector<int> atCreation;     // the client area then
+    Sides atCreation;                // the client area then
     bool keepsOpen = false;          // when it is asked to close
     std::function<void(HDC)> paint;  // within WM_PAINT
-    std::vector<int> painted;        // left, top, right and bottom of what waited then
+    Sides painted;                   // what waited then
 
  private:
     static inline TestWindow* current_ = nullptr;
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        TestWindow* const self = current_;
-        self->note(message, wParam);
-        if (message == WM_CREATE) self->atCreation = clientOf(window);
-        if (message == WM_CLOSE && self->keepsOpen) return 0;
+        current_->note(message, wParam);
+        if (message == WM_CREATE) current_->atCreation = clientOf(window);
+        if (message == WM_CLOSE && current_->keepsOpen) return 0;
         if (message != WM_PAINT) return DefWindowProcA(window, message, wParam, lParam);
         PAINTSTRUCT paintStruct{};
         HDC const dc = BeginPaint(window, &paintStruct);
-        const RECT& waited = paintStruct.rcPaint;
-        self->painted = {waited.left, waited.top, waited.right, waited.bottom};
-        if (self->paint) self->paint(dc);
+        current_->painted = sidesOf(paintStruct.rcPaint);
+        if (current_->paint) current_->paint(dc);
         EndPaint(window, &paintStruct);
         return 0;
     }
 
     void note(UINT message, WPARAM wParam) {
-        if (message == WM_CREATE) log_.emplace_back("create");
-        if (message == WM_PAINT) log_.emplace_back("paint");
-        if (message == WM_CLOSE) log_.emplace_back("close");
-        if (message == WM_DESTROY) log_.emplace_back("destroy");
-        // Windows has more to tell of a control; the program asks for nothing but the pick of an entry.
+        for (const auto& [noted, name] :
+             {std::pair(WM_CREATE, "create"), {WM_PAINT, "paint"}, {WM_CLOSE, "close"}, {WM_DESTROY, "destroy"}})
+            if (message == noted) log_.emplace_back(name);
+        // Windows sends more notifications; the program uses none but the pick of an entry.
         if (message == WM_COMMAND && HIWORD(wParam) <= CBN_SELCHANGE)
             log_.push_back("command " + std::to_string(LOWORD(wParam)) + " " + std::to_string(HIWORD(wParam)));
     }

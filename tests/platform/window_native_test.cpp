@@ -1,4 +1,4 @@
-// What an X server still sends to a list while a busy program hasn't closed it.
+// What Qt's windows do besides: the keyboard after a box, texts for screen readers, clicks on a list that has closed.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -10,18 +10,43 @@
 #include "tests/platform/test_window.h"
 #include "tests/support/user.h"
 
-TEST(LateClicksTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
+TEST(WindowNativeTest, TheWindowIsActiveAgainAfterABox) {
     TestWindow window;
     window.show();
-    HWND const combo = window.addControl("combobox", "", CBS_DROPDOWNLIST | WS_VISIBLE, 7, {160, 10, 200, 200});
-    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("a"));
+    const AnsweredBox box = answerNextBox(IDOK);
+    MessageBoxA(window.handle, "text", "title", MB_OK);
+    runMessages();
+    EXPECT_EQ(windowOfWidget(QApplication::activeWindow()), window.handle);
+}
+
+TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {
+    TestWindow window;
+    std::string text = "first";
+    window.paint = [&](HDC dc) {
+        for (const LONG row : {10, 50, -90}) {
+            RECT place{10, row, 200, row + 20};
+            DrawTextA(dc, (text + std::to_string(row)).c_str(), -1, &place, DT_LEFT);
+        }
+    };
+    window.show();
+    text = "second";
+    const RECT above{0, 0, 300, 40};
+    InvalidateRect(window.handle, &above, TRUE);
+    UpdateWindow(window.handle);
+    EXPECT_TRUE(showsText(window.handle, "second10\nfirst50"));
+    EXPECT_FALSE(showsText(window.handle, "first-90"));
+}
+
+TEST(WindowNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
+    TestWindow window;
+    window.show();
+    auto& box = static_cast<QComboBox&>(*findWindow(window.addCombo({"a"}))->widget());
     HWND const button = window.addControl("Button", "Move Out", WS_VISIBLE, 2010, {10, 300, 100, 30});
-    const QWidget& widget = *findWindow(button)->widget();
-    auto& box = static_cast<QComboBox&>(*findWindow(combo)->widget());
     box.showPopup();
     QWindow* const list = QApplication::activePopupWidget()->windowHandle();
     box.hidePopup();
     const auto click = [&] {
+        const QWidget& widget = *findWindow(button)->widget();
         const QPointF place = widget.mapToGlobal(widget.rect().center());
         for (const auto& [type, buttons] :
              {std::pair{QEvent::MouseButtonPress, Qt::LeftButton}, {QEvent::MouseButtonRelease, Qt::NoButton}}) {
