@@ -73,8 +73,9 @@ QImage readDib(ResourceBytes bytes) {
     const Header header = readHeader(bytes);
     if (header.width == 0) return {};
     QImage image(header.width, header.rows, QImage::Format_RGB32);
+    auto* const pixels = reinterpret_cast<QRgb*>(image.bits());
     const bool whole =
-        readRows(bytes, header, [&image](int x, int y, QRgb color) { image.setPixel(x, y, color | 0xFF000000); });
+        readRows(bytes, header, [&](int x, int y, QRgb color) { pixels[y * header.width + x] = color | 0xFF000000; });
     return whole ? image : QImage();
 }
 
