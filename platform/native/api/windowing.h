@@ -82,8 +82,8 @@ ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 // in `parent`; `menu` is then the control's id. The menu of a top-level window comes from its class. Position and size
 // are those of the whole window without a window manager's frame, for a combo box with its list open; CW_USEDEFAULT
 // leaves them to the system. A window without WS_CAPTION has no frame, is placed exactly and stays in front. WM_CREATE
-// is sent before this returns; the client rectangle is known by then, and the result -1 destroys the window again. Null
-// on failure: no such class, no such parent, no display.
+// is sent before this returns; the client rectangle is known by then. Null on failure: no such class, no such parent,
+// no display. Left out: a refusal by the result of WM_CREATE.
 HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
                      int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 
@@ -100,7 +100,8 @@ BOOL UpdateWindow(HWND window);
 // class's background first. WM_PAINT comes with UpdateWindow, or once the message queue is empty.
 BOOL InvalidateRect(HWND window, const RECT* rectangle, BOOL erase);
 
-// Sends WM_DESTROY, then removes the window and its controls. The handle is invalid afterwards.
+// Sends WM_DESTROY, then removes the window and its controls. The handle is invalid afterwards. Not to be called while
+// WM_DESTROY is handled.
 BOOL DestroyWindow(HWND window);
 BOOL IsWindow(HWND window);
 

@@ -24,10 +24,7 @@ HWND createTopLevel(LPCSTR className, LPCSTR title, DWORD style, const Placement
     const WindowClass* const windowClass = findWindowClass(className);
     if (windowClass == nullptr) return nullptr;
     HWND const handle = addWindow(std::make_unique<TopLevelWindow>(*windowClass, title, style, placement))->handle();
-    if (SendMessageA(handle, WM_CREATE, 0, 0) == -1) {
-        DestroyWindow(handle);
-        return nullptr;
-    }
+    SendMessageA(handle, WM_CREATE, 0, 0);
     if ((style & WS_VISIBLE) != 0) ShowWindow(handle, SW_SHOW);
     return handle;
 }
@@ -56,8 +53,6 @@ BOOL DestroyWindow(HWND window) {
     Window* const found = findWindow(window);
     if (found == nullptr) return FALSE;
     if (auto* const topLevel = dynamic_cast<TopLevelWindow*>(found); topLevel != nullptr) {
-        if (topLevel->beingDestroyed) return FALSE;
-        topLevel->beingDestroyed = true;
         topLevel->widget()->hide();
         topLevel->noteVisible(false);
         SendMessageA(window, WM_DESTROY, 0, 0);

@@ -25,9 +25,6 @@ class TopLevelWindow : public Window {
     QSize clientSize() const override;
     LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // Set while WM_DESTROY is being sent, so that it is sent only once.
-    bool beingDestroyed = false;
-
  private:
     void place(const Placement& placement);
 
