@@ -19,7 +19,7 @@ class ControlsTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(ControlsTest, EveryPickIsToldAlsoOfTheSameEntry) {
+TEST_F(ControlsTest, EveryPickIsReportedAlsoOfTheSameEntry) {
     HWND const box = window.addCombo({"a", "Q&A", "caf\xE9 \x80"});
     EXPECT_EQ(SendMessageA(box, CB_GETCOUNT, 0, 0), 3);
     EXPECT_EQ(entryText(box, 1) + entryText(box, 2), "Q&Acaf\xE9 \x80");
@@ -47,7 +47,7 @@ TEST_F(ControlsTest, ADeletionKeepsTheSelectedEntrySelectedUnlessItIsThatOne) {
         window.takeLog();
         EXPECT_EQ(SendMessageA(box, CB_DELETESTRING, static_cast<WPARAM>(row.deleted), 0), row.left);
         EXPECT_EQ(selection(box), row.afterwards);
-        EXPECT_EQ(window.takeLog(), Log{}) << "only a user's pick is told";
+        EXPECT_EQ(window.takeLog(), Log{}) << "only a user's pick is reported";
         DestroyWindow(box);
     }
 }

@@ -84,7 +84,7 @@ TEST_F(FilesTest, AProtectedFileIsNotWritten) {
     EXPECT_EQ(contentOf("protected.iff"), "kept");
 }
 
-TEST_F(FilesTest, AStatusTellsKindSizeAndWhetherItMayBeWritten) {
+TEST_F(FilesTest, AStatusHasKindSizeAndWriteAccess) {
     for (const auto& [path, mode, size] : {std::tuple("USER00042.IFF", writableFileMode, 3),
                                            {"PROTECTED.iff", readOnlyFileMode, 4},
                                            {".\\sub", writableDirectoryMode, 0}}) {

@@ -37,11 +37,13 @@ TEST(PaintTest, OnlyWhatWaitsIsErasedAndDrawn) {
     const std::uint32_t ground = pictureOf(window.handle).at(50, 50);
     EXPECT_TRUE(BitBlt(GetDC(window.handle), 0, 0, 598, 400, splash, 0, 0, SRCCOPY));
     const Picture full = pictureOf(window.handle);
-    EXPECT_NE(full.at(50, 50), ground);
+    EXPECT_EQ(full.at(10, 10), 0x101735U);
+    EXPECT_EQ(full.at(10, 390), 0x36294CU);
 
     const auto expectInside = [&](BOOL erase, auto expected) {
         const RECT part{40, 40, 60, 60};
         InvalidateRect(window.handle, &part, erase);
+        InvalidateRect(window.handle, &part, FALSE);  // takes nothing back
         UpdateWindow(window.handle);
         const Picture seen = pictureOf(window.handle);
         for (const auto& [x, y] : {std::pair(40, 40), {59, 59}, {39, 40}, {40, 39}, {60, 59}, {59, 60}})

@@ -18,7 +18,7 @@ class PathsNativeTest : public testing::Test {
  protected:
     PathsNativeTest() {
         fs::current_path(directory_.path());
-        for (const char* const file : {"SIMS/x", "Sims/Data/USER42.iff", "Sims/Data/User42.iff"})
+        for (const char* const file : {"SIMS/x", "SimsZ/x", "Sims/Data/USER42.iff", "Sims/Data/User42.iff"})
             directory_.write(std::string("Prefix/drive_c/") + file, "x");
         directory_.makeDirectory("Prefix/dosdevices");
         fs::create_directory_symlink("../drive_c", "Prefix/dosdevices/c:");
@@ -42,6 +42,7 @@ TEST_F(PathsNativeTest, DrivesSeparatorsAndCaseAreMapped) {
         {"the exact spelling first", "c:\\Sims\\data\\User42.iff", drive + "/Sims/Data/User42.iff"},
         {"the first in byte order else", "C:\\sims\\Data\\New.iff", drive + "/SIMS/Data/New.iff"},
         {"steps back", "C:\\Sims\\..\\sIMS\\.\\X", drive + "/Sims/../SIMS/./x"},
+        {"the last letter", "C:\\simsz\\X", drive + "/SimsZ/x"},
         {"no such drive", "Z:\\x", directory_.path("Prefix/dosdevices/z:/x")},
         {"a native path", directory_.path("prefix") + "\\Drive_C", directory_.path("Prefix/drive_c")},
         {"a relative path", "prefix\\DRIVE_C\\", "Prefix/drive_c/"},

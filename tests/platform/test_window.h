@@ -11,16 +11,11 @@
 #include "resources/ids.h"
 
 using Log = std::vector<std::string>;
-using Sides = std::vector<int>;  // left, top, right, bottom
-
-inline Sides sidesOf(const RECT& r) {
-    return {r.left, r.top, r.right, r.bottom};
-}
-
-inline Sides clientOf(HWND window) {
+// Left, top, right and bottom.
+inline std::vector<int> clientOf(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
-    return sidesOf(client);
+    return {client.left, client.top, client.right, client.bottom};
 }
 
 class TestWindow {
@@ -65,10 +60,10 @@ class TestWindow {
     Log takeLog() { return std::exchange(log_, {}); }
 
     HWND handle = nullptr;
-    Sides atCreation;                // the client area then
+    std::vector<int> atCreation;     // the client area then
     bool keepsOpen = false;          // when it is asked to close
     std::function<void(HDC)> paint;  // within WM_PAINT
-    Sides painted;                   // what waited then
+    std::vector<int> painted;        // left, top, right and bottom of what waited then
 
  private:
     static inline TestWindow* current_ = nullptr;
@@ -80,16 +75,18 @@ class TestWindow {
         if (message != WM_PAINT) return DefWindowProcA(window, message, wParam, lParam);
         PAINTSTRUCT paintStruct{};
         HDC const dc = BeginPaint(window, &paintStruct);
-        current_->painted = sidesOf(paintStruct.rcPaint);
+        const RECT& waited = paintStruct.rcPaint;
+        current_->painted = {waited.left, waited.top, waited.right, waited.bottom};
         if (current_->paint) current_->paint(dc);
         EndPaint(window, &paintStruct);
         return 0;
     }
 
     void note(UINT message, WPARAM wParam) {
-        for (const auto& [noted, name] :
-             {std::pair(WM_CREATE, "create"), {WM_PAINT, "paint"}, {WM_CLOSE, "close"}, {WM_DESTROY, "destroy"}})
-            if (message == noted) log_.emplace_back(name);
+        if (message == WM_CREATE) log_.emplace_back("create");
+        if (message == WM_PAINT) log_.emplace_back("paint");
+        if (message == WM_CLOSE) log_.emplace_back("close");
+        if (message == WM_DESTROY) log_.emplace_back("destroy");
         // Windows sends more notifications; the program uses none but the pick of an entry.
         if (message == WM_COMMAND && HIWORD(wParam) <= CBN_SELCHANGE)
             log_.push_back("command " + std::to_string(LOWORD(wParam)) + " " + std::to_string(HIWORD(wParam)));

@@ -19,6 +19,23 @@ TEST(WindowNativeTest, TheWindowIsActiveAgainAfterABox) {
     EXPECT_EQ(windowOfWidget(QApplication::activeWindow()), window.handle);
 }
 
+TEST(WindowNativeTest, ADrawingOnTheScreenStaysUntilTheWindowIsDrawnThere) {
+    HDC const splash = CreateCompatibleDC(nullptr);
+    SelectObject(splash, LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_SPLASH), IMAGE_BITMAP, 0, 0, 0));
+    TestWindow window;
+    window.show();
+    findWindow(window.handle)->widget()->move(0, 0);
+    const std::uint32_t ground = screenPixel(window.handle, 50, 200);
+    BitBlt(GetDC(nullptr), 0, 0, 598, 400, splash, 0, 0, SRCCOPY);
+    const std::uint32_t beside = screenPixel(window.handle, 200, 200);
+    EXPECT_NE(beside, ground);
+    const RECT part{0, 0, 100, 400};
+    InvalidateRect(window.handle, &part, TRUE);
+    UpdateWindow(window.handle);
+    EXPECT_EQ(screenPixel(window.handle, 50, 200), ground);
+    EXPECT_EQ(screenPixel(window.handle, 200, 200), beside);
+}
+
 TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {
     TestWindow window;
     std::string text = "first";
@@ -34,7 +51,8 @@ TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {
     InvalidateRect(window.handle, &above, TRUE);
     UpdateWindow(window.handle);
     EXPECT_TRUE(showsText(window.handle, "second10\nfirst50"));
-    EXPECT_FALSE(showsText(window.handle, "first-90"));
+    for (const char* const unseen : {"first-90", "second50"})
+        EXPECT_FALSE(showsText(window.handle, unseen)) << unseen;
 }
 
 TEST(WindowNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
