@@ -40,18 +40,18 @@ TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {
     TestWindow window;
     std::string text = "first";
     window.paint = [&](HDC dc) {
-        for (const LONG row : {10, 50, -90}) {
-            RECT place{10, row, 200, row + 20};
+        for (const LONG row : {-90, 10, 100}) {
+            RECT place{10, row, 200, row + 150};
             DrawTextA(dc, (text + std::to_string(row)).c_str(), -1, &place, DT_LEFT);
         }
     };
     window.show();
     text = "second";
-    const RECT above{0, 0, 300, 40};
-    InvalidateRect(window.handle, &above, TRUE);
+    const RECT part{0, 50, 300, 150};
+    InvalidateRect(window.handle, &part, TRUE);
     UpdateWindow(window.handle);
-    EXPECT_TRUE(showsText(window.handle, "second10\nfirst50"));
-    for (const char* const unseen : {"first-90", "second50"})
+    EXPECT_TRUE(showsText(window.handle, "first10\nsecond100"));
+    for (const char* const unseen : {"first-90", "second10\n"})
         EXPECT_FALSE(showsText(window.handle, unseen)) << unseen;
 }
 
