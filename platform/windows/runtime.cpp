@@ -27,7 +27,7 @@ ULONGLONG(WINAPI* const importedTickCount)() = tickCount;
 
 // The original prints the exception's name on a console, which this program doesn't have, and adds 50,000 bytes.
 namespace __gnu_cxx {
-void __verbose_terminate_handler();  // NOLINT(bugprone-reserved-identifier)
+void __verbose_terminate_handler();   // NOLINT(bugprone-reserved-identifier)
 void __verbose_terminate_handler() {  // NOLINT(bugprone-reserved-identifier)
     std::abort();
 }
