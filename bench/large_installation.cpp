@@ -80,8 +80,9 @@ fs::path largeNeighborhoodFile() {
 
 std::vector<fs::path> largeCharacterFiles() {
     std::vector<fs::path> files;
-    for (const auto& entry : fs::directory_iterator(largeNeighborhoodDirectory() / "Characters"))
+    for (const auto& entry : fs::directory_iterator(largeNeighborhoodDirectory() / "Characters")) {
         if (entry.is_regular_file()) files.push_back(entry.path());
+    }
     return files;
 }
 
@@ -116,8 +117,9 @@ void copyPlainly(const fs::path& from, const fs::path& to, bool durable) {
     if (source < 0) std::abort();
     const int target = open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     static std::array<char, 16'000> buffer;
-    for (ssize_t got = 0; (got = read(source, buffer.data(), buffer.size())) > 0;)
+    for (ssize_t got = 0; (got = read(source, buffer.data(), buffer.size())) > 0;) {
         if (write(target, buffer.data(), static_cast<std::size_t>(got)) != got) std::abort();
+    }
     if (durable) fsync(target);
     close(source);
     close(target);

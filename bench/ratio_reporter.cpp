@@ -26,8 +26,9 @@ const struct {
 
 void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs)
+    for (const Run& run : runs) {
         if (run.aggregate_name == "median") medians_[run.run_name.str()] = run.GetAdjustedRealTime();
+    }
 }
 
 void RatioReporter::Finalize() {

@@ -19,7 +19,7 @@ void saveOneSim(benchmark::State& state) {
     sim.guid();
     sim.name();
     sim.bodyStrings();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         sim.setStage(stageNumber::adult, nullptr);
         state.ResumeTiming();
@@ -33,15 +33,16 @@ void copySavedBytes(benchmark::State& state, bool durably) {
     const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
     const fs::path directory = largeNeighborhoodDirectory();
     const fs::path neighborhood = largeNeighborhoodFile(), character = toolDirectory / "Template.iff";
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (const auto& file : {neighborhood, character}) {
             copyPlainly(file, directory / "first", durably);
             copyPlainly(file, directory / "second", durably);
             copyPlainly(file, directory / "third", durably);
         }
     }
-    for (const char* name : {"first", "second", "third"})
+    for (const char* name : {"first", "second", "third"}) {
         fs::remove(directory / name);
+    }
 }
 BENCHMARK_CAPTURE(copySavedBytes, plain, false)->Name("copySavedBytes");
 BENCHMARK_CAPTURE(copySavedBytes, durable, true)->Name("copySavedBytesDurably");

@@ -64,7 +64,7 @@ void start(benchmark::State& state, const char* program, const char* title) {
     watchWindows(server.connection());
     const std::string path = fs::read_symlink("/proc/self/exe").parent_path() / program;
     char* arguments[] = {const_cast<char*>(path.c_str()), nullptr};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto before = std::chrono::steady_clock::now();
         pid_t child = 0;
         if (posix_spawn(&child, path.c_str(), nullptr, nullptr, arguments, environ) != 0) std::abort();

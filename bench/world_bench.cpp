@@ -12,8 +12,9 @@ std::string largeDirectory() {
 
 void readNeighborhoodFile(benchmark::State& state) {
     const auto path = largeNeighborhoodFile();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(readWhole(path));
+    }
 }
 BENCHMARK(readNeighborhoodFile)->Name("readNeighborhoodFile");
 
@@ -21,7 +22,7 @@ BENCHMARK(readNeighborhoodFile)->Name("readNeighborhoodFile");
 void readNeighborhoodFileAndSizes(benchmark::State& state) {
     const auto path = largeNeighborhoodFile();
     const auto files = largeCharacterFiles();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(readWhole(path));
         benchmark::DoNotOptimize(sizesTogether(files));
     }
@@ -30,7 +31,7 @@ BENCHMARK(readNeighborhoodFileAndSizes)->Name("readNeighborhoodFileAndSizes");
 
 void loadNeighborhood(benchmark::State& state) {
     const std::string directory = largeDirectory();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         Neighborhood neighborhood;
         neighborhood.load(directory.c_str(), "neighborhood.iff");
         if (neighborhood.simCount() != 216) state.SkipWithError("the Sims weren't read");
@@ -40,16 +41,18 @@ BENCHMARK(loadNeighborhood)->Name("loadNeighborhood");
 
 void readCharacterFiles(benchmark::State& state) {
     const auto files = largeCharacterFiles();
-    for (auto _ : state)
-        for (const auto& file : files)
+    for ([[maybe_unused]] auto _ : state) {
+        for (const auto& file : files) {
             benchmark::DoNotOptimize(readWhole(file));
+        }
+    }
 }
 BENCHMARK(readCharacterFiles)->Name("readCharacterFiles");
 
 // The members of the last family are the last Sims, so this takes the GUID of every Sim.
 void resolveLastFamily(benchmark::State& state) {
     const std::string directory = largeDirectory();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         auto neighborhood = std::make_unique<Neighborhood>();
         neighborhood->load(directory.c_str(), "neighborhood.iff");
@@ -66,7 +69,7 @@ BENCHMARK(resolveLastFamily)->Name("resolveLastFamily");
 
 void loadAll(benchmark::State& state) {
     const char* directory = manySimsDirectory(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         loadNeighborhoods(directory, ".");
         if (listedNeighborhoodCount() != state.range(0)) state.SkipWithError("not every neighborhood was read");
     }
