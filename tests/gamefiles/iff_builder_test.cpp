@@ -9,33 +9,42 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(IffBuilderTest, WritesHeaderChunksAndMapAndTheWalkFindsWhatIsWrong) {
+Bytes fileOfFourChunks() {
     IffBuilder builder;
-    builder.add({.type = "CTSS", .id = 2000, .label = "", .content = textChunkContent({"Ada"})});
+    builder.add({.type = "STR#", .id = 300, .content = textChunkContent({})});
+    builder.add({.type = "CTSS", .id = 2000, .content = textChunkContent({"Ada"}, 12)});
     builder.addFreeRoom(80);
     builder.add({.type = "STR#", .id = 200, .label = "ab", .content = {1, 2}});
     builder.addMap();
-    const std::string file = textAt(builder.bytes());
-    const std::string mapContent =
-        "\0\0\0\0\0\0\0\0pmsr\x26\0\0\0\2\0\0\0"
-        "#RTS\1\0\0\0\xE6\0\0\0\xC8\0\x10\0ab\0\0"  // 64 + 86 + 80; the body strings' entry comes first
-        "SSTC\1\0\0\0\x40\0\0\0\xD0\7\x10\0\0\0"s;
-    EXPECT_EQ(file.substr(0, 60), "IFF FILE 2.5:TYPE FOLLOWED BY SIZE\0 JAMIE DOORNBOS & MAXIS 1"s);
-    EXPECT_EQ(file.substr(60, 4), "\0\0\x01\x34"s);  // 230 + 78, high byte first
-    EXPECT_EQ(file.substr(64, 86), "CTSS\0\0\0\x56\x07\xD0\0\x10"s + std::string(64, '\0') + "\xFD\xFF\1\0\1Ada\0\0"s);
-    EXPECT_EQ(file.substr(150, 8), "XXXX\0\0\0\x50"s);
-    EXPECT_EQ(file.substr(230, 12), "STR#\0\0\0\x4E\0\xC8\0\x10"s);
-    EXPECT_EQ(file.substr(308 + 76), mapContent);
+    return builder.bytes();
+}
 
-    const std::pair<std::size_t, const char*> faults[] = {{0, "not the game's header"},
-                                                          {71, "no chunk fits at 151"},
-                                                          {63, "no map where the header says"},
-                                                          {239, "the map doesn't list STR# 201"},
-                                                          {308 + 76 + 28, "the map doesn't list STR# 200"}};
-    for (const auto& [offset, fault] : faults) {
-        Bytes broken = builder.bytes();
-        broken[offset] ^= 1;
-        EXPECT_EQ(walkIff(broken).fault, fault);
+TEST(IffBuilderTest, WritesAHeaderThenChunksThenTheirMap) {
+    const std::string noLabel(64, '\0');
+    EXPECT_EQ(textAt(fileOfFourChunks()),
+              "IFF FILE 2.5:TYPE FOLLOWED BY SIZE\0 JAMIE DOORNBOS & MAXIS 1\0\0\1\x86"s +
+                  "STR#\0\0\0\x50\1\x2C\0\x10"s + noLabel + "\xFD\xFF\0\0"s +                          // at 64
+                  "CTSS\0\0\0\x58\7\xD0\0\x10"s + noLabel + "\xFD\xFF\1\0\1Ada\0\0\xA3\xA3"s +         // at 144
+                  "XXXX\0\0\0\x50\x10\5\0\x10old tree"s + std::string(60, '\0') +                      // at 232
+                  "STR#\0\0\0\x4E\0\xC8\0\x10"s + "ab" + std::string(62, '\0') + "\1\2" +              // at 312
+                  "rsmp\0\0\0\x90\0\0\0\x10"s + noLabel + "\0\0\0\0\0\0\0\0pmsr\x30\0\0\0\2\0\0\0"s +  // at 390
+                  "#RTS\2\0\0\0\x38\1\0\0\xC8\0\x10\0ab\0\0\x40\0\0\0\x2C\1\x10\0\0\0"s +
+                  "SSTC\1\0\0\0\x90\0\0\0\xD0\7\x10\0\0\0"s);
+}
+
+TEST(IffWalkTest, FindsWhatIsWrongWithAFile) {
+    const struct {
+        std::size_t changedByte;
+        const char* fault;
+    } rows[] = {{0, "not the game's header"},
+                {71, "no chunk fits at 145"},
+                {63, "no map where the header says"},
+                {321, "the map doesn't list STR# 201"},
+                {494, "the map doesn't list STR# 200"}};
+    for (const auto& row : rows) {
+        Bytes file = fileOfFourChunks();
+        file[row.changedByte] ^= 1;
+        EXPECT_EQ(walkIff(file).fault, row.fault);
     }
 }
 
