@@ -1,5 +1,5 @@
-// The reader of a character file: name, GUID and body strings, and the text that these are written as. The last bytes
-// of the input say what the Sim's record holds and how much room the text has.
+// Fuzzes the reader of a character file: name, GUID and body strings. The body strings are then written as text and
+// read back. The last bytes of the input choose the fields of the Sim's record and the room for the text.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace {
 constexpr std::int16_t longTextVersion = 7;
 constexpr std::size_t roomForAll = 10'000;
 
-// A neighborhood without Sims or families, which only gives the directory of character files.
+// A neighborhood without Sims or families. The reader needs it for the directory of the character files.
 Neighborhood& emptyNeighborhood() {
     static Neighborhood neighborhood;
     static const int loaded = [] {
@@ -37,14 +37,14 @@ Bytes textOf(const BodyStrings& body, std::size_t room, std::size_t limit, std::
     return text;
 }
 
-// How many slots a text carries: without the outfits of the expansions, without the winter's, or all.
+// Number of slots in a text of this version: up to the outfits of the expansion packs, up to the winter outfit, or all.
 std::size_t carriedSlots(const BodyStrings& body, std::int16_t version) {
     if (version < longTextVersion) return bodySlot::f100Mesh;
     const bool hasWinter = slotOf(body, bodySlot::w100Mesh).size() >= 2 && slotOf(body, bodySlot::w100Skin).size() >= 2;
     return hasWinter ? bodySlot::count : bodySlot::w100Mesh;
 }
 
-// The reader gives up an entry of more than 149 characters, which a mesh of that length is with its "=".
+// The reader gives up an entry of more than 149 characters. A mesh of 149 characters and its "=" are such an entry.
 bool hasTooLongEntry(const BodyStrings& body) {
     for (std::size_t slot = 0; slot < bodySlot::count; ++slot) {
         if (slotOf(body, slot).size() == BodyStrings::slotCapacity) return true;

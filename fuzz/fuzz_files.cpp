@@ -24,7 +24,7 @@ struct Directory {
 
 }  // namespace
 
-// A box would wait for an answer.
+// Takes the place of the layer's box, which would wait for an answer.
 int MessageBoxA(HWND, LPCSTR, LPCSTR, UINT) {
     return IDOK;
 }

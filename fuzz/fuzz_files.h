@@ -1,5 +1,4 @@
-// What the fuzzing targets share: a directory for the files that they make up, and a promise that ends the program when
-// it is broken, so that the fuzzer keeps the input.
+// Shared by the fuzzing targets: a directory for their files, and a check that ends the program.
 #ifndef FUZZ_FUZZ_FILES_H
 #define FUZZ_FUZZ_FILES_H
 
@@ -13,13 +12,14 @@
 
 using FuzzInput = std::span<const std::uint8_t>;
 
-// A directory of this process's own, which goes when the process ends.
+// A directory of this process, deleted at its end.
 const std::filesystem::path& fuzzDirectory();
 
-// Makes the directories on the way.
+// The name is relative to that directory. Creates the directories in it.
 void writeFuzzFile(const std::string& name, FuzzInput bytes);
 Bytes readFuzzFile(const std::filesystem::path& path);
 
+// If the promise isn't kept, prints `what` and aborts, which makes the fuzzer keep the input.
 void promise(bool isKept, const char* what);
 
 #endif

@@ -1,4 +1,4 @@
-// Writes the inputs from which each fuzzing target starts: make_seeds DIRECTORY.
+// make_seeds DIRECTORY: writes the first inputs of each fuzzing target.
 #include <cstdio>
 #include <filesystem>
 
@@ -29,7 +29,7 @@ void seedNeighborhoods() {
         const Bytes file = makeNeighborhoodFile(content).bytes;
         const char* const name = hasMap ? "with_map" : "without_map";
         seed("neighborhood", name, file);
-        // The first byte says what is changed before the save.
+        // The first byte chooses what changes before the save.
         for (const int changes : {1, 2, 4, 7}) {
             const std::string changed = std::string(name) + std::to_string(changes);
             seed("save", changed.c_str(), ByteWriter().u8(static_cast<std::uint8_t>(changes)).bytes(file).written());

@@ -1,4 +1,4 @@
-// The reader of "neighborhood.iff", and what the families make of it.
+// Fuzzes the reader of "neighborhood.iff" and the look-up of a family's members.
 #include <cstring>
 
 #include "fuzz/fuzz_files.h"
@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         promise(family.memberTableOffset() + family.tableSize() <= static_cast<std::int32_t>(size),
                 "a table in the file");
     }
-    // Every Sim is asked for its GUID, of which there is no file.
+    // Asks each Sim for its GUID, which comes from its character file, and there are none.
     if (Family* family = neighborhood.family(0)) promise(family->memberCount() <= 8, "the number of members");
     for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
         const std::int32_t record = neighborhood.sim(i)->recordOffset();

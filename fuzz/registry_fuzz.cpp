@@ -1,4 +1,4 @@
-// Wine's registry file, read for the game's directory.
+// Fuzzes the search in Wine's registry file for the game's directory.
 #include <cstdlib>
 
 #include "fuzz/fuzz_files.h"
@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t longestDirectory = 99;
 
-// What the file says: the last text of that name, of which the 32-bit programs' section has the last word. Empty if it
-// says nothing.
+// The directory in the file, or "" if it has none: the last value of that name. The section of the 32-bit programs
+// takes precedence.
 std::string directoryIn(std::string_view file) {
     std::string directory;
     for (const char* key : {"Software\\Maxis\\The Sims", "Software\\Wow6432Node\\Maxis\\The Sims"}) {

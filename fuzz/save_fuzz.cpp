@@ -1,5 +1,5 @@
-// Two saves in a row of a neighborhood that the reader has made something of: what they write, and where. The first
-// byte of the input says what is changed and what hinders the first save; the rest is "neighborhood.iff".
+// Fuzzes two saves in a row, and checks what they write and where. The first byte of the input chooses what changes and
+// what hinders the first save. The rest is "neighborhood.iff".
 #include <algorithm>
 #include <array>
 #include <map>
@@ -35,7 +35,7 @@ void writeCharacters() {
     }
 }
 
-// The templates, and a neighborhood's directory as the game leaves it.
+// Writes the templates, and a neighborhood's directory as the game leaves it.
 void writeFiles(FuzzInput neighborhood) {
     static const bool hasTemplates = [] {
         backupClock().stopAt({2002, 3, 0, 5, 14, 7, 0, 0});
@@ -90,7 +90,7 @@ void lift(Hindrance hindrance) {
     if (hindrance == Hindrance::noTempFile) fs::remove(userData() / "TMPneighborhood.iff");
 }
 
-// Another neighborhood, which is the current directory at first and never touched.
+// Another neighborhood. It is the current directory before a save, and a save must not touch it.
 const fs::path& neighbor() {
     static const fs::path directory = fuzzDirectory() / "UserData2";
     static const bool isMade = [] {
@@ -103,7 +103,7 @@ const fs::path& neighbor() {
     return directory;
 }
 
-// A file's time shows that it was written, a directory's that a name came or went.
+// The time of a file changes with a write, that of a directory with a new or removed name.
 std::vector<fs::file_time_type> timesOutside() {
     std::vector<fs::file_time_type> times;
     for (const char* name : {".", "neighborhood.iff", "TMPneighborhood.iff", "Characters", "Characters/user00001.iff",
@@ -113,7 +113,7 @@ std::vector<fs::file_time_type> timesOutside() {
     return times;
 }
 
-// Bytes of a file from the first offset on, up to the second.
+// Offsets in a file: the first byte, and the one behind the last.
 using Range = std::pair<std::int32_t, std::int32_t>;
 using Ranges = std::vector<Range>;
 
@@ -128,13 +128,13 @@ bool isHeaderMap(std::size_t at) {
     return offset >= headerMap && offset < headerMap + 3;
 }
 
-// What waits for a save, and what it may change in the copy of the old file.
+// What a save has to write, and the bytes of the old file that it may change.
 struct Waiting {
     explicit Waiting(Neighborhood& neighborhood);
 
     Bytes live = readFuzzFile(userData() / "neighborhood.iff");
     bool isDirty;
-    std::size_t kept;  // how much of the old file the new one begins with
+    std::size_t kept;  // number of bytes of the old file that the new one begins with
     std::size_t newFamilies;
     std::int32_t highestFamilyNumber;
     std::vector<Sim*> sims;
@@ -166,8 +166,8 @@ Waiting::Waiting(Neighborhood& neighborhood)
     }
 }
 
-// Whether the pieces that a save may patch lie apart. Where they don't, one save may spoil what the next one looks for,
-// which then rightly refuses.
+// Whether the pieces that a save may patch don't overlap. If they do, one save can overwrite what the next one checks,
+// and then the next one is right to refuse.
 bool isTidy(const Neighborhood& neighborhood) {
     const std::int32_t freeRoom = neighborhood.xxxxOffset();
     Ranges ranges = {{headerMap, headerMap + 3}, {freeRoom, freeRoom + 4}};
@@ -184,7 +184,7 @@ bool isTidy(const Neighborhood& neighborhood) {
            ranges.end();
 }
 
-// The template, with what a family of one has of its own.
+// The record must be the template but for the fields of a new family.
 void examineNewFamily(std::span<const std::uint8_t> record, std::size_t offset, std::int32_t number) {
     static const Bytes blank = makeFamilyTemplate();
     static const Ranges own = {{9, 11}, {92, 94}, {96, 98}, {116, 120}, {133, 135}, {205, 232}};
@@ -197,7 +197,7 @@ void examineNewFamily(std::span<const std::uint8_t> record, std::size_t offset, 
     }
 }
 
-// The kept part of the old file but for what was patched, with the new families behind it.
+// The new file must be the kept part of the old one, changed only where a save may patch it, and the new families.
 void examineNewFile(const Waiting& waiting) {
     const Bytes file = readFuzzFile(userData() / "neighborhood.iff");
     promise(file.size() == waiting.kept + waiting.newFamilies * newRecordSize, "the size of the new file");
@@ -229,7 +229,7 @@ void examineMarks(const Neighborhood& neighborhood, const Waiting& waiting, bool
     }
 }
 
-// Only names that a save may use, and no temporary one.
+// A save must leave no temporary file, and no name of its own but "Backups".
 void examineNames() {
     for (const auto& entry : fs::recursive_directory_iterator(userData())) {
         promise(!entry.path().filename().string().starts_with("TMP"), "no temporary file");
@@ -243,7 +243,8 @@ bool mustSucceed(const Waiting& waiting, Hindrance hindrance) {
     return hindrance != Hindrance::noTemplates || waiting.newFamilies == 0;
 }
 
-// Saves, and says whether the new file has come. `isFileAsRead` if it can't but come where nothing hinders it.
+// Saves, and returns whether there is a new file. `isFileAsRead`: the live file is still the one that was read, so the
+// save must succeed unless something hinders it.
 bool saveAndExamine(Neighborhood& neighborhood, Hindrance hindrance, bool isFileAsRead) {
     static const std::vector<fs::file_time_type> outside = timesOutside();
     raise(hindrance);

@@ -1,4 +1,4 @@
-// "skinsets.cfg", looked through for the head of each stage.
+// Fuzzes the search in "skinsets.cfg" for a head of the next stage.
 #include "fuzz/fuzz_files.h"
 #include "lifestage/skin_sets.h"
 #include "world/sim.h"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Starts Tidewright in a directory of the user's own, and puts there first what it lacks of the program's data files.
+# Starts Tidewright in a directory of the user's own. First it puts the program's data files there, if they are missing.
 set -u
 originals=/usr/share/tidewright
 
@@ -10,7 +10,7 @@ case $data in
 esac
 own=$data/tidewright
 
-# A copy, for the user to edit. It comes whole or not at all: a piece of it would pass for an edited one ever after.
+# Makes a copy that the user can edit. A copy that breaks off is removed, because it would count as edited from then on.
 bring_skin_sets() {
     [ -e "$own/skinsets.cfg" ] && return
     cp "$originals/skinsets.cfg" "$own/skinsets.cfg.$$" && mv -n "$own/skinsets.cfg.$$" "$own/skinsets.cfg"
@@ -19,7 +19,7 @@ bring_skin_sets() {
     return "$result"
 }
 
-# Links, so that the templates stay those of the installed program. A user's own file in place of one stays too.
+# Makes a link, so that the template is always that of the installed program. A file of the user's own is kept.
 bring_template() {
     [ -e "$own/$1" ] || ln -s "$originals/$1" "$own/$1"
 }
