@@ -1,7 +1,6 @@
-// The compiled resources as bytes within the program, for platforms that keep no resources in programs themselves. The
-// layer looks for them between platformResourcesBegin and platformResourcesEnd. Assembly, because a table of 720,000
-// numbers would take the compiler far longer; the file's path comes from the build. Compiled resources count on an
-// alignment of 4 bytes.
+// Puts the compiled resources into the program, for systems whose programs have no resources of their own. The layer
+// reads them between platformResourcesBegin and platformResourcesEnd. They must be aligned to 4 bytes. The path of the
+// file comes from the build. This is assembly because a table of 720,000 numbers would take the compiler much longer.
 asm(".pushsection .rodata.platformResources, \"a\", @progbits\n"
     ".balign 4\n"
     ".globl platformResourcesBegin\n"
