@@ -69,18 +69,19 @@ Bytes IffBuilder::mapContent() const {
     // The entry of the body strings comes first of all. Readers find it by the bytes 00 C8 00 10: the high byte of its
     // offset, its id and its flags. An earlier offset or label could contain the same bytes by chance.
     std::vector<MapEntry> entries = entries_;
-    std::ranges::stable_partition(entries, isBodyStrings, &MapEntry::header);
+    std::stable_partition(entries.begin(), entries.end(),
+                          [](const MapEntry& entry) { return isBodyStrings(entry.header); });
     // The entries of each type together, the types in the order of their first entries.
     ByteWriter list;
     std::int64_t typeCount = 0;
     while (!entries.empty()) {
         const std::string type = entries.front().header.type;
-        const auto others = std::ranges::stable_partition(
-            entries, [&type](const MapEntry& entry) { return entry.header.type == type; });
-        list.text(std::string(type.rbegin(), type.rend())).u32Le(others.begin() - entries.begin());
-        std::for_each(entries.begin(), others.begin(),
+        const auto others = std::stable_partition(entries.begin(), entries.end(),
+                                                  [&type](const MapEntry& entry) { return entry.header.type == type; });
+        list.text(std::string(type.rbegin(), type.rend())).u32Le(others - entries.begin());
+        std::for_each(entries.begin(), others,
                       [&list](const MapEntry& entry) { writeMapEntry(list, entry.header, entry.offset); });
-        entries.erase(entries.begin(), others.begin());
+        entries.erase(entries.begin(), others);
         ++typeCount;
     }
     return ByteWriter()
