@@ -116,8 +116,7 @@ void addBehaviourChunks(IffBuilder& file) {
 }
 
 void addPictureChunks(IffBuilder& file, const PortraitColors& colors, int relationshipRows) {
-    constexpr int relationshipWidth = 100;
-    static_assert(relationshipWidth * 3 == relationshipRowSize);
+    constexpr int relationshipWidth = relationshipRowSize / 3;  // 3 bytes a pixel
     const PictureRow rows[] = {
         {2002, "faces", 54, 79},        {2003, "rel. images", relationshipWidth, relationshipRows},
         {2004, "thumbnail", 25, 25},    {2005, "speech_med", 16, 16},
