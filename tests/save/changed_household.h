@@ -3,133 +3,118 @@
 #ifndef TESTS_SAVE_CHANGED_HOUSEHOLD_H
 #define TESTS_SAVE_CHANGED_HOUSEHOLD_H
 
+#include <map>
 #include <memory>
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include "tests/save/saved_files.h"
 
-// What one name holds. A neighborhood file always has the new families if it is a new one; it may lack the new records
-// of Sims whose character files couldn't be replaced.
-enum class Holds {
-    nothing,
-    oldFile,
-    newFile,
-    newFileWithoutAnn,
-    newFileWithoutBob,
-    newFileWithoutBoth,
-    someOtherBytes
-};
+// The states of Ann's file, Bob's and the neighborhood's, in this order, such as "old, temporary new, backup old". The
+// live file is "gone", "old", "new" or "other bytes"; a new neighborhood may lack a record, as "new without Ann". Other
+// files that have come, gone or changed follow by name.
+using States = std::vector<std::string>;
 
-inline std::ostream& operator<<(std::ostream& out, Holds holds) {
-    constexpr const char* words[] = {"nothing",
-                                     "the old file",
-                                     "the new file",
-                                     "the new file without Ann",
-                                     "the new file without Bob",
-                                     "the new file without both",
-                                     "some other bytes"};
-    return out << words[static_cast<std::size_t>(holds)];
-}
-
-struct Copies {
-    Holds live = Holds::oldFile;
-    Holds temporary = Holds::nothing;
-    Holds backup = Holds::nothing;
-    bool operator==(const Copies&) const = default;
-};
-
-inline std::ostream& operator<<(std::ostream& out, const Copies& copies) {
-    return out << "live " << copies.live << ", temporary " << copies.temporary << ", backup " << copies.backup;
-}
-
-struct OnDisk {
-    Copies neighborhood, ann, bob;
-    bool operator==(const OnDisk&) const = default;
-};
-
-inline std::ostream& operator<<(std::ostream& out, const OnDisk& disk) {
-    return out << "neighborhood: " << disk.neighborhood << "; Ann: " << disk.ann << "; Bob: " << disk.bob;
-}
+const States nothingSaved = {"old", "old", "old"};
+const States allSaved = {"new, backup old", "new, backup old", "new, backup old"};
 
 class ChangedHousehold : public SaveTest {
  public:
-    // Writes the files, reads them and makes the changes. Ann's old file takes at least `annsFileSize` bytes.
-    void start(std::size_t annsFileSize = 0, bool hasMoveOuts = true) {
-        characters_[0].fileSize = annsFileSize;
-        characters_[0].hasPictures = annsFileSize > 0;
-        SampleNeighborhood content = householdOf(characters_);
-        content.neighbors[0].age = 9;
-        content.neighbors[1].gapByte = 9;  // which isn't written again
-        content.freeRoom = true;
-        content.fileSize = 100'000;
+    // Writes the files, reads them and makes the changes. The neighborhood has the chunks and the map of `shape`.
+    void start(SampleNeighborhood shape = {.freeRoom = true, .fileSize = 40'000}, bool hasMoveOuts = true) {
+        for (const SampleCharacter& sim : characters_)
+            shape.neighbors.push_back({.recordName = sim.recordName});
+        shape.neighbors[0].age = 9;
+        shape.neighbors[1].gapByte = 9;  // which isn't written again
+        shape.families = {{.funds = 90'000, .members = {1, 2, 3, stranger}}, {.number = 3, .members = {}}};
+        shape.families.push_back({.number = 40, .name = "Default"});
         test_.reset();  // it takes the working directory back
-        test_ = std::make_unique<TestNeighborhood>(content, characters_);
+        test_ = std::make_unique<TestNeighborhood>(shape, characters_);
         EXPECT_TRUE(writeDataFiles(files().path()));
         original_ = treeOf(files().path());
-        change(**test_, 0, stageNumber::teen);
-        change(**test_, 1, stageNumber::adult);
+        cut_ = !shape.before.empty() ? 64 : shape.freeRoom ? built().freeRoomOffset : built().mapOffset;
+        nameVersions();
+        change(test_->sim(0), stageNumber::teen);
+        change(test_->sim(1), stageNumber::adult);
         if (!hasMoveOuts) return;
-        moveOut(*test_, 0, 2, "Cleo's", 500);
-        moveOut(*test_, 0, 1, "Bob's", 700);
+        moveOut(*test_, 2, "Cleo's", 500, 0);
+        moveOut(*test_, 1, "Bob's", 700, 0);
+        test_->family(0).setFunds(70'000);
+        test_->family(1).setFunds(1);  // nobody left it, so it stays as the file has it
     }
 
     void saveAt(WORD minute) const { save(*test_, minute); }
 
+    const TestNeighborhood& test() const { return *test_; }
     const TempDirectory& files() const { return test_->files(); }
-    Neighborhood& neighborhood() const { return **test_; }
     const NeighborhoodFile& built() const { return test_->built(); }
     const Tree& original() const { return original_; }
 
-    Bytes newNeighborhood(bool withAnn = true, bool withBob = true) const {
-        Bytes file = built().bytes;
+    // The records of Ann and Bob in a file that may be cut in front of them.
+    void overwriteRecords(Bytes& file, bool withAnn = true, bool withBob = true) const {
         if (withAnn) overwrite(file, built().neighborOffsets[0], savedRecord({}, true));
         if (withBob) overwrite(file, built().neighborOffsets[1], savedRecord({.recordName = "user00002"}, false));
-        overwrite(file, 61, Bytes(3));
-        overwriteFamily(file, built().families[0], 20'000, 1);
-        file.resize(built().freeRoomOffset);
-        const Bytes cleos = newFamilyRecord(2, 500, 3, "Cleo's"), bobs = newFamilyRecord(3, 700, 2, "Bob's");
-        return ByteWriter().bytes(file).bytes(cleos).bytes(bobs).written();
+    }
+
+    // Money and members of the family that was left, in a table that keeps its size.
+    void overwriteFamily(Bytes& file, int funds, const std::vector<std::uint32_t>& members) const {
+        const std::size_t table = built().families[0].memberTable;
+        ByteWriter guids;
+        for (const std::uint32_t member : members)
+            guids.u32Le(member);
+        overwrite(file, table - 20, u32(funds));
+        overwrite(file, table - 4, u16(static_cast<int>(members.size())));
+        overwrite(file, table, guids.fillTo(16).written());
     }
 
     // What the names of a save at seven minutes past two hold.
-    OnDisk onDisk() const {
-        const Tree tree = treeOf(files().path());
-        const std::map<Bytes, Holds> neighborhoods = {{newNeighborhood(), Holds::newFile},
-                                                      {newNeighborhood(false, true), Holds::newFileWithoutAnn},
-                                                      {newNeighborhood(true, false), Holds::newFileWithoutBob},
-                                                      {newNeighborhood(false, false), Holds::newFileWithoutBoth}};
-        return {copiesOf(tree, "UserData/", "neighborhood", ".147", neighborhoods),
-                copiesOf(tree, characters, "user00001", "", {{savedCharacter(characters_[0]), Holds::newFile}}),
-                copiesOf(tree, characters, "user00002", "", {{savedCharacter(characters_[1]), Holds::newFile}})};
+    States states() const {
+        Tree before = original_, now = treeOf(files().path());
+        States states;
+        for (const auto& [file, versions] : versions_) {
+            const std::string directory = file.substr(0, file.rfind('/') + 1), name = file.substr(directory.size());
+            const std::string date = file == live ? ".200235.147" : ".200235";
+            std::string state = now.contains(file) ? "" : "gone";
+            for (const auto& [what, copy] :
+                 {std::pair("", file),
+                  {", temporary ", directory + "TMP" + name},
+                  {", backup ", directory + "Backups/" + name.substr(0, name.rfind('.')) + date + ".iff"}}) {
+                before.erase(copy);
+                if (!now.contains(copy)) continue;
+                const auto version = versions.find(now.extract(copy).mapped());
+                state += what + (version != versions.end() ? version->second : "other bytes");
+            }
+            states.push_back(state);
+        }
+        const std::string others = differences(before, now);
+        if (!others.empty()) states.push_back(others);
+        return states;
     }
 
-    // The names of all other files that have come, gone or changed.
-    std::string otherChanges() const {
-        Tree before = original_, now = treeOf(files().path());
-        for (Tree* tree : {&before, &now}) {
-            for (const std::string& name : namesOfASave_)
-                tree->erase(name);
-        }
-        return differences(before, now);
-    }
+    static constexpr std::uint32_t stranger = 0x44434241;  // a member without a record
 
  private:
-    static constexpr const char* characters = "UserData/Characters/";
+    void nameVersions() {
+        versions_.clear();
+        for (const SampleCharacter& sim : {characters_[0], characters_[1]}) {
+            const std::string file = TestNeighborhood::characterFile(sim.recordName);
+            versions_[file] = {{original_.at(file), "old"}, {savedCharacter(sim), "new"}};
+        }
+        versions_[live] = {{original_.at(live), "old"}};
+        versions_[live].emplace(newNeighborhood(true, true), "new");
+        versions_[live].emplace(newNeighborhood(false, true), "new without Ann");
+        versions_[live].emplace(newNeighborhood(true, false), "new without Bob");
+        versions_[live].emplace(newNeighborhood(false, false), "new without both");
+    }
 
-    Copies copiesOf(const Tree& tree, const std::string& directory, const std::string& name, const std::string& minute,
-                    const std::map<Bytes, Holds>& newFiles) const {
-        const std::string liveFile = directory + name + ".iff";
-        const auto holds = [&](const std::string& file) {
-            namesOfASave_.push_back(file);
-            if (!tree.contains(file)) return Holds::nothing;
-            if (tree.at(file) == original_.at(liveFile)) return Holds::oldFile;
-            const auto found = newFiles.find(tree.at(file));
-            return found != newFiles.end() ? found->second : Holds::someOtherBytes;
-        };
-        return {holds(liveFile), holds(directory + "TMP" + name + ".iff"),
-                holds(directory + "Backups/" + name + ".200235" + minute + ".iff")};
+    Bytes newNeighborhood(bool withAnn, bool withBob) const {
+        Bytes file = built().bytes;
+        overwriteRecords(file, withAnn, withBob);
+        overwriteFamily(file, 70'000, {1, stranger});
+        overwrite(file, 61, Bytes(3));
+        if (cut_ > 0) file.resize(cut_);
+        const Bytes cleos = newFamilyRecord(41, 500, 3, "Cleo's"), bobs = newFamilyRecord(42, 700, 2, "Bob's");
+        return ByteWriter().bytes(file).bytes(cleos).bytes(bobs).written();
     }
 
     std::vector<SampleCharacter> characters_ = {
@@ -137,8 +122,9 @@ class ChangedHousehold : public SaveTest {
         {.recordName = "user00002", .name = "Bob", .guid = 2, .ending = BodyEnding::atEntry33, .hasPictures = false},
         {.recordName = "user00003", .name = "Cleo", .guid = 3, .hasPictures = false}};
     std::unique_ptr<TestNeighborhood> test_;
+    std::size_t cut_ = 0;  // where new families stand; 0 for the end
     Tree original_;
-    mutable std::vector<std::string> namesOfASave_;
+    std::map<std::string, std::map<Bytes, std::string>> versions_;  // by the live file's name
 };
 
 #endif

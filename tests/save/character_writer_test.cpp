@@ -6,54 +6,54 @@ namespace {
 
 using CharacterWriterTest = SaveTest;
 
-TEST_F(CharacterWriterTest, EachChangedSimIsWrittenByteForByteAndNothingElse) {
-    const struct {
-        std::string what, name;
-        BodySlots slots;
-        int version, kind;
-        bool teen, cut = false;
-    } rows[] = {{"a boy", "Betty", childSlots(BodySex::male), 7, 0, true},
-                {"no name", "", adultSlots(), 7, 1, true},
-                {"the longest name", std::string(63, 'n'), teenSlots(), 8, 1, false},
-                {"a longer name", std::string(64, 'n'), adultSlots(), 7, 1, false},
-                {"the base game's text", "Mo", adultSlots(), 6, 1, false},
-                {"a text that is cut", "Mo", adultSlots(), 7, 1, false, true},
-                {"a dog", "Mo", petSlots(), 7, 5, false}};
-    SampleNeighborhood content{.neighbors = {{.recordName = "robot"}}, .families = {{.members = {sampleGuid}}}};
-    std::vector<SampleCharacter> characters;
-    for (const auto& row : rows) {
-        const auto i = static_cast<std::uint32_t>(characters.size());
-        SampleCharacter character{.name = row.name, .guid = sampleGuid + i, .slots = row.slots};
-        character.recordName = "user0000" + std::to_string(i);
-        character.tag = row.teen ? "child" : "adult";
-        character.ending = BodyEnding::atEntry33;
-        if (row.cut) character.slots.fill(std::string(25, 'x'));  // together longer than the text's room
-        characters.push_back(character);
-        SampleNeighbor record{.age = row.teen ? 9 : 27, .skinTone = 3, .wordA = 0x1234, .wordB = -2, .gapByte = 0xEE};
-        std::iota(record.personValues.begin(), record.personValues.end(), 0x1000);
-        record.recordName = character.recordName;
-        record.version = row.version;
-        record.kind = row.kind;
-        record.tailWords = {0x0102, 0x0304, 0x0506, -1};
-        content.neighbors.push_back(record);
-    }
-    content.neighbors.push_back({.recordName = "user00099", .gapByte = 0xEE});  // stays as it is
-    TestNeighborhood test(content, characters);
-    EXPECT_TRUE(writeDataFiles(test.files().path()));
+// No two fields alike, and bytes between them that aren't written again.
+SampleNeighbor recordOf(int version, int age, int kind) {
+    SampleNeighbor record{.version = version, .age = age, .skinTone = 3, .wordA = 0x1234, .wordB = -2};
+    std::iota(record.personValues.begin(), record.personValues.end(), 0x1000);
+    record.kind = kind;
+    record.tailWords = {0x0102, 0x0304, 0x0506, -1};
+    record.gapByte = 0xEE;
+    return record;
+}
 
-    Tree expected = treeOf(test.files().path());
-    expected[backup] = expected[live];
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        Bytes record = savedRecord(content.neighbors[i + 1], rows[i].teen);
-        if (rows[i].kind >= 2) overwrite(record, 156, ByteWriter().u16Le(rows[i].kind).u8(0xEE).u8(0xEE).written());
-        overwrite(expected[live], test.built().neighborOffsets[i + 1], record);
-        Bytes& file = expected[test.characterFile(characters[i].recordName)];
-        expected["UserData/Characters/Backups/" + characters[i].recordName + ".200235.iff"] = file;
-        file = savedCharacter(characters[i], rows[i].version);
-        change(*test, static_cast<int>(i), rows[i].teen ? stageNumber::teen : stageNumber::adult);
+TEST_F(CharacterWriterTest, AChangedSimIsWrittenByteForByteAndNothingElse) {
+    BodySlots longSlots;
+    longSlots.fill(std::string(25, 'x'));
+    const struct {
+        const char* what;
+        SampleNeighbor record;
+        SampleCharacter sim;
+        bool teen = false;
+    } rows[] = {
+        {"a boy", recordOf(7, 9, 0), {.name = "Betty", .tag = "child", .slots = childSlots(BodySex::male)}, true},
+        {"no name", recordOf(7, 9, 1), {.name = ""}, true},
+        {"the longest name", recordOf(8, 27, 1), {.name = std::string(63, 'n'), .slots = teenSlots()}},
+        {"a longer name", recordOf(7, 27, 1), {.name = std::string(64, 'n')}},
+        {"the base game's text", recordOf(6, 27, 1), {}},
+        {"a text that is longer than its room", recordOf(-1, 27, 1), {.slots = longSlots}},
+        {"a dog", recordOf(7, 27, 5), {.slots = petSlots()}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        SampleCharacter sim = row.sim;
+        sim.ending = BodyEnding::atEntry33;  // the text with all 50 slots
+        const SampleNeighbor unchanged{.recordName = "user00099", .gapByte = 0xEE};
+        const SampleNeighborhood content{.neighbors = {{.recordName = "robot"}, row.record, unchanged},
+                                         .families = {{}}};
+        const TestNeighborhood test(content, {sim});
+        EXPECT_TRUE(writeDataFiles(test.files().path()));
+
+        Tree expected = treeOf(test.files().path());
+        expected[backup] = expected[live];
+        Bytes record = savedRecord(row.record, row.teen);
+        if (row.record.kind == 5) overwrite(record, 156, {5, 0, 0xEE, 0xEE});
+        overwrite(expected[live], test.built().neighborOffsets[1], record);
+        const std::string file = TestNeighborhood::characterFile("user00001");
+        expected["UserData/Characters/Backups/user00001.200235.iff"] = expected[file];
+        expected[file] = savedCharacter(sim, row.record.version);
+        change(test.sim(0), row.teen ? stageNumber::teen : stageNumber::adult);
+        save(test);
+        EXPECT_EQ(differences(expected, treeOf(test.files().path())), "");
     }
-    save(test);
-    EXPECT_EQ(differences(expected, treeOf(test.files().path())), "");
 }
 
 }  // namespace

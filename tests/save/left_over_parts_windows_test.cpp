@@ -15,7 +15,7 @@ TEST_F(LeftOverPartsWindowsTest, ASaveDeletesThoseOfEndedProcessesButNotARunning
     files.write("UserData/Characters/~part2.tmp", "being written");
     HANDLE const writer = CreateFileA(files.path("UserData/Characters/~part2.tmp").c_str(), GENERIC_WRITE, 0, nullptr,
                                       OPEN_EXISTING, 0, nullptr);
-    moveOut(test, 0, 0, "Mills", 20'000);  // no file of a Sim changes
+    moveOut(test, 0, "Mills", 20'000, 0);  // no file of a Sim changes
     const Tree before = treeOf(files.path());
     save(test);
     EXPECT_EQ(differences(before, treeOf(files.path())),

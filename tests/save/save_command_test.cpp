@@ -18,7 +18,7 @@ TEST_F(SaveCommandTest, SavesEachListedNeighborhoodThatHasChanged) {
     loadNeighborhoods((files.path() + "\\").c_str(), files.path().c_str());
     ASSERT_EQ(listedNeighborhoodCount(), 5);
     for (const std::size_t slot : {0, 2, 4})
-        change(*neighborhoods[slot], 0, stageNumber::teen);
+        change(*neighborhoods[slot]->sim(0), stageNumber::teen);
     files.remove("UserData");  // doesn't stop the next, and nothing of it may be written anywhere else
     neighborhoods[3].reset();  // ends the list, so the fifth isn't saved
 

@@ -1,100 +1,94 @@
 // What is on the disk when a step of a save fails, and what the next save makes of it.
-#include <optional>
-
 #include "tests/save/changed_household.h"
-#include "tests/support/machine.h"
 
 namespace {
 
-using enum Holds;
-
-class SaveFailuresTest : public ChangedHousehold {
- public:
-    // Puts the obstacle of a row out of the way again.
-    void mend(const std::string& name) const {
-        if (files().exists(name)) files().remove(name);
-        if (original().contains(name)) files().write(name, original().at(name));
-    }
-
-    void linkTo(const std::string& file, const std::string& link) const {
-        std::filesystem::create_hard_link(files().path(file), files().path(link));
-    }
-};
-
-constexpr Copies untouched = {oldFile, nothing, nothing};
-constexpr Copies saved = {newFile, nothing, oldFile};
-constexpr OnDisk nothingSaved = {untouched, untouched, untouched};
-constexpr OnDisk partOfTheTemporaryFile = {{oldFile, someOtherBytes, nothing}, untouched, untouched};
-constexpr OnDisk allSaved = {saved, saved, saved};
+using SaveFailuresTest = ChangedHousehold;
 
 TEST_F(SaveFailuresTest, EachStepLeavesWhatItMust) {
-    const std::string none = "no such file";
-    enum Obstacle { missing, directory, fileOf55142Bytes, fullDisk };
+    const std::string annsFile = TestNeighborhood::characterFile("user00001");
+    const std::string annsTemporary = TestNeighborhood::characterFile("TMPuser00001");
+    // The last two are the sizes of the file: all that is patched in a template, and a byte less.
+    enum Obstacle { nothing, aDirectory, aLinkToTheLiveFile, aShortFile = 55'142, theShortestTemplate = 55'143 };
     const struct {
         const char* what;
         Obstacle obstacle;
-        std::string where;  // the name that the obstacle takes; none on a full disk
-        OnDisk after, afterTheNext;
-        std::size_t room = 0;  // that each file has on a full disk
+        std::string name;  // that the obstacle takes
+        States after, afterTheNext;
     } rows[] = {
-        {"no live file", missing, live, {{nothing, nothing, nothing}, untouched, untouched}, allSaved},
-        {"no way to make the temporary file", directory, "UserData/TMPneighborhood.iff", nothingSaved, allSaved},
-        {"no room for the temporary file", fullDisk, none, partOfTheTemporaryFile, allSaved, 600},
-        {"no famtemplate", missing, "famtemplate", partOfTheTemporaryFile, allSaved},
-        {"a famtemplate of another size", fileOf55142Bytes, "famtemplate", partOfTheTemporaryFile, allSaved},
-        {"no Template.iff",
-         missing,
-         "Template.iff",
-         {{newFileWithoutBoth, nothing, oldFile}, untouched, untouched},
-         {{newFile, nothing, newFileWithoutBoth}, saved, saved}},
+        {"no live file", nothing, live, {"old", "old", "gone"}, allSaved},
+        {"no way to make the temporary file", aDirectory, "UserData/TMPneighborhood.iff", nothingSaved, allSaved},
+        {"no famtemplate",
+         nothing,
+         "famtemplate",
+         {"old", "old", "old, temporary other bytes", "famtemplate\n"},
+         allSaved},
+        {"a famtemplate of another size",
+         aShortFile,
+         "famtemplate",
+         {"old", "old", "old, temporary other bytes", "famtemplate\n"},
+         allSaved},
         {"a Template.iff that lacks a byte",
-         fileOf55142Bytes,
+         aShortFile,
          "Template.iff",
-         {{newFileWithoutBoth, nothing, oldFile}, untouched, untouched},
-         {{newFile, nothing, newFileWithoutBoth}, saved, saved}},
+         {"old", "old", "new without both, backup old", "Template.iff\n"},
+         {"new, backup old", "new, backup old", "new, backup new without both"}},
+        {"a Template.iff that lacks nothing",
+         theShortestTemplate,
+         "Template.iff",
+         {"other bytes, backup old", "other bytes, backup old", "new, backup old", "Template.iff\n"},
+         {"other bytes, backup old", "other bytes, backup old", "new, backup old"}},
         {"no way to make Ann's temporary file",
-         directory,
-         "UserData/Characters/TMPuser00001.iff",
-         {{newFileWithoutAnn, nothing, oldFile}, untouched, saved},
-         {{newFile, nothing, newFileWithoutAnn}, saved, saved}},
+         aDirectory,
+         annsTemporary,
+         {"old", "new, backup old", "new without Ann, backup old"},
+         {"new, backup old", "new, backup old", "new, backup new without Ann"}},
         // Her new file waits under its temporary name, and no later save of this run tries again.
         {"no way to install Ann's file",
-         directory,
-         "UserData/Characters/user00001.iff",
-         {{newFileWithoutAnn, nothing, oldFile}, {nothing, newFile, nothing}, saved},
-         {{newFileWithoutAnn, nothing, newFileWithoutAnn}, {oldFile, newFile, nothing}, saved}},
-        {"no room for Ann's backup",
-         fullDisk,
-         none,
-         {saved, {newFile, nothing, nothing}, saved},
-         {saved, {newFile, nothing, nothing}, saved},
-         120'000},
+         aDirectory,
+         annsFile,
+         {"gone, temporary new", "new, backup old", "new without Ann, backup old"},
+         {"old, temporary new", "new, backup old", "new without Ann, backup new without Ann"}},
         {"no directory for the characters' backups",
-         fileOf55142Bytes,
+         aShortFile,
          "UserData/Characters/Backups",
-         {saved, {newFile, nothing, nothing}, {newFile, nothing, nothing}},
-         {saved, {newFile, nothing, nothing}, {newFile, nothing, nothing}}},
+         {"new", "new", "new, backup old", "UserData/Characters/Backups\n"},
+         {"new", "new", "new, backup old"}},
         {"no way to back the neighborhood up",
-         directory,
+         aDirectory,
          backup,
-         {{newFile, nothing, nothing}, saved, saved},
-         {{newFile, nothing, nothing}, saved, saved}}};
+         {"new, backup old", "new, backup old", "new"},
+         {"new, backup old", "new, backup old", "new"}},
+        {"a temporary name that leads to the live file",
+         aLinkToTheLiveFile,
+         "UserData/TMPneighborhood.iff",
+         {"old", "old", "old, temporary old"},
+         allSaved},
+        {"a temporary name that leads to Ann's file",
+         aLinkToTheLiveFile,
+         annsTemporary,
+         {"old, temporary old", "new, backup old", "new without Ann, backup old"},
+         {"new, backup old", "new, backup old", "new, backup new without Ann"}},
+        {"a backup's name that leads to the live file",
+         aLinkToTheLiveFile,
+         backup,
+         allSaved,
+         {"new, backup old", "new, backup old", "new"}}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        start(200'000);
-        if (files().exists(row.where)) files().remove(row.where);
-        if (row.obstacle == directory) files().makeDirectory(row.where);
-        if (row.obstacle == fileOf55142Bytes) files().write(row.where, Bytes(55'142));
-        std::optional<FullDisk> disk;
-        if (row.obstacle == fullDisk) disk.emplace(row.room);
+        start();
+        const bool existed = files().exists(row.name);
+        if (existed) files().remove(row.name);
+        if (row.obstacle == aDirectory) files().makeDirectory(row.name);
+        if (row.obstacle == aLinkToTheLiveFile) files().link(row.name, row.name == annsTemporary ? annsFile : live);
+        if (row.obstacle > aLinkToTheLiveFile) files().write(row.name, Bytes(row.obstacle));
         saveAt(7);
-        EXPECT_EQ(onDisk(), row.after);
+        EXPECT_EQ(states(), row.after);
 
-        disk.reset();
-        mend(row.where);
+        if (files().exists(row.name)) files().remove(row.name);
+        if (existed) files().write(row.name, original().at(row.name));
         saveAt(7);
-        EXPECT_EQ(onDisk(), row.afterTheNext);
-        EXPECT_EQ(otherChanges(), "");
+        EXPECT_EQ(states(), row.afterTheNext);
     }
 }
 
@@ -114,69 +108,21 @@ TEST_F(SaveFailuresTest, ALiveFileThatIsNotTheOneReadIsLeftAlone) {
         files().write(live, changed);
         saveAt(7);
         EXPECT_EQ(files().bytesOf(live), changed);
-        EXPECT_EQ(onDisk(), (OnDisk{{someOtherBytes, nothing, nothing}, untouched, untouched}));
-
-        mend(live);
+        EXPECT_EQ(states(), (States{"old", "old", "other bytes"}));
+        files().write(live, original().at(live));
         saveAt(7);
-        EXPECT_EQ(onDisk(), allSaved);
+        EXPECT_EQ(states(), allSaved);
     }
 }
 
 TEST_F(SaveFailuresTest, AChangedFreeChunkMattersOnlyToNewFamilies) {
-    start(0, false);
+    start({.freeRoom = true}, false);
     Bytes changed = built().bytes;
     overwrite(changed, built().freeRoomOffset, u16(9));
     files().write(live, changed);
     saveAt(7);
-    overwrite(changed, built().neighborOffsets[0], savedRecord({}, true));
-    overwrite(changed, built().neighborOffsets[1], savedRecord({.recordName = "user00002"}, false));
+    overwriteRecords(changed);
     EXPECT_EQ(files().bytesOf(live), changed);
-}
-
-TEST_F(SaveFailuresTest, ATemplateMayEndWithTheLastPatchedByte) {
-    start();
-    Bytes shortest = original().at("Template.iff");
-    shortest.resize(55'143);
-    files().write("Template.iff", shortest);
-    saveAt(7);
-    EXPECT_EQ(onDisk().neighborhood, saved);
-    EXPECT_EQ(files().bytesOf("UserData/Characters/user00001.iff").size(), shortest.size());
-}
-
-TEST_F(SaveFailuresTest, AFullTableOfFamiliesTakesNoNewOne) {
-    const std::vector<SampleCharacter> ann = {{.hasPictures = false}};
-    SampleNeighborhood content = householdOf(ann);
-    while (content.families.size() < 100)
-        content.families.push_back({.number = 2, .members = {}});
-    const TestNeighborhood test(content, ann);
-    ASSERT_TRUE(writeDataFiles(test.files().path()));
-    const Family* const last = &test.family(99);
-    moveOut(test, 0, 0, "Ann's", 500);
-    save(test);
-    EXPECT_FALSE(test->isDirty());
-    EXPECT_EQ(test->familyCount(), 100);
-    EXPECT_EQ(&test.family(99), last);
-    EXPECT_EQ(test->simCount(), 1);
-}
-
-TEST_F(SaveFailuresTest, ALinkToALiveFileNeverCostsItsBytes) {
-    start();
-    files().makeDirectory("UserData/Backups");
-    const std::string annsTemporary = "UserData/Characters/TMPuser00001.iff";
-    linkTo(live, "UserData/TMPneighborhood.iff");
-    linkTo(live, backup);
-    linkTo("UserData/Characters/user00001.iff", annsTemporary);
-    saveAt(7);
-    EXPECT_EQ(onDisk(), (OnDisk{{oldFile, oldFile, oldFile}, {oldFile, oldFile, nothing}, untouched}));
-    EXPECT_TRUE(neighborhood().isDirty());
-
-    files().remove("UserData/TMPneighborhood.iff");
-    saveAt(7);
-    EXPECT_EQ(onDisk(), (OnDisk{{newFileWithoutAnn, nothing, oldFile}, {oldFile, oldFile, nothing}, saved}));
-
-    files().remove(annsTemporary);
-    saveAt(8);
-    EXPECT_EQ(onDisk(), allSaved);
 }
 
 }  // namespace

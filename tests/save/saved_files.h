@@ -1,5 +1,5 @@
-// What a save is expected to leave: the files and records that it writes, put together from the samples' own builders
-// and from offsets counted in the formats.
+// What a save is expected to leave: the files and records that it writes, put together by the sample's own builders and
+// from offsets counted in the formats.
 #ifndef TESTS_SAVE_SAVED_FILES_H
 #define TESTS_SAVE_SAVED_FILES_H
 
@@ -23,19 +23,24 @@ class SaveTest : public testing::Test {
         test->save(test->toolDirectory());
     }
 
-    static void change(const Neighborhood& neighborhood, int sim, int stage) {
-        ASSERT_NE(neighborhood.sim(sim)->bodyStrings(), nullptr);
-        neighborhood.sim(sim)->guid();  // the window has asked for these
-        neighborhood.sim(sim)->name();
-        EXPECT_EQ(neighborhood.sim(sim)->setStage(stage, nullptr), 1);
+    // Changes the stage as the window does: it has asked for the GUID, the name and the body before.
+    static void change(Sim& sim, int stage) {
+        sim.guid();
+        sim.name();
+        ASSERT_NE(sim.bodyStrings(), nullptr);
+        EXPECT_EQ(sim.setStage(stage, nullptr), 1);
     }
 
-    static void moveOut(const TestNeighborhood& test, int family, int sim, const std::string& name, int funds) {
+    // Into a family of its own, out of `family`, if that is given.
+    static void moveOut(const TestNeighborhood& test, int sim, const std::string& name, int funds, int family = -1) {
         auto moved = std::make_unique<Family>(*test);
         moved->setName(name.c_str());
         moved->setFunds(funds);
-        ASSERT_GT(test.family(family).memberCount(), 0);  // which makes the members known
-        EXPECT_EQ(test.family(family).removeMember(test.sim(sim)), 1);
+        test.sim(sim).guid();
+        if (family >= 0) {
+            ASSERT_GT(test.family(family).memberCount(), 0);
+            EXPECT_EQ(test.family(family).removeMember(test.sim(sim)), 1);
+        }
         EXPECT_EQ(moved->addMember(test.sim(sim)), 1);
         EXPECT_EQ(test->addNewFamily(std::move(moved)), 1);
     }
@@ -78,14 +83,6 @@ class SaveTest : public testing::Test {
         overwrite(record, 116, u32(member));
         overwrite(record, 205, ByteWriter().text(name.substr(0, 24)).u8(0).u8(0).u8(0xA3).fillTo(24).written());
         return record;
-    }
-
-    // Money and members of a family of which one member is left.
-    static void overwriteFamily(Bytes& file, const FamilyOffsets& family, int funds, std::uint32_t member) {
-        overwrite(file, family.memberTable - 20, u32(funds));
-        overwrite(file, family.memberTable - 4, u16(1));
-        overwrite(file, family.memberTable, Bytes(family.memberTableEnd - family.memberTable));
-        overwrite(file, family.memberTable, u32(member));
     }
 
     static constexpr const char* live = "UserData/neighborhood.iff";

@@ -48,6 +48,11 @@ class TempDirectory {
     void makeDirectory(const std::string& name) const {
         EXPECT_TRUE(std::filesystem::create_directories(path_ / name)) << name;
     }
+    // The second name of a file. Makes the directories on the way.
+    void link(const std::string& name, const std::string& file) const {
+        std::filesystem::create_directories((path_ / name).parent_path());
+        std::filesystem::create_hard_link(path_ / file, path_ / name);
+    }
     void remove(const std::string& name) const { EXPECT_NE(std::filesystem::remove_all(path_ / name), 0U) << name; }
     Bytes bytesOf(const std::string& name) const {
         std::ifstream file(path_ / name, std::ios::binary);
