@@ -1,4 +1,4 @@
-// Child to Teen and Teen to Adult, on Sims whose files stand on the disk.
+// Child to Teen and Teen to Adult, on Sims whose files are on the disk.
 #include <gtest/gtest.h>
 
 #include "lifestage/child_to_teen.h"
@@ -6,7 +6,7 @@
 #include "lifestage/stage_template.h"
 #include "lifestage/teen_to_adult.h"
 #include "sample/wine_prefix.h"
-#include "tests/support/body_slots.h"
+#include "tests/lifestage/body_slots.h"
 #include "tests/support/machine.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
@@ -19,20 +19,21 @@ struct Person {
     const char* head = "c001fclgt_amanda01";
 };
 
-SampleCharacter characterOf(const Person& person) {
-    SampleCharacter character{.tag = person.age == 9 ? "child" : "adult",
-                              .slots = person.age == 9 ? childSlots() : teenSlots(),
-                              .ending = person.ending};
-    setHead(character.slots, "oldMesh", person.head);
-    return character;
-}
-
 // One Sim in a family of its own, every person value but the body skill set to 7.
 class OneSim : public TestNeighborhood {
  public:
     explicit OneSim(const Person& person) : TestNeighborhood(contentOf(person), {characterOf(person)}) {
         family().memberCount();
+        makeWinePrefix(files().path("prefix"));
+        installGame(files().path("prefix"));
         files().write("skinsets.cfg", "[a]\nCHILD=C001fclgt_Amanda01;\nTEENAGER=teenSkin;teenMesh,HEAD-HEAD\n");
+    }
+
+    static SampleCharacter characterOf(const Person& person) {
+        SampleCharacter character{.tag = person.age == 9 ? "child" : "adult", .ending = person.ending};
+        character.slots = person.age == 9 ? childSlots() : teenSlots();
+        setHead(character.slots, "oldMesh", person.head);
+        return character;
     }
 
     static SampleNeighborhood contentOf(const Person& person) {
@@ -43,8 +44,10 @@ class OneSim : public TestNeighborhood {
         return {.neighbors = {neighbor}, .families = {{}}};
     }
 
-    std::string slots() const { return slotsOf(*sim(0).bodyStrings()); }
+    const BodyStrings& body() const { return *sim(0).bodyStrings(); }
     bool marked() const { return sim(0).characterDirty() && sim(0).recordDirty(); }
+
+    const std::filesystem::path expansion = gameDirectory(files().path("prefix")) / "ExpansionPack4";
 
     std::string personValues() const {
         std::string values;
@@ -55,33 +58,38 @@ class OneSim : public TestNeighborhood {
 };
 
 TEST(ChildToTeenTest, DressesTheTeen) {
-    // "$" stands for the letter of the sex.
-    const std::string middle = " teenMesh,HEAD-HEAD teenSkin" + anchorSlots;
-    const std::string night = " 18 ~ nuTNR_01,BODY n$TNR~_01 nuTNR_01,BODY u$TNR~";
-    const std::string behind =
-        handSlots + "f$TNR_01,BODY f$TNR~_01" + formalHandSlots + replaced(outfitSlots, "#", "$aTNR");
+    const auto girl = [](const std::string& lastOutfit) {
+        return wholeBody(
+            "b609faTNR_01,BODY b609faTNRmed_gma1 teenMesh,HEAD-HEAD teenSkin", "female 18", "med",
+            "nuTNR_01,BODY nfTNRmed_01 nuTNR_01,BODY ufTNRmed_undies01", "ffTNR_01,BODY ffTNRmed_01",
+            outfit("F100faTNR", "med") + outfit("S100faTNR", "med") + outfit("L100faTNR", "med") + lastOutfit);
+    };
+    const std::string boy =
+        wholeBody("b614maTNR_01,BODY b614maTNRdrk_hip01 teenMesh,HEAD-HEAD teenSkin", "male 18", "drk",
+                  "nuTNR_01,BODY nmTNRdrk_01 nuTNR_01,BODY umTNRdrk_briefs01", "fmTNR_01,BODY fmTNRdrk_01",
+                  outfit("F100maTNR", "drk") + outfit("S100maTNR", "drk") + outfit("L100maTNR", "drk") +
+                      outfit("W100maTNR", "drk"));
+    enum Expansion { none, aFile, aDirectory };
     const struct {
+        const char* what;
         int kind, tone;
-        bool expansion;
-        const char *sex, *word;
+        Expansion expansion;
         std::string slots;
     } rows[] = {
-        {1, 3, false, "f", "med",
-         "b609faTNR_01,BODY b609faTNR~_gma1" + middle + "female" + night + "_undies01" + behind + "- -"},
-        {0, 2, true, "m", "drk",
-         "b614maTNR_01,BODY b614maTNR~_hip01" + middle + "male" + night + "_briefs01" + behind +
-             "W100maTNR_original,BODY W100maTNR~_original"},
+        {"a girl without the expansion", 1, 3, none, girl(" - -")},
+        {"a file of the expansion's name", 1, 3, aFile, girl(" - -")},
+        {"a girl", 1, 3, aDirectory, girl(outfit("W100faTNR", "med"))},
+        {"a boy", 0, 2, aDirectory, boy},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.sex);
+        SCOPED_TRACE(row.what);
         OneSim sim({.kind = row.kind, .tone = row.tone});
-        makeWinePrefix(sim.files().path("prefix"));
-        installGame(sim.files().path("prefix"));
-        if (!row.expansion) std::filesystem::remove_all(gameDirectory(sim.files().path("prefix")) / "ExpansionPack4");
+        if (row.expansion != aDirectory) std::filesystem::remove_all(sim.expansion);
+        if (row.expansion == aFile) writeFile(sim.expansion, "");
 
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything
         EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
-        EXPECT_EQ(sim.slots(), replaced(replaced(row.slots, "~", row.word), "$", row.sex));
+        EXPECT_EQ(slotsOf(sim.body()), row.slots);
         EXPECT_EQ(sim.sim(0).stage(), 5);
         EXPECT_EQ(sim.sim(0).age(), 18);
         EXPECT_TRUE(sim.sim(0).characterTag());
@@ -89,6 +97,13 @@ TEST(ChildToTeenTest, DressesTheTeen) {
         EXPECT_EQ(sim.personValues(), "7 7 7 7 7 7 7 7 0 0 0 7 7 0 7 0 0 7 7 7 7 7 7 7 7 7 7 4 0 ");
         EXPECT_EQ(childToTeen(&sim.sim(0)), -1) << "a teen stays one";
     }
+}
+
+TEST(ChildToTeenTest, AProtectedExpansionIsNone) {
+    const OneSim sim({});
+    std::filesystem::permissions(sim.expansion, std::filesystem::perms(0500));
+    EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
+    EXPECT_STREQ(sim.body().slot(bodySlot::w100Mesh), "");
 }
 
 TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
@@ -113,22 +128,30 @@ TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
 }
 
 TEST(StageOperationsTest, AskAboutAHeadThatNoSetHolds) {
-    for (const bool toTeen : {true, false}) {
-        for (const int answer : {IDOK, IDCANCEL}) {
-            SCOPED_TRACE(std::to_string(toTeen) + ", answer " + std::to_string(answer));
-            const std::string grown = toTeen ? "teen" : "adult", before = toTeen ? "child" : "teen";
-            OneSim sim({.age = toTeen ? 9 : 18, .kind = toTeen ? 1 : 0, .head = "stray"});
-            if (toTeen) sim.files().remove("skinsets.cfg");
-            const AnsweredBox box = answerNextBox(answer);
-            EXPECT_EQ(toTeen ? childToTeen(&sim.sim(0)) : teenToAdult(&sim.sim(0)), answer == IDOK ? 1 : 0);
-            EXPECT_EQ(box->title + ": " + box->text, "Proceed?: No " + grown + " head is registered for this " +
-                                                         before + " head.  If you proceed, your " + grown +
-                                                         " will have a random head assigned by the game.  Proceed?");
-            const char* expected = answer == IDCANCEL ? "stray" : toTeen ? "c012falgt_asian" : "c007malgt_alt";
-            EXPECT_STREQ(sim.sim(0).bodyStrings()->headSkin(), expected);
-            EXPECT_EQ(sim.marked(), answer == IDOK);
-            EXPECT_EQ(sim.family().adultCount(), answer == IDOK && !toTeen ? 1 : 0);
-        }
+    const struct {
+        Person person;
+        std::int32_t (*operation)(Sim*);
+        int answer, result;
+        const char *head, *before, *grown;
+        int adults;
+    } rows[] = {
+        {{.head = "stray"}, childToTeen, IDOK, 1, "c012falgt_asian", "child", "teen", 0},
+        {{.head = "stray"}, childToTeen, IDCANCEL, 0, "stray", "child", "teen", 0},
+        {{.age = 18, .kind = 0, .head = "stray"}, teenToAdult, IDOK, 1, "c007malgt_alt", "teen", "adult", 1},
+        {{.age = 18, .kind = 0, .head = "stray"}, teenToAdult, IDCANCEL, 0, "stray", "teen", "adult", 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.before << ", answer " << row.answer);
+        OneSim sim(row.person);
+        const AnsweredBox box = answerNextBox(row.answer);
+        EXPECT_EQ(row.operation(&sim.sim(0)), row.result);
+        const std::string grown = row.grown;
+        EXPECT_EQ(box->title + ": " + box->text, "Proceed?: No " + grown + " head is registered for this " +
+                                                     row.before + " head.  If you proceed, your " + grown +
+                                                     " will have a random head assigned by the game.  Proceed?");
+        EXPECT_STREQ(sim.body().headSkin(), row.head);
+        EXPECT_EQ(sim.marked(), row.result == 1);
+        EXPECT_EQ(sim.family().adultCount(), row.adults);
     }
 }
 
@@ -150,9 +173,11 @@ TEST(TeenToAdultTest, DrawsTheBodyBeforeTheHeadForAnyVersion) {
     EXPECT_EQ(sim.sim(0).age(), 27);
     EXPECT_EQ(sim.family().adultCount(), 1);
     EXPECT_TRUE(sim.marked());
-    const BodyStrings fit(1, 27, 1, 6, 2);  // 7719 is drawn for the body, then 21238 for the head
-    EXPECT_EQ(sim.slots(), replaced(slotsOf(fit), "c012fa_gma2,HEAD-HEAD c012falgt_asian", "m 3"));
-    EXPECT_EQ(sim.sim(0).bodyStrings()->version(), 6);
+    BodyStrings fit(1, 27, 1, 6, bodyType::fit);  // 7719 is drawn for the body, then 21238 for the head
+    fit.setHeadMesh("m");
+    fit.setHeadSkin("3");
+    EXPECT_EQ(slotsOf(sim.body()), slotsOf(fit));
+    EXPECT_EQ(sim.body().version(), 6);
     EXPECT_EQ(sim.personValues(), "7 7 7 7 7 7 7 7 7 7 7 7 7 7 7 200 7 7 7 7 7 7 7 7 7 7 7 0 0 ");
     EXPECT_EQ(teenToAdult(&sim.sim(0)), -1) << "an adult stays one";
 }
