@@ -3,7 +3,6 @@
 #ifndef TESTS_SUPPORT_MACHINE_H
 #define TESTS_SUPPORT_MACHINE_H
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -16,15 +15,5 @@ void uninstallGame(const std::filesystem::path& prefix);
 
 // From now on a page that this process opens isn't shown: its address is added to the file, as a line of its own.
 void writePagesTo(const std::string& file);
-
-// A full disk: while an object of this class lives, each file that the process writes ends at `size` bytes, and the
-// write that would pass them is cut short.
-class FullDisk {
- public:
-    explicit FullDisk(std::uint64_t size);
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-    ~FullDisk();
-};
 
 #endif
