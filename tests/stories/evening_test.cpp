@@ -1,6 +1,9 @@
 // An evening of a player: everything that the window offers, two saves, and what stands there the next day.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <regex>
+
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
 #include "tests/support/iff_walk.h"
@@ -76,11 +79,21 @@ TEST_F(Stories, AnEveningOfPlay) {
         EXPECT_EQ(family.funds(), row.funds);
     }
 
-    for (const auto& [name, bytes] : treeOf(prefix())) {
+    const Tree after = treeOf(prefix());
+    for (const auto& [name, bytes] : after) {
         if (!name.ends_with(".iff")) continue;
         EXPECT_EQ(walkIff(bytes).fault, "") << name;
         EXPECT_EQ(name.find("TMP"), std::string::npos) << name;
     }
+    for (const auto& [name, bytes] : before) {
+        const auto hasTheseBytes = [&](const auto& file) { return file.second == bytes; };
+        const bool isSavedTwice = name.ends_with("UserData/Neighborhood.iff");  // with one backup if in one minute
+        EXPECT_TRUE(isSavedTwice || std::ranges::any_of(after, hasTheseBytes)) << name << " has no backup";
+    }
+    const std::regex changed(
+        ".*/(UserData2?/(Backups/)?[Nn]eighborhood|UserData/Characters/(Backups/)?[Uu]ser000(13|15|42)|"
+        "UserData2/Characters/(Backups/)?[Uu]ser00004)[.0-9]*iff\n");
+    EXPECT_EQ(std::regex_replace(differences(before, after), changed, ""), "");
 }
 
 }  // namespace
