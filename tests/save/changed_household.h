@@ -10,13 +10,8 @@
 
 #include "tests/save/saved_files.h"
 
-// The states of Ann's file, Bob's and the neighborhood's, in this order, such as "old, temporary new, backup old". The
-// live file is "gone", "old", "new" or "other bytes"; a new neighborhood may lack a record, as "new without Ann". Other
-// files that have come, gone or changed follow by name.
-using States = std::vector<std::string>;
-
-const States nothingSaved = {"old", "old", "old"};
-const States allSaved = {"new, backup old", "new, backup old", "new, backup old"};
+const std::string nothingSaved = "old; old; old";
+const std::string allSaved = "new, backup old; new, backup old; new, backup old";
 
 class ChangedHousehold : public SaveTest {
  public:
@@ -67,14 +62,16 @@ class ChangedHousehold : public SaveTest {
         overwrite(file, table, guids.fillTo(16).written());
     }
 
-    // What the names of a save at seven minutes past two hold.
-    States states() const {
+    // What stands under the names of a save at seven minutes past two: of Ann's file, of Bob's and of the
+    // neighborhood's, such as "old, temporary new, backup old" each. A new neighborhood may lack a record, as "new
+    // without Ann". Other files that have come, gone or changed follow by name.
+    std::string states() const {
         Tree before = original_, now = treeOf(files().path());
-        States states;
+        std::string states;
         for (const auto& [file, versions] : versions_) {
             const std::string directory = file.substr(0, file.rfind('/') + 1), name = file.substr(directory.size());
             const std::string date = file == live ? ".200235.147" : ".200235";
-            std::string state = now.contains(file) ? "" : "gone";
+            states += (states.empty() ? "" : "; ") + std::string(now.contains(file) ? "" : "gone");
             for (const auto& [what, copy] :
                  {std::pair("", file),
                   {", temporary ", directory + "TMP" + name},
@@ -82,13 +79,11 @@ class ChangedHousehold : public SaveTest {
                 before.erase(copy);
                 if (!now.contains(copy)) continue;
                 const auto version = versions.find(now.extract(copy).mapped());
-                state += what + (version != versions.end() ? version->second : "other bytes");
+                states += what + (version != versions.end() ? version->second : "other bytes");
             }
-            states.push_back(state);
         }
         const std::string others = differences(before, now);
-        if (!others.empty()) states.push_back(others);
-        return states;
+        return others.empty() ? states : states + "; " + others;
     }
 
     static constexpr std::uint32_t stranger = 0x44434241;  // a member without a record
