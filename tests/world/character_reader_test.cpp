@@ -67,50 +67,51 @@ TEST_F(CharacterReader, BothRoadsLeadToTheSameParts) {
 }
 
 TEST_F(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
+    const CharacterFile built = makeCharacterFile({.hasPictures = false, .map = false});
+    const auto cutAt = [&](std::size_t size) {
+        return Bytes(built.bytes.begin(), built.bytes.begin() + static_cast<std::ptrdiff_t>(size));
+    };
+    // Of a map only the entries that a row is about.
+    const auto withMap = [](std::string_view front, std::string_view mapOffsetAndMap) {
+        return ByteWriter().field(front, 61).text(mapOffsetAndMap).written();
+    };
+    const std::size_t fill = built.bodyStringsOffset + 86 + sampleBodyText(adultSlots(), BodyEnding::atEntry32).size();
     const struct {
         const char* what;
-        std::string front, mapOffset;
+        Bytes file;
+        std::string name, guid;
         int guidResult, bodyResult;
+        bool box = false;
     } rows[] = {
-        {"too short for the map's offset, so without a map", "iff OBJD", "\1\1", 1, -1},
-        {"name chunk in the first place", "CTSS", "\0\0\0"s, -3, -3},
-        {"map says 0", "",
-         "\0\0\x40"
-         "DJBO1234\0\0\0"s,
-         1, -3},
-        {"an entry of the map cut in the middle of its offset", "",
-         "\0\0\x40"s + std::string(64, 'x') + "DJBO1234\1\0"s, 1, -1},
-        {"map entry in front of the file", "i\0\xC8\0\x10"s, "\0\0\1"s, -4, -1},
+        {"cut in the object's tag", cutAt(built.objectOffset + 3), "", "", -4, -1},
+        {"cut in the GUID", cutAt(built.objectOffset + 106), "", "\x01\x11", 1, -1},
+        {"cut in the name", cutAt(built.nameOffset + 85), "Mari", "\x01\x11WT", 1, -1},
+        {"cut in the word \"adult\"", cutAt(built.bodyStringsOffset + 85), "Marigold", "\x01\x11WT", 1, -1},
+        {"cut in the body strings", cutAt(fill - 1), "Marigold", "\x01\x11WT", 1, -1, true},
+        {"one byte of the end's pattern missing", cutAt(fill + 4), "Marigold", "\x01\x11WT", 1, -1, true},
+        {"cut behind the end's pattern", cutAt(fill + 5), "Marigold", "\x01\x11WT", 1, 1},
+        {"too short for the map's offset, so without a map", withMap("iff OBJD", "\1\1"), "", "", 1, -1},
+        {"name chunk in the first place", withMap("CTSS", "\0\0\0"s), "", "", -3, -3},
+        {"map says 0",
+         withMap("",
+                 "\0\0\x40"
+                 "DJBO1234\0\0\0"s),
+         "", "", 1, -3},
+        {"an entry of the map cut in the middle of its offset",
+         withMap("", "\0\0\x40"s + std::string(64, 'x') + "DJBO1234\1\0"s), "", "", 1, -1},
+        {"map entry in front of the file", withMap("i\0\xC8\0\x10"s, "\0\0\1"s), "", "", -4, -1},
     };
     for (const auto& row : rows) {
-        Sim& sim = read(ByteWriter().field(row.front, 61).text(row.mapOffset).written());
-        EXPECT_EQ(resultsOf(sim), (std::array{1, row.guidResult, row.bodyResult})) << row.what;
-        EXPECT_EQ(sim.name() + guidText(sim), "") << row.what;
-    }
-}
-
-TEST_F(CharacterReader, AFileCutAnywhereGivesWhatStandsInFront) {
-    const CharacterFile built = makeCharacterFile({.hasPictures = false, .map = false});
-    const std::size_t textBegin = built.bodyStringsOffset + 86;
-    const std::size_t textEnd = textBegin + sampleBodyText(adultSlots(), BodyEnding::atEntry32).size() + 5;
-    for (std::size_t size = built.bytes.size(); size-- > built.objectOffset && !HasFailure();) {
-        SCOPED_TRACE(size);
-        Sim& sim = read(Bytes(built.bytes.begin(), built.bytes.begin() + static_cast<std::ptrdiff_t>(size)));
-        const auto inFront = [size](std::string_view text, std::size_t begin) {
-            return text.substr(0, size > begin ? size - begin : 0);
-        };
-        EXPECT_EQ(sim.name(), inFront("Marigold", built.nameOffset + 81));
-        EXPECT_EQ(sim.loadGuid(), size < built.objectOffset + 4 ? -4 : 1);
-        EXPECT_EQ(guidText(sim), inFront("\x01\x11WT", built.objectOffset + 104));
-        // A text without an end is told in a box; one of these is enough.
-        if (size >= textBegin && size < textEnd - 1) continue;
+        SCOPED_TRACE(row.what);
+        Sim& sim = read(row.file);
         const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(sim.loadBodyStrings(), size < textEnd ? -1 : 1);
-        EXPECT_EQ(box->title + box->text, size != textEnd - 1
-                                              ? ""
-                                              : "Error reading body stringsCannot find the end of the meshes and "
-                                                "skins.  This is an unknown user file body string format.");
-        EXPECT_EQ(sim.fileUsable(), !box->shown);
+        EXPECT_EQ(resultsOf(sim), (std::array{1, row.guidResult, row.bodyResult}));
+        EXPECT_EQ(sim.name(), row.name);
+        EXPECT_EQ(guidText(sim), row.guid);
+        EXPECT_EQ(box->title + box->text, !row.box ? ""
+                                                   : "Error reading body stringsCannot find the end of the meshes and "
+                                                     "skins.  This is an unknown user file body string format.");
+        EXPECT_EQ(sim.fileUsable(), row.bodyResult != -3 && !row.box);
     }
 }
 

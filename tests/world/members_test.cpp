@@ -31,12 +31,31 @@ TEST(Members, AFamilyFindsThemByGuidAndLosesThemByName) {
     EXPECT_EQ(family.adultCount(), 5);
 }
 
-TEST(Members, ATeenOfAnAdultsAgeIsKnownByTheBody) {
-    const std::pair<const char*, int> rows[] = {{"b614maTNR", 5}, {"tnr", 5}, {"b614maTnr", 6}, {"", 6}};
-    for (const auto& [bodySkin, stage] : rows) {
+TEST(Members, ASimBelongsToTheFamilyThatWasResolvedLast) {
+    SampleNeighborhood content = householdOf({{}});
+    content.families.push_back(content.families.front());
+    const TestNeighborhood read(content, {{}});
+    for (const int family : {0, 1}) {
+        EXPECT_EQ(read.family(family).memberCount(), 1);
+        EXPECT_EQ(read.sim(0).family(), &read.family(family));
+    }
+}
+
+TEST(Members, TheStageFollowsFromAgeKindAndBody) {
+    const struct {
+        const char* bodySkin;  // null without a character file
+        int age, kind, stage;
+    } rows[] = {{"b614maTNR", 27, 1, 5}, {"tnr", 27, 0, 5},  {"b614maTnr", 27, 1, 6}, {"", 27, 1, 6},
+                {nullptr, 27, 1, 0},     {"tnr", 27, 5, -1}, {nullptr, 27, 2, -1},    {nullptr, 18, 2, 5},
+                {nullptr, 9, 1, 3},      {"tnr", 26, 1, 0}};
+    for (const auto& row : rows) {
         SampleCharacter character;
-        character.slots[sampleSlot::bodySkin] = bodySkin;
-        EXPECT_EQ(TestNeighborhood(householdOf({character}), {character}).sim(0).stage(), stage) << bodySkin;
+        if (row.bodySkin != nullptr) character.slots[sampleSlot::bodySkin] = row.bodySkin;
+        SampleNeighbor neighbor{.age = row.age};
+        neighbor.kind = row.kind;
+        const TestNeighborhood read({.neighbors = {neighbor}}, {character});
+        if (row.bodySkin == nullptr) read.files().remove("UserData/Characters");
+        EXPECT_EQ(read.sim(0).stage(), row.stage) << "age " << row.age << ", kind " << row.kind;
     }
 }
 

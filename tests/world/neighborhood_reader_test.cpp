@@ -23,11 +23,13 @@ TEST(NeighborhoodReader, APlayersRecordOfAKnownKindGivesASim) {
     for (const auto& [recordName, kind] : records)
         content.neighbors.push_back({.recordName = recordName, .kind = kind, .gapByte = 0xEE});
     content.neighbors[1].hasPersonData = false;
+    content.neighbors[3].version = -2;
     const TestNeighborhood read(content);
     std::string listed;
     for (int i = 0; i < read->simCount(); ++i)
         listed += read.sim(i).recordName() + " "s + std::to_string(read.sim(i).gender()) + "|";
     EXPECT_EQ(listed, "user0male 0|user1fema 1|user2dogs 2|user5cats 2|user0male 0|");
+    EXPECT_EQ(read.sim(2).version(), -2) << "a signed byte";
     EXPECT_FALSE(read->sim(5) || read->sim(-1));
 }
 

@@ -22,6 +22,9 @@ TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {
     EXPECT_EQ(listedNeighborhoodCount(), 1);
     EXPECT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, though nobody will see it";
     EXPECT_EQ(statusLine(), "Loading Neighborhood 100") << "the last";
+    files.remove("UserData2");
+    loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
+    EXPECT_EQ(statusLine(), "Loading Neighborhood 1") << "a gap ends the walk";
 }
 
 }  // namespace
