@@ -57,7 +57,8 @@ constexpr int answerByEscape = -1;
 [[nodiscard]] AnsweredBox answerNextBox(int answer, std::function<void()> meanwhile = {});
 
 bool isEnabled(HWND window);
-std::string textOf(HWND window);  // a window's title, a button's text without the "&", a combo box's selected entry
+// A window's title, a button's text without the "&", a combo box's selected entry; empty for what is hidden.
+std::string textOf(HWND window);
 std::string entryText(HWND combo, int index);
 RECT placeOf(HWND control);  // in its parent's client area
 bool waitCursorShows();

@@ -131,6 +131,7 @@ bool isEnabled(HWND window) {
 
 std::string textOf(HWND window) {
     const QWidget& widget = widgetOf(window);
+    if (!widget.isVisible()) return "";
     if (const auto* const box = qobject_cast<const QComboBox*>(&widget)) return programText(box->currentText());
     if (const auto* const button = qobject_cast<const QPushButton*>(&widget))
         return programText(withoutMarks(button->text()));

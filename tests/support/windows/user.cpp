@@ -176,6 +176,7 @@ bool isEnabled(HWND window) {
 }
 
 std::string textOf(HWND window) {
+    if (!IsWindowVisible(window)) return "";
     return classOf(window) == "Button" ? withoutMarks(windowText(window)) : windowText(window);
 }
 
