@@ -49,6 +49,12 @@ TEST_F(Stories, AnEveningOfPlay) {
         program.answerBox("Exit[?]", "Escape");
         program.chooseFileItem('v');  // save and exit
         EXPECT_EQ(program.waitForExit(), 0) << program.errorOutput();
+
+        RunningProgram again(prefix(), toolDirectory(), &desktop);
+        again.pick(0, 0, 1);  // Bramble
+        again.expectOnlyMoveOut();
+        again.closeWindow();  // with nothing to ask
+        EXPECT_EQ(again.waitForExit(), 0);
     }
 
     const ScopedVariable otherStoriesKeepTheirs("WINEPREFIX", prefix());
