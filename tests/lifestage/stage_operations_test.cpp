@@ -58,35 +58,27 @@ class OneSim : public TestNeighborhood {
 };
 
 TEST(ChildToTeenTest, DressesTheTeen) {
-    const auto girl = [](const std::string& lastOutfit) {
-        return wholeBody(
-            "b609faTNR_01,BODY b609faTNRmed_gma1 teenMesh,HEAD-HEAD teenSkin", "female 18", "med",
-            "nuTNR_01,BODY nfTNRmed_01 nuTNR_01,BODY ufTNRmed_undies01", "ffTNR_01,BODY ffTNRmed_01",
-            outfit("F100faTNR", "med") + outfit("S100faTNR", "med") + outfit("L100faTNR", "med") + lastOutfit);
+    const auto outfits = [](const std::string& body, const std::string& tone) {
+        return outfit("F100" + body, tone) + outfit("S100" + body, tone) + outfit("L100" + body, tone);
     };
-    const std::string boy =
-        wholeBody("b614maTNR_01,BODY b614maTNRdrk_hip01 teenMesh,HEAD-HEAD teenSkin", "male 18", "drk",
-                  "nuTNR_01,BODY nmTNRdrk_01 nuTNR_01,BODY umTNRdrk_briefs01", "fmTNR_01,BODY fmTNRdrk_01",
-                  outfit("F100maTNR", "drk") + outfit("S100maTNR", "drk") + outfit("L100maTNR", "drk") +
-                      outfit("W100maTNR", "drk"));
-    enum Expansion { none, aFile, aDirectory };
     const struct {
-        const char* what;
         int kind, tone;
-        Expansion expansion;
+        bool hasExpansion;
         std::string slots;
     } rows[] = {
-        {"a girl without the expansion", 1, 3, none, girl(" - -")},
-        {"a file of the expansion's name", 1, 3, aFile, girl(" - -")},
-        {"a girl", 1, 3, aDirectory, girl(outfit("W100faTNR", "med"))},
-        {"a boy", 0, 2, aDirectory, boy},
+        {1, 3, false,
+         wholeBody("b609faTNR_01,BODY b609faTNRmed_gma1 teenMesh,HEAD-HEAD teenSkin", "female 18", "med",
+                   "nuTNR_01,BODY nfTNRmed_01 nuTNR_01,BODY ufTNRmed_undies01", "ffTNR_01,BODY ffTNRmed_01",
+                   outfits("faTNR", "med") + " - -")},
+        {0, 2, true,
+         wholeBody("b614maTNR_01,BODY b614maTNRdrk_hip01 teenMesh,HEAD-HEAD teenSkin", "male 18", "drk",
+                   "nuTNR_01,BODY nmTNRdrk_01 nuTNR_01,BODY umTNRdrk_briefs01", "fmTNR_01,BODY fmTNRdrk_01",
+                   outfits("maTNR", "drk") + outfit("W100maTNR", "drk"))},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+        SCOPED_TRACE(row.kind);
         OneSim sim({.kind = row.kind, .tone = row.tone});
-        if (row.expansion != aDirectory) std::filesystem::remove_all(sim.expansion);
-        if (row.expansion == aFile) writeFile(sim.expansion, "");
-
+        if (!row.hasExpansion) std::filesystem::remove_all(sim.expansion);
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything
         EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
         EXPECT_EQ(slotsOf(sim.body()), row.slots);
@@ -97,6 +89,14 @@ TEST(ChildToTeenTest, DressesTheTeen) {
         EXPECT_EQ(sim.personValues(), "7 7 7 7 7 7 7 7 0 0 0 7 7 0 7 0 0 7 7 7 7 7 7 7 7 7 7 4 0 ");
         EXPECT_EQ(childToTeen(&sim.sim(0)), -1) << "a teen stays one";
     }
+}
+
+TEST(ChildToTeenTest, AFileOfTheExpansionsNameIsNone) {
+    const OneSim sim({});
+    std::filesystem::remove_all(sim.expansion);
+    writeFile(sim.expansion, "");
+    EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
+    EXPECT_STREQ(sim.body().slot(bodySlot::w100Mesh), "");
 }
 
 TEST(ChildToTeenTest, AProtectedExpansionIsNone) {

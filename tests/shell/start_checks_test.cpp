@@ -7,6 +7,7 @@
 
 #include "platform/win32.h"
 #include "sample/wine_prefix.h"
+#include "shell/window_class.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
@@ -19,11 +20,7 @@ constexpr const char* skin = "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn";
 
 // A window of another program's kind, with this title.
 HWND openWindow(const char* title) {
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.lpfnWndProc = DefWindowProcA;
-    windowClass.lpszClassName = "SomeGame";
-    RegisterClassExA(&windowClass);
+    registerWindowClass("SomeGame", DefWindowProcA, IDC_ARROW, nullptr);
     return CreateWindowExA(0, "SomeGame", title, WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr, nullptr,
                            nullptr);
 }
