@@ -37,7 +37,7 @@ TEST(BodyStrings, AnEntryIsReadByteByByteAndSplitAtItsFirstEqualsSign) {
         {x149 + "y\1\0"s, "read to 151: " + x149 + ", "},  // 150 characters that no zero byte had to close
         {x149 + "=\0"s, "too long to 151: 1, 2"},
         {"a=b\xA3\0"s, "end mark to 4: 1, 2"},
-        {"a=b", "end mark to 3: 1, 2"},
+        {"a=b\1", "end mark to 4: 1, 2"},
     };
     for (const auto& [bytes, expected] : rows) {
         TestStream file(bytesFrom(bytes));
