@@ -53,6 +53,8 @@ TEST(BodyStrings, AnEntryIsReadByteByByteAndSplitAtItsFirstEqualsSign) {
 TEST(BodyStrings, ATextIsReadAndWrittenBackByteByByte) {
     BodySlots longest;
     longest.fill(std::string(74, 'x'));
+    BodySlots shortSkin = numberedSlots();
+    shortSkin[sampleSlot::w100Skin] = "x";
     const struct {
         const char* what;
         BodySlots slots;
@@ -64,7 +66,7 @@ TEST(BodyStrings, ATextIsReadAndWrittenBackByteByByte) {
         {"base game's text under a later record", numberedSlots(42), atEntry29, 7, 6, atEntry32},
         {"expansion, under an old record", numberedSlots(48), atEntry32, 6, 7, atEntry29},
         {"later expansion", numberedSlots(), atEntry33, 8, 7, atEntry33},
-        {"entry 33 with an empty skin", numberedSlots(49), atEntry33, 7, 7, atEntry32},
+        {"entry 33 with a skin of one letter", shortSkin, atEntry33, 7, 7, atEntry32},
         {"more than the buffer takes", longest, atEntry33, 7, 7, atEntry33},
     };
     for (const auto& row : rows) {

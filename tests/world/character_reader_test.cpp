@@ -62,6 +62,8 @@ TEST_F(CharacterReader, BothRoadsLeadToTheSameParts) {
             EXPECT_EQ(guidText(sim), row.guidResult == 1 ? "\x01\x11WT" : "");
             EXPECT_EQ(sim.tagOffset(), bodyResult == 1 ? static_cast<int>(built.bodyStringsOffset + 81) : 0);
             EXPECT_EQ(sim.characterTag(), row.character.tag != "child");
+            neighborhood_.files().remove(file_);
+            EXPECT_EQ(sim.loadName(), 1) << "read once";
         }
     }
 }
