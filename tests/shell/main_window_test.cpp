@@ -8,6 +8,7 @@
 #include <functional>
 #include <thread>
 
+#include "data/data_files.h"
 #include "sample/installation.h"
 #include "shell/selection.h"
 #include "shell/splash.h"
@@ -166,7 +167,7 @@ TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
         pick(0, 0, 0);
         pickEntry(controls().neighborhoodCombo, 0);  // the entry that is selected already
         EXPECT_EQ(entries(controls().simCombo) + enabled(), "");
-        EXPECT_FALSE(shows());
+        EXPECT_FALSE(shows() || selection().currentSim);
     });
 }
 
@@ -192,11 +193,31 @@ TEST_F(MainWindowTest, AsksBeforeItLosesChanges) {
         const HWND window = controls().mainWindow;
         pick(1, 0, 0);
         clickButton(controls().moveOutButton);  // a Move Out alone is a change, and so in any neighborhood
-        const AnsweredBox box = answerNextBox(IDOK);
-        closeWindow(window);
-        runMessages();
-        EXPECT_EQ(box->title + ": " + box->text, "Exit?: You haven't saved your changes.  Exit without saving?");
-        EXPECT_FALSE(IsWindow(window));
+        for (const int answer : {IDCANCEL, IDOK}) {
+            const AnsweredBox box = answerNextBox(answer);
+            closeWindow(window);
+            runMessages();
+            EXPECT_EQ(box->title + ": " + box->text, "Exit?: You haven't saved your changes.  Exit without saving?");
+            EXPECT_EQ(IsWindow(window) != FALSE, answer == IDCANCEL);
+        }
+    });
+}
+
+TEST_F(MainWindowTest, TheMenuSaves) {
+    EXPECT_TRUE(writeDataFiles(files_.path("tool")));
+    run([] {
+        pick(0, 0, 2);
+        clickButton(controls().teenToAdultButton);
+        EXPECT_TRUE(neighborhoods[0]->isDirty());
+        EXPECT_TRUE(chooseMenu(controls().mainWindow, {"File", "Save"}));
+        EXPECT_FALSE(runMessages());
+        EXPECT_FALSE(neighborhoods[0]->isDirty());
+
+        pick(1, 0, 0);
+        clickButton(controls().moveOutButton);
+        EXPECT_TRUE(chooseMenu(controls().mainWindow, {"File", "Save and Exit"}));
+        EXPECT_TRUE(runMessages());
+        EXPECT_FALSE(neighborhoods[1]->isDirty());
     });
 }
 
