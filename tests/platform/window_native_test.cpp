@@ -25,15 +25,15 @@ TEST(WindowNativeTest, ADrawingOnTheScreenStaysUntilTheWindowIsDrawnThere) {
     TestWindow window;
     window.show();
     findWindow(window.handle)->widget()->move(0, 0);
-    const std::uint32_t ground = pictureOf(window.handle).at(50, 200);
+    const std::uint32_t ground = screenPixel(window.handle, 50, 200);
     BitBlt(GetDC(nullptr), 0, 0, 598, 400, splash, 0, 0, SRCCOPY);
-    const std::uint32_t beside = pictureOf(window.handle).at(200, 200);
+    const std::uint32_t beside = screenPixel(window.handle, 200, 200);
     EXPECT_NE(beside, ground);
     const RECT part{0, 0, 100, 400};
     InvalidateRect(window.handle, &part, TRUE);
     UpdateWindow(window.handle);
-    EXPECT_EQ(pictureOf(window.handle).at(50, 200), ground);
-    EXPECT_EQ(pictureOf(window.handle).at(200, 200), beside);
+    EXPECT_EQ(screenPixel(window.handle, 50, 200), ground);
+    EXPECT_EQ(screenPixel(window.handle, 200, 200), beside);
 }
 
 TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {

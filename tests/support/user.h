@@ -76,4 +76,7 @@ struct Picture {
 };
 Picture pictureOf(HWND window);
 
+// A pixel of the client area as the screen shows it, with what was drawn on the screen itself.
+std::uint32_t screenPixel(HWND window, int x, int y);
+
 #endif

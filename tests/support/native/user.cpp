@@ -169,3 +169,8 @@ Picture pictureOf(HWND window) {
             picture.pixels.push_back(image.pixel(x, y) & 0xFFFFFF);
     return picture;
 }
+
+// The layer keeps what is drawn on the screen in the window that lies there.
+std::uint32_t screenPixel(HWND window, int x, int y) {
+    return pictureOf(window).at(x, y);
+}

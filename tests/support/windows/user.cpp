@@ -226,3 +226,12 @@ Picture pictureOf(HWND window) {
     ReleaseDC(window, dc);
     return canvas.picture();
 }
+
+std::uint32_t screenPixel(HWND window, int x, int y) {
+    POINT place{x, y};
+    ClientToScreen(window, &place);
+    HDC const screen = GetDC(nullptr);
+    const COLORREF color = GetPixel(screen, place.x, place.y);
+    ReleaseDC(nullptr, screen);
+    return static_cast<std::uint32_t>(RGB(GetBValue(color), GetGValue(color), GetRValue(color)));
+}
