@@ -9,7 +9,6 @@ const struct {
     const char* program;
     const char* bare;
 } ratios[] = {
-    {"reading a neighborhood / one read of its file", "loadNeighborhood", "readNeighborhoodFile"},
     {"reading a neighborhood / one read of its file and one fstatat for each Sim", "loadNeighborhood",
      "readNeighborhoodFileAndSizes"},
     {"resolving the last family / reading all character files whole", "resolveLastFamily", "readCharacterFiles"},

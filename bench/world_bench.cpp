@@ -10,14 +10,6 @@ std::string largeDirectory() {
     return std::string(largeSimsDirectory()) + "UserData";
 }
 
-void readNeighborhoodFile(benchmark::State& state) {
-    const auto path = largeNeighborhoodFile();
-    for ([[maybe_unused]] auto _ : state) {
-        benchmark::DoNotOptimize(readWhole(path));
-    }
-}
-BENCHMARK(readNeighborhoodFile)->Name("readNeighborhoodFile");
-
 // What reading a neighborhood can't do without: its file's bytes, and the size of a character file for each Sim.
 void readNeighborhoodFileAndSizes(benchmark::State& state) {
     const auto path = largeNeighborhoodFile();
