@@ -16,6 +16,7 @@ TEST(WindowTest, ItsMessagesComeInWindowsOrder) {
     EXPECT_EQ(window.takeLog(), Log{"paint"});
     EXPECT_EQ(clientOf(window.handle), window.atCreation);
     EXPECT_EQ(ShowWindow(window.handle, SW_HIDE), TRUE);
+    EXPECT_FALSE(SetWindowLongA(window.handle, GWL_STYLE, WS_OVERLAPPEDWINDOW) & WS_VISIBLE);
     window.show();
     EXPECT_EQ(window.takeLog(), Log{"paint"});
 
