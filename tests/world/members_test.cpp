@@ -56,6 +56,8 @@ TEST(Members, TheStageFollowsFromAgeKindAndBody) {
         const TestNeighborhood read({.neighbors = {neighbor}}, {character});
         if (row.bodySkin == nullptr) read.files().remove("UserData/Characters");
         EXPECT_EQ(read.sim(0).stage(), row.stage) << "age " << row.age << ", kind " << row.kind;
+        for (const auto& [stage, result] : {std::pair(1, -2), {4, -2}, {0, -3}, {7, -3}})
+            EXPECT_EQ(read.sim(0).setStage(stage, nullptr), result) << stage;
     }
 }
 

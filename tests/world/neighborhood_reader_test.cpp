@@ -43,10 +43,10 @@ TEST(NeighborhoodReader, TheSearchGoesOnThirteenBytesBehindAFalseMarker) {
 
 TEST(NeighborhoodReader, AFamilysRecordIsReadFieldByField) {
     const TestNeighborhood read(
-        SampleNeighborhood{.families = {{.number = 70000, .name = "Moth", .members = {1, 2, 3}},
+        SampleNeighborhood{.families = {{.number = 4465, .name = "Default"},
+                                        {.number = 70000, .name = "Moth", .members = {1, 2, 3}},
                                         {.number = 7, .name = "Crowd", .members = std::vector<std::uint32_t>(9)},
-                                        {.number = -4, .name = "Oats", .memberCount = -1, .hasHistory = true},
-                                        {.number = 4465, .name = "Default"}}});
+                                        {.number = -4, .name = "Oats", .memberCount = -1, .hasHistory = true}}});
     EXPECT_EQ(familiesOf(read), "Moth|Oats|");
     EXPECT_EQ(read->highestFamilyNumber(), 4465) << "a family that isn't listed keeps its number";
     EXPECT_EQ(read.family(0).familyNumber(), 4464) << "the low 16 bits of 70000";
