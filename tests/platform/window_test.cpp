@@ -16,7 +16,8 @@ TEST(WindowTest, ItsMessagesComeInWindowsOrder) {
     EXPECT_EQ(window.takeLog(), Log{"paint"});
     EXPECT_EQ(clientOf(window.handle), window.atCreation);
     EXPECT_EQ(ShowWindow(window.handle, SW_HIDE), TRUE);
-    EXPECT_FALSE(SetWindowLongA(window.handle, GWL_STYLE, WS_OVERLAPPEDWINDOW) & WS_VISIBLE);
+    const LONG style = SetWindowLongA(window.handle, GWL_STYLE, WS_OVERLAPPEDWINDOW);
+    EXPECT_FALSE(static_cast<DWORD>(style) & WS_VISIBLE);
     window.show();
     EXPECT_EQ(window.takeLog(), Log{"paint"});
 

@@ -17,7 +17,7 @@ TEST_F(SaveCommandTest, SavesEachListedNeighborhoodThatHasChanged) {
     EXPECT_TRUE(writeDataFiles(files.path()));
     loadNeighborhoods((files.path() + "\\").c_str(), files.path().c_str());
     ASSERT_EQ(listedNeighborhoodCount(), 5);
-    for (const std::size_t slot : {0, 2, 4})
+    for (const std::size_t slot : {0U, 2U, 4U})
         change(*neighborhoods[slot]->sim(0), stageNumber::teen);
     files.remove("UserData");  // doesn't stop the next, and nothing of it may be written anywhere else
     neighborhoods[3].reset();  // ends the list, so the fifth isn't saved

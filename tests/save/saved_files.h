@@ -66,7 +66,7 @@ class SaveTest : public testing::Test {
         sim.age = teen ? 18 : 27;
         sim.personValues[27] = teen ? 4 : 0;
         sim.personValues[28] = 0;
-        for (const std::size_t value : {8, 9, 10, 13, 15, 16})
+        for (const std::size_t value : {8U, 9U, 10U, 13U, 15U, 16U})
             if (teen) sim.personValues[value] = 0;
         sim.gapByte = 0;
         Bytes record = sampleNeighborRecord(sim);
@@ -77,7 +77,7 @@ class SaveTest : public testing::Test {
 
     static Bytes newFamilyRecord(int number, int funds, std::uint32_t member, const std::string& name) {
         Bytes record = makeFamilyTemplate();
-        for (const std::size_t offset : {9, 92, 133})
+        for (const std::size_t offset : {9U, 92U, 133U})
             overwrite(record, offset, u16(number));
         overwrite(record, 96, u16(funds));
         overwrite(record, 116, u32(member));

@@ -118,7 +118,7 @@ TEST_F(MainWindowTest, StandsWithItsControlsAtTheirPlaces) {
         EXPECT_EQ(enabled(), "");
         // Every known command ends with a repaint, and that with the arrow. Only a pick or a click does anything else.
         pick(0, 0, 3);
-        for (const int id : {1001, 1002, 1003, 2001, 2002, 2010, 32774}) {
+        for (const unsigned id : {1001U, 1002U, 1003U, 2001U, 2002U, 2010U, 32774U}) {
             SCOPED_TRACE(id);
             showWaitCursor();
             SendMessageA(all.mainWindow, WM_COMMAND, MAKEWPARAM(id, 7), 0);

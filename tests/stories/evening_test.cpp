@@ -86,7 +86,7 @@ TEST_F(Stories, AnEveningOfPlay) {
         EXPECT_EQ(name.find("TMP"), std::string::npos) << name;
     }
     for (const auto& [name, bytes] : before) {
-        const auto hasTheseBytes = [&](const auto& file) { return file.second == bytes; };
+        const auto hasTheseBytes = [&old = bytes](const auto& file) { return file.second == old; };
         const bool isSavedTwice = name.ends_with("UserData/Neighborhood.iff");  // with one backup if in one minute
         EXPECT_TRUE(isSavedTwice || std::ranges::any_of(after, hasTheseBytes)) << name << " has no backup";
     }

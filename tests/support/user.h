@@ -72,7 +72,7 @@ struct Picture {
     int height = 0;
     std::vector<std::uint32_t> pixels;
 
-    std::uint32_t at(int x, int y) const { return pixels[static_cast<std::size_t>(y * width + x)]; }
+    std::uint32_t at(int x, int y) const { return *(pixels.begin() + std::ptrdiff_t{y} * width + x); }
 };
 Picture pictureOf(HWND window);
 
