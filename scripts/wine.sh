@@ -1,7 +1,7 @@
 # Shared by the scripts that run Windows programs: Wine, quiet and in a prefix of our own.
 # shellcheck shell=bash
 
-# Without the overrides Wine would offer to download parts that nobody needs here, and would put entries into the user's own menu.
+# Without the overrides Wine would offer to download parts that aren't needed here, and would put entries into the user's own menu.
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 export LC_ALL=C  # whose code page is 1252
 

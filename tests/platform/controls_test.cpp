@@ -1,4 +1,4 @@
-// Combo boxes and buttons, as a user and as their window meet them.
+// Combo boxes and buttons: what the user sees and what their window receives.
 #include <gtest/gtest.h>
 
 #include "tests/platform/test_window.h"

@@ -1,4 +1,4 @@
-// The program where there is no screen: the test program starts itself once more without one.
+// The layer without a display. The test program starts itself once more without one.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

@@ -14,7 +14,7 @@ namespace {
 
 using enum NewVersion::Naming;
 
-// The working directory holds "User00042.iff", the directory "Sub", and "protected.iff", which lets nobody write.
+// The working directory holds "User00042.iff", the directory "Sub", and "protected.iff", which can't be written.
 class FilesTest : public testing::Test {
  protected:
     FilesTest() {

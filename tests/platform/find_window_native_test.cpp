@@ -40,5 +40,5 @@ TEST(FindWindowNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     EXPECT_TRUE(finds("The Sims \x96 Livin\x92 Large"));
     EXPECT_FALSE(finds("The Sims H\xF4tel")) << "the older name doesn't count then";
     display.set(":987");
-    EXPECT_FALSE(finds("The Sims House Party")) << "nobody answers there";
+    EXPECT_FALSE(finds("The Sims House Party")) << "no server answers there";
 }

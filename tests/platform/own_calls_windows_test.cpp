@@ -1,4 +1,4 @@
-// What the program's own versions of Windows' calls do besides.
+// What the program's own versions of Windows' calls do beyond the originals.
 #include <gtest/gtest.h>
 #include <windows.h>
 

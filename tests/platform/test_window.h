@@ -1,4 +1,4 @@
-// A window of a class of its own that notes what it receives.
+// A window with a class of its own that logs the messages it receives.
 #ifndef TESTS_PLATFORM_TEST_WINDOW_H
 #define TESTS_PLATFORM_TEST_WINDOW_H
 
@@ -20,7 +20,7 @@ inline std::vector<int> clientOf(HWND window) {
 
 class TestWindow {
  public:
-    // Hidden, with the menu of the resources. One lives at a time.
+    // Creates it hidden, with the program's menu. Only one may exist at a time.
     TestWindow() {
         WNDCLASSEXA windowClass{};
         windowClass.cbSize = sizeof windowClass;

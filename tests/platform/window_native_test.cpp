@@ -1,4 +1,4 @@
-// What Qt's windows do besides: the keyboard after a box, texts for screen readers, clicks on a list that has closed.
+// What only Qt's windows do: the keyboard after a box, texts for screen readers, clicks on a list that has closed.
 #include <gtest/gtest.h>
 
 #include <QApplication>

@@ -35,7 +35,7 @@ class ChangedHousehold : public SaveTest {
         moveOut(*test_, 2, "Cleo's", 500, 0);
         moveOut(*test_, 1, "Bob's", 700, 0);
         test_->family(0).setFunds(70'000);
-        test_->family(1).setFunds(1);  // nobody left it, so it stays as the file has it
+        test_->family(1).setFunds(1);  // no one moves out of it, so it stays as in the file
     }
 
     void saveAt(WORD minute) const { save(*test_, minute); }
@@ -62,7 +62,7 @@ class ChangedHousehold : public SaveTest {
         overwrite(file, table, guids.fillTo(16).written());
     }
 
-    // What stands under the names of a save at seven minutes past two: of Ann's file, of Bob's and of the
+    // What a save at seven minutes past two has under its names: of Ann's file, of Bob's and of the
     // neighborhood's, such as "old, temporary new, backup old" each. A new neighborhood may lack a record, as "new
     // without Ann". Other files that have come, gone or changed follow by name.
     std::string states() const {
@@ -117,7 +117,7 @@ class ChangedHousehold : public SaveTest {
         {.recordName = "user00002", .name = "Bob", .guid = 2, .ending = BodyEnding::atEntry33, .hasPictures = false},
         {.recordName = "user00003", .name = "Cleo", .guid = 3, .hasPictures = false}};
     std::unique_ptr<TestNeighborhood> test_;
-    std::size_t cut_ = 0;  // where new families stand; 0 for the end
+    std::size_t cut_ = 0;  // where new families begin; 0 for the end of the file
     Tree original_;
     std::map<std::string, std::map<Bytes, std::string>> versions_;  // by the live file's name
 };

@@ -1,4 +1,4 @@
-// A save that is ended at each of its system calls in turn, and one in which each call fails in turn.
+// Kills a save at each of its system calls in turn, then makes each call fail in turn.
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>

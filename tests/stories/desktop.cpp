@@ -19,7 +19,8 @@
 
 namespace {
 
-// Above the controls lies the menu: natively what the client area leaves of the window, under Wine with the caption.
+// The menu is above the controls: natively in the part of the window outside the client area, under Wine below the
+// caption.
 constexpr int nativeClientHeight = 430;
 constexpr int wineClientTop = 42;
 
@@ -30,7 +31,7 @@ std::string readToEnd(std::FILE* output) {
     return text;
 }
 
-// Wine's command that leads a Windows program to the game of `prefix`, or away from every game if that has no registry.
+// Wine's command that enters the game of `prefix` in the registry, or removes the entry if the prefix has no registry.
 std::string registryCommand(const std::string& prefix) {
     const std::string value = " 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32";
     if (!std::filesystem::exists(prefix + "/system.reg")) return "wine reg delete" + value;
@@ -39,7 +40,7 @@ std::string registryCommand(const std::string& prefix) {
     return "wine reg add" + value + " /d '" + directory + "'";
 }
 
-// A step that has no effect within 30 seconds fails the test by its name.
+// Fails the test, with the name of the step, if it isn't done within 30 seconds.
 void waitUntil(const std::string& step, const std::function<bool()>& done) {
     for (int tenths = 0; tenths < 300; ++tenths) {
         if (done()) return;
@@ -50,7 +51,7 @@ void waitUntil(const std::string& step, const std::function<bool()>& done) {
 
 }  // namespace
 
-// A new server of Wine's: it stays with the display of its first program, and waits for the next one.
+// Starts Wine's server anew, because a server keeps the display of its first program. It waits between programs.
 Desktop::Desktop() {
     if (windowsProgram == nullptr) return;
     EXPECT_EQ(std::system("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1"), 0);
@@ -64,7 +65,7 @@ std::string Desktop::act(const std::string& arguments) const {
     return text.substr(0, text.find('\n'));
 }
 
-// xdotool itself gives up when a window goes while it looks.
+// A search by xdotool fails if any window goes meanwhile, so it is repeated.
 std::string Desktop::findWindow(const std::string& title) const {
     std::string window;
     waitUntil("a window " + title + " opens", [&] {
@@ -113,7 +114,7 @@ RunningProgram::RunningProgram(const std::string& prefix, const std::string& too
     const std::string display = desktop != nullptr ? "DISPLAY=" + desktop->display() : "-u DISPLAY";
     const std::string environment = "env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY " + display + " ";
     const std::string limited = "exec " + environment + "timeout -s KILL 120 ";
-    // Wine's own processes outlive the program and would keep what it prints open.
+    // Wine's own processes outlive the program, and would keep its output open.
     const std::string command = windowsExe != nullptr
                                     ? environment + registryCommand(prefix) + " >/dev/null 2>&1 && " + limited +
                                           "wine " + windowsExe + " >/dev/null 2>&1"

@@ -1,4 +1,4 @@
-// A virtual display, and the built program running on it or without one, used through mouse and keyboard alone.
+// A virtual display, and the built program on it or without one, driven by mouse and keyboard alone.
 #ifndef TESTS_STORIES_DESKTOP_H
 #define TESTS_STORIES_DESKTOP_H
 
@@ -27,14 +27,14 @@ class Desktop : public XServer {
     bool hasDarkText(int x, int y) const;
 };
 
-// The Windows program that the stories are told of, as a word of the shell, run by Wine in a prefix that serves for
-// nothing else; null if they are told of the native one.
+// The Windows program that the stories start, quoted for the shell. Wine runs it in a prefix made for this. Null if
+// they start the native program.
 inline const char* const windowsProgram = std::getenv("TIDEWRIGHT_EXE");
 
 class RunningProgram {
  public:
-    // Starts the program in `toolDirectory` on the game of `prefix`; without a desktop it has no display, of which the
-    // native one alone is capable. It is killed after two minutes.
+    // Starts the program in `toolDirectory` on the game of `prefix`. Only the native program can run without a desktop,
+    // that is, without a display. It is killed after two minutes.
     RunningProgram(const std::string& prefix, const std::string& toolDirectory, const Desktop* desktop,
                    const char* windowsExe = windowsProgram);
     RunningProgram(const RunningProgram&) = delete;

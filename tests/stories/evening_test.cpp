@@ -1,4 +1,4 @@
-// An evening of a player: everything that the window offers, two saves, and what stands there the next day.
+// A player's evening: everything that the window offers, two saves, and what the program reads the next day.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// What the stories begin with: the sample installation and a tool directory with the program's data files.
+// Every story begins with the sample installation and a tool directory that has the program's data files.
 #ifndef TESTS_STORIES_INSTALLATION_H
 #define TESTS_STORIES_INSTALLATION_H
 

@@ -1,5 +1,5 @@
-// One saved tree, two programs: the native and the Windows program are given the same installation and the same picks,
-// and what they save is compared byte for byte.
+// The native and the Windows program get the same installation and the same picks, and what they save is compared byte
+// for byte.
 #include <gtest/gtest.h>
 
 #include <regex>
@@ -18,7 +18,7 @@ struct Step {
     void (RunningProgram::*click)() const;
 };
 
-// Two runs, each saved at its end. None of it hangs on a draw, as a new teen's outfit does.
+// Two runs, each saved at its end. Nothing here is drawn by chance, as a new teen's outfit is.
 const std::vector<Step> runs[] = {
     {{0, 0, 2, &RunningProgram::clickTeenToAdult},  // Bramble
      {0, 0, 0, &RunningProgram::clickMoveOut},      // Hazel

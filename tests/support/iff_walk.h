@@ -1,5 +1,5 @@
-// Walks a file of the game chunk by chunk, as the game itself does and the program doesn't, and says what is wrong with
-// it. It shares nothing with the readers and builders whose files it judges.
+// Walks one of the game's files chunk by chunk, as the game does and the program doesn't, and reports the first fault.
+// It shares no code with the readers and builders whose files it checks.
 #ifndef TESTS_SUPPORT_IFF_WALK_H
 #define TESTS_SUPPORT_IFF_WALK_H
 

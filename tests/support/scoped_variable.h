@@ -1,4 +1,4 @@
-// An environment variable for as long as the object lives; then it is as it was.
+// Sets an environment variable, and restores it at the end of the object's life.
 #ifndef TESTS_SUPPORT_SCOPED_VARIABLE_H
 #define TESTS_SUPPORT_SCOPED_VARIABLE_H
 

@@ -1,5 +1,4 @@
-// A directory of a test's own, gone with the object. The working directory that was current before is current again
-// afterwards: a save changes it.
+// A directory for one test, deleted with the object. The working directory is restored then, because a save changes it.
 #ifndef TESTS_SUPPORT_TEMP_DIRECTORY_H
 #define TESTS_SUPPORT_TEMP_DIRECTORY_H
 

@@ -34,8 +34,8 @@ class TestNeighborhood {
         load();
     }
 
-    // Reads what stands on the disk, as the next start of the program does. Families and Sims of before are gone. The
-    // tool directory is the one above "UserData"; it holds nothing until a test writes it.
+    // Reads the files again, as the next start of the program does. Earlier families and Sims are deleted. The tool
+    // directory is the one above "UserData"; it is empty until a test writes there.
     void load() {
         neighborhood_ = std::make_unique<Neighborhood>();
         EXPECT_EQ(neighborhood_->load((files_.path() + "\\UserData").c_str(), "neighborhood.iff"), 0);

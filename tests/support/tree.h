@@ -1,4 +1,4 @@
-// All files below a directory with their bytes, to compare what stands on the disk with what must.
+// All files below a directory with their bytes, to compare them with what is expected.
 #ifndef TESTS_SUPPORT_TREE_H
 #define TESTS_SUPPORT_TREE_H
 

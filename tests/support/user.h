@@ -63,7 +63,7 @@ std::string entryText(HWND combo, int index);
 RECT placeOf(HWND control);  // in its parent's client area
 bool waitCursorShows();
 
-// Whether a line or the beginning of one that is drawn in the window itself reads so.
+// Whether the window itself shows a line that begins with this text.
 bool showsText(HWND window, const std::string& text);
 
 // The pixels of a window's client area with everything that lies in it, as 0xRRGGBB, row after row.

@@ -1,4 +1,4 @@
-// The lazy reading of character files, along the resource map and without one; and what damaged files give.
+// Reading character files on demand, with a resource map and without one, and what damaged files give.
 #include <gtest/gtest.h>
 
 #include "tests/support/test_neighborhood.h"

@@ -1,4 +1,4 @@
-// Families and their members, stages, and the flags that tell a save what to write.
+// Families and their members, stages, and the flags that a save goes by.
 #include <gtest/gtest.h>
 
 #include "tests/support/test_neighborhood.h"

@@ -1,4 +1,4 @@
-// The reading of "neighborhood.iff": records, families, free room; and what damaged files give.
+// Reading "neighborhood.iff": records, families and free room, and what damaged files give.
 #include <gtest/gtest.h>
 
 #include "tests/support/test_neighborhood.h"
@@ -7,7 +7,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// The names of the listed families, with a "|" behind each.
+// The names of the listed families, each followed by "|".
 std::string familiesOf(const TestNeighborhood& read) {
     std::string names;
     for (int i = 0; i < read->familyCount(); ++i)

@@ -20,7 +20,7 @@ TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {
     loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
     EXPECT_EQ(box->title + ": " + box->text, "Loading Error: Error loading Neighborhood 2");
     EXPECT_EQ(listedNeighborhoodCount(), 1);
-    EXPECT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, though nobody will see it";
+    EXPECT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, but never shown";
     EXPECT_EQ(statusLine(), "Loading Neighborhood 100") << "the last";
     files.remove("UserData2");
     loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
