@@ -15,17 +15,14 @@ std::int32_t openFailure(std::int32_t withoutCode) {
     return code != 0 ? static_cast<std::int32_t>(code) : withoutCode;
 }
 
-// The error if the source can't be opened. The destination is opened all the same, without changing it, because its
-// error counts if both fail.
+// The error if the source can't be opened. The destination is opened too, because its error counts if both fail. It is
+// neither changed nor created: an empty file would look like a backup.
 std::int32_t sourceFailure(const char* destination) {
     const std::int32_t error = openFailure(copyError::sourceNotOpened);
-    FileStatus status{};
-    const bool existed = queryFileStatus(destination, status);
     SetLastError(NO_ERROR);
-    std::FILE* file = openFile(destination, "a+b");
-    if (file == nullptr) return openFailure(copyError::destinationNotOpened);
-    std::fclose(file);
-    if (!existed) DeleteFileA(destination);  // an empty file would look like a backup
+    std::FILE* file = openFile(destination, "r+b");
+    if (file == nullptr && GetLastError() != ERROR_FILE_NOT_FOUND) return openFailure(copyError::destinationNotOpened);
+    if (file != nullptr) std::fclose(file);
     return error;
 }
 
