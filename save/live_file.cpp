@@ -12,11 +12,11 @@ bool matchesAt(StreamView file, std::int32_t offset, std::string_view bytes) {
     return matchTagHere(file, bytes) == 1;
 }
 
-// Nothing is cut without new families.
+// Nothing is cut without new families. In a file without a free chunk and a map, as a save of new families leaves it,
+// the header still has no map then.
 bool isCutThere(StreamView file, const Neighborhood& neighborhood) {
     if (!neighborhood.hasNewFamilies()) return true;
     if (neighborhood.xxxxOffset() > 0) return matchesAt(file, neighborhood.xxxxOffset(), freeChunkTag);
-    if (neighborhood.mapOffset() <= 0) return true;
     file.seek(iffHeader::mapOffset);
     return static_cast<std::int32_t>(readU24Be(file.readBytes<iffHeader::mapOffsetSize>())) == neighborhood.mapOffset();
 }
@@ -44,7 +44,7 @@ bool isFamilyThere(StreamView file, const Family& family) {
 
 bool isAsRead(const char* path, const Neighborhood& neighborhood) {
     StreamFile file;
-    if (!file.open(path, StreamFile::Access::read, pieceWindow)) return true;
+    if (!file.open(path, StreamFile::Access::read, pieceWindow)) return false;
     const StreamView view(file);
     for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
         const Sim& sim = *neighborhood.sim(i);
