@@ -53,7 +53,11 @@ void SaveAttempt::finish() {
     neighborhood_.mapOffset_ = 0;
     for (std::int32_t i = 0; i < neighborhood_.simCount(); ++i) {
         Sim& sim = *neighborhood_.sim(i);
-        if (!isCopied(sim.recordOffset(), neighborRecord::size)) forgetRecord(sim);
+        if (isCopied(sim.recordOffset(), neighborRecord::size)) continue;
+        // The Sim stays marked if its character file couldn't be made or installed.
+        const bool waits = sim.recordDirty() && !owes(sim);
+        forgetRecord(sim);
+        sim.recordDirty_ = waits;
     }
     for (std::int32_t i = 0; i < neighborhood_.familyCount(); ++i) {
         Family& family = *neighborhood_.family(i);
