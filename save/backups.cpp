@@ -1,6 +1,7 @@
 // Moves the live file to its dated backup, and the temporary file to the live name. The live file's name is relative
 // when it is backed up, and so is that of the backups' directory: the current directory is then the neighborhood's, or
 // its "Characters" for a character file.
+#include "platform/files.h"
 #include "platform/win32.h"
 #include "save/backup_names.h"
 #include "save/save_attempt.h"
@@ -9,7 +10,8 @@
 // backup's copy is made first, so that the other one can't take its room on the disk.
 void SaveAttempt::backUp(const char* live, const PathText& backup, const PathText& tempPath,
                          const char* liveAfterwards) {
-    CreateDirectoryA(backupsDirectory, nullptr);  // usually it exists already
+    // Usually it exists already. A new one must reach the disk before the old file goes.
+    if (CreateDirectoryA(backupsDirectory, nullptr) != FALSE) syncDirectory(".");
     Move move(live, backup.c_str());
     move.copyAhead();
     install_.emplace(tempPath.c_str(), liveAfterwards);
