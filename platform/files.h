@@ -49,8 +49,9 @@ void syncDirectory(const char* path);
 
 // A new version of a file, which takes the file's name only when it is complete: a process or machine that stops
 // half-way leaves no partial file under that name. Natively it is a file without a name (O_TMPFILE). On Windows it is
-// "~partN.tmp" in the same directory, with the process's number. FAT and some network and FUSE file systems can't do
-// this; on those only `atOnce` works. A process may have one version at a time open in a directory.
+// "~partN.tmp" in the same directory, with the process's number, and has "~partN-link.tmp" as a second name. FAT and
+// some network and FUSE file systems can't do this; on those only `atOnce` works. A process may have one version at a
+// time open in a directory.
 class NewVersion {
  public:
     enum class Naming { whenComplete, atOnce };
@@ -87,7 +88,7 @@ class NewVersion {
     std::unique_ptr<State> state_;
 };
 
-// Deletes the "~partN.tmp" files that processes left in `directory` when they ended half-way. Those of running
+// Deletes the "~part*.tmp" files that processes left in `directory` when they ended half-way. Those of running
 // processes stay. Does nothing natively, where such files do not exist.
 void deleteLeftOverParts(const char* directory);
 

@@ -11,8 +11,9 @@
 struct NewVersion::State {
     bool close() { return stream == nullptr || std::fclose(std::exchange(stream, nullptr)) == 0; }
 
-    std::string path;  // with drive and directory, so that the working directory doesn't matter
-    std::string part;  // where the new version is until it gets its name
+    std::string path;   // with drive and directory, so that the working directory doesn't matter
+    std::string part;   // where the new version is until it gets its name
+    std::string trial;  // a second name of the part, which shows that it can have one
     std::FILE* stream = nullptr;
     bool isNamedPart = false;  // has the name already, but isn't complete
 };
@@ -65,7 +66,9 @@ std::FILE* openPart(const std::string& part) {
 
 NewVersion::NewVersion(const char* path) : state_(std::make_unique<State>()) {
     state_->path = fullPath(path);
-    state_->part = directoryOf(state_->path) + "~part" + std::to_string(GetCurrentProcessId()) + ".tmp";
+    const std::string part = directoryOf(state_->path) + "~part" + std::to_string(GetCurrentProcessId());
+    state_->part = part + ".tmp";
+    state_->trial = part + "-link.tmp";
 }
 
 NewVersion::~NewVersion() {
@@ -78,6 +81,13 @@ std::FILE* NewVersion::open(Naming naming) {
         state_->isNamedPart = state_->stream != nullptr;
     } else if (isReplaceable(state_->path)) {
         state_->stream = openPart(state_->part);
+        // The older file of the name must not be deleted before it is known that the part can be linked. FAT, network
+        // drives and Wine each refuse it with another error.
+        const char* const part = state_->part.c_str();
+        if (state_->stream != nullptr && CreateHardLinkA(state_->trial.c_str(), part, nullptr) == FALSE) {
+            discard();
+            SetLastError(ERROR_NOT_SUPPORTED);
+        }
     }
     return state_->stream;
 }
@@ -97,8 +107,6 @@ bool NewVersion::giveName() {
         if (DeleteFileA(path) == FALSE && GetLastError() != ERROR_FILE_NOT_FOUND) return false;
         return CreateHardLinkA(path, state_->part.c_str(), nullptr) != FALSE;
     });
-    // The error that FAT gives.
-    if (!isNamed && GetLastError() == ERROR_INVALID_FUNCTION) SetLastError(ERROR_NOT_SUPPORTED);
     const DWORD error = GetLastError();
     discard();
     SetLastError(error);
@@ -108,7 +116,10 @@ bool NewVersion::giveName() {
 void NewVersion::discard() {
     const bool isPart = state_->stream != nullptr && !state_->isNamedPart;
     state_->close();
-    if (isPart) DeleteFileA(state_->part.c_str());
+    if (isPart) {
+        DeleteFileA(state_->part.c_str());
+        DeleteFileA(state_->trial.c_str());
+    }
     if (std::exchange(state_->isNamedPart, false)) DeleteFileA(state_->path.c_str());
 }
 
