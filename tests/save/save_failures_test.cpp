@@ -86,6 +86,30 @@ TEST_F(SaveFailuresTest, ALiveFileThatIsNotTheOneReadIsLeftAlone) {
     }
 }
 
+// The first save cuts off the map. If there is one at the second save, the game has written the file anew.
+TEST_F(SaveFailuresTest, ANewMapKeepsASecondMoveOutFromBeingSaved) {
+    start();
+    saveAt(7);
+    Bytes changed = files().bytesOf(live);
+    overwrite(changed, 61, {0, 1, 0});
+    files().write(live, changed);
+    moveOut(test(), 0, "Ann's", 900, 0);
+    saveAt(8);
+    EXPECT_EQ(files().bytesOf(live), changed);
+    EXPECT_TRUE(test()->isDirty());
+}
+
+TEST_F(SaveFailuresTest, ASimWithoutANewFileStaysMarkedThoughItsRecordIsCutOff) {
+    start({.before = {{.type = "XXXX"}}});
+    files().remove("Template.iff");
+    saveAt(7);
+    EXPECT_TRUE(test()->isDirty());
+    files().write("Template.iff", original().at("Template.iff"));
+    saveAt(8);
+    EXPECT_FALSE(test()->isDirty());
+    EXPECT_TRUE(states().starts_with("new, backup old; new, backup old; ")) << states();
+}
+
 TEST_F(SaveFailuresTest, AChangedFreeChunkMattersOnlyToNewFamilies) {
     start({.freeRoom = true}, false);
     Bytes changed = built().bytes;
