@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::size_t mapOffsetField = 60;
+constexpr std::size_t mapOffsetField = iffHeaderSize - iffMapOffsetSize;
 constexpr std::size_t typeSize = 4;
 constexpr std::size_t labelSize = 64;
 

@@ -11,6 +11,7 @@
 #include "gamefiles/byte_writer.h"
 
 constexpr std::size_t iffHeaderSize = 64;
+constexpr std::size_t iffMapOffsetSize = 4;  // of the header's last field, the offset of the resource map
 constexpr std::size_t iffChunkHeaderSize = 76;
 
 struct IffChunk {
@@ -19,6 +20,8 @@ struct IffChunk {
     std::string label = {};  // at most 64 characters
     Bytes content = {};
     std::uint16_t flags = 0x0010;
+
+    bool operator==(const IffChunk&) const = default;
 };
 
 // All offsets count from the start of the file.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "gamefiles/iff_reader.h"
 #include "gamefiles/text_chunk.h"
 #include "tests/support/iff_walk.h"
 
@@ -45,6 +46,40 @@ TEST(IffWalkTest, FindsWhatIsWrongWithAFile) {
         Bytes file = fileOfFourChunks();
         file[row.changedByte] ^= 1;
         EXPECT_EQ(walkIff(file).fault, row.fault);
+    }
+}
+
+TEST(IffReaderTest, TakesApartWhatTheBuilderMadeAndSaysWhatItRefuses) {
+    const IffChunk first{.type = "STR#", .id = 0x1234, .label = "ab", .content = {1, 2}, .flags = 0x5678};
+    const IffChunk last{.type = "GLOB", .label = std::string(64, 'c'), .content = {}};
+    IffBuilder builder;
+    builder.add(first);
+    builder.addFreeRoom(80);
+    builder.add(last);
+    const IffContents read = readIff(builder.bytes());
+    ASSERT_EQ(read.chunks.size(), 3U) << read.fault;
+    EXPECT_EQ(read.chunks[0], first);
+    EXPECT_EQ(read.chunks[1].type, "XXXX");
+    EXPECT_EQ(read.chunks[2], last);
+
+    const struct {
+        std::size_t changed, length;
+        std::uint8_t byte;
+        const char* fault;
+    } rows[] = {{0, 298, 'i', "doesn't begin as the game's IFF files do"},
+                {0, 63, 'I', "doesn't begin as the game's IFF files do"},
+                {71, 298, 75, "has a chunk without room for its header at 64"},
+                {68, 298, 0x80, "ends inside the chunk at 64"},
+                {0, 297, 'I', "has bytes left over at 222"},
+                {229, 298, 77, "ends inside the chunk at 222"},
+                {0, 64, 'I', ""}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.fault);
+        Bytes file = builder.bytes();
+        file[row.changed] = row.byte;
+        file.resize(row.length);
+        EXPECT_EQ(readIff(file).fault, row.fault);
+        EXPECT_TRUE(readIff(file).chunks.empty());
     }
 }
 
