@@ -40,7 +40,9 @@ IffChunk templateBodyStringsChunk() {
 Bytes makeCharacterTemplate() {
     const PortraitColors colors;
     IffBuilder file;
-    addBehaviourChunks(file);
+    for (const IffChunk& chunk : behaviourChunks(BehaviourSet::older)) {
+        file.add(chunk);
+    }
     file.padTo(templateObject);
     file.add(objectDefinition("user00000 - Sim", sampleGuid));
     file.add(templateNameChunk());

@@ -5,20 +5,36 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "gamefiles/bitmap.h"
 #include "gamefiles/iff_builder.h"
 
 constexpr std::uint16_t characterSlotsId = 128;
 
-// Adds strings, trees, behaviours, slots and the name of the shared behaviours: all that comes before the object
-// definition.
-void addBehaviourChunks(IffBuilder& file);
+// The ids of a Sim's own behaviours, "BHAV".
+constexpr std::uint16_t mainTreeId = 4096;
+constexpr std::uint16_t initTreeId = 4097;
+constexpr std::uint16_t loadTreeId = 4098;
+constexpr std::uint16_t initTraitsId = 4100;
+
+// What the chunk "GLOB" of a Sim names: the behaviours that all Sims share.
+constexpr const char* sharedBehavioursName = "PersonGlobals";
+
+// Which chunks of behaviour a file has. Those of the two sets of a player's Sims are equally many, but of other sizes
+// and in another order. The game's own characters have the older set's and more; a pet has those of a pet.
+enum class BehaviourSet { older, newer, townie, pet };
+
+// Strings, trees, behaviours, slots and the name of the shared behaviours. All of them come before the name.
+std::vector<IffChunk> behaviourChunks(BehaviourSet set);
+
+// How many of them come before the object definition.
+std::size_t chunksBeforeDefinition(BehaviourSet set);
 
 // Adds the five pictures that come before the name: faces, relationships, thumbnail and two for speech bubbles.
 // `relationshipRows` is the height of the second one in pixels. It grows with the number of friends.
-constexpr int fewRelationshipRows = 80;
-constexpr std::size_t relationshipRowSize = 300;  // bytes
+constexpr int fewRelationshipRows = 40;
+constexpr std::size_t relationshipRowSize = 600;  // bytes
 void addPictureChunks(IffBuilder& file, const PortraitColors& colors, int relationshipRows = fewRelationshipRows);
 
 // Adds the picture for the player's web page, the last chunk before the resource map.

@@ -1,5 +1,7 @@
 #include "gamefiles/character_file.h"
 
+#include <span>
+
 #include "gamefiles/character_chunks.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
@@ -8,17 +10,24 @@ namespace {
 
 constexpr std::size_t freeRoomSize = 208;
 
+void addAll(IffBuilder& file, std::span<const IffChunk> chunks) {
+    for (const IffChunk& chunk : chunks) {
+        file.add(chunk);
+    }
+}
+
 CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) {
     CharacterFile built;
     IffBuilder file;
-    for (const IffChunk& chunk : character.before) {
-        file.add(chunk);
-    }
-    addBehaviourChunks(file);
+    addAll(file, character.before);
+    const std::vector<IffChunk> behaviour = behaviourChunks(character.behaviour);
+    const std::size_t before = chunksBeforeDefinition(character.behaviour);
+    addAll(file, std::span(behaviour).first(before));
     if (character.freeRoom) built.freeRoomOffset = file.addFreeRoom(freeRoomSize);
     if (character.hasObject) {
         built.objectOffset = file.add(objectDefinition(character.recordName + " - " + character.name, character.guid));
     }
+    addAll(file, std::span(behaviour).subspan(before));
     if (character.hasPictures) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasName) {
         built.nameOffset = file.add({.type = "CTSS",

@@ -11,6 +11,7 @@
 #include "gamefiles/bitmap.h"
 #include "gamefiles/bodies.h"
 #include "gamefiles/body_string_text.h"
+#include "gamefiles/character_chunks.h"
 #include "gamefiles/iff_builder.h"
 
 // No byte of it is zero. The file has it as "\x01\x11WT".
@@ -27,6 +28,7 @@ struct SampleCharacter {
     std::size_t bodyTextSize = 1041;  // filled up to this size; a longer text isn't cut
     std::string bodyLabel = "bodystring";
 
+    BehaviourSet behaviour = BehaviourSet::older;
     bool hasObject = true;              // "OBJD"
     bool hasName = true;                // "CTSS"
     bool hasBodyStrings = true;         // "STR#" with id 200

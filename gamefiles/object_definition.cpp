@@ -1,27 +1,54 @@
 #include "gamefiles/object_definition.h"
 
+#include <array>
+
 #include "gamefiles/body_string_text.h"
 #include "gamefiles/character_chunks.h"
+#include "gamefiles/text_chunk.h"
 
 namespace {
 
 constexpr std::uint16_t definitionId = 128;
-constexpr int definitionVersion = 138;
-constexpr int personType = 2;
 
-// Offsets in the content. All other fields are 0 for a person.
-constexpr std::size_t typeField = 18;
-constexpr std::size_t guidField = 28;
-constexpr std::size_t bodyStringsIdField = 38;  // the slots' id follows
+struct WordRow {
+    std::size_t index;
+    std::uint16_t value;
+};
+
+// The words of a player's Sim that aren't 0, without the GUID. Those without a name are as in the game's own files.
+constexpr WordRow personWords[] = {
+    {0, 138},  // version
+    {2, 48},   // stack size of the trees
+    {4, 1},
+    {definitionWord::mainTree, mainTreeId},
+    {6, 2},
+    {7, 129},
+    {8, 128},
+    {definitionWord::type, personType},
+    {13, 128},
+    {definitionWord::bodyStringsId, bodyStringsId},
+    {definitionWord::slotsId, characterSlotsId},
+    {23, 202},
+    {definitionWord::nameId, characterNameId},
+    {definitionWord::initTree, initTreeId},
+    {definitionWord::loadTree, loadTreeId},
+    {49, 1},
+    {52, 8210},  // cleanup tree, one of the shared ones
+    {68, 1},
+};
 
 }  // namespace
 
 IffChunk objectDefinition(const std::string& label, std::uint32_t guid) {
+    std::array<std::uint16_t, (objectDefinitionSize - iffChunkHeaderSize) / 2> words{};
+    for (const WordRow& row : personWords) {
+        words[row.index] = row.value;
+    }
+    words[definitionWord::guid] = static_cast<std::uint16_t>(guid & 0xFFFF);
+    words[definitionWord::guid + 1] = static_cast<std::uint16_t>(guid >> 16);
     ByteWriter content;
-    content.u32Le(definitionVersion);
-    content.fillTo(typeField).u16Le(personType);
-    content.fillTo(guidField).u32Le(guid);
-    content.fillTo(bodyStringsIdField).u16Le(bodyStringsId).u16Le(characterSlotsId);
-    content.fillTo(objectDefinitionSize - iffChunkHeaderSize);
+    for (const std::uint16_t word : words) {
+        content.u16Le(word);
+    }
     return {.type = "OBJD", .id = definitionId, .label = label, .content = content.written()};
 }

@@ -11,10 +11,19 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(ObjectDefinitionTest, NamesThePersonItsBodyStringsAndItsSlots) {
-    EXPECT_EQ(textAt(objectDefinition("Ada", sampleGuid).content),
-              "\x8A\0\0\0"s + std::string(14, '\0') + "\2\0\0\0\0\0\0\0\0\0\x01\x11WT\0\0\0\0\0\0\xC8\0\x80\0"s +
-                  std::string(174, '\0'));
+TEST(ObjectDefinitionTest, HasTheWordsOfAPlayersSim) {
+    std::string expected(216, '\0');
+    const std::pair<std::size_t, std::string> words[] = {
+        {0, "\x8A\0\0\0\x30\0\0\0\1"s},               // version and stack size
+        {10, "\0\x10\2\0\x81\0\x80\0\2"s},            // main tree, and the type of a person
+        {26, "\x80\0\1\x11WT"s},                      // and the GUID
+        {38, "\xC8\0\x80\0\0\0\0\0\xCA"s},            // body strings and slots
+        {82, "\xD0\7\0\0\1\x10\0\0\0\0\0\0\2\x10"s},  // name, init tree and load tree
+        {98, "\1\0\0\0\0\0\x12\x20"s},                // cleanup tree
+        {136, "\1"}};
+    for (const auto& [offset, bytes] : words)
+        expected.replace(offset, bytes.size(), bytes);
+    EXPECT_EQ(textAt(objectDefinition("Ada", sampleGuid).content), expected);
 }
 
 TEST(BitmapTest, HasPaddedRowsFromTheBottomUp) {
