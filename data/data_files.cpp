@@ -1,41 +1,12 @@
 #include "data/data_files.h"
 
+#include "data/template_chunks.h"
 #include "gamefiles/character_chunks.h"
 #include "gamefiles/character_file.h"
 #include "gamefiles/file_writing.h"
 #include "gamefiles/neighborhood_file.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
-
-namespace {
-
-// Offsets of the chunks in "Template.iff".
-constexpr std::size_t templateObject = 3976;
-constexpr std::size_t templateName = 4268;
-constexpr std::size_t templateBodyStrings = 54016;
-static_assert(templateObject + objectDefinitionSize == templateName);
-
-// The zero bytes behind the name's field make up a second, empty text, the biography. This holds for a name of any
-// length up to 63.
-IffChunk templateNameChunk() {
-    constexpr std::size_t nameSize = 64;
-    constexpr std::size_t zerosBehind = 7;
-    ByteWriter content = beginTextChunk(2);
-    content.u8(usEnglish).field("Sim", nameSize + zerosBehind);
-    return {.type = "CTSS", .id = characterNameId, .content = content.written()};
-}
-
-// The chunk counts 33 texts, which fits a text that ends with entry 32. With a larger count the game would take the
-// fill for the winter outfit of a Sim without one. The zero bytes behind the fill complete the 33 texts if the text
-// ends with entry 29.
-IffChunk templateBodyStringsChunk() {
-    constexpr std::size_t zerosBehind = 12;
-    IffChunk chunk = sampleBodyStringsChunk({});
-    chunk.content.resize(chunk.content.size() + zerosBehind);
-    return chunk;
-}
-
-}  // namespace
 
 Bytes makeCharacterTemplate() {
     const PortraitColors colors;
@@ -44,12 +15,12 @@ Bytes makeCharacterTemplate() {
         file.add(chunk);
     }
     file.padTo(templateObject);
-    file.add(objectDefinition("user00000 - Sim", sampleGuid));
-    file.add(templateNameChunk());
+    file.add(objectDefinition(std::string(templateRecordName) + " - Sim", sampleGuid));
+    file.add(templateNameChunk("Sim"));
     addPictureChunks(file, colors);
     addWebPictureChunk(file, colors);
     file.padTo(templateBodyStrings);
-    file.add(templateBodyStringsChunk());
+    file.add(templateBodyStringsChunk(adultSlots()));
     file.addMap();
     return file.bytes();
 }

@@ -1,0 +1,27 @@
+#include "data/template_chunks.h"
+
+#include "gamefiles/character_file.h"
+#include "gamefiles/object_definition.h"
+#include "gamefiles/text_chunk.h"
+
+static_assert(templateObject + objectDefinitionSize == templateName);
+
+// The zero bytes behind the name's field make up a second, empty text, the biography. This holds for a name of any
+// length up to 63.
+IffChunk templateNameChunk(const std::string& name) {
+    constexpr std::size_t nameSize = 64;
+    constexpr std::size_t zerosBehind = 7;
+    ByteWriter content = beginTextChunk(2);
+    content.u8(usEnglish).field(name, nameSize + zerosBehind);
+    return {.type = "CTSS", .id = characterNameId, .content = content.written()};
+}
+
+// The chunk counts 33 texts, which fits a text that ends with entry 32. With a larger count the game would take the
+// fill for the winter outfit of a Sim without one. The zero bytes behind the fill complete the 33 texts if the text
+// ends with entry 29.
+IffChunk templateBodyStringsChunk(const BodySlots& slots) {
+    constexpr std::size_t zerosBehind = 12;
+    IffChunk chunk = sampleBodyStringsChunk({.slots = slots});
+    chunk.content.resize(chunk.content.size() + zerosBehind);
+    return chunk;
+}
