@@ -51,8 +51,12 @@ std::size_t IffBuilder::append(const IffChunk& chunk) {
 }
 
 std::size_t IffBuilder::add(const IffChunk& chunk) {
+    return add(chunk, chunk.label);
+}
+
+std::size_t IffBuilder::add(const IffChunk& chunk, const std::string& mapLabel) {
     const std::size_t offset = append(chunk);
-    entries_.push_back({{chunk.type, chunk.id, chunk.label, {}, chunk.flags}, offset});
+    entries_.push_back({{chunk.type, chunk.id, mapLabel, {}, chunk.flags}, offset});
     return offset;
 }
 

@@ -32,6 +32,9 @@ class IffBuilder {
     // Appends a chunk and returns the offset of its header.
     std::size_t add(const IffChunk& chunk);
 
+    // The same for a chunk that the resource map lists under another label.
+    std::size_t add(const IffChunk& chunk, const std::string& mapLabel);
+
     // Appends free room, the remains of a chunk that the game deleted: `size` bytes with the header, so at least 76.
     // Its type is "XXXX", its id and label are those of the old chunk, and the resource map doesn't list it. Returns
     // its offset.
