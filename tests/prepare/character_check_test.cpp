@@ -1,0 +1,60 @@
+#include "prepare/character_check.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "tests/prepare/character_chunks.h"
+#include "tests/support/temp_directory.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason) {
+    const SampleCharacter older, newer{.behaviour = BehaviourSet::newer, .freeRoom = true};
+    EXPECT_EQ(refusalOf(chunksOf(older)) + refusalOf(chunksOf(newer)), "");
+    EXPECT_EQ(refusalOf(chunksOf({.tag = "child"})), "has the body strings of no adult");
+    EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::pet})), "has the behaviour of something but a person");
+    EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::townie})),
+              "has the chunk OBJf 128 of the game's own characters");
+
+    const struct {
+        const char* type;
+        int id;
+        std::function<void(IffChunk&)> change;
+        const char* refusal;
+    } rows[] = {
+        {"OBJD", 128, [](auto& c) { c.type = "OBJE"; }, "has 0 chunks OBJD instead of one"},
+        {"XXXX", 4101, [](auto& c) { c.type = "CTSS"; }, "has 2 chunks CTSS instead of one"},
+        {"STR#", 200, [](auto& c) { c.id = 201; }, "has 0 chunks STR# 200 instead of one"},
+        {"GLOB", 128, [](auto& c) { c.type = "XXXX"; }, "has 0 chunks GLOB instead of one"},
+        {"SLOT", 128, [](auto& c) { c.type = "XXXX"; }, "has 0 chunks SLOT instead of one"},
+        {"BHAV", 4096, [](auto& c) { c.id = 4100; }, "has 0 chunks BHAV 4096 instead of one"},
+        {"BHAV", 4097, [](auto& c) { c.id = 4100; }, "has 0 chunks BHAV 4097 instead of one"},
+        {"BHAV", 4098, [](auto& c) { c.id = 4100; }, "has 0 chunks BHAV 4098 instead of one"},
+        {"BHAV", 4100, [](auto& c) { c.id = 4099; }, "has the chunk BHAV 4099 of the game's own characters"},
+        {"OBJD", 128, [](auto& c) { c.content.pop_back(); }, "has an object definition of another size"},
+        {"OBJD", 128, [](auto& c) { c.content[18] = 4; }, "has an object definition without 2 in word 9"},
+        {"OBJD", 128, [](auto& c) { c.content[11] = 0; }, "has an object definition without 4096 in word 5"},
+        {"OBJD", 128, [](auto& c) { c.content[86] = 0; }, "has an object definition without 4097 in word 43"},
+        {"OBJD", 128, [](auto& c) { c.content[94] = 0; }, "has an object definition without 4098 in word 47"},
+        {"GLOB", 128, [](auto& c) { c.content = bytesFrom("PersonGlobals\0\xA3"s); }, ""},
+        {"GLOB", 128, [](auto& c) { c.content = bytesFrom("PersonGlobal"); },
+         "has the behaviour of something but a person"},
+        {"GLOB", 128, [](auto& c) { c.content[0] = 12; }, "has the behaviour of something but a person"},
+        {"GLOB", 128, [](auto& c) { c.content.clear(); }, "has the behaviour of something but a person"},
+        {"STR#", 200, [](auto& c) { c.content[10] = 's'; }, "has the body strings of no adult"},
+        {"STR#", 200, [](auto& c) { c.content.resize(10); }, "has the body strings of no adult"},
+        {"BHAV", 4096, [](auto& c) { c.content.resize(23); }, "has a main tree that does nothing"},
+        {"BHAV", 4096, [](auto& c) { std::ranges::fill(c.content, 0x1F); }, "has a main tree that does nothing"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.type + " "s + std::to_string(row.id) + ": " + row.refusal);
+        Chunks chunks = chunksOf(newer);
+        row.change(chunkIn(chunks, row.type, row.id));
+        EXPECT_EQ(refusalOf(chunks), row.refusal);
+    }
+}
+
+}  // namespace
