@@ -4,19 +4,13 @@
 #include <algorithm>
 
 #include "gamefiles/bodies.h"
+#include "tests/support/body_slots.h"
 #include "tests/support/test_stream.h"
 
 namespace {
 
 using namespace std::string_literals;
 using enum BodyEnding;
-
-BodySlots slotsOf(const BodyStrings& body) {
-    BodySlots slots;
-    for (std::size_t i = 0; i < slots.size(); ++i)
-        slots[i] = body.slot(static_cast<bodySlot::Index>(i));
-    return slots;
-}
 
 // No two alike, and those from `end` on empty.
 BodySlots numberedSlots(std::size_t end = 50) {

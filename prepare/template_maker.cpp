@@ -1,0 +1,88 @@
+#include "prepare/template_maker.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "data/template_chunks.h"
+#include "platform/byte_order.h"
+#include "prepare/chunk_role.h"
+#include "prepare/neutral_picture.h"
+
+namespace {
+
+// Free room is a chunk itself, so a gap that is smaller than a chunk's header can't be filled.
+bool fits(std::size_t size, std::size_t room) {
+    return size == room || (size < room && room - size >= iffChunkHeaderSize);
+}
+
+// Adds the chunks that fit in front of `end` and fills the rest of the room. Appends the others to `leftOver`.
+void fillRoom(IffBuilder& file, std::size_t end, const std::vector<IffChunk>& chunks, std::vector<IffChunk>& leftOver) {
+    for (const IffChunk& chunk : chunks) {
+        if (fits(iffChunkHeaderSize + chunk.content.size(), end - file.size())) {
+            file.add(chunk);
+        } else {
+            leftOver.push_back(chunk);
+        }
+    }
+    file.padTo(end);
+}
+
+// A save overwrites the label in the chunk only, so the map has none.
+void addDefinition(IffBuilder& file, IffChunk definition) {
+    definition.label = templateRecordName;
+    file.add(definition, "");
+}
+
+std::vector<IffChunk> neutralPictures(const std::vector<IffChunk>& source) {
+    std::vector<IffChunk> pictures = withRole(source, ChunkRole::picture);
+    for (IffChunk& picture : pictures) {
+        picture.content = neutralPicture(picture.content);
+    }
+    return pictures;
+}
+
+struct MapSearch {
+    std::array<std::uint8_t, 4> pattern;
+    std::ptrdiff_t distance;  // from the pattern to an offset of 3 bytes, little-endian
+    std::size_t chunk;        // what that offset must be
+};
+
+// How the program finds the three chunks. It doesn't walk the map but searches it, from the offset in the file's
+// header, of which it reads 3 bytes.
+constexpr MapSearch mapSearches[] = {
+    {{'D', 'J', 'B', 'O'}, 8, templateObject},
+    {{'S', 'S', 'T', 'C'}, 8, templateName},
+    {{0x00, 0xC8, 0x00, 0x10}, -3, templateBodyStrings},
+};
+
+bool isFound(const MapSearch& search, const Bytes& file, std::size_t mapOffset) {
+    const auto map = std::span(file).subspan(mapOffset);
+    const auto hit = std::search(map.begin(), map.end(), search.pattern.begin(), search.pattern.end()) - map.begin();
+    return readU24Le(map.subspan(static_cast<std::size_t>(hit + search.distance)).first<3>()) == search.chunk;
+}
+
+bool mapLeadsToChunks(const Bytes& file, std::size_t mapOffset) {
+    constexpr std::size_t mapOffsetLimit = 1U << 24;
+    return mapOffset < mapOffsetLimit &&
+           std::ranges::all_of(mapSearches, [&](const MapSearch& search) { return isFound(search, file, mapOffset); });
+}
+
+}  // namespace
+
+Bytes makeTemplate(const std::vector<IffChunk>& source) {
+    IffBuilder file;
+    std::vector<IffChunk> leftOver;
+    fillRoom(file, templateObject, withRole(source, ChunkRole::carried), leftOver);
+    addDefinition(file, withRole(source, ChunkRole::definition).front());
+    file.add(templateNameChunk(""));
+    fillRoom(file, templateBodyStrings, neutralPictures(source), leftOver);
+    file.add(templateBodyStringsChunk({}));
+    for (const IffChunk& chunk : leftOver) {
+        file.add(chunk);
+    }
+    const std::size_t mapOffset = file.addMap();
+    return mapLeadsToChunks(file.bytes(), mapOffset) ? file.bytes() : Bytes();
+}
