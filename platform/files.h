@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <string>
+#include <vector>
 
 // Modes of a status query, as Windows' runtime reports them.
 constexpr std::uint32_t writableDirectoryMode = 0x41FF;
@@ -25,6 +27,9 @@ std::FILE* openFile(const char* path, const char* mode);
 
 // False, with `status` unchanged, if nothing of that name exists or the system refuses the query.
 bool queryFileStatus(const char* path, FileStatus& status);
+
+// The names of the files in a directory, without its subdirectories, sorted by their bytes. Empty if it can't be read.
+std::vector<std::string> fileNamesIn(const char* directory);
 
 // Whether both paths lead to the same existing file, through links too.
 bool isSameFile(const char* first, const char* second);

@@ -35,6 +35,11 @@ class FilesTest : public testing::Test {
     WIN32_FIND_DATAA found_ = {};
 };
 
+TEST_F(FilesTest, NamesTheFilesOfADirectoryAndNotThoseBelow) {
+    EXPECT_EQ(fileNamesIn("."), (std::vector<std::string>{"User00042.iff", "protected.iff"}));
+    EXPECT_EQ(fileNamesIn("missing"), std::vector<std::string>{});
+}
+
 TEST_F(FilesTest, AModeDecidesWhatAnOpenedFileHolds) {
     for (const auto& [mode, content] : {std::pair("r+b", "XYd"), {"wb", "XY"}, {"a+b", "oldXY"}}) {
         directory_.write("User00042.iff", "old");
