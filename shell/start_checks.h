@@ -4,10 +4,8 @@
 
 #include "world/sims_directory.h"
 
-// Exit codes of a start that was refused.
+// Exit codes of a start that was refused, besides those of world/game_check.h.
 namespace exitCode {
-constexpr int gameNotFound = -1;
-constexpr int gameRunning = -2;
 constexpr int badInstallation = -3;
 constexpr int missingSkinSets = -4;
 }  // namespace exitCode

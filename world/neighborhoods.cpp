@@ -4,7 +4,7 @@
 
 #include "platform/win32.h"
 #include "ui/status_line.h"
-#include "world/joined_text.h"
+#include "world/sims_directory.h"
 
 // Never destroyed, because the process ends without freeing its objects.
 NeighborhoodTable& neighborhoods = *new NeighborhoodTable;
@@ -12,13 +12,6 @@ NeighborhoodTable& neighborhoods = *new NeighborhoodTable;
 namespace {
 
 constexpr const char* neighborhoodFileName = "neighborhood.iff";
-
-using NeighborhoodPath = FixedText<119>;
-
-// The first directory's name has no number; the second's number is 2.
-NeighborhoodPath directoryOf(const char* simsDirectory, int number) {
-    return joined<NeighborhoodPath>(simsDirectory, "UserData", number > 1 ? std::to_string(number) : "");
-}
 
 bool exists(const char* path) {
     WIN32_FIND_DATAA found{};
@@ -52,7 +45,7 @@ void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory) {
     for (int number = 1; number <= highestNeighborhoodCount; ++number) {
         auto& slot = neighborhoods[static_cast<std::size_t>(number - 1)];
         slot.reset();
-        const NeighborhoodPath directory = directoryOf(simsDirectory, number);
+        const NeighborhoodPath directory = neighborhoodDirectory(simsDirectory, number);
         if (!exists(directory.c_str())) return;
         showProgress(number);
         auto neighborhood = std::make_unique<Neighborhood>();

@@ -6,8 +6,7 @@
 #include <memory>
 
 #include "world/neighborhood.h"
-
-constexpr int highestNeighborhoodCount = 100;
+#include "world/sims_directory.h"
 
 // Slot k holds the neighborhood of directory number k + 1, or null. Every walk over the table stops at the first null.
 using NeighborhoodTable = std::array<std::unique_ptr<Neighborhood>, highestNeighborhoodCount>;

@@ -1,8 +1,10 @@
 #include "world/sims_directory.h"
 
 #include <array>
+#include <string>
 
 #include "platform/win32.h"
+#include "world/joined_text.h"
 
 int findSimsDirectory(DirectoryText& directory) {
     HKEY key = nullptr;
@@ -18,4 +20,8 @@ int findSimsDirectory(DirectoryText& directory) {
     value.back() = '\0';  // a value may come without its terminator
     directory.assign(value.data());
     return 0;
+}
+
+NeighborhoodPath neighborhoodDirectory(const char* simsDirectory, int number) {
+    return joined<NeighborhoodPath>(simsDirectory, "UserData", number > 1 ? std::to_string(number) : "");
 }

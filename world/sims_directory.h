@@ -8,4 +8,13 @@
 // untouched if there is no such entry.
 int findSimsDirectory(DirectoryText& directory);
 
+using NeighborhoodPath = FixedText<119>;
+
+// The highest number of a neighborhood.
+constexpr int highestNeighborhoodCount = 100;
+
+// The directory of a neighborhood, "UserData", "UserData2" and so on. `simsDirectory` has a trailing backslash, and the
+// first number is 1.
+NeighborhoodPath neighborhoodDirectory(const char* simsDirectory, int number);
+
 #endif

@@ -1,0 +1,28 @@
+// The checks that each program makes before it touches the game.
+#ifndef WORLD_GAME_CHECK_H
+#define WORLD_GAME_CHECK_H
+
+#include "world/sims_directory.h"
+
+// Exit codes of a start that was refused.
+namespace exitCode {
+constexpr int gameNotFound = -1;
+constexpr int gameRunning = -2;
+}  // namespace exitCode
+
+// A skin that this program's package puts into the game's directory.
+constexpr const char* installedSkin = "GameData\\Skins\\xskin-c601fa_amanda-HEAD-HEAD.skn";
+
+constexpr const char* skinSetsName = "skinsets.cfg";
+
+// Whether the file exists and holds at least 1 byte.
+bool hasBytes(const char* path);
+
+// Shows the box, posts the code as the process's, and returns it.
+int refuseStart(const char* text, const char* title, int code);
+
+// Finds the game's directory, with a trailing backslash, and refuses to go on while the game runs. Returns 0, or the
+// exit code after a box that says why.
+int checkGame(DirectoryText& simsDirectory);
+
+#endif
