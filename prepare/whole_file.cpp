@@ -1,0 +1,44 @@
+#include "prepare/whole_file.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdio>
+
+#include "platform/files.h"
+#include "platform/win32.h"
+
+namespace {
+
+bool write(NewVersion& version, NewVersion::Naming naming, const Bytes& bytes) {
+    std::FILE* const file = version.open(naming);
+    if (file == nullptr) return false;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && version.complete()) {
+        return version.giveName();
+    }
+    version.discard();
+    return false;
+}
+
+}  // namespace
+
+std::optional<Bytes> readWholeFile(const char* path) {
+    constexpr std::size_t blockSize = 65536;
+    std::FILE* const file = openFile(path, "rb");
+    if (file == nullptr) return std::nullopt;
+    Bytes bytes;
+    std::array<std::uint8_t, blockSize> block{};
+    while (const std::size_t got = std::fread(block.data(), 1, block.size(), file)) {
+        bytes.insert(bytes.end(), block.begin(), block.begin() + static_cast<std::ptrdiff_t>(got));
+    }
+    const bool failed = std::ferror(file) != 0;
+    std::fclose(file);
+    if (failed) return std::nullopt;
+    return bytes;
+}
+
+bool writeWholeFile(const char* path, const Bytes& bytes) {
+    NewVersion version(path);
+    SetLastError(NO_ERROR);
+    if (write(version, NewVersion::Naming::whenComplete, bytes)) return true;
+    return GetLastError() == ERROR_NOT_SUPPORTED && write(version, NewVersion::Naming::atOnce, bytes);
+}

@@ -1,0 +1,17 @@
+// Reads and writes small files as a whole.
+#ifndef PREPARE_WHOLE_FILE_H
+#define PREPARE_WHOLE_FILE_H
+
+#include <optional>
+
+#include "gamefiles/byte_writer.h"
+
+// Nothing if the file can't be read to its end.
+std::optional<Bytes> readWholeFile(const char* path);
+
+// Writes the file and syncs it. It takes its name, in place of an older file, when it is complete; where the file
+// system can't do that, it is deleted if it can't be completed. False on failure, with the reason in GetLastError as
+// far as the system gives one.
+bool writeWholeFile(const char* path, const Bytes& bytes);
+
+#endif
