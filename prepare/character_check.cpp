@@ -102,8 +102,7 @@ bool beginsWithAdult(std::span<const std::uint8_t> content) {
                               [](std::uint8_t byte, char letter) { return byte == static_cast<std::uint8_t>(letter); });
 }
 
-// Whether a tree has an instruction that calls one of the trees that all Sims share. The main tree of each real Sim
-// does. One that doesn't is from a template that earlier versions of this program came with, and leaves a Sim standing.
+// Whether a tree has an instruction that calls one of the trees that all Sims share.
 bool callsSharedTree(std::span<const std::uint8_t> tree) {
     constexpr std::size_t instructionSize = 12;  // the header takes as much
     constexpr std::uint16_t firstSharedTree = 8192;
@@ -122,6 +121,12 @@ std::string refusalOf(const std::vector<IffChunk>& chunks) {
     if (std::string refusal = refusedDefinition(contentOf(chunks, {"OBJD", anyId})); !refusal.empty()) return refusal;
     if (!namesPersonGlobals(contentOf(chunks, {"GLOB", anyId}))) return "has the behaviour of something but a person";
     if (!beginsWithAdult(contentOf(chunks, {"STR#", bodyStringsId}))) return "has the body strings of no adult";
-    if (!callsSharedTree(contentOf(chunks, {"BHAV", mainTreeId}))) return "has a main tree that does nothing";
+    if (standsStill(chunks)) return "has a main tree that does nothing";
     return "";
+}
+
+bool standsStill(const std::vector<IffChunk>& chunks) {
+    return std::ranges::any_of(chunks, [](const IffChunk& chunk) {
+        return matches(chunk, {"BHAV", mainTreeId}) && !callsSharedTree(chunk.content);
+    });
 }

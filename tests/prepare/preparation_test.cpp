@@ -1,0 +1,128 @@
+#include "prepare/preparation.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "data/data_files.h"
+#include "data/skin_file.h"
+#include "prepare/template_maker.h"
+#include "sample/installation.h"
+#include "sample/wine_prefix.h"
+#include "tests/prepare/character_chunks.h"
+#include "tests/support/machine.h"
+#include "tests/support/temp_directory.h"
+#include "tests/support/tree.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* skin = "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn";
+
+// The sample game as its player left it, without the skin, and a tool directory as it comes out of a package.
+class PreparationTest : public testing::Test {
+ protected:
+    PreparationTest() {
+        EXPECT_TRUE(writeInstallation(files_.path("prefix")));
+        directory_ = installGame(files_.path("prefix"));
+        fs::remove(game() / skin);
+        files_.write("tool/skinsets-original.cfg", "heads");
+        fs::current_path(files_.path("tool"));
+    }
+
+    fs::path game() const { return gameDirectory(files_.path("prefix")); }
+    bool isReady(bool newTemplate = false) {
+        const Preparation preparation = prepareGame(directory_.c_str(), newTemplate);
+        report_ = preparation.report;
+        return preparation.ready;
+    }
+    bool reports(const std::string& text) const { return report_.find(text) != std::string::npos; }
+
+    // Of the first Sim of the first neighborhood that is an adult and no townie.
+    Bytes expectedTemplate() const {
+        return makeTemplate(readIff(treeOf(game()).at("UserData/Characters/User00011.iff")).chunks);
+    }
+
+    TempDirectory files_;
+    std::string directory_, report_;
+};
+
+TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
+    Tree expected = treeOf(game());
+    ASSERT_TRUE(isReady()) << report_;
+    EXPECT_TRUE(reports("User00011.iff.\n")) << report_;
+    expected[skin] = bytesFrom(packageSkin());
+    EXPECT_EQ(differences(expected, treeOf(game())), "");
+    const Tree tool = {{"Template.iff", expectedTemplate()},
+                       {"famtemplate", makeFamilyTemplate()},
+                       {"skinsets.cfg", bytesFrom("heads")},
+                       {"skinsets-original.cfg", bytesFrom("heads")}};
+    EXPECT_EQ(differences(tool, treeOf(files_.path("tool"))), "");
+    for (const bool newTemplate : {false, true}) {
+        EXPECT_TRUE(isReady(newTemplate)) << report_;
+        EXPECT_FALSE(reports("is new")) << report_;
+        EXPECT_EQ(differences(tool, treeOf(files_.path("tool"))) + differences(expected, treeOf(game())), "");
+    }
+}
+
+TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
+    const Tree players = {{"Template.iff", bytesFrom("t")},
+                          {"famtemplate", bytesFrom("f")},
+                          {"skinsets.cfg", bytesFrom("s")},
+                          {"skinsets-original.cfg", bytesFrom("heads")}};
+    for (const auto& [name, bytes] : players)
+        files_.write("tool/" + name, bytes);
+    fs::create_directories((game() / skin).parent_path());
+    EXPECT_TRUE(writeFile(game() / skin, "k"));
+    const Tree before = treeOf(game());
+    EXPECT_TRUE(isReady()) << report_;
+    EXPECT_EQ(differences(players, treeOf(files_.path("tool"))) + differences(before, treeOf(game())), "");
+
+    EXPECT_TRUE(isReady(true)) << report_;
+    files_.write("tool/Template.iff", "u");
+    EXPECT_TRUE(isReady(true)) << report_;
+    std::string copies;
+    for (const auto& [name, bytes] : treeOf(files_.path("tool")))
+        if (name.starts_with("Template 2")) copies.append(bytes.begin(), bytes.end());
+    EXPECT_TRUE(copies == "tu" || copies == "ut") << copies;
+    EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
+}
+
+TEST_F(PreparationTest, ATemplateWhoseSimsStandStillIsReplaced) {
+    IffBuilder sleeping;
+    sleeping.add({.type = "BHAV", .id = 4096, .content = Bytes(60)});
+    files_.write("tool/Template.iff", sleeping.bytes());
+    EXPECT_TRUE(isReady()) << report_;
+    EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
+}
+
+TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
+    const struct {
+        const char* what;
+        std::function<void()> spoil;
+        const char* said;
+    } rows[] = {
+        {"a file can't be written", [&] { files_.makeDirectory("tool/famtemplate"); },
+         "famtemplate can't be written: writing there isn't allowed"},
+        {"no skin sets in the package", [&] { files_.remove("tool/skinsets-original.cfg"); }, "unpack"},
+        {"no adult of the player's",
+         [&] {
+             for (const char* n : {"UserData", "UserData2", "UserData3"})
+                 fs::remove_all(game() / n / "Characters");
+         },
+         "Template.iff is missing"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        row.spoil();
+        EXPECT_FALSE(isReady());
+        EXPECT_TRUE(reports(row.said)) << report_;
+        EXPECT_FALSE(files_.exists("tool/skinsets.cfg"));
+        for (const char* name : {"famtemplate", "Template.iff"})
+            fs::remove_all(files_.path(std::string("tool/") + name));
+        files_.write("tool/skinsets-original.cfg", "heads");
+    }
+}
+
+}  // namespace
