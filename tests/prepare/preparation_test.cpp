@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 
 #include "data/data_files.h"
 #include "data/skin_file.h"
+#include "prepare/program.h"
 #include "prepare/template_maker.h"
 #include "sample/installation.h"
 #include "sample/wine_prefix.h"
@@ -13,6 +15,7 @@
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/tree.h"
+#include "tests/support/user.h"
 
 namespace {
 
@@ -38,6 +41,12 @@ class PreparationTest : public testing::Test {
         return preparation.ready;
     }
     bool reports(const std::string& text) const { return report_.find(text) != std::string::npos; }
+
+    void keepOnly(const std::set<std::string>& characterFiles) const {
+        for (const auto& [name, bytes] : treeOf(game()))
+            if (name.find("Characters") != std::string::npos && !characterFiles.contains(name))
+                fs::remove(game() / name);
+    }
 
     // Of the first Sim of the first neighborhood that is an adult and no townie.
     Bytes expectedTemplate() const {
@@ -106,10 +115,11 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
         {"a file can't be written", [&] { files_.makeDirectory("tool/famtemplate"); },
          "famtemplate can't be written: writing there isn't allowed"},
         {"no skin sets in the package", [&] { files_.remove("tool/skinsets-original.cfg"); }, "unpack"},
-        {"no adult of the player's",
+        {"no adult of the player's but a file that a save left",
          [&] {
-             for (const char* n : {"UserData", "UserData2", "UserData3"})
-                 fs::remove_all(game() / n / "Characters");
+             fs::rename(game() / "UserData/Characters/User00011.iff", game() / "UserData/Characters/TMPUser00011.iff");
+             keepOnly({"UserData/Characters/TMPUser00011.iff", "UserData/Characters/User00001.iff",
+                       "UserData/Characters/User00017.iff", "UserData/Characters/User00042.iff"});
          },
          "Template.iff is missing"},
     };
@@ -123,6 +133,40 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
             fs::remove_all(files_.path(std::string("tool/") + name));
         files_.write("tool/skinsets-original.cfg", "heads");
     }
+}
+
+TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
+    const struct {
+        const char* what;
+        std::vector<std::string> arguments;
+        int answer, code;
+        const char* said;
+    } rows[] = {{"another option", {"--no"}, IDOK, 1, "The options are"},
+                {"cancelled", {}, IDCANCEL, 1, "Tidewright needs a skin"},
+                {"without a question", {"--yes"}, IDOK, 0, "Everything is ready"},
+                {"with one", {"--new-template"}, IDOK, 0, "Tidewright needs a skin"}};
+    const Tree unprepared = treeOf(files_.path());
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        std::vector<std::string> arguments = {"tidewright-prepare"};
+        arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
+        std::vector<char*> pointers;
+        for (std::string& argument : arguments)
+            pointers.push_back(argument.data());
+        const AnsweredBox first = answerNextBox(row.answer), second = answerNextBox(IDOK);
+        EXPECT_EQ(runProgram(static_cast<int>(pointers.size()), pointers.data()), row.code);
+        EXPECT_NE(first->text.find(row.said), std::string::npos) << first->text;
+        EXPECT_EQ(second->shown, row.answer == IDOK && row.arguments.front() == "--new-template");
+        EXPECT_EQ(differences(unprepared, treeOf(files_.path())).empty(), row.code != 0);
+        if (row.code == 0) {
+            EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
+            files_.write("tool/Template.iff", "a player's own");
+        }
+    }
+    uninstallGame(files_.path("prefix"));
+    const AnsweredBox box = answerNextBox(IDOK);
+    EXPECT_EQ(runProgram(0, nullptr), -1);
+    EXPECT_EQ(box->title, "Cannot find The Sims");
 }
 
 }  // namespace
