@@ -32,7 +32,7 @@ void missing(Preparation& preparation, const std::string& line) {
 std::string reason() {
     switch (GetLastError()) {
         case ERROR_DISK_FULL:
-            return "the disk is full";
+            return "the disk is full or reports an error";
         case ERROR_ACCESS_DENIED:
         case ERROR_WRITE_PROTECT:
             return "writing there isn't allowed";

@@ -16,6 +16,7 @@ bool write(NewVersion& version, NewVersion::Naming naming, const Bytes& bytes) {
         return version.giveName();
     }
     version.discard();
+    SetLastError(ERROR_DISK_FULL);  // the usual reason; a write and a close don't say theirs
     return false;
 }
 
