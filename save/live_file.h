@@ -5,8 +5,8 @@
 
 #include "world/neighborhood.h"
 
-// False if a piece that is to be patched isn't where the reader found it, if the file has changed at the place where new
-// families will cut it, or if it can't be opened.
+// False if a piece that is to be patched isn't where the reader found it, if the file has changed at the place where
+// new families will cut it, or if it can't be opened.
 bool isAsRead(const char* path, const Neighborhood& neighborhood);
 
 #endif
