@@ -74,8 +74,8 @@ TEST(TemplateTest, HoldsTheBehaviourAndNothingOfTheSim) {
     const std::string name = "CTSS\0\0\0\x98\x07\xD0\0\x10"s + std::string(64, '\0') + "\xFD\xFF\2\0\1"s;
     EXPECT_EQ(textAt(file, 4268, 152), name + std::string(71, '\0'));
     EXPECT_EQ(walk.find("BMP_", 2002).offset, 4420U);
-    // The sample's background; each row ends with a byte of fill.
-    EXPECT_EQ(textAt(file, 4420 + 76 + 54, 316 * 41), repeated(repeated("\xE0\xC4\x9C", 105) + '\0', 41));
+    // The sample's background in 41 rows, each of which ends with a byte of fill.
+    EXPECT_EQ(textAt(file, 4420 + 76 + 54, 12956), repeated(repeated("\xE0\xC4\x9C", 105) + '\0', 41));
     const std::string text = textAt(sampleBodyText({}, BodyEnding::atEntry32));
     const std::string body =
         "STR#\0\0\x04\x73\0\xC8\0\x10"
