@@ -4,7 +4,7 @@
 
 #include "platform/byte_order.h"
 #include "save/template_layout.h"
-#include "world/family.h"
+#include "world/neighborhood.h"
 
 // Only the bytes from the funds to the end of the table as it was read are written. The room of a member that has left
 // becomes zeros.
@@ -19,12 +19,12 @@ int Family::rewriteRecord(StreamView stream) {
     return 1;
 }
 
-int Family::writeNewRecord(StreamView stream, std::int32_t position, std::int16_t familyNumber) {
+int Family::writeNewRecord(StreamView stream, std::int32_t position) {
     namespace at = familyTemplate;
     if (!stream.good()) return -1;
-    familyNumber_ = familyNumber;
+    familyNumber_ = neighborhood_->takeFamilyNumber();
     for (const std::int32_t offset : {at::firstChunkNumber, at::number, at::nameChunkNumber}) {
-        stream.writeAt(position + offset, u16Le(static_cast<std::uint16_t>(familyNumber)));
+        stream.writeAt(position + offset, u16Le(static_cast<std::uint16_t>(familyNumber_)));
     }
     stream.writeAt(position + at::funds, u16Le(static_cast<std::uint16_t>(funds_ & 0xFFFF)));
     stream.writeAt(position + at::member, memberGuid(0).bytes());

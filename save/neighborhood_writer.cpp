@@ -112,9 +112,7 @@ int Neighborhood::writeNewFamilies(StreamView stream) {
     std::int32_t position = saveAttempt().copiedSize();
     for (std::int32_t i = 0; i < newFamilyCount_; ++i) {
         Family& family = *newFamily(i);
-        const auto number = static_cast<std::int16_t>(highestFamilyNumber_ + 1);
-        if (family.writeNewRecord(stream, position, number) != 1) return -1;
-        ++highestFamilyNumber_;
+        if (family.writeNewRecord(stream, position) != 1) return -1;
         if (familyCount_ < highestFamilyCount) {
             families_[static_cast<std::size_t>(familyCount_)] = &family;
             ++familyCount_;

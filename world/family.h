@@ -78,7 +78,7 @@ class Family {
     // is where the template's copy begins. 1, or -1 on a stream in a bad state; rewriteRecord also returns -1 if there
     // are more members than the table had when it was read.
     int rewriteRecord(StreamView stream);
-    int writeNewRecord(StreamView stream, std::int32_t position, std::int16_t familyNumber);
+    int writeNewRecord(StreamView stream, std::int32_t position);
 
  private:
     friend class SaveAttempt;

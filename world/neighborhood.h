@@ -57,6 +57,9 @@ class Neighborhood {
     // The highest family number in the file, of listed families and others; 0 if there is none.
     std::int32_t highestFamilyNumber() const { return highestFamilyNumber_; }
 
+    // The number for a family that comes into the file: one above the highest, which it raises.
+    std::int16_t takeFamilyNumber() { return static_cast<std::int16_t>(++highestFamilyNumber_); }
+
     // Families that aren't in the file yet, in the order in which they were added; null for an index out of range.
     std::int32_t newFamilyCount() const { return newFamilyCount_; }
     Family* newFamily(std::int32_t index) const;
