@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string_view>
 
-#include "data/data_files.h"
+#include "data/family_template.h"
 #include "data/skin_file.h"
 #include "gamefiles/iff_reader.h"
 #include "platform/files.h"
