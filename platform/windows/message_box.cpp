@@ -1,8 +1,12 @@
 #include "platform/windows/own_calls.h"
 
+// After windows.h, whose types it uses.
+#include <commctrl.h>
+
 #undef MessageBoxA
 
 int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type) {
+    InitCommonControls();  // for XP, as with a window
     HWND const focus = GetFocus();
     HCURSOR const cursor = SetCursor(LoadCursorA(nullptr, IDC_ARROW));
     const int answer = MessageBoxA(owner, text, title, owner == nullptr ? type | MB_TASKMODAL : type);
