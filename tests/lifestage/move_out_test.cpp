@@ -32,13 +32,11 @@ TEST(MoveOutTest, SharesTheMoneyIfThereIsEnough) {
         std::int32_t funds, stays, goes;
     } rows[] = {{9'999, 9'999, 0}, {10'000, 0, 10'000}, {20'001, 1, 20'000}, {-1, -20'001, 20'000}};  // a debt is much
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.funds);
         const TestNeighborhood read = household(1, row.funds);  // the last adult may go: that rule is the window's
         EXPECT_EQ(membersOf(read.family()), "1");
         const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(moveOut(&read.sim(0)), row.goes > 0 ? 1 : -1);
+        EXPECT_EQ(moveOut(&read.sim(0)), row.goes > 0 ? 1 : -1) << row.funds;
         EXPECT_EQ(read.family().funds(), row.stays);
-        EXPECT_EQ(read->isDirty(), row.goes > 0);
         EXPECT_EQ(read->hasNewFamilies() ? read->newFamily(0)->funds() : 0, row.goes);
         EXPECT_EQ(box->title + ": " + box->text,
                   row.goes > 0 ? ": "
@@ -48,7 +46,7 @@ TEST(MoveOutTest, SharesTheMoneyIfThereIsEnough) {
 }
 
 TEST(MoveOutTest, LeavesTwoFamiliesBehind) {
-    const TestNeighborhood read = household(4, 45'000, 9);
+    const TestNeighborhood read = household(4, 25'000, 9);
     EXPECT_EQ(membersOf(read.family()), "1234");
     EXPECT_EQ(moveOut(&read.sim(1)), 1);
     EXPECT_EQ(membersOf(read.family()), "134");
@@ -58,6 +56,12 @@ TEST(MoveOutTest, LeavesTwoFamiliesBehind) {
     EXPECT_STREQ(moved.name(), "Meadows");
     EXPECT_EQ(moved.member(0), &read.sim(1));
     EXPECT_TRUE(read.family().dirty() && moved.dirty() && moved.membersResolved());
+
+    // As after it went by way of another family that lists the same GUID: its old one doesn't list it any more.
+    const AnsweredBox box = answerNextBox(IDOK);
+    EXPECT_EQ(moveOut(&read.sim(1)), -1);
+    EXPECT_FALSE(box->shown);
+    EXPECT_EQ(read->newFamilyCount(), 1);
 }
 
 TEST(MoveOutTest, OnlyAnAdultGoesAndAnEleventhWaitsForASave) {
@@ -69,24 +73,6 @@ TEST(MoveOutTest, OnlyAnAdultGoesAndAnEleventhWaitsForASave) {
         EXPECT_EQ(read->addNewFamily(std::make_unique<Family>(*read)), i <= 10 ? 1 : -1);
     EXPECT_EQ(moveOut(&read.sim(0)), -1);
     EXPECT_EQ(read.family().funds(), 50'000);
-    read.family().setFunds(9'999);
-    const AnsweredBox box = answerNextBox(IDOK);
-    EXPECT_EQ(moveOut(&read.sim(0)), -1);
-    EXPECT_EQ(box->title, "Insufficient funds") << "money comes first";
-}
-
-// It went by way of another family that lists the same GUID.
-TEST(MoveOutTest, ASimThatItsFamilyDoesNotListAnyMoreStays) {
-    for (const std::int32_t left : {5'000, 30'000}) {
-        const TestNeighborhood read = household(2, 20'000 + left);
-        EXPECT_EQ(membersOf(read.family()), "12");
-        EXPECT_EQ(moveOut(&read.sim(0)), 1);
-        const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(moveOut(&read.sim(0)), -1);
-        EXPECT_FALSE(box->shown);
-        EXPECT_EQ(read.family().funds(), left);
-        EXPECT_EQ(read->newFamilyCount(), 1);
-    }
 }
 
 }  // namespace
