@@ -1,11 +1,12 @@
+// Which character files serve for a template, and which of them is chosen.
 #include "prepare/character_check.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 
-#include "tests/prepare/character_chunks.h"
-#include "tests/support/temp_directory.h"
+#include "prepare/source_choice.h"
+#include "tests/prepare/unprepared_game.h"
 
 namespace {
 
@@ -55,6 +56,21 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
         row.change(chunkIn(chunks, row.type, row.id));
         EXPECT_EQ(refusalOf(chunks), row.refusal);
     }
+}
+
+TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviourIsChosen) {
+    EXPECT_EQ(chooseSource({}), nullptr);
+    const SampleCharacter newer{.behaviour = BehaviourSet::newer};
+    SampleCharacter other = newer;
+    other.guid = 7;
+    other.name = "Ann";
+    other.freeRoom = true;
+    std::vector<TemplateSource> sources = {{"old", chunksOf({})}, {"new", chunksOf(newer)}, {"Ann", chunksOf(other)}};
+    EXPECT_EQ(chooseSource(sources)->path, "new");
+    std::swap(sources[2].chunks[0], sources[2].chunks[7]);
+    EXPECT_EQ(chooseSource(sources)->path, "new") << "in another order";
+    chunkIn(sources[2].chunks, "OBJD", 128).content[4] ^= 1;
+    EXPECT_EQ(chooseSource(sources)->path, "old") << "three behaviours of one file each";
 }
 
 }  // namespace

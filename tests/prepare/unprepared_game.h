@@ -1,23 +1,32 @@
-// A game that nobody has prepared.
+// A game that nobody has prepared, and the chunks of a sample's character file, to change some of them.
 #ifndef TESTS_PREPARE_UNPREPARED_GAME_H
 #define TESTS_PREPARE_UNPREPARED_GAME_H
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <algorithm>
 
+#include "gamefiles/iff_reader.h"
 #include "prepare/preparation.h"
 #include "prepare/template_maker.h"
 #include "sample/installation.h"
 #include "sample/wine_prefix.h"
-#include "tests/prepare/character_chunks.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/tree.h"
 
 namespace fs = std::filesystem;
 
-constexpr const char* skin = "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn";
+using Chunks = std::vector<IffChunk>;
+
+inline Chunks chunksOf(const SampleCharacter& character) {
+    return readIff(makeCharacterFile(character).bytes).chunks;
+}
+
+// There must be one.
+inline IffChunk& chunkIn(Chunks& chunks, const std::string& type, int id) {
+    return *std::ranges::find_if(chunks, [&](const IffChunk& chunk) { return chunk.type == type && chunk.id == id; });
+}
 
 // The sample game as its player left it, without the skin, and a tool directory as it comes out of a package.
 class PreparationTest : public testing::Test {
@@ -25,12 +34,12 @@ class PreparationTest : public testing::Test {
     PreparationTest() {
         EXPECT_TRUE(writeInstallation(files_.path("prefix")));
         directory_ = installGame(files_.path("prefix"));
-        fs::remove(game() / skin);
+        fs::remove_all(game_ / "GameData");
+        fs::copy(characters_ / "User00011.iff", characters_ / "TMPUser00011.iff");  // as a save that broke off leaves
         files_.write("tool/skinsets-original.cfg", "heads");
         fs::current_path(files_.path("tool"));
     }
 
-    fs::path game() const { return gameDirectory(files_.path("prefix")); }
     bool isReady(bool newTemplate = false) {
         const Preparation preparation = prepareGame(directory_.c_str(), newTemplate);
         report_ = preparation.report;
@@ -38,18 +47,13 @@ class PreparationTest : public testing::Test {
     }
     bool reports(const std::string& text) const { return report_.find(text) != std::string::npos; }
 
-    void keepOnly(const std::set<std::string>& characterFiles) const {
-        for (const auto& [name, bytes] : treeOf(game()))
-            if (name.find("Characters") != std::string::npos && !characterFiles.contains(name))
-                fs::remove(game() / name);
-    }
-
     // Of the first Sim of the first neighborhood that is an adult and no townie.
-    Bytes expectedTemplate() const {
-        return makeTemplate(readIff(treeOf(game()).at("UserData/Characters/User00011.iff")).chunks);
-    }
+    Bytes expectedTemplate() const { return makeTemplate(readIff(treeOf(characters_).at("User00011.iff")).chunks); }
 
     TempDirectory files_;
+    const fs::path game_ = gameDirectory(files_.path("prefix"));
+    const fs::path characters_ = game_ / "UserData/Characters";
+    const fs::path skin_ = game_ / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn";
     std::string directory_, report_;
 };
 
