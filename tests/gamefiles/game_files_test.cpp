@@ -1,8 +1,13 @@
-// What the builders write that the program never reads, against bytes that were worked out by hand. The tests of the
-// readers and of a save find wrong bytes in the rest.
+// What the makers of files write that the program never reads, against bytes that were worked out by hand, and the two
+// readers that take files apart. The tests of the program's own reading and of a save find wrong bytes in the rest.
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "data/data_files.h"
+#include "data/skin_file.h"
 #include "gamefiles/bitmap.h"
+#include "gamefiles/iff_reader.h"
 #include "gamefiles/neighborhood_file.h"
 #include "gamefiles/object_definition.h"
 #include "tests/support/iff_walk.h"
@@ -11,19 +16,53 @@ namespace {
 
 using namespace std::string_literals;
 
+TEST(IffTest, AFileIsTakenApartAsItWasBuilt) {
+    const IffChunk first{.type = "STR#", .id = 300, .label = "ab", .content = {1, 2}, .flags = 0x5678};
+    const IffChunk body{.type = "STR#", .id = 200};
+    const IffChunk last{.type = "GLOB", .id = 1, .label = std::string(64, 'c')};
+    IffBuilder builder;
+    builder.add(first);
+    builder.add(body);
+    builder.addFreeRoom(80);
+    builder.add(last);
+    const std::size_t map = builder.addMap();
+    const IffContents read = readIff(builder.bytes());
+    ASSERT_EQ(read.chunks.size(), 5U) << read.fault;
+    EXPECT_EQ(read.chunks[0], first);
+    EXPECT_EQ(read.chunks[2].type, "XXXX");
+    EXPECT_EQ(read.chunks[3], last);
+    EXPECT_EQ(textAt(builder.bytes(), map + 76),
+              "\0\0\0\0\0\0\0\0pmsr\x70\0\0\0\2\0\0\0#RTS\2\0\0\0\x8E\0\0\0\xC8\0\x10\0\0\0"s +
+                  "\x40\0\0\0\x2C\1\x78\x56\x61\x62\0\0BOLG\1\0\0\0\x2A\1\0\0\1\0\x10\0"s + last.label + "\0\0"s);
+
+    const struct {
+        std::size_t changed, length;
+        std::uint8_t byte;
+        const char *refused, *walked;
+    } rows[] = {{0, 582, 'i', "doesn't begin as the game's IFF files do", "not the game's header"},
+                {0, 63, 'I', "doesn't begin as the game's IFF files do", "not the game's header"},
+                {71, 582, 75, "has a chunk without room for its header at 64", "no chunk fits at 64"},
+                {68, 582, 0x80, "ends inside the chunk at 64", "no chunk fits at 64"},
+                {0, 217, 'I', "has bytes left over at 142", "no chunk fits at 142"},
+                {63, 582, 0, "", "no map where the header says"},
+                {73, 582, 0, "", "the map doesn't list STR# 256"},
+                {0, 64, 'I', "", "no map where the header says"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.walked);
+        Bytes file = builder.bytes();
+        file[row.changed] = row.byte;
+        file.resize(row.length);
+        EXPECT_EQ(readIff(file).fault, row.refused);
+        EXPECT_EQ(walkIff(file).fault, row.walked);
+    }
+}
+
 TEST(ObjectDefinitionTest, HasTheWordsOfAPlayersSim) {
-    std::string expected(216, '\0');
-    const std::pair<std::size_t, std::string> words[] = {
-        {0, "\x8A\0\0\0\x30\0\0\0\1"s},               // version and stack size
-        {10, "\0\x10\2\0\x81\0\x80\0\2"s},            // main tree, and the type of a person
-        {26, "\x80\0\1\x11WT"s},                      // and the GUID
-        {38, "\xC8\0\x80\0\0\0\0\0\xCA"s},            // body strings and slots
-        {82, "\xD0\7\0\0\1\x10\0\0\0\0\0\0\2\x10"s},  // name, init tree and load tree
-        {98, "\1\0\0\0\0\0\x12\x20"s},                // cleanup tree
-        {136, "\1"}};
-    for (const auto& [offset, bytes] : words)
-        expected.replace(offset, bytes.size(), bytes);
-    EXPECT_EQ(textAt(objectDefinition("Ada", sampleGuid).content), expected);
+    const Bytes content = objectDefinition("Ada", sampleGuid).content;
+    EXPECT_EQ(textAt(content, 0, 48), "\x8A\0\0\0\x30\0\0\0\1\0\0\x10\2\0\x81\0\x80\0\2\0\0\0\0\0\0\0\x80\0\1\x11WT"s +
+                                          "\0\0\0\0\0\0\xC8\0\x80\0\0\0\0\0\xCA\0"s);
+    EXPECT_EQ(textAt(content, 82, 24), "\xD0\7\0\0\1\x10\0\0\0\0\0\0\2\x10\0\0\1\0\0\0\0\0\x12\x20"s);
+    EXPECT_EQ(textAt(content, 136), "\1"s + std::string(79, '\0'));
 }
 
 TEST(BitmapTest, HasPaddedRowsFromTheBottomUp) {
@@ -33,17 +72,34 @@ TEST(BitmapTest, HasPaddedRowsFromTheBottomUp) {
 }
 
 TEST(NeighborhoodFileTest, ARecordGoesOnBehindThePersonData) {
-    const Bytes record = sampleNeighborRecord({.gapByte = 0xEE, .neighborId = 0x0102, .relationships = {{7, {-1}}}});
-    EXPECT_EQ(textAt(record, 64, 54), std::string(54, '\xEE'));
+    const Bytes record = sampleNeighborRecord({.neighborId = 0x0102, .relationships = {{7, {-1}}}});
     EXPECT_EQ(textAt(record, 186), "\2\1\x01\x11WT\xFF\xFF\xFF\xFF\1\0\0\0\1\0\0\0\7\0\0\0\1\0\0\0\xFF\xFF\xFF\xFF"s);
+    EXPECT_EQ(textAt(sampleFamilyChunk({.number = 3, .members = {}}).content, 4, 32),
+              "\4\0\0\0IMAF\1\0\0\0\3\0\0\0\x20\x4E\0\0\x98\x3A\0\0\2\0\0\0\x09\0\0\0"s);
 }
 
-TEST(NeighborhoodFileTest, AFamilyHoldsEachFieldAtItsPlace) {
-    const SampleFamily family{.number = 3, .name = "Q&A", .funds = 70000, .members = {0x41414141, 0x42424242}};
-    EXPECT_EQ(textAt(sampleFamilyChunk(family).content),
-              "\0\0\0\0\4\0\0\0IMAF\1\0\0\0\3\0\0\0\x70\x11\1\0\x98\x3A\0\0\2\0\0\0\x09\0\0\0\2\0\0\0AAAABBBB"s +
-                  std::string(16, '\0'));
-    EXPECT_EQ(textAt(sampleFamilyNameChunk(family).content), "\xFD\xFF\1\0\1Q&A\0\0\xA3"s);
+TEST(FamilyTemplateTest, IsTwoChunksForOneMemberAndAName) {
+    std::string expected = "FAMI\0\0\0\x7C\0\0\0\x10"s + std::string(64, '\0');
+    expected += "\0\0\0\0\4\0\0\0IMAF"s + std::string(20, '\0') + "\x18\0\0\0\1\0\0\0\0\0\0\0\0\0\0\0"s;
+    expected += "FAMs\0\0\0\x6C\0\0\0\x10"s + std::string(64, '\0');
+    expected += "\xFD\xFF\1\0\1"s + std::string(24, '\0') + "\xA3\xA3\xA3";
+    EXPECT_EQ(textAt(makeFamilyTemplate()), expected);
+}
+
+TEST(SkinTest, EndsAfterTheListsThatItCounts) {
+    std::istringstream skin{std::string(packageSkin())};
+    std::string mesh, texture, field;
+    skin >> mesh >> texture;
+    // Bones, triangles, bindings, texture coordinates, blended vertices, vertices.
+    for (const int fields : {1, 3, 5, 2, 2, 6}) {
+        int count = 0;
+        skin >> count;
+        for (int i = 0; i < count * fields; ++i)
+            skin >> field;
+    }
+    EXPECT_EQ(mesh + ".skn", packageSkinName);
+    EXPECT_TRUE(skin.good());
+    EXPECT_FALSE(skin >> field) << field;
 }
 
 }  // namespace
