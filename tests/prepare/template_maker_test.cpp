@@ -2,8 +2,6 @@
 
 #include "prepare/neutral_picture.h"
 #include "tests/prepare/unprepared_game.h"
-#include "tests/save/saved_files.h"
-#include "tests/support/body_slots.h"
 #include "tests/support/iff_walk.h"
 
 namespace {
@@ -31,10 +29,7 @@ TEST(TemplateTest, ChunksFillTheRoomInFrontOfTheirPlacesOrFollowBehind) {
         {"a gap of 75", "TREE", {3837, 80}, "1 at 64, free at 144, free at 4420, 0 at 55155, "},
         {"a gap of 76", "TREE", {3836}, "0 at 64, free at 3900, free at 4420, "},
         {"too much", "TREE", {2000, 2000, 1912}, "0 at 64, 2 at 2064, free at 4420, 1 at 55155, "},
-        {"pictures, of which two don't fit",
-         "BMP_",
-         {45'000, 4'521, 5'000},
-         "free at 64, 0 at 4420, free at 49420, 1 at 55155, 2 at 59676, "},
+        {"too many pictures", "BMP_", {45'000, 5'000}, "free at 64, 0 at 4420, free at 49420, 1 at 55155, "},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
@@ -52,7 +47,7 @@ TEST(NeutralPictureTest, EachPixelIsTheFirstAndOtherFormatsStay) {
     Bytes picture = portraitBitmap(3, 2);  // rows of 9 bytes and 3 of fill
     overwrite(picture, 54, bytesFrom("abcdefghi123ABCDEFGHI456"));
     Bytes fromTheTop = picture;
-    overwrite(fromTheTop, 22, SaveTest::u32(-2));
+    overwrite(fromTheTop, 22, ByteWriter().u32Le(-2).written());
     for (const Bytes& each : {picture, fromTheTop})
         EXPECT_EQ(textAt(neutralPicture(each)), textAt(each, 0, 54) + "abcabcabc123abcabcabc456");
 
@@ -62,7 +57,7 @@ TEST(NeutralPictureTest, EachPixelIsTheFirstAndOtherFormatsStay) {
     for (const auto& [field, values] : others) {
         for (const std::int64_t value : values) {
             Bytes other = picture;
-            overwrite(other, field, SaveTest::u32(value));
+            overwrite(other, field, ByteWriter().u32Le(value).written());
             EXPECT_EQ(neutralPicture(other), other) << field << " " << value;
         }
     }
@@ -105,30 +100,6 @@ TEST(TemplateTest, IsNotMadeIfASearchOfItsMapWouldGoWrong) {
     Chunks source = chunksOf({});
     source.push_back({.type = "TREE", .content = Bytes(1 << 24)});
     EXPECT_TRUE(makeTemplate(source).empty()) << "the map is behind what 3 bytes reach";
-}
-
-using SimOfATemplateTest = SaveTest;
-
-TEST_F(SimOfATemplateTest, IsReadAgainAsItWasSavedOnBothRoads) {
-    const SampleCharacter ann{.name = "Ann", .guid = 0x01020304, .tag = "child", .slots = childSlots()};
-    TestNeighborhood test(householdOf({ann}), {ann});
-    EXPECT_TRUE(writeDataFiles(test.files().path()));
-    test.files().write("Template.iff", makeTemplate(chunksOf({.behaviour = BehaviourSet::newer})));
-    change(test.sim(0), stageNumber::teen);
-    save(test);
-    Bytes file = test.files().bytesOf(test.characterFile(ann.recordName));
-    EXPECT_EQ(walkIff(file).fault, "");
-    for (const char* road : {"with a map", "without a map"}) {
-        SCOPED_TRACE(road);
-        test.load();
-        Sim& sim = test.sim(0);
-        ASSERT_NE(sim.bodyStrings(), nullptr);
-        EXPECT_EQ(slotsOf(*sim.bodyStrings()), childSlots());
-        EXPECT_EQ(sim.name(), ann.name);
-        EXPECT_TRUE(std::ranges::equal(sim.guid().bytes(), SaveTest::u32(ann.guid)) && sim.characterTag());
-        overwrite(file, 61, Bytes(3));
-        test.files().write(test.characterFile(ann.recordName), file);
-    }
 }
 
 }  // namespace
