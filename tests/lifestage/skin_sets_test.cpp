@@ -1,4 +1,3 @@
-// The heads that follow heads, and chance.
 #include "lifestage/skin_sets.h"
 
 #include <gtest/gtest.h>
@@ -79,9 +78,8 @@ TEST(SkinSetsTest, TheShippedSetsLeadEachChildToAnAdult) {
         std::string head = children[i % std::size(children)];
         const std::string kind = head.substr(4, 1) + "a" + head.substr(6, 3);  // "falgt"
         for (const std::int32_t stage : {teen, adult}) {
-            SCOPED_TRACE(head);
             HeadText skin, mesh;
-            ASSERT_EQ(findNextStageHead(stage, head.c_str(), buildDirectory().string().c_str(), skin, mesh), 0);
+            ASSERT_EQ(findNextStageHead(stage, head.c_str(), buildDirectory().string().c_str(), skin, mesh), 0) << head;
             head = skin.view();
             std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
             EXPECT_EQ(head.substr(4, 5), kind);

@@ -1,7 +1,8 @@
-// Child to Teen and Teen to Adult, on Sims whose files are on the disk, and the bodies that they dress Sims in.
+// The three operations on Sims whose files are on the disk, and the bodies that they dress Sims in.
 #include <gtest/gtest.h>
 
 #include "lifestage/child_to_teen.h"
+#include "lifestage/move_out.h"
 #include "lifestage/random_generator.h"
 #include "lifestage/stage_template.h"
 #include "lifestage/teen_to_adult.h"
@@ -13,36 +14,27 @@
 
 namespace {
 
+using enum BodyEnding;
+
 constexpr std::int16_t male = 0, female = 1, pet = 2;
+constexpr const char* amanda = "c001fclgt_amanda01";
 
-struct Person {
-    int age = 9, kind = female, tone = 1, version = 7;
-    BodyEnding ending = BodyEnding::atEntry32;
-    const char* head = "c001fclgt_amanda01";
-};
-
-// One Sim in a family of its own, with some body skill.
+// One Sim in a family of its own.
 class OneSim : public TestNeighborhood {
  public:
-    explicit OneSim(const Person& person) : TestNeighborhood(contentOf(person), {characterOf(person)}) {
+    explicit OneSim(const SampleNeighbor& record, const char* head = amanda, BodyEnding ending = atEntry32)
+        : TestNeighborhood({.neighbors = {record}, .families = {{}}}, {characterOf(record.age == 9, head, ending)}) {
         family().memberCount();
         makeWinePrefix(files().path("prefix"));
         installGame(files().path("prefix"));
         files().write("skinsets.cfg", "[a]\nCHILD=C001fclgt_Amanda01;\nTEENAGER=teenSkin;teenMesh,HEAD-HEAD\n");
     }
 
-    static SampleCharacter characterOf(const Person& person) {
-        SampleCharacter character{.tag = person.age == 9 ? "child" : "adult", .ending = person.ending};
-        character.slots = person.age == 9 ? childSlots() : teenSlots();
-        setHead(character.slots, "oldMesh", person.head);
+    static SampleCharacter characterOf(bool isChild, const char* head, BodyEnding ending) {
+        SampleCharacter character{.tag = isChild ? "child" : "adult", .ending = ending};
+        character.slots = isChild ? childSlots() : teenSlots();
+        setHead(character.slots, "oldMesh", head);
         return character;
-    }
-
-    static SampleNeighborhood contentOf(const Person& person) {
-        SampleNeighbor neighbor{
-            .version = person.version, .age = person.age, .skinTone = person.tone, .kind = person.kind};
-        neighbor.personValues[15] = 200;
-        return {.neighbors = {neighbor}, .families = {{}}};
     }
 
     const BodyStrings& body() const { return *sim(0).bodyStrings(); }
@@ -109,7 +101,7 @@ TEST(ChildToTeenTest, DressesTheTeen) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.tone);
-        OneSim sim({.kind = row.sex, .tone = row.toneNumber});
+        OneSim sim({.age = 9, .skinTone = row.toneNumber, .kind = row.sex});
         if (row.sex == female) {  // a file of the expansion's name is no expansion
             std::filesystem::remove_all(sim.expansion);
             writeFile(sim.expansion, "");
@@ -117,7 +109,6 @@ TEST(ChildToTeenTest, DressesTheTeen) {
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything
         EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
         EXPECT_EQ(grownSlots(sim.body(), row.sex, row.tone), row.names + row.outfits);
-        EXPECT_EQ(sim.sim(0).stage(), 5);
         EXPECT_EQ(sim.sim(0).age(), 18);
         EXPECT_TRUE(sim.sim(0).characterTag() && sim.marked());
         EXPECT_EQ(childToTeen(&sim.sim(0)), -1) << "a teen stays one";
@@ -125,53 +116,47 @@ TEST(ChildToTeenTest, DressesTheTeen) {
 }
 
 TEST(ChildToTeenTest, AProtectedExpansionIsNone) {
-    const OneSim sim({});
+    const OneSim sim({.age = 9});
     std::filesystem::permissions(sim.expansion, std::filesystem::perms(0500));
     EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
     EXPECT_STREQ(sim.body().slot(bodySlot::w100Mesh), "");
 }
 
-TEST(ChildToTeenTest, RefusesWhatIsNotReady) {
-    const std::pair<Person, const char*> rows[] = {
-        // and the numbers in the message
-        {{.version = 6, .ending = BodyEnding::atEntry29}, "6; sim neighborhood version 6"},
-        {{.version = 8}, "7; sim neighborhood version 8"}};
-    for (const auto& [person, numbers] : rows) {
-        OneSim sim(person);
-        const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(childToTeen(&sim.sim(0)), -1);
-        EXPECT_FALSE(sim->isDirty() || sim.marked());
-        EXPECT_EQ(box->title + ": " + box->text,
-                  std::string("Error: This child is not completely converted! Mesh version ") + numbers +
-                      "; Marrowfen version 7.  Please play the family some more before using Marrowfen.  No "
-                      "teenification will be performed.");
-    }
-    OneSim later({.version = 8, .ending = BodyEnding::atEntry29});
-    EXPECT_EQ(childToTeen(&later.sim(0)), 1) << "version 8 of both passes";
-}
-
-TEST(StageOperationsTest, AskAboutAHeadThatNoSetHolds) {
+TEST(StageOperationsTest, AskAboutAHeadThatNoSetHoldsAndRefuseWhatIsNotReady) {
+    const auto question = [](const std::string& before, const std::string& grown) {
+        return "Proceed?: No " + grown + " head is registered for this " + before + " head.  If you proceed, your " +
+               grown + " will have a random head assigned by the game.  Proceed?";
+    };
+    const auto refusal = [](const std::string& body, const std::string& record) {
+        return "Error: This child is not completely converted! Mesh version " + body + "; sim neighborhood version " +
+               record +
+               "; Marrowfen version 7.  Please play the family some more before using Marrowfen.  No "
+               "teenification will be performed.";
+    };
+    const SampleNeighbor child{.age = 9}, boy{.age = 18, .kind = male};
     const struct {
-        Person person;
+        SampleNeighbor record;
+        BodyEnding ending;
+        const char *head, *headAfter;
         std::int32_t (*operation)(Sim*);
         int answer, result;
-        const char *head, *before, *grown;
+        std::string said;
     } rows[] = {
-        {{.head = "stray"}, childToTeen, IDOK, 1, "c012falgt_asian", "child", "teen"},
-        {{.head = "stray"}, childToTeen, IDCANCEL, 0, "stray", "child", "teen"},
-        {{.age = 18, .kind = male, .head = "stray"}, teenToAdult, IDOK, 1, "c007malgt_alt", "teen", "adult"},
-        {{.age = 18, .kind = male, .head = "stray"}, teenToAdult, IDCANCEL, 0, "stray", "teen", "adult"},
+        {child, atEntry32, "stray", "c012falgt_asian", childToTeen, IDOK, 1, question("child", "teen")},
+        {child, atEntry32, "stray", "stray", childToTeen, IDCANCEL, 0, question("child", "teen")},
+        {boy, atEntry32, "stray", "c007malgt_alt", teenToAdult, IDOK, 1, question("teen", "adult")},
+        {boy, atEntry32, "stray", "stray", teenToAdult, IDCANCEL, 0, question("teen", "adult")},
+        {{.version = 6, .age = 9}, atEntry29, "a", "a", childToTeen, IDOK, -1, refusal("6", "6")},
+        {{.version = 8, .age = 9}, atEntry32, "a", "a", childToTeen, IDOK, -1, refusal("7", "8")},
+        {{.version = 8, .age = 9}, atEntry29, amanda, "teenSkin", childToTeen, IDOK, 1, ": "},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.before << ", answer " << row.answer);
-        OneSim sim(row.person);
+        SCOPED_TRACE(row.said);
+        OneSim sim(row.record, row.head, row.ending);
         const AnsweredBox box = answerNextBox(row.answer);
         EXPECT_EQ(row.operation(&sim.sim(0)), row.result);
-        const std::string grown = row.grown;
-        EXPECT_EQ(box->title + ": " + box->text, "Proceed?: No " + grown + " head is registered for this " +
-                                                     row.before + " head.  If you proceed, your " + grown +
-                                                     " will have a random head assigned by the game.  Proceed?");
-        EXPECT_STREQ(sim.body().headSkin(), row.head);
+        EXPECT_EQ(box->title + ": " + box->text, row.said);
+        EXPECT_STREQ(sim.body().headSkin(), row.headAfter);
         EXPECT_EQ(sim.marked(), row.result == 1);
     }
 }
@@ -185,7 +170,9 @@ TEST(TeenToAdultTest, BodyTypeFollowsSkillAndDraw) {
 }
 
 TEST(TeenToAdultTest, DrawsTheBodyBeforeTheHeadForAnyVersion) {
-    OneSim sim({.age = 18, .version = 6, .head = "teenSkin"});
+    SampleNeighbor record{.version = 6, .age = 18};
+    record.personValues[15] = 200;  // body skill
+    OneSim sim(record, "teenSkin");
     sim.files().write("skinsets.cfg", "TEENAGER=teenSkin;\nADULT=0;m\nADULT=1;m\nADULT=2;m\nADULT=3;m\nADULT=4;m\n");
     randomGenerator().seed(0);
     randomGenerator().draw();
@@ -197,6 +184,56 @@ TEST(TeenToAdultTest, DrawsTheBodyBeforeTheHeadForAnyVersion) {
               "b002fafit_01,BODY B002FAFitlgt_mom01 m 3 27 nffit_01,BODY nffitlgt_01 nffit_01,BODY uffitlgt_lguard01 "
               "fffit_01,BODY fffitlgt_01 - - - - - - - - ");
     EXPECT_EQ(teenToAdult(&sim.sim(0)), -1) << "an adult stays one";
+}
+
+// A family of adults, but for the last one's age.
+TestNeighborhood household(unsigned members, std::int32_t funds, int lastAge = 27) {
+    std::vector<SampleCharacter> people;
+    for (unsigned i = 0; i < members; ++i)
+        people.push_back({.recordName = "user0000" + std::to_string(i + 1), .guid = sampleGuid + i});
+    SampleNeighborhood content = householdOf(people);
+    content.families.front().funds = funds;
+    content.neighbors.back().age = lastAge;
+    return TestNeighborhood(content, people);
+}
+
+TEST(MoveOutTest, SharesTheMoneyIfThereIsEnough) {
+    const struct {
+        std::int32_t funds, stays, goes;
+    } rows[] = {{9'999, 9'999, 0}, {10'000, 0, 10'000}, {20'001, 1, 20'000}, {-1, -20'001, 20'000}};  // a debt is much
+    for (const auto& row : rows) {
+        const TestNeighborhood read = household(1, row.funds);  // the last adult may go: that rule is the window's
+        EXPECT_EQ(read.family().memberCount(), 1);
+        const AnsweredBox box = answerNextBox(IDOK);
+        EXPECT_EQ(moveOut(&read.sim(0)), row.goes > 0 ? 1 : -1) << row.funds;
+        EXPECT_EQ(read.family().funds(), row.stays);
+        EXPECT_EQ(read->hasNewFamilies() ? read->newFamily(0)->funds() : 0, row.goes);
+        EXPECT_EQ(box->title + ": " + box->text,
+                  row.goes > 0 ? ": "
+                               : "Insufficient funds: Your newly independent sim will need some starting funds!  The "
+                                 "family must save up at least 10,000 before a member can move out.");
+    }
+}
+
+TEST(MoveOutTest, OneAdultGoesOnceAndAnEleventhWaitsForASave) {
+    const TestNeighborhood read = household(4, 50'000, 18);
+    EXPECT_EQ(read.family().memberCount(), 4);
+    EXPECT_EQ(moveOut(&read.sim(1)), 1);
+    EXPECT_TRUE(read.family().memberCount() == 3 && !read.family().hasMember(read.sim(1)));
+    EXPECT_EQ(read.family().adultCount(), 2);
+    EXPECT_EQ(read->familyCount(), 1) << "a new family isn't listed before it is saved";
+    Family& moved = *read->newFamily(0);
+    EXPECT_STREQ(moved.name(), "Meadows");
+    EXPECT_EQ(moved.member(0), &read.sim(1));
+    EXPECT_TRUE(read.family().dirty() && moved.dirty() && moved.membersResolved());
+
+    // As after it went by way of another family that lists the same GUID: its old one doesn't list it any more.
+    EXPECT_EQ(moveOut(&read.sim(1)), -1);
+    EXPECT_EQ(moveOut(&read.sim(3)), -1) << "a teen";
+    for (int i = 2; i <= 11; ++i)
+        EXPECT_EQ(read->addNewFamily(std::make_unique<Family>(*read)), i <= 10 ? 1 : -1);
+    EXPECT_EQ(moveOut(&read.sim(0)), -1);
+    EXPECT_EQ(read.family().funds(), 30'000);
 }
 
 }  // namespace
