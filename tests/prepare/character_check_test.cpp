@@ -1,8 +1,6 @@
 // Which character files serve for a template, and which of them is chosen.
 #include "prepare/character_check.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
 #include "prepare/source_choice.h"
@@ -61,10 +59,7 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
 TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviourIsChosen) {
     EXPECT_EQ(chooseSource({}), nullptr);
     const SampleCharacter newer{.behaviour = BehaviourSet::newer};
-    SampleCharacter other = newer;
-    other.guid = 7;
-    other.name = "Ann";
-    other.freeRoom = true;
+    const SampleCharacter other{.name = "Ann", .guid = 7, .behaviour = BehaviourSet::newer, .freeRoom = true};
     std::vector<TemplateSource> sources = {{"old", chunksOf({})}, {"new", chunksOf(newer)}, {"Ann", chunksOf(other)}};
     EXPECT_EQ(chooseSource(sources)->path, "new");
     std::swap(sources[2].chunks[0], sources[2].chunks[7]);

@@ -10,7 +10,6 @@
 #include "prepare/preparation.h"
 #include "prepare/template_maker.h"
 #include "sample/installation.h"
-#include "sample/wine_prefix.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/tree.h"

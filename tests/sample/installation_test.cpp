@@ -5,31 +5,27 @@
 #include <set>
 
 #include "tests/support/iff_walk.h"
+#include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/tree.h"
-#include "world/neighborhood.h"
+#include "world/neighborhoods.h"
 
 namespace {
 
-// The files of a directory. Each IFF file must be valid.
-Tree validTreeOf(const std::filesystem::path& directory) {
-    const Tree files = treeOf(directory);
-    for (const auto& [name, bytes] : files)
-        EXPECT_TRUE(!name.ends_with(".iff") || walkIff(bytes).fault.empty()) << name << ": " << walkIff(bytes).fault;
-    return files;
-}
-
 TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
     const TempDirectory files;
-    const std::filesystem::path prefix = files.path("prefix"), userData = gameDirectory(prefix) / "UserData";
+    const std::filesystem::path prefix = files.path("prefix");
     ASSERT_TRUE(writeInstallation(prefix));
-    const Tree first = validTreeOf(prefix);
+    const Tree first = treeOf(prefix);
     files.write("prefix/stray", "stray");
     ASSERT_TRUE(writeInstallation(prefix));
     EXPECT_EQ(treeOf(prefix), first);
 
     ASSERT_TRUE(writeLargeInstallation(prefix, 1));
-    EXPECT_EQ(validTreeOf(userData).at("Neighborhood.iff").size(), 566000U);
+    const Tree large = treeOf(gameDirectory(prefix) / "UserData");
+    EXPECT_EQ(large.at("Neighborhood.iff").size(), 566000U);
+    for (const auto& [name, bytes] : large)
+        EXPECT_EQ(walkIff(bytes).fault, "") << name;
 
     files.write("others/system.reg", "a player's own");
     EXPECT_FALSE(writeInstallation(files.path("others")));
@@ -40,12 +36,10 @@ TEST(InstallationTest, HasSimsOfEveryKind) {
     const TempDirectory files;
     ASSERT_TRUE(writeInstallation(files.path("prefix")));
     std::set<std::string> kinds;  // stage, age, letters from the body's mesh and its version
-    for (const char* directory : {"UserData", "UserData2", "UserData3"}) {
-        Neighborhood neighborhood;
-        const std::filesystem::path path = gameDirectory(files.path("prefix")) / directory;
-        ASSERT_EQ(neighborhood.load(path.string().c_str(), "neighborhood.iff"), 0);
-        for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
-            Sim& sim = *neighborhood.sim(i);
+    loadNeighborhoods(installGame(files.path("prefix")).c_str(), "");
+    for (std::size_t i = 0; i < 3; ++i) {
+        for (std::int32_t k = 0; k < neighborhoods[i]->simCount(); ++k) {
+            Sim& sim = *neighborhoods[i]->sim(k);
             std::string kind = std::to_string(sim.stage()) + " " + std::to_string(sim.age());
             if (const BodyStrings* body = sim.bodyStrings()) {
                 kind += " " + std::string(body->slot(bodySlot::bodyMesh)).substr(6, 3);
