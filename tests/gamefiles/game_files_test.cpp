@@ -1,5 +1,4 @@
-// What the makers of files write that the program never reads, against bytes that were worked out by hand, and the two
-// readers that take files apart. The tests of the program's own reading and of a save find wrong bytes in the rest.
+// The makers of files against bytes that were worked out by hand, and the two readers that take files apart.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -45,7 +44,6 @@ TEST(IffTest, AFileIsTakenApartAsItWasBuilt) {
                 {63, 582, 0, "", "no map where the header says"},
                 {73, 582, 0, "", "the map doesn't list STR# 256"}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.walked);
         Bytes file = builder.bytes();
         file[row.changed] = row.byte;
         file.resize(row.length);

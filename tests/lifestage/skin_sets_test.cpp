@@ -11,8 +11,7 @@
 
 namespace {
 
-constexpr std::int32_t teen = 5;
-constexpr std::int32_t adult = 6;
+constexpr std::int32_t teen = 5, adult = 6;
 
 // "skin;mesh" of the head found in a file of this text; ";" with both as they were if there is none.
 std::string findIn(const std::string& file, std::int32_t stage, const std::string& head) {
@@ -41,8 +40,7 @@ TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
         {"the second set of that head isn't read", "CHILD=c1;\n[b]\nCHILD=c1;\nTEENAGER=t1;m1\n", teen, "c1", ";"},
         {"keys are exact", " CHILD=c1;\nchild=c1;\nCHILD =c1;\nTEENAGER=t1;m1\n", teen, "c1", ";"},
         {"no mesh, or none of their own mark", "CHILD=c=1\nTEENAGER=t=1\n", teen, "c=1", "t=1;"},
-        {"fields of 99 characters", "CHILD=" + x99 + "\nTEENAGER=" + y99 + "y;" + x99 + "x\n", teen, x99,
-         y99 + ";" + x99},
+        {"fields of 99 bytes", "CHILD=" + x99 + "\nTEENAGER=" + y99 + "y;" + x99 + "x\n", teen, x99, y99 + ";" + x99},
         {"a line ends with its 319th character", "#" + x318 + "CHILD=c1;\nTEENAGER=t1;m=1;n\n", teen, "c1", "t1;m=1;n"},
     };
     for (const auto& row : rows) {

@@ -100,7 +100,6 @@ TEST(ChildToTeenTest, DressesTheTeen) {
              outfits("maTNR", "drk") + outfit("W100maTNR", "drk")},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.tone);
         OneSim sim({.age = 9, .skinTone = row.toneNumber, .kind = row.sex});
         if (row.sex == female) {  // a file of the expansion's name is no expansion
             std::filesystem::remove_all(sim.expansion);

@@ -17,6 +17,7 @@ TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
     const std::filesystem::path prefix = files.path("prefix");
     ASSERT_TRUE(writeInstallation(prefix));
     const Tree first = treeOf(prefix);
+    EXPECT_FALSE(treeOf(gameDirectory(prefix)).contains("UserData3/Characters/User00008.iff")) << "Shade has none";
     files.write("prefix/stray", "stray");
     ASSERT_TRUE(writeInstallation(prefix));
     EXPECT_EQ(treeOf(prefix), first);
@@ -35,15 +36,15 @@ TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
 TEST(InstallationTest, HasSimsOfEveryKind) {
     const TempDirectory files;
     ASSERT_TRUE(writeInstallation(files.path("prefix")));
-    std::set<std::string> kinds;  // stage, age, letters from the body's mesh and its version
     loadNeighborhoods(installGame(files.path("prefix")).c_str(), "");
+    std::set<std::string> kinds;  // stage, age, letters from the body's mesh and its version
     for (std::size_t i = 0; i < 3; ++i) {
         for (std::int32_t k = 0; k < neighborhoods[i]->simCount(); ++k) {
             Sim& sim = *neighborhoods[i]->sim(k);
             std::string kind = std::to_string(sim.stage()) + " " + std::to_string(sim.age());
             if (const BodyStrings* body = sim.bodyStrings()) {
-                kind += " " + std::string(body->slot(bodySlot::bodyMesh)).substr(6, 3);
-                kind += " " + std::to_string(body->version());
+                const std::string mesh = body->slot(bodySlot::bodyMesh);
+                kind += " " + mesh.substr(6, 3) + " " + std::to_string(body->version());
                 const char* tones[] = {"", "lgt", "drk", "med"};
                 EXPECT_STREQ(body->slot(bodySlot::skinTone), tones[sim.skinTone()]) << sim.name();
             }
