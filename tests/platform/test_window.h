@@ -11,12 +11,6 @@
 #include "resources/ids.h"
 
 using Log = std::vector<std::string>;
-// Left, top, right and bottom.
-inline std::vector<int> clientOf(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    return {client.left, client.top, client.right, client.bottom};
-}
 
 class TestWindow {
  public:
@@ -60,7 +54,6 @@ class TestWindow {
     Log takeLog() { return std::exchange(log_, {}); }
 
     HWND handle = nullptr;
-    std::vector<int> atCreation;     // the client area then
     bool keepsOpen = false;          // when it is asked to close
     std::function<void(HDC)> paint;  // within WM_PAINT
     std::vector<int> painted;        // left, top, right and bottom of what waited then
@@ -70,7 +63,6 @@ class TestWindow {
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         current_->note(message, wParam);
-        if (message == WM_CREATE) current_->atCreation = clientOf(window);
         if (message == WM_CLOSE && current_->keepsOpen) return 0;
         if (message != WM_PAINT) return DefWindowProcA(window, message, wParam, lParam);
         PAINTSTRUCT paintStruct{};

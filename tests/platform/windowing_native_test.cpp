@@ -1,25 +1,19 @@
-// What only Qt's windows do: the keyboard after a box, texts for screen readers, clicks on a list that has closed.
+// What only Qt's windows do: drawings on the screen, texts for screen readers, clicks on a list that has closed, and
+// all of it without a screen.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QComboBox>
 #include <QMouseEvent>
 #include <QWindow>
+#include <cstdlib>
 
 #include "platform/native/windowing/window.h"
 #include "tests/platform/test_window.h"
+#include "tests/support/scoped_variable.h"
 #include "tests/support/user.h"
 
-TEST(WindowNativeTest, TheWindowIsActiveAgainAfterABox) {
-    TestWindow window;
-    window.show();
-    const AnsweredBox box = answerNextBox(IDOK);
-    MessageBoxA(window.handle, "text", "title", MB_OK);
-    runMessages();
-    EXPECT_EQ(windowOfWidget(QApplication::activeWindow()), window.handle);
-}
-
-TEST(WindowNativeTest, ADrawingOnTheScreenStaysUntilTheWindowIsDrawnThere) {
+TEST(WindowingNativeTest, ADrawingOnTheScreenStaysUntilTheWindowIsDrawnThere) {
     HDC const splash = CreateCompatibleDC(nullptr);
     SelectObject(splash, LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_SPLASH), IMAGE_BITMAP, 0, 0, 0));
     TestWindow window;
@@ -36,7 +30,7 @@ TEST(WindowNativeTest, ADrawingOnTheScreenStaysUntilTheWindowIsDrawnThere) {
     EXPECT_EQ(screenPixel(window.handle, 200, 200), beside);
 }
 
-TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {
+TEST(WindowingNativeTest, OnlyWhatIsSeenIsSpoken) {
     TestWindow window;
     std::string text = "first";
     window.paint = [&](HDC dc) {
@@ -55,7 +49,7 @@ TEST(WindowNativeTest, OnlyWhatIsSeenIsSpoken) {
         EXPECT_FALSE(showsText(window.handle, unseen)) << unseen;
 }
 
-TEST(WindowNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
+TEST(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
     TestWindow window;
     window.show();
     auto& box = static_cast<QComboBox&>(*findWindow(window.addCombo({"a"}))->widget());
@@ -77,5 +71,26 @@ TEST(WindowNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen
     EXPECT_EQ(window.takeLog(), Log{"command 2010 0"});
     const AnsweredBox asked = answerNextBox(IDOK, click);
     MessageBoxA(window.handle, "text", "title", MB_OK);
+    runMessages();
     EXPECT_EQ(window.takeLog(), Log{});
+    EXPECT_EQ(windowOfWidget(QApplication::activeWindow()), window.handle) << "the box gives the keyboard back";
+}
+
+// The test program starts itself once more without a screen.
+TEST(WindowingNativeTest, WithoutAScreenABoxIsPrintedAndAllElseRefuses) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const ScopedVariable display("DISPLAY", ":4711");
+    const ScopedVariable sockets("XDG_RUNTIME_DIR", "/nonexistent");
+    const auto useEverything = [] {
+        SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+        RECT place{0, 0, 90, 90};
+        DrawTextA(GetDC(nullptr), "text", -1, &place, DT_LEFT);
+        BitBlt(GetDC(nullptr), 0, 0, 9, 9, CreateCompatibleDC(nullptr), 0, 0, SRCCOPY);
+        const INT_PTR dialog = DialogBoxParamA(nullptr, MAKEINTRESOURCEA(IDD_ABOUT), nullptr, nullptr, 0);
+        std::exit(dialog == -1 ? MessageBoxA(nullptr, "The text", "Caf\xE9 title", MB_OKCANCEL) : 1);
+    };
+    for (const char* const platform : {"", "wayland", "eglfs;xcb"}) {
+        const ScopedVariable chosen("QT_QPA_PLATFORM", platform);
+        EXPECT_EXIT(useEverything(), testing::ExitedWithCode(0), "Caf\xC3\xA9 title\nThe text\n") << platform;
+    }
 }

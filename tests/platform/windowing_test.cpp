@@ -1,0 +1,152 @@
+// Windows, controls, menus, keys and boxes: what a window receives, and what the user sees of it.
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+#include "tests/platform/test_window.h"
+#include "tests/support/user.h"
+
+TEST(WindowingTest, MessagesComeInWindowsOrder) {
+    TestWindow window;
+    HWND const button = window.addControl("Button", "One", WS_VISIBLE, 1, {0, 0, 90, 30});
+    UpdateWindow(window.handle);
+    EXPECT_EQ(window.takeLog(), Log{"create"}) << "nothing waits in a hidden window";
+    EXPECT_EQ(ShowWindow(window.handle, SW_SHOWNORMAL), FALSE);
+    UpdateWindow(window.handle);
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+
+    EXPECT_TRUE(chooseMenu(window.handle, {"File", "Save"}));
+    PostQuitMessage(4);
+    EXPECT_EQ(window.takeLog(), Log{}) << "posted, not sent";
+    int exitCode = 0;
+    EXPECT_TRUE(runMessages(&exitCode));
+    EXPECT_EQ(exitCode, 4);
+    EXPECT_EQ(window.takeLog(), Log{"command 32771 0"});
+
+    for (const bool keeps : {true, false}) {
+        window.keepsOpen = keeps;
+        closeWindow(window.handle);
+        runMessages();
+        EXPECT_EQ(window.takeLog(), keeps ? Log{"close"} : (Log{"close", "destroy"}));
+        EXPECT_EQ(IsWindow(button) != FALSE, keeps);
+    }
+}
+
+TEST(WindowingTest, WhatWaitsIsDrawnOnceByAnUpdateOrByAQuietLoop) {
+    TestWindow window;
+    window.show();
+    window.takeLog();
+    const RECT one{-50, 20, 30, 40};  // to the left there is nothing
+    const RECT other{25, 35, 60, 50};
+    InvalidateRect(window.handle, &one, TRUE);
+    InvalidateRect(window.handle, &other, FALSE);
+    UpdateWindow(window.handle);
+    EXPECT_EQ(window.painted, (std::vector<int>{0, 20, 60, 50}));
+    runMessages();
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+    InvalidateRect(window.handle, &one, TRUE);
+    runMessages();
+    EXPECT_EQ(window.takeLog(), Log{"paint"});
+}
+
+TEST(WindowingTest, OnlyWhatWaitsIsErasedAndDrawn) {
+    HDC const splash = CreateCompatibleDC(nullptr);
+    SelectObject(splash, LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_SPLASH), IMAGE_BITMAP, 0, 0, 0));
+    TestWindow window;
+    window.show();
+    const std::uint32_t ground = pictureOf(window.handle).at(50, 50);
+    EXPECT_TRUE(BitBlt(GetDC(window.handle), 0, 0, 598, 400, splash, 0, 0, SRCCOPY));
+    const Picture full = pictureOf(window.handle);
+    EXPECT_EQ(full.at(10, 10), 0x101735U);
+    EXPECT_EQ(full.at(10, 390), 0x36294CU);
+
+    const auto expectInside = [&](BOOL erase, auto expected) {
+        const RECT part{40, 40, 60, 60};
+        InvalidateRect(window.handle, &part, erase);
+        InvalidateRect(window.handle, &part, FALSE);  // takes nothing back
+        UpdateWindow(window.handle);
+        const Picture seen = pictureOf(window.handle);
+        for (const auto& [x, y] : {std::pair(40, 40), {59, 59}, {39, 40}, {40, 39}, {60, 59}, {59, 60}})
+            EXPECT_EQ(seen.at(x, y), x == y ? expected(x, y) : full.at(x, y)) << x << " " << y;
+    };
+    expectInside(FALSE, [&](int x, int y) { return full.at(x, y); });
+    expectInside(TRUE, [&](int, int) { return ground; });
+    window.paint = [&](HDC dc) { BitBlt(dc, -200, -100, 598, 400, splash, 0, 0, SRCCOPY); };
+    expectInside(TRUE, [&](int x, int y) { return full.at(x + 200, y + 100); });
+}
+
+TEST(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
+    const auto drawn = [](const std::string& text) {
+        TestWindow window;
+        window.paint = [&](HDC dc) {
+            RECT rectangle{20, 20, 120, 220};
+            DrawTextA(dc, text.c_str(), -1, &rectangle, DT_LEFT);
+        };
+        window.show();
+        return pictureOf(window.handle).pixels;
+    };
+    for (const auto& [one, other] : {std::pair("abc&", "abc&&"), {"a\nb", "a\r\nb"}, {"a\rb", "a\nb"}})
+        EXPECT_TRUE(drawn(one) == drawn(other)) << one;
+    for (const auto& [one, other] : {std::pair("Q&&A", "QA"), {"a&bc", "abc"}, {"\xE9", "e"}})
+        EXPECT_FALSE(drawn(one) == drawn(other)) << one;
+    EXPECT_TRUE(drawn(std::string(60, 'w')) == drawn(std::string(80, 'w'))) << "clipped";
+}
+
+TEST(WindowingTest, APickOfAnyEntryIsReportedAndADeletionIsNot) {
+    TestWindow window;
+    window.show();
+    HWND const box = window.addCombo({"a", "Q&A", "caf\xE9 \x80"});
+    EXPECT_EQ(entryText(box, 2), "caf\xE9 \x80");
+    window.takeLog();
+    pickEntry(box, 1);
+    pickEntry(box, 1);
+    constexpr int none = -1;
+    for (const auto& [deleted, left, selected] : {std::tuple(3, CB_ERR, 1), {0, 2, 0}, {0, 1, none}, {0, 0, none}}) {
+        EXPECT_EQ(SendMessageA(box, CB_DELETESTRING, static_cast<WPARAM>(deleted), 0), left);
+        EXPECT_EQ(SendMessageA(box, CB_GETCURSEL, 0, 0), selected);
+    }
+    EXPECT_EQ(window.takeLog(), (Log{"command 7 1", "command 7 1"}));
+}
+
+TEST(WindowingTest, AnAcceleratorKeepsItsKeyFromTheControl) {
+    TestWindow window;
+    window.show();
+    HACCEL const accelerators = LoadAcceleratorsA(nullptr, MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS));
+    HWND const combo = window.addCombo({"Goth", "/ slash"});
+    pickEntry(combo, 0);
+    runMessages();
+    window.takeLog();
+    for (const auto& [hold, command, selected] :
+         {std::tuple(Hold::alt, "command 104 1", 0), {Hold::nothing, "command 7 1", 1}}) {  // typing finds the entry
+        later([&window, held = hold] { pressKey(window.handle, '/', held); });
+        runMessages(nullptr, window.handle, accelerators);
+        EXPECT_EQ(window.takeLog(), Log{command});
+        EXPECT_EQ(SendMessageA(combo, CB_GETCURSEL, 0, 0), selected);
+    }
+}
+
+TEST(WindowingTest, ABoxBlocksItsOwnerWhichIsStillDrawn) {
+    TestWindow owner;
+    HWND const button = owner.addControl("Button", "Below", WS_VISIBLE, 3, {10, 300, 100, 30});
+    owner.show();
+    const char* const text = "Caf\xE9 & <b>bar</b>!  Two blanks.\nA second line with &mark.";
+    for (HWND const given : {owner.handle, HWND{}}) {
+        SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+        owner.takeLog();
+        bool waitCursor = true;
+        const AnsweredBox box = answerNextBox(answerByEscape, [&] {
+            waitCursor = waitCursorShows();
+            clickButton(button);
+            closeWindow(owner.handle);
+            InvalidateRect(owner.handle, nullptr, TRUE);
+        });
+        EXPECT_EQ(MessageBoxA(given, text, "Proceed? \x80", MB_OKCANCEL), IDCANCEL);
+        EXPECT_EQ(box->title + box->text, std::string("Proceed? \x80") + text);
+        EXPECT_EQ(owner.takeLog(), Log{"paint"});
+        EXPECT_FALSE(waitCursor) << "over a box the program doesn't wait";
+        EXPECT_TRUE(waitCursorShows());
+        clickButton(button);
+        EXPECT_EQ(owner.takeLog(), Log{"command 3 0"});
+    }
+    SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+}
