@@ -1,32 +1,32 @@
 // What the program's own versions of Windows' calls do beyond the originals.
-#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <sddl.h>
 #include <thread>
 
 #include "platform/files.h"
-#include "tests/platform/test_window.h"
+#include "tests/platform/window_test.h"
 #include "tests/support/temp_directory.h"
-#include "tests/support/user.h"
 
-TEST(OwnCallsWindowsTest, AControlHasTheFontOfMessagesAndHandsTheKeyboardOnWhenItIsDisabled) {
+namespace {
+
+using OwnCallsWindowsTest = WindowTest;
+
+TEST_F(OwnCallsWindowsTest, AControlHasTheFontOfMessagesAndHandsTheKeyboardOnWhenItIsDisabled) {
     NONCLIENTMETRICSA metrics{};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    TestWindow window;
-    window.show();
-    HWND const button = window.addControl("Button", "One", WS_VISIBLE, 1, {10, 300, 100, 30});
+    HWND const button = addButton(1);
     LOGFONTA font{};
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(button, WM_GETFONT, 0, 0)), sizeof font, &font);
     EXPECT_STREQ(font.lfFaceName, metrics.lfMessageFont.lfFaceName);
     clickButton(button);
     EXPECT_EQ(GetFocus(), button);
     SetWindowLongA(button, GWL_STYLE, WS_CHILD | WS_VISIBLE | WS_DISABLED);
-    EXPECT_EQ(GetFocus(), window.handle);
+    EXPECT_EQ(GetFocus(), window_);
 }
 
-TEST(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
+TEST_F(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
     constexpr const char* path = "Software\\Tidewright's test";
     HKEY key = nullptr;
     ASSERT_EQ(RegCreateKeyExA(HKEY_LOCAL_MACHINE, path, 0, nullptr, 0, KEY_ALL_ACCESS | KEY_WOW64_32KEY, nullptr, &key,
@@ -41,7 +41,7 @@ TEST(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
     RegCloseKey(key);
 }
 
-TEST(OwnCallsWindowsTest, AFileIsMadeAnewOnceNobodyElseHoldsTheDeletedOne) {
+TEST_F(OwnCallsWindowsTest, AFileIsMadeAnewOnceNobodyElseHoldsTheDeletedOne) {
     const TempDirectory directory;
     directory.write("live.iff", "old");
     const std::string path = directory.path("live.iff");
@@ -57,3 +57,5 @@ TEST(OwnCallsWindowsTest, AFileIsMadeAnewOnceNobodyElseHoldsTheDeletedOne) {
     closing.join();
     if (file != nullptr) std::fclose(file);
 }
+
+}  // namespace

@@ -1,6 +1,5 @@
 // What only the layer's own windows do: clicks on a list that has closed, the search for windows, boxes without a
 // screen.
-#include <gtest/gtest.h>
 #include <xcb/xcb.h>
 
 #include <QApplication>
@@ -10,16 +9,17 @@
 #include <cstdlib>
 
 #include "platform/native/windowing/window.h"
-#include "tests/platform/test_window.h"
+#include "tests/platform/window_test.h"
 #include "tests/support/scoped_variable.h"
-#include "tests/support/user.h"
 #include "tests/support/x_server.h"
 
-TEST(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
-    TestWindow window;
-    window.show();
-    auto& box = static_cast<QComboBox&>(*findWindow(window.addCombo({"a"}))->widget());
-    HWND const button = window.addControl("Button", "Move Out", WS_VISIBLE, 2010, {10, 300, 100, 30});
+namespace {
+
+using WindowingNativeTest = WindowTest;
+
+TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
+    auto& box = static_cast<QComboBox&>(*findWindow(addCombo({"a"}))->widget());
+    HWND const button = addButton(2010);
     box.showPopup();
     QWindow* const list = QApplication::activePopupWidget()->windowHandle();
     box.hidePopup();
@@ -32,17 +32,17 @@ TEST(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsO
             QCoreApplication::sendEvent(list, &event);
         }
     };
-    window.takeLog();
+    takeLog();
     click();
-    EXPECT_EQ(window.takeLog(), Log{"command 2010 0"});
+    EXPECT_EQ(takeLog(), Log{"command 2010 0"});
     const AnsweredBox asked = answerNextBox(IDOK, click);
-    MessageBoxA(window.handle, "text", "title", MB_OK);
+    MessageBoxA(window_, "text", "title", MB_OK);
     runMessages();
-    EXPECT_EQ(window.takeLog(), Log{});
-    EXPECT_EQ(windowOfWidget(QApplication::activeWindow()), window.handle) << "the box gives the keyboard back";
+    EXPECT_EQ(takeLog(), Log{});
+    EXPECT_EQ(windowOfWidget(QApplication::activeWindow()), window_) << "the box gives the keyboard back";
 }
 
-TEST(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
+TEST_F(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     const XServer server;
     ScopedVariable display("DISPLAY", server.display());
     xcb_window_t window = xcb_setup_roots_iterator(xcb_get_setup(server.connection())).data->root;
@@ -67,9 +67,11 @@ TEST(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
 }
 
 // The test program starts itself once more without a screen.
-TEST(WindowingNativeTest, WithoutAScreenABoxIsPrinted) {
+TEST_F(WindowingNativeTest, WithoutAScreenABoxIsPrinted) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const ScopedVariable display("DISPLAY", ""), platform("QT_QPA_PLATFORM", "eglfs");
     EXPECT_EXIT(std::exit(MessageBoxA(nullptr, "The text", "Caf\xE9 title", MB_OKCANCEL)), testing::ExitedWithCode(0),
                 "Caf\xC3\xA9 title\nThe text\n");
 }
+
+}  // namespace

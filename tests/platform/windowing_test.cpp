@@ -3,75 +3,72 @@
 
 #include <tuple>
 
-#include "tests/platform/test_window.h"
-#include "tests/support/user.h"
+#include "tests/platform/window_test.h"
 
-TEST(WindowingTest, MessagesComeInWindowsOrder) {
-    TestWindow window;
-    HWND const button = window.addControl("Button", "One", WS_VISIBLE, 1, {0, 0, 90, 30});
-    UpdateWindow(window.handle);
-    EXPECT_EQ(window.takeLog(), Log{"create"}) << "nothing waits in a hidden window";
-    window.show();
-    EXPECT_EQ(window.takeLog(), Log{"paint"});
-    EXPECT_TRUE(chooseMenu(window.handle, {"File", "Save"}));
-    InvalidateRect(window.handle, nullptr, TRUE);
+namespace {
+
+using WindowingTest = WindowTest;
+
+TEST_F(WindowingTest, MessagesComeInWindowsOrder) {
+    HWND const button = addButton(1);
+    EXPECT_EQ(takeLog(), (Log{"create", "paint"}));
+    EXPECT_TRUE(chooseMenu(window_, {"File", "Save"}));
+    InvalidateRect(window_, nullptr, TRUE);
     PostQuitMessage(4);
-    EXPECT_EQ(window.takeLog(), Log{}) << "posted, not sent";
+    EXPECT_EQ(takeLog(), Log{}) << "posted, not sent";
     int exitCode = 0;
     EXPECT_TRUE(runMessages(&exitCode));
     EXPECT_EQ(exitCode, 4);
-    EXPECT_EQ(window.takeLog(), Log{"command 32771 0"}) << "drawn after all else";
-    window.show();
-    closeWindow(window.handle);
+    EXPECT_EQ(takeLog(), Log{"command 32771 0"}) << "drawn after all else";
+    UpdateWindow(window_);
+    closeWindow(window_);
     runMessages();
-    EXPECT_EQ(window.takeLog(), (Log{"paint", "close", "destroy"}));
+    EXPECT_EQ(takeLog(), (Log{"paint", "close", "destroy"}));
     EXPECT_FALSE(IsWindow(button));
 }
 
-TEST(WindowingTest, OnlyWhatWaitsIsErasedAndDrawn) {
+TEST_F(WindowingTest, OnlyWhatWaitsIsErasedAndDrawn) {
     HDC const splash = CreateCompatibleDC(nullptr);
     SelectObject(splash, LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_SPLASH), IMAGE_BITMAP, 0, 0, 0));
-    TestWindow window;
-    window.show();
-    const std::uint32_t ground = pictureOf(window.handle).at(50, 50);
-    EXPECT_TRUE(BitBlt(GetDC(window.handle), 0, 0, 598, 400, splash, 0, 0, SRCCOPY));
-    const Picture full = pictureOf(window.handle);
+    const std::uint32_t ground = pictureOf(window_).at(50, 50);
+    EXPECT_TRUE(BitBlt(GetDC(window_), 0, 0, 598, 400, splash, 0, 0, SRCCOPY));
+    const Picture full = pictureOf(window_);
     EXPECT_EQ(full.at(10, 10), 0x101735U);
     EXPECT_EQ(full.at(10, 390), 0x36294CU);
 
     const auto expectInside = [&](BOOL erase, auto expected) {
         const RECT one{-50, 40, 50, 60};  // to the left there is nothing
         const RECT other{40, 40, 60, 60};
-        InvalidateRect(window.handle, &one, erase);
-        InvalidateRect(window.handle, &other, FALSE);  // takes nothing back
-        UpdateWindow(window.handle);
-        EXPECT_EQ(window.painted, (std::vector<int>{0, 40, 60, 60}));
-        const Picture seen = pictureOf(window.handle);
+        InvalidateRect(window_, &one, erase);
+        InvalidateRect(window_, &other, FALSE);  // takes nothing back
+        UpdateWindow(window_);
+        EXPECT_EQ(painted_, (std::vector<int>{0, 40, 60, 60}));
+        const Picture seen = pictureOf(window_);
         for (const auto& [x, y] : {std::pair(40, 40), {59, 59}, {40, 39}, {60, 59}, {59, 60}})
             EXPECT_EQ(seen.at(x, y), x == y ? expected(x, y) : full.at(x, y)) << x << " " << y;
     };
     expectInside(FALSE, [&](int x, int y) { return full.at(x, y); });
     expectInside(TRUE, [&](int, int) { return ground; });
-    window.paint = [&](HDC dc) { BitBlt(dc, -200, -100, 598, 400, splash, 0, 0, SRCCOPY); };
+    paint_ = [&](HDC dc) { BitBlt(dc, -200, -100, 598, 400, splash, 0, 0, SRCCOPY); };
     expectInside(TRUE, [&](int x, int y) { return full.at(x + 200, y + 100); });
 
-    window.takeLog();
+    takeLog();
     runMessages();
-    EXPECT_EQ(window.takeLog(), Log{}) << "nothing waits any more";
-    InvalidateRect(window.handle, nullptr, TRUE);
+    EXPECT_EQ(takeLog(), Log{}) << "nothing waits any more";
+    InvalidateRect(window_, nullptr, TRUE);
     runMessages();
-    EXPECT_EQ(window.takeLog(), Log{"paint"});
+    EXPECT_EQ(takeLog(), Log{"paint"});
 }
 
-TEST(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
-    const auto drawn = [](const std::string& text) {
-        TestWindow window;
-        window.paint = [&](HDC dc) {
+TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
+    const auto drawn = [this](const std::string& text) {
+        paint_ = [text](HDC dc) {
             RECT place{20, 20, 120, 220};
             DrawTextA(dc, text.c_str(), -1, &place, DT_LEFT);
         };
-        window.show();
-        return pictureOf(window.handle).pixels;
+        InvalidateRect(window_, nullptr, TRUE);
+        UpdateWindow(window_);
+        return pictureOf(window_).pixels;
     };
     for (const auto& [one, other] : {std::pair("abc&", "abc&&"), {"a\nb", "a\r\nb"}, {"a\rb", "a\nb"}})
         EXPECT_TRUE(drawn(one) == drawn(other)) << one;
@@ -80,47 +77,45 @@ TEST(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
     EXPECT_TRUE(drawn(std::string(60, 'w')) == drawn(std::string(80, 'w'))) << "clipped";
 }
 
-TEST(WindowingTest, APickByMouseOrKeyIsReportedAndADeletionIsNot) {
-    TestWindow window;
-    window.show();
-    HWND const box = window.addCombo({"a", "Q&A", "/ caf\xE9 \x80"});
+TEST_F(WindowingTest, APickByMouseOrKeyIsReportedAndADeletionIsNot) {
+    HWND const box = addCombo({"a", "Q&A", "/ caf\xE9 \x80"});
     EXPECT_EQ(entryText(box, 2), "/ caf\xE9 \x80");
     pickEntry(box, 1);
-    window.takeLog();
+    takeLog();
     pickEntry(box, 1);
-    later([&] { pressKey(window.handle, '/'); });  // an accelerator's key too, but with Alt only
-    runMessages(nullptr, window.handle, LoadAcceleratorsA(nullptr, MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS)));
-    EXPECT_EQ(window.takeLog(), (Log{"command 7 1", "command 7 1"}));
+    later([&] { pressKey(window_, '/'); });  // an accelerator's key too, but with Alt only
+    runMessages(nullptr, window_, LoadAcceleratorsA(nullptr, MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS)));
+    EXPECT_EQ(takeLog(), (Log{"command 7 1", "command 7 1"}));
     constexpr int none = -1;
     for (const auto& [deleted, left, selected] : {std::tuple(3, CB_ERR, 2), {0, 2, 1}, {1, 1, none}, {0, 0, none}}) {
         EXPECT_EQ(SendMessageA(box, CB_DELETESTRING, static_cast<WPARAM>(deleted), 0), left);
         EXPECT_EQ(SendMessageA(box, CB_GETCURSEL, 0, 0), selected);
     }
-    EXPECT_EQ(window.takeLog(), Log{});
+    EXPECT_EQ(takeLog(), Log{});
 }
 
-TEST(WindowingTest, ABoxBlocksItsOwnerWhichIsStillDrawn) {
-    TestWindow owner;
-    HWND const button = owner.addControl("Button", "Below", WS_VISIBLE, 3, {10, 300, 100, 30});
-    owner.show();
+TEST_F(WindowingTest, ABoxBlocksItsOwnerWhichIsStillDrawn) {
+    HWND const button = addButton(3);
     const char* const text = "Caf\xE9 & <b>bar</b>!  Two blanks.\nA second line with &mark.";
-    for (HWND const given : {owner.handle, HWND{}}) {
+    for (HWND const given : {window_, HWND{}}) {
         SetCursor(LoadCursorA(nullptr, IDC_WAIT));
-        owner.takeLog();
+        takeLog();
         bool waitCursor = true;
         const AnsweredBox box = answerNextBox(answerByEscape, [&] {
             waitCursor = waitCursorShows();
             clickButton(button);
-            closeWindow(owner.handle);
-            InvalidateRect(owner.handle, nullptr, TRUE);
+            closeWindow(window_);
+            InvalidateRect(window_, nullptr, TRUE);
         });
         EXPECT_EQ(MessageBoxA(given, text, "Proceed? \x80", MB_OKCANCEL), IDCANCEL);
         EXPECT_EQ(box->title + box->text, std::string("Proceed? \x80") + text);
-        EXPECT_EQ(owner.takeLog(), Log{"paint"});
+        EXPECT_EQ(takeLog(), Log{"paint"});
         EXPECT_FALSE(waitCursor) << "over a box the program doesn't wait";
         EXPECT_TRUE(waitCursorShows());
         clickButton(button);
-        EXPECT_EQ(owner.takeLog(), Log{"command 3 0"});
+        EXPECT_EQ(takeLog(), Log{"command 3 0"});
     }
     SetCursor(LoadCursorA(nullptr, IDC_ARROW));
 }
+
+}  // namespace
