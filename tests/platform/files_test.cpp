@@ -48,7 +48,7 @@ TEST_F(FilesTest, AStatusHasKindSizeAndWriteAccess) {
 }
 
 TEST_F(FilesTest, AModeDecidesWhatAnOpenedFileHolds) {
-    for (const auto& [mode, content] : {std::pair("r+b", "XYd"), {"wb", "XY"}, {"a+b", "oldXY"}}) {
+    for (const auto& [mode, content] : {std::pair("r+b", "XYd"), {"wb", "XY"}, {"ab", "oldXY"}, {"a+b", "oldXY"}}) {
         directory_.write("User00042.iff", "old");
         std::FILE* file = openFile("sub\\..\\user00042.IFF", mode);
         ASSERT_NE(file, nullptr) << mode;
@@ -81,11 +81,14 @@ TEST_F(FilesTest, EachRefusalHasItsReason) {
     }
 }
 
-TEST_F(FilesTest, AProtectedFileIsNotWritten) {
+TEST_F(FilesTest, AProtectedFileIsReadButNotWritten) {
     EXPECT_EQ(openFile("protected.iff", "wb"), nullptr);
     EXPECT_EQ(NewVersion("protected.iff").open(whenComplete), nullptr);
     EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
     EXPECT_EQ(contentOf("protected.iff"), "kept");
+    std::FILE* const read = openFile("protected.iff", "rb");
+    ASSERT_NE(read, nullptr);
+    std::fclose(read);
 }
 
 TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {

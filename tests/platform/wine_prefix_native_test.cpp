@@ -58,7 +58,7 @@ TEST_F(WinePrefixNativeTest, ANameOutsideAsciiIsFoundRawThenAsUtf8AndMadeAsUtf8)
     const char* const raw = "\xC9t\xE9.iff";           // "Été.iff" in Windows-1252
     const char* const utf8 = "\xC3\x89t\xC3\xA9.iff";  // the same
     EXPECT_EQ(nativePath(raw), utf8);
-    for (const char* better : {"\xC3\x89T\xC3\xA9.IFF", utf8, raw}) {
+    for (const char* const better : {"\xC3\x89T\xC3\xA9.IFF", "\xC9T\xE9.IFF", utf8, raw}) {
         directory_.write(better, "x");
         EXPECT_EQ(nativePath(raw), better);
     }
