@@ -4,12 +4,10 @@
 #include <sys/syscall.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <new>
 #include <regex>
 
-#include "save/file_copy.h"
 #include "tests/save/changed_household.h"
 #include "tests/support/native/held_calls.h"
 
@@ -32,13 +30,11 @@ std::string livesOf(const std::string& states) {
 
 class SaveSweepTest : public ChangedHousehold {
  public:
-    using Decide = std::function<int(const seccomp_data& call)>;
-
     SaveSweepTest() { start(); }
     ~SaveSweepTest() override { munmap(progress_, sizeof *progress_); }
 
     // Saves twice in a child, from the same beginning each time. `decide` judges the calls of the first save.
-    void saveTwice(const Decide& decide) {
+    void saveTwice(const CallDecision& decide) {
         std::filesystem::remove_all(files().path("UserData"));
         for (const auto& [name, bytes] : original())
             files().write(name, bytes);
@@ -113,18 +109,12 @@ class SaveSweepTest : public ChangedHousehold {
     int answeredCall_ = -1;
 };
 
-// How far the next point is: usually some are left out.
-int stride(int usual) {
-    return std::getenv("TIDEWRIGHT_ALL_POINTS") != nullptr ? 1 : usual;
-}
-
 TEST_F(SaveSweepTest, AKilledSaveLosesNothing) {
     int point = 1;
     for (; saveTwiceWith(point, heldCall::endProcess); ++point) {
         SCOPED_TRACE(testing::Message() << "ended at call " << point << ", number " << answeredCall());
         expectNothingLost(false);
     }
-    std::printf("Killed at %d calls\n", point - 1);
     EXPECT_GT(point, 100);
     EXPECT_EQ(afterFirst(), allSaved);
 }
@@ -134,7 +124,7 @@ TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
     for (const bool hasNamelessFiles : {true, false}) {
         int begin = 1;  // another one for each error, so that together they come to all calls
         for (const int error : {ENOSPC, EIO, EACCES, EMFILE}) {
-            const int step = stride(hasNamelessFiles ? 4 : 12);
+            const int step = std::getenv("TIDEWRIGHT_ALL_POINTS") != nullptr ? 1 : hasNamelessFiles ? 4 : 12;
             for (int point = begin++; saveTwiceWith(point, error, hasNamelessFiles); point += step) {
                 SCOPED_TRACE(testing::Message() << "error " << error << " at call " << point << ", number "
                                                 << answeredCall() << ", nameless files: " << hasNamelessFiles);
@@ -145,7 +135,6 @@ TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
             EXPECT_EQ(afterFirst(), allSaved);
         }
     }
-    std::printf("Failed at %d calls\n", tried);
     EXPECT_GT(tried, 100);
 }
 
@@ -160,29 +149,6 @@ TEST_F(SaveSweepTest, AChangedLiveFileStaysWhicheverCallFails) {
         runWithHeldCalls([this] { saveAt(7); }, decide);
         failed = calls >= point;
         EXPECT_EQ(files().bytesOf(live), changed) << "failed at call " << point;
-    }
-}
-
-TEST_F(SaveSweepTest, AMoveOfAMissingFileNeitherMakesNorDeletesAnything) {
-    const std::string none = files().path("none"), backupPath = files().path(backup);
-    runWithHeldCalls([&] { moveByCopy(none.c_str(), backupPath.c_str()); },
-                     [](const seccomp_data& call) {
-                         EXPECT_NE(call.nr, SYS_unlinkat);
-                         EXPECT_TRUE(call.nr != SYS_openat || (call.args[2] & O_CREAT) == 0);
-                         return heldCall::carryOut;
-                     });
-}
-
-// Only one of the two is read: the one in small letters, or else the first in the order of bytes.
-TEST_F(SaveSweepTest, OfTwoNamesThatDifferInCaseOnlyTheOneReadIsBackedUpAndReplaced) {
-    for (const std::string read : {"UserData/neighborhood.iff", "UserData/NEIGHBORHOOD.iff"}) {
-        SCOPED_TRACE(read);
-        start();
-        std::filesystem::rename(files().path(live), files().path(read));
-        files().write("UserData/Neighborhood.iff", "another file");
-        saveAt(7);
-        EXPECT_EQ(states(), allSaved + "; UserData/Neighborhood.iff\n");
-        EXPECT_EQ(files().bytesOf("UserData/Neighborhood.iff"), bytesFrom("another file"));
     }
 }
 

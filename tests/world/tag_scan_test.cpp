@@ -14,9 +14,7 @@ TEST(TagScan, ATagIsFoundFromTheCursorOn) {
         int start, size, result, cursor;
     } rows[] = {
         {"ends with the file", "..XXXX", "XXXX", 0, 6, 3, 0},
-        {"cut off by the end", "..XXX", "XXXX", 0, 5, -4, 5},
         {"at the cursor, over the one in front", "XXXXX", "XXXX", 1, 5, 2, 1},
-        {"cursor behind the end", "XXXX", "XXXX", 9, 4, -4, 9},
         {"zero bytes count", "\1\0\0\0.\1\0\0\0\4\0\0\0"s, "\1\0\0\0\4\0\0\0"s, 0, 13, 6, 0},
         {"over the edge of a page", std::string(126, '.') + "XXXX..", "XXXX", 0, 132, 127, 0},
         {"begins behind the noted size", "....XXXX", "XXXX", 0, 4, -4, 4},

@@ -1,10 +1,22 @@
-// A process whose system calls on files are held one by one, so that a test decides what becomes of each.
+// A child process whose system calls on files are held one by one, so that a test decides what becomes of each.
 #ifndef TESTS_SUPPORT_NATIVE_HELD_CALLS_H
 #define TESTS_SUPPORT_NATIVE_HELD_CALLS_H
 
+#include <gtest/gtest.h>
+#include <linux/filter.h>
 #include <linux/seccomp.h>
+#include <poll.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <cstddef>
 #include <functional>
+#include <vector>
 
 // What becomes of a held call: one of these, or the `errno` of a call that fails without being carried out.
 namespace heldCall {
@@ -12,10 +24,62 @@ constexpr int carryOut = 0;
 constexpr int endProcess = -1;  // instead of the call, as by `kill -9`
 }  // namespace heldCall
 
+using CallDecision = std::function<int(const seccomp_data& call)>;
+
+[[noreturn]] inline void runChild(const std::function<void()>& act) {
+    std::vector<sock_filter> filter{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
+    for (const unsigned call : std::initializer_list<unsigned>{
+             SYS_openat, SYS_close,    SYS_newfstatat, SYS_fstat,      SYS_statx,    SYS_faccessat,
+             SYS_lseek,  SYS_read,     SYS_write,      SYS_getdents64, SYS_fcntl,    SYS_fsync,
+             SYS_linkat, SYS_unlinkat, SYS_mkdirat,    SYS_ftruncate,  SYS_chdir,    SYS_faccessat2,
+             SYS_dup,    SYS_dup3,     SYS_fstatfs,    SYS_getcwd,     SYS_renameat2}) {
+        filter.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 0, 1));
+        filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_USER_NOTIF));
+    }
+    filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
+    const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
+    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    if (syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program) < 0) _exit(1);
+    act();
+    _exit(0);
+}
+
+// Answers the calls until the child has ended.
+inline void answerCalls(int listener, pid_t child, const CallDecision& decide) {
+    pollfd waiting{listener, POLLIN, 0};
+    while (poll(&waiting, 1, -1) == 1 && (waiting.revents & POLLIN) != 0) {
+        seccomp_notif held{};
+        if (ioctl(listener, SECCOMP_IOCTL_NOTIF_RECV, &held) != 0) continue;
+        seccomp_notif_resp answer{held.id, 0, 0, 0};
+        const int decision = decide(held.data);
+        if (decision == heldCall::endProcess) kill(child, SIGKILL);
+        if (decision > 0) answer.error = -decision;
+        // Without a power cut the disk itself doesn't matter, and it takes its time.
+        if (decision == heldCall::carryOut && held.data.nr != SYS_fsync)
+            answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
+        ioctl(listener, SECCOMP_IOCTL_NOTIF_SEND, &answer);
+    }
+}
+
 // Runs `act` in a child, a copy of this process, which ends with it. Nothing is loaded into the child: the kernel stops
 // each of its calls that opens, asks about, reads, writes, names or deletes a file, and `decide` answers by the call's
-// number (SYS_openat and so on) and arguments. A sync succeeds without reaching the disk. False if the child was ended
-// before `act` had returned.
-bool runWithHeldCalls(const std::function<void()>& act, const std::function<int(const seccomp_data& call)>& decide);
+// number (SYS_openat and so on) and arguments. A sync succeeds without reaching the disk.
+inline void runWithHeldCalls(const std::function<void()>& act, const CallDecision& decide) {
+    const int childsListener = dup(STDERR_FILENO);  // the lowest free descriptor, which the child's listener will get
+    close(childsListener);
+    const pid_t child = fork();
+    if (child == 0) runChild(act);
+    const long process = syscall(SYS_pidfd_open, child, 0);
+    long listener = -1;
+    while (listener < 0 && waitpid(child, nullptr, WNOHANG) == 0) {
+        sched_yield();
+        listener = syscall(SYS_pidfd_getfd, process, childsListener, 0);
+    }
+    close(static_cast<int>(process));
+    ASSERT_GE(listener, 0) << "the kernel doesn't hand over a process's calls";
+    answerCalls(static_cast<int>(listener), child, decide);
+    close(static_cast<int>(listener));
+    waitpid(child, nullptr, 0);
+}
 
 #endif
