@@ -1,9 +1,7 @@
-// The text of body strings: its entries, and its reading and writing as a whole.
-#include "world/body_strings.h"
-
-#include "gamefiles/bodies.h"
+// What the readers find in a file from its stream's cursor on: a tag, and the text of body strings.
 #include "tests/support/body_slots.h"
-#include "tests/support/test_stream.h"
+#include "tests/support/temp_directory.h"
+#include "world/tag_scan.h"
 
 namespace {
 
@@ -16,6 +14,43 @@ BodySlots numberedSlots(std::size_t end = 50) {
     for (std::size_t i = 0; i < end; ++i)
         slots[i] = "s" + std::to_string(i);
     return slots;
+}
+
+class TestStream {
+ public:
+    // With a window of 64 bytes, the smallest, it takes few bytes to cross its edge.
+    explicit TestStream(const Bytes& bytes) {
+        files_.write("file", bytes);
+        EXPECT_TRUE(file_.open(files_.path("file").c_str(), StreamFile::Access::read, 64));
+    }
+
+    StreamView view() { return StreamView(file_); }
+
+ private:
+    TempDirectory files_;
+    StreamFile file_;
+};
+
+TEST(TagScan, ATagIsFoundFromTheCursorOn) {
+    const struct {
+        const char* what;
+        std::string bytes, tag;
+        int start, size, result, cursor;
+    } rows[] = {
+        {"at the cursor, over the one in front", "XXXXX", "XXXX", 1, 5, 2, 1},
+        {"zero bytes count", "\1\0\0\0.\1\0\0\0\4\0\0\0"s, "\1\0\0\0\4\0\0\0"s, 0, 13, 6, 0},
+        {"over the edge of a page", std::string(126, '.') + "XXXX..", "XXXX", 0, 132, 127, 0},
+        {"begins behind the noted size", "....XXXX", "XXXX", 0, 4, -4, 4},
+        {"differs behind the noted size", "....XX..", "XXXX", 0, 4, -4, 6},
+        {"file shorter than noted", "....", "XXXX", 0, 9, -4, 9},
+    };
+    for (const auto& row : rows) {
+        TestStream file(bytesFrom(row.bytes));
+        StreamView stream = file.view();
+        stream.seek(row.start);
+        EXPECT_EQ(findTag(stream, row.tag, row.size), row.result) << row.what;
+        EXPECT_EQ(stream.tell(), row.cursor) << row.what;
+    }
 }
 
 TEST(BodyStrings, AnEntryIsReadByteByByteAndSplitAtItsFirstEqualsSign) {
