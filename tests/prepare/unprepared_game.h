@@ -12,7 +12,6 @@
 #include "sample/installation.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
-#include "tests/support/tree.h"
 
 namespace fs = std::filesystem;
 

@@ -7,7 +7,6 @@
 #include "tests/support/iff_walk.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
-#include "tests/support/tree.h"
 #include "world/neighborhoods.h"
 
 namespace {

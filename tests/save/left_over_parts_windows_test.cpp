@@ -12,8 +12,8 @@ TEST_F(LeftOverPartsWindowsTest, ASaveDeletesThoseOfEndedProcessesButNotARunning
         files().write("UserData/" + directory + "~part1.tmp", "left behind");
     const std::string runningOnes = "UserData/Characters/~part2.tmp";
     files().write(runningOnes, "being written");
-    HANDLE const writer =
-        CreateFileA(files().path(runningOnes).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    HANDLE const writer = CreateFileA(files().path(runningOnes).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, 0, nullptr);
     save();
     EXPECT_EQ(states(), allSaved + "; " + runningOnes + "\n");
     CloseHandle(writer);

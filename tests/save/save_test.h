@@ -13,7 +13,6 @@
 #include "data/data_files.h"
 #include "save/backup_names.h"
 #include "tests/support/test_neighborhood.h"
-#include "tests/support/tree.h"
 
 const std::string allSaved = "new, backup old; new, backup old; new, backup old";
 

@@ -9,7 +9,6 @@
 #include "tests/support/iff_walk.h"
 #include "tests/support/machine.h"
 #include "tests/support/scoped_variable.h"
-#include "tests/support/tree.h"
 #include "world/neighborhoods.h"
 
 namespace {

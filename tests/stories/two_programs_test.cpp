@@ -7,7 +7,6 @@
 
 #include "tests/stories/desktop.h"
 #include "tests/stories/installation.h"
-#include "tests/support/tree.h"
 
 namespace {
 

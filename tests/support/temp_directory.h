@@ -1,12 +1,14 @@
-// A directory for one test, deleted with the object. The working directory is restored then, because a save changes it.
+// A directory for one test, and the files below a directory with their bytes.
 #ifndef TESTS_SUPPORT_TEMP_DIRECTORY_H
 #define TESTS_SUPPORT_TEMP_DIRECTORY_H
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <random>
 #include <string>
 #include <string_view>
@@ -18,6 +20,40 @@ inline Bytes bytesFrom(std::string_view text) {
     return ByteWriter().text(text).written();
 }
 
+inline Bytes bytesOfFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return Bytes(std::istreambuf_iterator<char>(file), {});
+}
+
+// Puts `bytes` over those of `file` from `offset` on; the file's length stays.
+inline void overwrite(Bytes& file, std::size_t offset, const Bytes& bytes) {
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        file.at(offset + i) = bytes[i];
+}
+
+using Tree = std::map<std::string, Bytes>;
+
+inline Tree treeOf(const std::filesystem::path& directory) {
+    Tree tree;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(directory))
+        if (entry.is_regular_file())
+            tree[entry.path().lexically_relative(directory).generic_string()] = bytesOfFile(entry.path());
+    return tree;
+}
+
+// The names of the files that differ, or are only in one of the trees; empty for equal trees.
+inline std::string differences(const Tree& expected, const Tree& actual) {
+    Tree different;
+    std::set_symmetric_difference(expected.begin(), expected.end(), actual.begin(), actual.end(),
+                                  std::inserter(different, different.end()));
+    std::string names;
+    for (const auto& [name, bytes] : different)
+        names += name + "\n";
+    return names;
+}
+
+// Deleted with the object. The working directory is restored then, because a save changes it.
 class TempDirectory {
  public:
     TempDirectory() {
@@ -53,12 +89,7 @@ class TempDirectory {
         std::filesystem::create_hard_link(path_ / file, path_ / name);
     }
     void remove(const std::string& name) const { EXPECT_NE(std::filesystem::remove_all(path_ / name), 0U) << name; }
-    Bytes bytesOf(const std::string& name) const {
-        std::ifstream file(path_ / name, std::ios::binary);
-        EXPECT_TRUE(file) << name;
-        return Bytes(std::istreambuf_iterator<char>(file), {});
-    }
-
+    Bytes bytesOf(const std::string& name) const { return bytesOfFile(path_ / name); }
     bool exists(const std::string& name) const { return std::filesystem::exists(path_ / name); }
 
  private:
