@@ -1,5 +1,9 @@
-// Reading "neighborhood.iff": records, families and free room, and what damaged files give.
+// Reading "neighborhood.iff": records, families and free room, and what damaged files give; and the walk over the
+// installation's "UserData" directories.
 #include "tests/support/test_neighborhood.h"
+#include "tests/support/user.h"
+#include "ui/status_line.h"
+#include "world/neighborhoods.h"
 
 namespace {
 
@@ -95,6 +99,23 @@ TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatStandsWholeInFront) {
         EXPECT_TRUE(std::cmp_equal(read->mapOffset(), size < 64 ? 0 : built.mapOffset));
         EXPECT_EQ(read->xxxxOffset(), size < built.freeRoomOffset + 4 ? -5 : static_cast<int>(built.freeRoomOffset));
     }
+}
+
+TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {
+    const TempDirectory files;
+    for (int number = 1; number <= 101; ++number) {
+        const std::string directory = "UserData" + (number == 1 ? "" : std::to_string(number));
+        files.write(directory + (number == 2 ? "" : "/neighborhood.iff"), makeNeighborhoodFile({}).bytes);
+    }
+    const AnsweredBox box = answerNextBox(IDOK);
+    loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
+    EXPECT_EQ(box->title + ": " + box->text, "Loading Error: Error loading Neighborhood 2");
+    EXPECT_EQ(listedNeighborhoodCount(), 1);
+    EXPECT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, but never shown";
+    EXPECT_EQ(statusLine(), "Loading Neighborhood 100") << "the last";
+    files.remove("UserData2");
+    loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
+    EXPECT_EQ(statusLine(), "Loading Neighborhood 1") << "a gap ends the walk";
 }
 
 }  // namespace
