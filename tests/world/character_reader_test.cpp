@@ -1,4 +1,4 @@
-// Reading character files on demand, with a resource map and without one, and what damaged files give.
+// Reading character files on demand, with a resource map and without one, and what damaged files give; and the stage.
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 
@@ -27,7 +27,6 @@ TEST(CharacterReader, BothRoadsLeadToTheSameParts) {
         std::string name = "Marigold";
     } rows[] = {
         {"a child", {.tag = "child"}, 1, 1, 1},
-        {"tag in another case", {.tag = "Adult"}, 1, -1, -1},
         {"no name chunk", {.hasName = false}, 1, 1, 1, ""},
         {"name longer than its room", {.name = std::string(120, 'n')}, 1, 1, 1, std::string(99, 'n')},
         {"no object chunk", {.hasObject = false}, -4, 1, 1},
@@ -96,6 +95,24 @@ TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
         EXPECT_EQ(guidText(sim), row.guid);
         EXPECT_EQ(box->title + box->text, row.box ? unknownForm : "");
         EXPECT_EQ(sim.fileUsable(), row.bodyResult != -3 && !row.box);
+    }
+}
+
+TEST(Members, TheStageFollowsFromAgeKindAndBody) {
+    const struct {
+        const char* bodySkin;  // null without a character file
+        int age, kind, stage;
+    } rows[] = {{"b614maTNR", 27, 1, 5}, {"tnr", 27, 0, 5},  {"b614maTnr", 27, 1, 6},
+                {nullptr, 27, 1, 0},     {"tnr", 27, 5, -1}, {nullptr, 27, 2, -1},
+                {nullptr, 18, 2, 5},     {nullptr, 9, 1, 3}, {"tnr", 26, 1, 0}};
+    for (const auto& row : rows) {
+        SampleCharacter character;
+        if (row.bodySkin != nullptr) character.slots[sampleSlot::bodySkin] = row.bodySkin;
+        const TestNeighborhood read({.neighbors = {{.age = row.age, .kind = row.kind}}}, {character});
+        if (row.bodySkin == nullptr) read.files().remove("UserData/Characters");
+        EXPECT_EQ(read.sim(0).stage(), row.stage) << "age " << row.age << ", kind " << row.kind;
+        for (const auto& [stage, result] : {std::pair(1, -2), {4, -2}, {0, -3}, {7, -3}})
+            EXPECT_EQ(read.sim(0).setStage(stage, nullptr), result) << stage;
     }
 }
 

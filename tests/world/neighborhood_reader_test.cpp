@@ -1,5 +1,5 @@
-// Reading "neighborhood.iff": records, families and free room, and what damaged files give; and the walk over the
-// installation's "UserData" directories.
+// Reading "neighborhood.iff": records, families and free room, and what damaged files give; a family's members;
+// and the walk over the installation's "UserData" directories.
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 #include "ui/status_line.h"
@@ -99,6 +99,35 @@ TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatStandsWholeInFront) {
         EXPECT_TRUE(std::cmp_equal(read->mapOffset(), size < 64 ? 0 : built.mapOffset));
         EXPECT_EQ(read->xxxxOffset(), size < built.freeRoomOffset + 4 ? -5 : static_cast<int>(built.freeRoomOffset));
     }
+}
+
+TEST(Members, AFamilyFindsThemByGuidAndLosesThemByName) {
+    std::vector<SampleCharacter> characters{{}, {.recordName = "user00002", .guid = 0x09004242, .slots = teenSlots()}};
+    SampleNeighborhood content = householdOf(characters);
+    content.neighbors.push_back({.recordName = "user00009"});  // without a character file
+    content.neighbors.push_back({});                           // the first one's name and file once more
+    // Bytes behind a zero byte don't count, and nothing in front of it is the GUID of a Sim without a file.
+    content.families = {{.members = {0x01004242, 0x0F0F0F0F, sampleGuid, 0x77777700}}, {}};
+    const TestNeighborhood read(content, characters);
+    Family& family = read.family();
+    EXPECT_EQ(family.member(2), nullptr) << "not resolved yet";
+    EXPECT_EQ(family.memberCount(), 4);
+    const std::array expected{&read.sim(1), static_cast<Sim*>(nullptr), &read.sim(0), &read.sim(2)};
+    for (int i = -1; i < 5; ++i)
+        EXPECT_EQ(family.member(i), i < 0 || i > 3 ? nullptr : expected.at(static_cast<std::size_t>(i))) << i;
+    EXPECT_EQ(family.resolveMembers(), 1);
+    EXPECT_EQ(family.adultCount(), 1) << "counted once";
+    EXPECT_FALSE(family.dirty() || read->isDirty());
+    EXPECT_EQ(read.sim(0).family(), &family);
+    EXPECT_EQ(read.family(1).memberCount(), 1);
+    EXPECT_EQ(read.sim(0).family(), &read.family(1)) << "resolved last";
+
+    EXPECT_EQ(family.removeMember(read.sim(3)), 1);
+    EXPECT_EQ(family.removeMember(read.sim(3)), -1);
+    EXPECT_EQ(family.member(2), &read.sim(2));
+    for (int count = 4; count <= 9; ++count)
+        EXPECT_EQ(family.addMember(read.sim(0)), count <= 8 ? 1 : -1);
+    EXPECT_EQ(family.adultCount(), 5);
 }
 
 TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {

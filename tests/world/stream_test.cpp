@@ -16,40 +16,32 @@ BodySlots numberedSlots(std::size_t end = 50) {
     return slots;
 }
 
-class TestStream {
- public:
+struct TestStream {
     // With a window of 64 bytes, the smallest, it takes few bytes to cross its edge.
     explicit TestStream(const Bytes& bytes) {
-        files_.write("file", bytes);
-        EXPECT_TRUE(file_.open(files_.path("file").c_str(), StreamFile::Access::read, 64));
+        files.write("file", bytes);
+        EXPECT_TRUE(file.open(files.path("file").c_str(), StreamFile::Access::read, 64));
     }
-
-    StreamView view() { return StreamView(file_); }
-
- private:
-    TempDirectory files_;
-    StreamFile file_;
+    TempDirectory files;
+    StreamFile file;
+    StreamView view{file};
 };
 
-TEST(TagScan, ATagIsFoundFromTheCursorOn) {
+TEST(TagScan, ATagIsFoundUpToTheNotedSize) {
     const struct {
         const char* what;
-        std::string bytes, tag;
-        int start, size, result, cursor;
+        std::string bytes;
+        int size, result, cursor;
     } rows[] = {
-        {"at the cursor, over the one in front", "XXXXX", "XXXX", 1, 5, 2, 1},
-        {"zero bytes count", "\1\0\0\0.\1\0\0\0\4\0\0\0"s, "\1\0\0\0\4\0\0\0"s, 0, 13, 6, 0},
-        {"over the edge of a page", std::string(126, '.') + "XXXX..", "XXXX", 0, 132, 127, 0},
-        {"begins behind the noted size", "....XXXX", "XXXX", 0, 4, -4, 4},
-        {"differs behind the noted size", "....XX..", "XXXX", 0, 4, -4, 6},
-        {"file shorter than noted", "....", "XXXX", 0, 9, -4, 9},
+        {"over the edge of a page", std::string(126, '.') + "XXXX..", 132, 127, 0},
+        {"begins behind the noted size", "....XXXX", 4, -4, 4},
+        {"differs behind the noted size", "....XX..", 4, -4, 6},
+        {"file shorter than noted", "....", 9, -4, 9},
     };
     for (const auto& row : rows) {
         TestStream file(bytesFrom(row.bytes));
-        StreamView stream = file.view();
-        stream.seek(row.start);
-        EXPECT_EQ(findTag(stream, row.tag, row.size), row.result) << row.what;
-        EXPECT_EQ(stream.tell(), row.cursor) << row.what;
+        EXPECT_EQ(findTag(file.view, "XXXX", row.size), row.result) << row.what;
+        EXPECT_EQ(file.view.tell(), row.cursor) << row.what;
     }
 }
 
@@ -58,7 +50,6 @@ TEST(BodyStrings, AnEntryIsReadByteByByteAndSplitAtItsFirstEqualsSign) {
     const std::pair<std::string, std::string> rows[] = {
         {"\1ab=c=d\0\0\1e"s, "read to 8: ab, c=d"},
         {"\1\0\0\1c\0"s, "read to 1: , "},
-        {"a\1b\0"s, "read to 4: ab, "},
         {x149 + "\0c"s, "read to 150: " + x149 + ", "},
         {x149 + "y\1\0"s, "read to 151: " + x149 + ", "},  // 150 characters that no zero byte had to close
         {x149 + "=\0"s, "broken off at 151: 1, 2"},
@@ -67,7 +58,7 @@ TEST(BodyStrings, AnEntryIsReadByteByByteAndSplitAtItsFirstEqualsSign) {
     };
     for (const auto& [bytes, expected] : rows) {
         TestStream file(bytesFrom(bytes));
-        StreamView stream = file.view();
+        StreamView stream = file.view;
         BodyStrings::Slot first("1"), second("2");
         const std::string result = readPair(first, second, stream) == 1 ? "read to " : "broken off at ";
         EXPECT_EQ(result + std::to_string(stream.tell()) + ": " + first.c_str() + ", " + second.c_str(), expected);
@@ -93,7 +84,7 @@ TEST(BodyStrings, ATextIsReadAndWrittenBackByteByByte) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         BodyStrings body;
-        body.parse(TestStream(filledSampleBodyText(row.slots, row.ending, 1041)).view(), row.simVersion);
+        body.parse(TestStream(filledSampleBodyText(row.slots, row.ending, 1041)).view, row.simVersion);
         EXPECT_EQ(slotsOf(body), row.slots);
         EXPECT_EQ(body.version(), row.version);
         Bytes buffer(3000);
