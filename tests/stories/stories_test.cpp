@@ -1,0 +1,241 @@
+// What a player does from the program's start to its end: the built program on a virtual display, driven by mouse and
+// keyboard alone.
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <regex>
+#include <thread>
+
+#include "sample/installation.h"
+#include "tests/support/build_directory.h"
+#include "tests/support/iff_walk.h"
+#include "tests/support/temp_directory.h"
+#include "tests/support/x_server.h"
+#include "world/neighborhoods.h"
+
+namespace {
+
+// The Windows program that the stories start, quoted for the shell. Wine runs it in a prefix made for this. Null if
+// they start the native program.
+const char* const windowsProgram = std::getenv("TIDEWRIGHT_EXE");
+
+// A button by its middle: from the window's left edge, and above its bottom.
+struct Button {
+    const char* name;
+    int x, aboveBottom;
+};
+constexpr Button childToTeen{"Child to Teen", 60, 135}, teenToAdult{"Teen to Adult", 170, 135};
+constexpr Button moveOut{"Move Out", 60, 35};
+
+// Fails the test, with the name of the step, if it isn't done within 30 seconds.
+void waitUntil(const std::string& step, const std::function<bool()>& done) {
+    for (int tenths = 0; tenths < 300; ++tenths) {
+        if (done()) return;
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    ADD_FAILURE() << "never happened: " << step;
+}
+
+// Each begins with the sample installation and a tool directory that has the program's data files.
+class Stories : public testing::Test {
+ protected:
+    Stories() {
+        writeInstallation(prefix_);
+        files_.makeDirectory("tool");
+        for (const char* name : {"skinsets.cfg", "Template.iff", "famtemplate"})
+            std::filesystem::copy(buildDirectory() / name, files_.path("tool"));
+        // Wine's server keeps the display of its first program, and waits between programs.
+        if (windowsProgram != nullptr) run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
+    }
+
+    // The first word that this command prints; a failure fails the test.
+    std::string run(const std::string& command) const {
+        std::FILE* const output = popen(("export DISPLAY=" + screen_.display() + "; " + command).c_str(), "r");
+        std::string word;
+        for (int byte = std::fgetc(output); byte > ' '; byte = std::fgetc(output))
+            word.push_back(static_cast<char>(byte));
+        EXPECT_EQ(pclose(output), 0) << command;
+        return word;
+    }
+    std::string act(const std::string& arguments) const { return run("timeout 60 xdotool " + arguments); }
+
+    // Waits for a window by its title's pattern. A search fails if any window goes meanwhile, so it is repeated.
+    std::string findWindow(const std::string& title) const {
+        std::string window;
+        waitUntil("a window " + title + " opens", [&] {
+            window = act("search --onlyvisible --name '^" + title + "$' 2>/dev/null | tail -n 1");
+            return !window.empty();
+        });
+        return window;
+    }
+
+    // How many windows the screen shows, menus, lists and the screen itself among them.
+    int windowCount() const {
+        int count = 0;
+        waitUntil("the windows are counted", [&] {
+            count = std::stoi(act("search --onlyvisible --maxdepth 1 --name '' 2>/dev/null | wc -l"));
+            return count != 0;
+        });
+        return count;
+    }
+
+    // The program is killed after two minutes. The menu is above its controls: natively in the part of the window
+    // outside the client area, 430 rows high, and under Wine below the caption.
+    void start(const char* windowsExe = windowsProgram) {
+        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory() / "tidewright").string() + "'";
+        if (windowsExe != nullptr) {
+            run("wine reg add 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32 /d \"$(winepath -w '" +
+                game_.string() + "')\" >/dev/null 2>&1");
+            program = std::string("wine ") + windowsExe;
+        }
+        process_ = popen(("cd '" + files_.path("tool") +
+                          "' && exec env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY DISPLAY=" + screen_.display() +
+                          " timeout -s KILL 120 " + program + " >/dev/null 2>&1")
+                             .c_str(),
+                         "r");
+        const std::string window = findWindow("(Tidewright|Missing Config Files)");
+        windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window + " | sed -n s/HEIGHT=//p"));
+        clientTop_ = windowsExe != nullptr ? 42 : windowHeight_ - 430;
+        act("windowmove --sync " + window + " 0 0 windowfocus --sync " + window);
+    }
+
+    void clickAt(int x, int y) const { act("mousemove " + std::to_string(x) + " " + std::to_string(y) + " click 1"); }
+
+    // Waits for a list or a menu that `open` opens, presses the keys, and waits until it is closed.
+    void chooseByKeys(const std::string& step, const std::string& keys, const std::function<void()>& open) const {
+        const int before = windowCount();
+        open();
+        waitUntil(step + " opens", [&] { return windowCount() > before; });
+        act("key " + keys);
+        waitUntil(step + " closes", [&] { return windowCount() <= before; });
+    }
+    void pickEntry(int comboTop, int index) const {
+        std::string keys = "Home";
+        for (int i = 0; i < index; ++i)
+            keys += " Down";
+        chooseByKeys("list at " + std::to_string(comboTop), keys + " Return",
+                     [=, this] { clickAt(250, clientTop_ + comboTop + 10); });
+    }
+    void chooseFileItem(const std::string& mnemonic) const {
+        chooseByKeys("File menu", mnemonic, [this] { act("key alt+f"); });
+    }
+
+    // Picks a Sim, by indexes of entries, and clicks. An enabled button has dark letters in its middle.
+    void click(const Button& button, int neighborhood, int family, int sim) const {
+        pickEntry(10, neighborhood);
+        pickEntry(40, family);
+        pickEntry(70, sim);
+        const int y = windowHeight_ - button.aboveBottom;
+        const std::string left = std::to_string(button.x - 30), top = std::to_string(y - 6);
+        const auto isEnabled = [&] {
+            return run("import -window root -crop 60x12+" + left + "+" + top +
+                       " -colorspace Gray -format '%[fx:minima < 0.3]' info:") == "1";
+        };
+        waitUntil(std::string(button.name) + " is enabled", isEnabled);
+        const int before = windowCount();
+        clickAt(button.x, y);
+        waitUntil(std::string(button.name) + " is disabled, or asks",
+                  [&] { return !isEnabled() || windowCount() > before; });
+    }
+
+    // Waits for a box with this title and presses the key in it; it must close.
+    void answerBox(const std::string& title, const std::string& key) const {
+        const std::string box = findWindow(title);
+        act("windowfocus --sync " + box + " key " + key);
+        waitUntil(title + " closes", [&] { return act("getwindowname " + box + " >/dev/null 2>&1; echo $?") != "0"; });
+    }
+
+    // The exit code as a signed byte.
+    int waitForExit() const {
+        const int status = pclose(process_);
+        return WIFEXITED(status) ? static_cast<signed char>(WEXITSTATUS(status)) : -128;
+    }
+
+    const TempDirectory files_;
+    const std::string prefix_ = files_.path("prefix");
+    const std::filesystem::path game_ = gameDirectory(prefix_);
+    const XServer screen_;
+    std::FILE* process_ = nullptr;
+    int windowHeight_ = 0, clientTop_ = 0;
+};
+
+TEST_F(Stories, AnEveningOfPlay) {
+    const Tree before = treeOf(game_);
+    start();
+    click(childToTeen, 0, 0, 3);  // Clover, whose head leads to a teen's
+    click(childToTeen, 0, 0, 4);  // Fern, whose head is in no set
+    answerBox("Proceed[?]", "Return");
+    click(childToTeen, 2, 0, 3);  // Minnow, the same, but not tonight
+    answerBox("Proceed[?]", "Escape");
+    click(teenToAdult, 0, 0, 2);  // Bramble
+    click(teenToAdult, 1, 0, 3);  // Barnaby
+    click(moveOut, 0, 0, 0);      // Hazel
+    click(moveOut, 0, 1, 0);      // Quill
+    EXPECT_EQ(differences(before, treeOf(game_)), "") << "nothing reaches the disk before the save";
+    chooseFileItem("s");
+    click(moveOut, 0, 3, 0);  // Pip, whose family is poor
+    answerBox("Insufficient funds", "Return");
+    click(moveOut, 0, 2, 0);  // Zoe
+    chooseFileItem("v");      // save and exit
+    EXPECT_EQ(waitForExit(), 0);
+
+    const Tree after = treeOf(game_);
+    start();
+    click(moveOut, 0, 0, 1);  // Bramble
+    chooseFileItem("x");      // without saving
+    EXPECT_EQ(waitForExit(), 0);
+    EXPECT_EQ(differences(after, treeOf(game_)), "");
+
+    loadNeighborhoods((game_.string() + "/").c_str(), files_.path("tool").c_str());
+    std::string families;
+    for (int i = 0; i < neighborhoods[0]->familyCount(); ++i) {
+        Family& family = *neighborhoods[0]->family(i);
+        families += family.name() + (" " + std::to_string(family.funds()) + ":");
+        for (int k = 0; k < family.memberCount(); ++k)
+            families += " " + (family.member(k)->name() + std::to_string(family.member(k)->stage()));
+        families += "\n";
+    }
+    EXPECT_EQ(families,
+              "Thistlewood 42500: Rowan6 Bramble6 Clover5 Fern5 Moss3 Biscuit-1 Marmalade-1\nQ&A 4000: Antonia6\n"
+              "Cr\xE8me 0: Se\xF1or6\nPennyfarthing 850: Pip6 Tuppence6 Farley5\nLarkspur 18000: Juniper6\n"
+              "Thistlewood 20000: Hazel6\nQ&A 20000: Quill6\nCr\xE8me 10000: Zo\xEB\x36\n");
+    for (const auto& [name, bytes] : after)
+        EXPECT_TRUE(!name.ends_with(".iff") || walkIff(bytes).fault.empty()) << name << ": " << walkIff(bytes).fault;
+    const std::regex changed(
+        "UserData2?/((Backups/)?[Nn]eighborhood|Characters/(Backups/)?[Uu]ser000(13|15|42|04))[.0-9]*iff\n");
+    EXPECT_EQ(std::regex_replace(differences(before, after), changed, ""), "");
+}
+
+TEST_F(Stories, ARefusedStartHasItsExitCode) {
+    files_.remove("tool/skinsets.cfg");
+    start();
+    answerBox("Missing Config Files", "Return");
+    EXPECT_EQ(waitForExit(), -4);
+}
+
+// The native and the Windows program get the same picks. Nothing of these is drawn by chance, as a new teen's outfit
+// is.
+TEST_F(Stories, TwoProgramsSaveOneTree) {
+    ASSERT_NE(windowsProgram, nullptr) << "TIDEWRIGHT_EXE names no Windows program";
+    const auto savedBy = [this](const char* windowsExe) {
+        writeInstallation(prefix_);
+        start(windowsExe);
+        click(teenToAdult, 0, 0, 2);  // Bramble
+        click(moveOut, 0, 0, 0);      // Hazel
+        click(teenToAdult, 2, 0, 2);  // Heron
+        click(moveOut, 1, 0, 1);      // Peregrine
+        chooseFileItem("v");
+        EXPECT_EQ(waitForExit(), 0);
+        Tree saved;
+        const std::regex date(R"(\.[.0-9]+iff$)");  // of a backup: the programs don't run in one minute
+        for (const auto& [name, bytes] : treeOf(game_))
+            saved[std::regex_replace(name, date, "")] = bytes;
+        return saved;
+    };
+    const Tree native = savedBy(nullptr);
+    EXPECT_TRUE(native.contains("UserData/Backups/neighborhood")) << "not saved";
+    EXPECT_EQ(differences(native, savedBy(windowsProgram)), "");
+}
+
+}  // namespace
