@@ -1,21 +1,70 @@
-// What a screen reader says of the main window.
+// What only the native layer has: texts for screen readers, the picture of the screen, and the browser.
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "shell/main_window.h"
+#include "shell/selection.h"
+#include "shell/splash.h"
+#include "shell/window_texts.h"
 #include "tests/support/native/spoken.h"
+#include "tests/support/scoped_variable.h"
+#include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 #include "ui/controls.h"
 #include "ui/cursors.h"
+#include "ui/status_line.h"
 
-TEST(MainWindowNativeTest, EachControlIsSpokenByItsLabel) {
+namespace {
+
+TEST(MainWindowNativeTest, LinesAndLabelsAreSpoken) {
+    const TestNeighborhood neighborhood(householdOf({{}}), {{}});
+    neighborhood.family().memberCount();
+    selection() = {.simIndex = 0, .currentFamily = &neighborhood.family(), .currentSim = &neighborhood.sim(0)};
     loadCursors();
     later([] {
-        const Controls& all = controls();
-        EXPECT_EQ(spokenName(all.neighborhoodCombo), "Pick a Neighborhood:");
-        EXPECT_EQ(spokenName(all.familyCombo), "Pick a Family:");
-        EXPECT_EQ(spokenName(all.simCombo), "Pick a Sim:");
-        EXPECT_EQ(spokenName(all.moveOutButton), "Move Out");
+        EXPECT_EQ(spokenText(controls().mainWindow),
+                  "Pick a Neighborhood:\nPick a Family:\nPick a Sim:\nName: Marigold Meadows\nStage: adult");
+        EXPECT_EQ(spokenName(controls().familyCombo), "Pick a Family:");
+        EXPECT_EQ(spokenName(controls().moveOutButton), "Move Out");
         PostQuitMessage(0);
     });
     runMainWindow(SW_SHOWNORMAL);
+    selection() = {};
+    std::string words;
+    for (std::int32_t stage = stageNumber::pet; stage <= stageNumber::adult; ++stage)
+        words += stageWord(stage) + std::string(" ");
+    EXPECT_EQ(words, "not applicable (pet) unknown baby toddler child preteen teenager adult ");
 }
+
+TEST(MainWindowNativeTest, TheSplashPictureIsOnTheScreen) {
+    ASSERT_TRUE(showSplashWindow());
+    const Picture splash = pictureOf(splashWindow());
+    EXPECT_NE(splash.at(20, 20), splash.at(20, 200));
+}
+
+TEST(MainWindowNativeTest, TheMenuOpensThePagesOfTheProgram) {
+    const TempDirectory files;
+    files.write("opened", "");
+    files.write("xdg-open", "#!/bin/sh\necho \"$1\" >> '" + files.path("opened") + "'\n");
+    std::filesystem::permissions(files.path("xdg-open"), std::filesystem::perms::owner_all);
+    const ScopedVariable path("PATH", files.path());
+    later([&] {
+        for (const auto& [menu, item] : {std::pair("Online help", "Online Help"),
+                                         {"Online help", "Frequently Asked Questions"},
+                                         {"Donate", "Support TDW with a small donation"}}) {
+            const Bytes before = files.bytesOf("opened");
+            EXPECT_TRUE(chooseMenu(controls().mainWindow, {"Help", menu, item}));
+            runMessages();
+            for (int tries = 0; tries < 500 && files.bytesOf("opened") == before; ++tries)
+                std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        PostQuitMessage(0);
+    });
+    runMainWindow(SW_SHOWNORMAL);
+    EXPECT_EQ(files.bytesOf("opened"), bytesFrom("http://tidewright.example/Help/\nhttp://tidewright.example/faq.html\n"
+                                                 "http://tidewright.example/donate.html\n"));
+}
+
+}  // namespace

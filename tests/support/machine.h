@@ -13,7 +13,4 @@ std::string installGame(const std::filesystem::path& prefix);
 // Takes the registry's value of that game away again.
 void uninstallGame(const std::filesystem::path& prefix);
 
-// From now on a page that this process opens isn't shown: its address is added to the file, as a line of its own.
-void writePagesTo(const std::string& file);
-
 #endif

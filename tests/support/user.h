@@ -63,9 +63,6 @@ std::string entryText(HWND combo, int index);
 RECT placeOf(HWND control);  // in its parent's client area
 bool waitCursorShows();
 
-// Whether the window itself shows a line that begins with this text.
-bool showsText(HWND window, const std::string& text);
-
 // The pixels of a window's client area with everything that lies in it, as 0xRRGGBB, row after row.
 struct Picture {
     int width = 0;
@@ -75,8 +72,5 @@ struct Picture {
     std::uint32_t at(int x, int y) const { return *(pixels.begin() + std::ptrdiff_t{y} * width + x); }
 };
 Picture pictureOf(HWND window);
-
-// A pixel of the client area as the screen shows it, with what was drawn on the screen itself.
-std::uint32_t screenPixel(HWND window, int x, int y);
 
 #endif

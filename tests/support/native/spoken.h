@@ -1,4 +1,4 @@
-// What a screen reader calls a window.
+// What a screen reader says of a window.
 #ifndef TESTS_SUPPORT_NATIVE_SPOKEN_H
 #define TESTS_SUPPORT_NATIVE_SPOKEN_H
 
@@ -7,5 +7,6 @@
 #include "platform/win32.h"
 
 std::string spokenName(HWND window);
+std::string spokenText(HWND window);  // the lines that the window itself shows
 
 #endif

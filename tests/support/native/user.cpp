@@ -156,9 +156,8 @@ std::string spokenName(HWND window) {
     return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Name));
 }
 
-bool showsText(HWND window, const std::string& text) {
-    const QString spoken = QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description);
-    return ("\n" + programText(spoken)).find("\n" + text) != std::string::npos;
+std::string spokenText(HWND window) {
+    return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description));
 }
 
 Picture pictureOf(HWND window) {
@@ -168,9 +167,4 @@ Picture pictureOf(HWND window) {
         for (int x = 0; x < picture.width; ++x)
             picture.pixels.push_back(image.pixel(x, y) & 0xFFFFFF);
     return picture;
-}
-
-// The layer keeps what is drawn on the screen in the window that lies there.
-std::uint32_t screenPixel(HWND window, int x, int y) {
-    return pictureOf(window).at(x, y);
 }

@@ -25,10 +25,3 @@ std::string installGame(const std::filesystem::path& prefix) {
 void uninstallGame(const std::filesystem::path&) {
     EXPECT_EQ(RegDeleteKeyExA(HKEY_LOCAL_MACHINE, gameKey, KEY_WOW64_32KEY, 0), ERROR_SUCCESS);
 }
-
-void writePagesTo(const std::string& file) {
-    const std::string command = "cmd /c echo %1>>\"" + file + "\"";
-    EXPECT_EQ(RegSetValueA(HKEY_CLASSES_ROOT, "http\\shell\\open\\command", REG_SZ, command.c_str(),
-                           static_cast<DWORD>(command.size())),
-              ERROR_SUCCESS);
-}

@@ -12,12 +12,6 @@ std::string withoutMarks(std::string text) {
     return text;
 }
 
-std::string windowText(HWND window) {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 std::string classOf(HWND window) {
     char name[32] = "";
     GetClassNameA(window, name, sizeof name);
@@ -38,16 +32,12 @@ std::vector<HWND> childrenOf(HWND box, const char* className) {
     return children;
 }
 
-// Clicks at a point of the window's client area, and lets the windows have the mouse's messages and no others.
+// Clicks at a point of the window's client area, as the mouse does in a window that takes clicks.
 void clickAt(HWND window, LONG x, LONG y) {
-    POINT place{x, y};
-    ClientToScreen(window, &place);
-    SetCursorPos(place.x, place.y);
-    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
-    MSG message{};
-    while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
-        DispatchMessageA(&message);
+    const HWND root = GetAncestor(window, GA_ROOT);
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !IsWindowEnabled(root)) return;
+    SendMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    SendMessageA(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
 }
 
 // The last of the keys while the others are held.
@@ -65,38 +55,6 @@ void CALLBACK workOnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (workWaits(box != nullptr)) workWhenQuiet(box != nullptr);
 }
 
-// A picture to draw on, white at first. What it takes goes with the test.
-class Canvas {
- public:
-    Canvas(int width, int height) : width_(width), height_(height) {
-        BITMAPINFO format{};
-        format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        SelectObject(dc, CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits_, nullptr, 0));
-        PatBlt(dc, 0, 0, width, height, WHITENESS);
-    }
-    Picture picture() const {
-        GdiFlush();
-        const auto* const first = static_cast<const std::uint32_t*>(bits_);
-        Picture picture{width_, height_, {first, first + static_cast<std::ptrdiff_t>(width_) * height_}};
-        for (std::uint32_t& pixel : picture.pixels)
-            pixel &= 0xFFFFFF;
-        return picture;
-    }
-
-    HDC const dc = CreateCompatibleDC(nullptr);
-
- private:
-    int width_, height_;
-    void* bits_ = nullptr;
-};
-
-bool standsAt(const Picture& part, const Picture& whole, int left, int top) {
-    for (int y = 0; y < part.height; ++y)
-        for (int x = 0; x < part.width; ++x)
-            if (part.at(x, y) != whole.at(left + x, top + y)) return false;
-    return true;
-}
-
 }  // namespace
 
 // Windows has a timer's message only for a loop that has no other.
@@ -106,17 +64,17 @@ void watchForQuiet() {
 }
 
 void lookAtBox(Box& seen) {
-    seen.title = windowText(openBox());
+    seen.title = textOf(openBox());
     for (HWND const label : childrenOf(openBox(), "Static"))
         if ((GetWindowLongA(label, GWL_STYLE) & SS_TYPEMASK) != SS_ICON)
-            seen.text += (seen.text.empty() ? "" : "\n") + windowText(label);
+            seen.text += (seen.text.empty() ? "" : "\n") + textOf(label);
     for (HWND const button : childrenOf(openBox(), "Button"))
-        seen.buttons.push_back(withoutMarks(windowText(button)));
+        seen.buttons.push_back(textOf(button));
 }
 
 void answerBox(int answer) {
     for (HWND const button : childrenOf(openBox(), "Button"))
-        if (answer != answerByEscape && withoutMarks(windowText(button)) == (answer == IDOK ? "OK" : "Cancel"))
+        if (answer != answerByEscape && textOf(button) == (answer == IDOK ? "OK" : "Cancel"))
             return clickButton(button);
     press(openBox(), {VK_ESCAPE});
 }
@@ -128,7 +86,6 @@ void clickButton(HWND button) {
 }
 
 void pickEntry(HWND combo, int index) {
-    SetForegroundWindow(GetAncestor(combo, GA_ROOT));
     SetFocus(combo);
     SendMessageA(combo, CB_SHOWDROPDOWN, TRUE, 0);
     COMBOBOXINFO parts{};
@@ -137,8 +94,7 @@ void pickEntry(HWND combo, int index) {
     SendMessageA(parts.hwndList, LB_SETTOPINDEX, static_cast<WPARAM>(index), 0);
     RECT entry{};
     SendMessageA(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&entry));
-    static LONG picks = 0;  // no two in one place, which would be a double click
-    clickAt(parts.hwndList, entry.left + 20 + 10 * (++picks % 2), (entry.top + entry.bottom) / 2);
+    clickAt(parts.hwndList, entry.left + 20, (entry.top + entry.bottom) / 2);
 }
 
 bool chooseMenu(HWND window, std::initializer_list<const char*> path) {
@@ -176,15 +132,14 @@ bool isEnabled(HWND window) {
 }
 
 std::string textOf(HWND window) {
-    if (!IsWindowVisible(window)) return "";
-    return classOf(window) == "Button" ? withoutMarks(windowText(window)) : windowText(window);
+    char text[1000] = "";
+    if (IsWindowVisible(window)) GetWindowTextA(window, text, sizeof text);
+    return classOf(window) == "Button" ? withoutMarks(text) : text;
 }
 
 std::string entryText(HWND combo, int index) {
-    std::string text(static_cast<std::size_t>(SendMessageA(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0)) + 1,
-                     '\0');
-    SendMessageA(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
-    text.pop_back();
+    char text[1000] = "";
+    SendMessageA(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text));
     return text;
 }
 
@@ -199,39 +154,22 @@ bool waitCursorShows() {
     return GetCursor() == LoadCursorA(nullptr, IDC_WAIT);
 }
 
-// Nothing but the picture of a text is left when it is drawn, so that is looked for.
-bool showsText(HWND window, const std::string& text) {
-    const Canvas measure(1, 1);
-    const LRESULT font = SendMessageA(GetWindow(window, GW_CHILD), WM_GETFONT, 0, 0);
-    SelectObject(measure.dc, reinterpret_cast<HFONT>(font));
-    RECT place{};
-    DrawTextA(measure.dc, text.c_str(), -1, &place, DT_CALCRECT);
-    const Canvas canvas(place.right, place.bottom);
-    SelectObject(canvas.dc, reinterpret_cast<HFONT>(font));
-    DrawTextA(canvas.dc, text.c_str(), -1, &place, 0);
-    const Picture whole = pictureOf(window), part = canvas.picture();
-    for (int top = 0; top + part.height <= whole.height; ++top)
-        for (int left = 0; left + part.width <= whole.width; ++left)
-            if (standsAt(part, whole, left, top)) return true;
-    return false;
-}
-
 Picture pictureOf(HWND window) {
     UpdateWindow(window);
     RECT client{};
     GetClientRect(window, &client);
-    const Canvas canvas(client.right, client.bottom);
-    HDC const dc = GetDC(window);
-    BitBlt(canvas.dc, 0, 0, client.right, client.bottom, dc, 0, 0, SRCCOPY);
+    const int width = client.right, height = client.bottom;
+    HDC const dc = GetDC(window), copy = CreateCompatibleDC(dc);
+    HBITMAP const bitmap = CreateCompatibleBitmap(dc, width, height);
+    HGDIOBJ const before = SelectObject(copy, bitmap);
+    BitBlt(copy, 0, 0, width, height, dc, 0, 0, SRCCOPY);
+    SelectObject(copy, before);
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    Picture picture{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width) * height)};
+    GetDIBits(copy, bitmap, 0, client.bottom, picture.pixels.data(), &format, DIB_RGB_COLORS);
     ReleaseDC(window, dc);
-    return canvas.picture();
-}
-
-std::uint32_t screenPixel(HWND window, int x, int y) {
-    POINT place{x, y};
-    ClientToScreen(window, &place);
-    HDC const screen = GetDC(nullptr);
-    const COLORREF color = GetPixel(screen, place.x, place.y);
-    ReleaseDC(nullptr, screen);
-    return static_cast<std::uint32_t>(RGB(GetBValue(color), GetGValue(color), GetRValue(color)));
+    for (std::uint32_t& pixel : picture.pixels)
+        pixel &= 0xFFFFFF;
+    return picture;
 }
