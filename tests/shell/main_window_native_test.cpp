@@ -8,7 +8,6 @@
 #include "shell/selection.h"
 #include "shell/splash.h"
 #include "shell/window_texts.h"
-#include "tests/support/native/spoken.h"
 #include "tests/support/scoped_variable.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"

@@ -5,8 +5,6 @@
 #include <deque>
 #include <utility>
 
-#include "tests/support/window_system.h"
-
 namespace {
 
 std::deque<std::function<void()>> actions;

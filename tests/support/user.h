@@ -73,4 +73,22 @@ struct Picture {
 };
 Picture pictureOf(HWND window);
 
+// What a screen reader calls a window, and the lines that the window itself shows. Only Qt's windows are asked.
+std::string spokenName(HWND window);
+std::string spokenText(HWND window);
+
+// What support/user.cpp asks of a window system. From now on it calls workWhenQuiet() each time a message loop of the
+// program, or a box's own, has nothing to do while work waits for it.
+void watchForQuiet();
+
+// Whether anything waits for a quiet moment; with an open box its answer, else what `later` was given.
+bool workWaits(bool boxIsOpen);
+void workWhenQuiet(bool boxIsOpen);
+
+// Notes what the box that is open shows.
+void lookAtBox(Box& seen);
+
+// Clicks its button "OK" for IDOK or "Cancel" for IDCANCEL; presses Escape where there is none.
+void answerBox(int answer);
+
 #endif

@@ -2,29 +2,52 @@
 #ifndef TESTS_SUPPORT_X_SERVER_H
 #define TESTS_SUPPORT_X_SERVER_H
 
+#include <gtest/gtest.h>
+#include <unistd.h>
+#include <xcb/xcb.h>
+
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
-
-struct xcb_connection_t;
 
 class XServer {
  public:
     // Starts Xvfb and connects to it; a failure fails the test.
-    XServer();
+    XServer() {
+        for (int tenths = 0; tenths < 200; ++tenths) {
+            connection_ = xcb_connect(display_.c_str(), nullptr);
+            if (xcb_connection_has_error(connection_) == 0) return;
+            xcb_disconnect(connection_);
+            usleep(100'000);
+        }
+        connection_ = nullptr;
+        ADD_FAILURE() << "Xvfb doesn't start";
+    }
     XServer(const XServer&) = delete;
     XServer& operator=(const XServer&) = delete;
-    ~XServer();
+    ~XServer() {
+        if (connection_ != nullptr) xcb_disconnect(connection_);
+        pclose(process_);  // it ends with its last connection
+    }
 
     const std::string& display() const { return display_; }  // ":1234"
     xcb_connection_t* connection() const { return connection_; }
 
     // The atom's number. When it is here, the server has done what came before.
-    unsigned atom(std::string_view name) const;
+    unsigned atom(std::string_view name) const {
+        const auto asked = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
+        xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection_, asked, nullptr);
+        const xcb_atom_t atom = reply->atom;
+        std::free(reply);
+        return atom;
+    }
 
  private:
-    std::FILE* process_ = nullptr;
-    std::string display_;
+    // The number is this process's own: servers that look for a free one by themselves may take each other's.
+    const std::string display_ = ":" + std::to_string(1000 + getpid() % 30'000);
+    std::FILE* const process_ =
+        popen(("exec Xvfb " + display_ + " -screen 0 1024x768x24 -terminate 2>/dev/null").c_str(), "r");
     xcb_connection_t* connection_ = nullptr;
 };
 

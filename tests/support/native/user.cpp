@@ -21,8 +21,6 @@
 #include "platform/native/screen/event_pump.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
-#include "tests/support/native/spoken.h"
-#include "tests/support/window_system.h"
 
 namespace {
 

@@ -3,19 +3,11 @@
 
 #include <algorithm>
 
-#include "tests/support/window_system.h"
-
 namespace {
 
 std::string withoutMarks(std::string text) {
     std::erase(text, '&');
     return text;
-}
-
-std::string classOf(HWND window) {
-    char name[32] = "";
-    GetClassNameA(window, name, sizeof name);
-    return name;
 }
 
 // The message box or dialog that is open, or null.
@@ -26,8 +18,8 @@ HWND openBox() {
 // Its children of a class, from left to right and from top to bottom.
 std::vector<HWND> childrenOf(HWND box, const char* className) {
     std::vector<HWND> children;
-    for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
-        if (classOf(child) == className) children.push_back(child);
+    while (HWND const child = FindWindowExA(box, children.empty() ? nullptr : children.back(), className, nullptr))
+        children.push_back(child);
     std::ranges::sort(children, {}, [](HWND child) { return std::pair(placeOf(child).top, placeOf(child).left); });
     return children;
 }
@@ -134,7 +126,8 @@ bool isEnabled(HWND window) {
 std::string textOf(HWND window) {
     char text[1000] = "";
     if (IsWindowVisible(window)) GetWindowTextA(window, text, sizeof text);
-    return classOf(window) == "Button" ? withoutMarks(text) : text;
+    const bool isButton = (SendMessageA(window, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) != 0;
+    return isButton ? withoutMarks(text) : text;
 }
 
 std::string entryText(HWND combo, int index) {
