@@ -77,7 +77,7 @@ TEST(SkinSetsTest, TheShippedSetsLeadEachChildToAnAdult) {
         const std::string kind = head.substr(4, 1) + "a" + head.substr(6, 3);  // "falgt"
         for (const std::int32_t stage : {teen, adult}) {
             HeadText skin, mesh;
-            ASSERT_EQ(findNextStageHead(stage, head.c_str(), buildDirectory().string().c_str(), skin, mesh), 0) << head;
+            ASSERT_EQ(findNextStageHead(stage, head.c_str(), buildDirectory.string().c_str(), skin, mesh), 0) << head;
             head = skin.view();
             std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
             EXPECT_EQ(head.substr(4, 5), kind);

@@ -44,7 +44,7 @@ class Stories : public testing::Test {
         writeInstallation(prefix_);
         files_.makeDirectory("tool");
         for (const char* name : {"skinsets.cfg", "Template.iff", "famtemplate"})
-            std::filesystem::copy(buildDirectory() / name, files_.path("tool"));
+            std::filesystem::copy(buildDirectory / name, files_.path("tool"));
         // Wine's server keeps the display of its first program, and waits between programs.
         if (windowsProgram != nullptr) run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
     }
@@ -72,28 +72,26 @@ class Stories : public testing::Test {
 
     // How many windows the screen shows, menus, lists and the screen itself among them.
     int windowCount() const {
-        int count = 0;
+        std::string count;
         waitUntil("the windows are counted", [&] {
-            count = std::stoi(act("search --onlyvisible --maxdepth 1 --name '' 2>/dev/null | wc -l"));
-            return count != 0;
+            count = act("search --onlyvisible --maxdepth 1 --name '' 2>/dev/null | wc -l");
+            return count != "0";
         });
-        return count;
+        return std::stoi(count);
     }
 
     // The program is killed after two minutes. The menu is above its controls: natively in the part of the window
     // outside the client area, 430 rows high, and under Wine below the caption.
     void start(const char* windowsExe = windowsProgram) {
-        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory() / "tidewright").string() + "'";
+        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory / "tidewright").string() + "'";
         if (windowsExe != nullptr) {
             run("wine reg add 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32 /d \"$(winepath -w '" +
                 game_.string() + "')\" >/dev/null 2>&1");
             program = std::string("wine ") + windowsExe;
         }
-        process_ = popen(("cd '" + files_.path("tool") +
-                          "' && exec env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY DISPLAY=" + screen_.display() +
-                          " timeout -s KILL 120 " + program + " >/dev/null 2>&1")
-                             .c_str(),
-                         "r");
+        const std::string environment = "env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY DISPLAY=" + screen_.display();
+        program = environment + " timeout -s KILL 120 " + program + " >/dev/null 2>&1";
+        process_ = popen(("cd '" + files_.path("tool") + "' && exec " + program).c_str(), "r");
         const std::string window = findWindow("(Tidewright|Missing Config Files)");
         windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window + " | sed -n s/HEIGHT=//p"));
         clientTop_ = windowsExe != nullptr ? 42 : windowHeight_ - 430;

@@ -81,7 +81,7 @@ std::string spokenText(HWND window);
 // program, or a box's own, has nothing to do while work waits for it.
 void watchForQuiet();
 
-// Whether anything waits for a quiet moment; with an open box its answer, else what `later` was given.
+// Whether work waits: with an open box its answer, else what `later` was given.
 bool workWaits(bool boxIsOpen);
 void workWhenQuiet(bool boxIsOpen);
 

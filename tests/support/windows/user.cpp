@@ -41,17 +41,15 @@ void press(HWND window, const std::vector<int>& keys) {
         keybd_event(static_cast<BYTE>(key), 0, KEYEVENTF_KEYUP, 0);
 }
 
-void CALLBACK workOnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    HWND const box = openBox();
-    if (box != nullptr && !IsWindowVisible(box)) return;  // its loop shows it once it has nothing else to do
-    if (workWaits(box != nullptr)) workWhenQuiet(box != nullptr);
-}
-
 }  // namespace
 
 // Windows has a timer's message only for a loop that has no other.
 void watchForQuiet() {
-    static const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, workOnTimer);
+    static const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) {
+        HWND const box = openBox();
+        if (box != nullptr && !IsWindowVisible(box)) return;  // its loop shows it once it has nothing else to do
+        workWhenQuiet(box != nullptr);
+    });
     static_cast<void>(timer);
 }
 
