@@ -1,8 +1,6 @@
 // What only the native layer has: texts for screen readers, the picture of the screen, and the browser.
 #include <gtest/gtest.h>
-
-#include <chrono>
-#include <thread>
+#include <unistd.h>
 
 #include "shell/main_window.h"
 #include "shell/selection.h"
@@ -57,7 +55,7 @@ TEST(MainWindowNativeTest, TheMenuOpensThePagesOfTheProgram) {
             EXPECT_TRUE(chooseMenu(controls().mainWindow, {"Help", menu, item}));
             runMessages();
             for (int tries = 0; tries < 500 && files.bytesOf("opened") == before; ++tries)
-                std::this_thread::sleep_for(std::chrono::milliseconds(10));
+                usleep(10'000);
         }
         PostQuitMessage(0);
     });

@@ -35,11 +35,10 @@ class MainWindowTest : public testing::Test {
  protected:
     MainWindowTest() {
         writeInstallation(files_.path("prefix"));
-        files_.makeDirectory("tool");
-        EXPECT_TRUE(writeDataFiles(files_.path("tool")));
-        files_.write("tool/skinsets.cfg", "CHILD=c001fclgt_amanda01;\nTEENAGER=c008falgt_alt;t\nADULT=a;a\n");
+        EXPECT_TRUE(writeDataFiles(files_.path()));
+        files_.write("skinsets.cfg", "CHILD=c001fclgt_amanda01;\nTEENAGER=c008falgt_alt;t\nADULT=a;a\n");
         loadCursors();
-        loadNeighborhoods(installGame(files_.path("prefix")).c_str(), files_.path("tool").c_str());
+        loadNeighborhoods(installGame(files_.path("prefix")).c_str(), files_.path().c_str());
         selection() = {};
     }
 

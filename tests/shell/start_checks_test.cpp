@@ -19,7 +19,6 @@ HWND openWindow(const char* title) {
 }
 
 void expectRefusal(int code, const std::string& said, const char* toolDirectory = "tool") {
-    SCOPED_TRACE(said);
     DirectoryText directory;
     const AnsweredBox box = answerNextBox(IDOK);
     EXPECT_EQ(checkStart(directory, toolDirectory), code);

@@ -1,11 +1,10 @@
 // What a player does from the program's start to its end: the built program on a virtual display, driven by mouse and
 // keyboard alone.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
-#include <chrono>
 #include <functional>
 #include <regex>
-#include <thread>
 
 #include "sample/installation.h"
 #include "tests/support/build_directory.h"
@@ -32,7 +31,7 @@ constexpr Button moveOut{"Move Out", 60, 35};
 void waitUntil(const std::string& step, const std::function<bool()>& done) {
     for (int tenths = 0; tenths < 300; ++tenths) {
         if (done()) return;
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        usleep(100'000);
     }
     ADD_FAILURE() << "never happened: " << step;
 }

@@ -117,10 +117,9 @@ void closeWindow(HWND window) {
 }
 
 void pressKey(HWND window, char character, Hold hold) {
-    const Qt::KeyboardModifiers alt = hold == Hold::nothing ? Qt::NoModifier : Qt::AltModifier;
-    const Qt::KeyboardModifiers shift = hold == Hold::altShift ? Qt::ShiftModifier : Qt::NoModifier;
-    QTest::sendKeyEvent(QTest::Click, widgetOf(window).windowHandle(), QTest::asciiToKey(character), character,
-                        alt | shift);
+    Qt::KeyboardModifiers held = hold == Hold::nothing ? Qt::NoModifier : Qt::AltModifier;
+    held.setFlag(Qt::ShiftModifier, hold == Hold::altShift);
+    QTest::sendKeyEvent(QTest::Click, widgetOf(window).windowHandle(), QTest::asciiToKey(character), character, held);
 }
 
 bool isEnabled(HWND window) {
