@@ -85,7 +85,7 @@ class Stories : public testing::Test {
         std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory / "tidewright").string() + "'";
         if (windowsExe != nullptr) {
             run("wine reg add 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32 /d \"$(winepath -w '" +
-                game_.string() + "')\" >/dev/null 2>&1");
+                game_.string() + "' 2>/dev/null)\" >/dev/null 2>&1");
             program = std::string("wine ") + windowsExe;
         }
         const std::string environment = "env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY DISPLAY=" + screen_.display();
