@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "bench/large_installation.h"
+#include "bench/installations.h"
 #include "world/neighborhoods.h"
 
 namespace fs = std::filesystem;
@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 namespace {
 
 void saveOneSim(benchmark::State& state) {
-    const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
+    const fs::path tools = toolDirectory();
     Neighborhood neighborhood;
     neighborhood.load(savedNeighborhoodDirectory().c_str(), "neighborhood.iff");
     Sim& sim = *neighborhood.sim(0);
@@ -23,16 +23,15 @@ void saveOneSim(benchmark::State& state) {
         state.PauseTiming();
         sim.setStage(stageNumber::adult, nullptr);
         state.ResumeTiming();
-        neighborhood.save(toolDirectory.c_str());
+        neighborhood.save(tools.c_str());
         if (sim.recordDirty() || neighborhood.isDirty()) state.SkipWithError("the Sim wasn't saved");
     }
 }
 BENCHMARK(saveOneSim)->Name("saveOneSim");
 
 void copySavedBytes(benchmark::State& state, bool durably) {
-    const fs::path toolDirectory = fs::read_symlink("/proc/self/exe").parent_path();
     const fs::path directory = largeNeighborhoodDirectory();
-    const fs::path neighborhood = largeNeighborhoodFile(), character = toolDirectory / "Template.iff";
+    const fs::path neighborhood = largeNeighborhoodFile(), character = toolDirectory() / "Template.iff";
     for ([[maybe_unused]] auto _ : state) {
         for (const auto& file : {neighborhood, character}) {
             copyPlainly(file, directory / "first", durably);

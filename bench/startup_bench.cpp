@@ -1,5 +1,5 @@
-// The start of the program, from its execution to its main window on an X server of its own, against the start of a
-// program that has nothing but a window.
+// The start of the program on the sample installation, from its execution to its main window on an X server of its own,
+// against the start of a program that has nothing but a window.
 #include <benchmark/benchmark.h>
 
 #include <signal.h>
@@ -15,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-#include "bench/large_installation.h"
+#include "bench/installations.h"
 #include "tests/support/x_server.h"
 
 namespace fs = std::filesystem;
@@ -57,22 +57,27 @@ void waitForWindow(xcb_connection_t* connection, std::string_view title) {
 // Starts `program` of the build directory and waits until its window `title` is on the screen.
 void start(benchmark::State& state, const char* program, const char* title) {
     static const XServer server;
-    largeSimsDirectory();
+    setenv("WINEPREFIX", samplePrefix().c_str(), 1);
     setenv("DISPLAY", server.display().c_str(), 1);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
     setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);  // what the one does, the other would wait for
     watchWindows(server.connection());
     const std::string path = fs::read_symlink("/proc/self/exe").parent_path() / program;
+    posix_spawn_file_actions_t inToolDirectory;
+    posix_spawn_file_actions_init(&inToolDirectory);
+    posix_spawn_file_actions_addchdir_np(&inToolDirectory, toolDirectory().c_str());
     char* arguments[] = {const_cast<char*>(path.c_str()), nullptr};
     for ([[maybe_unused]] auto _ : state) {
         const auto before = std::chrono::steady_clock::now();
         pid_t child = 0;
-        if (posix_spawn(&child, path.c_str(), nullptr, nullptr, arguments, environ) != 0) std::abort();
+        if (posix_spawn(&child, path.c_str(), &inToolDirectory, nullptr, arguments, environ) != 0) std::abort();
         waitForWindow(server.connection(), title);
         state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - before).count());
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
     }
+    posix_spawn_file_actions_destroy(&inToolDirectory);
+    setenv("WINEPREFIX", largePrefix().c_str(), 1);
 }
 BENCHMARK_CAPTURE(start, bare, "bare_window", "Bare")->Name("startBareWindow")->UseManualTime();
 BENCHMARK_CAPTURE(start, program, "tidewright", "Tidewright")->Name("startProgram")->UseManualTime();

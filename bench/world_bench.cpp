@@ -1,7 +1,7 @@
 // Reading: a neighborhood, all neighborhoods, a family with its character files.
 #include <benchmark/benchmark.h>
 
-#include "bench/large_installation.h"
+#include "bench/installations.h"
 #include "world/neighborhoods.h"
 
 namespace {

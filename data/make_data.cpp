@@ -3,23 +3,23 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "data/data_files.h"
+#include "data/family_template.h"
 #include "data/skin_file.h"
 #include "gamefiles/file_writing.h"
 
 int main(int count, char** arguments) {
     constexpr int badUsage = 2;
     const std::string_view what = count == 3 ? arguments[1] : "";
-    if (what != "templates" && what != "skin") {
+    if (what != "famtemplate" && what != "skin") {
         std::fputs(
-            "make_data templates DIR   write Template.iff and famtemplate into DIR\n"
-            "make_data skin DIR        write the skin that the game's GameData/Skins must have into DIR\n",
+            "make_data famtemplate DIR   write the template of new households into DIR\n"
+            "make_data skin DIR          write the skin that the game's GameData/Skins must have into DIR\n",
             stderr);
         return badUsage;
     }
     const std::filesystem::path directory = arguments[2];
-    const bool written =
-        what == "skin" ? writeFile(directory / packageSkinName, packageSkin()) : writeDataFiles(directory);
+    const bool written = what == "skin" ? writeFile(directory / packageSkinName, packageSkin())
+                                        : writeFile(directory / "famtemplate", makeFamilyTemplate());
     if (!written) std::fprintf(stderr, "make_data: can't write into %s\n", arguments[2]);
     return written ? EXIT_SUCCESS : EXIT_FAILURE;
 }

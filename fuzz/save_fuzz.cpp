@@ -6,9 +6,10 @@
 #include <system_error>
 #include <utility>
 
-#include "data/data_files.h"
+#include "data/family_template.h"
 #include "fuzz/fuzz_files.h"
 #include "gamefiles/neighborhood_file.h"
+#include "sample/fact_template.h"
 #include "save/backup_names.h"
 #include "world/neighborhood.h"
 
@@ -39,7 +40,7 @@ void writeCharacters() {
 void writeFiles(FuzzInput neighborhood) {
     static const bool hasTemplates = [] {
         backupClock().stopAt({2002, 3, 0, 5, 14, 7, 0, 0});
-        return writeDataFiles(fuzzDirectory());
+        return writeTemplates(fuzzDirectory());
     }();
     promise(hasTemplates, "the templates");
     const bool isUsed = fs::exists(userData() / "Characters" / "Backups");
@@ -215,7 +216,7 @@ void examineNewFile(const Waiting& waiting) {
 }
 
 void examineMarks(const Neighborhood& neighborhood, const Waiting& waiting, bool isSaved, bool areSimsSaved) {
-    static const std::size_t newSize = makeCharacterTemplate().size();
+    static const std::size_t newSize = makeFactTemplate().size();
     promise(neighborhood.hasNewFamilies() == (!isSaved && waiting.newFamilies > 0), "the mark of new families");
     promise(neighborhood.newFamilyCount() == (isSaved ? 0 : static_cast<int>(waiting.newFamilies)), "new families");
     for (const Family* family : waiting.families) {

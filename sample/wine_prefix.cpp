@@ -3,7 +3,6 @@
 #include <string_view>
 #include <system_error>
 
-#include "data/skin_file.h"
 #include "gamefiles/file_writing.h"
 
 namespace {
@@ -54,12 +53,11 @@ fs::path gameDirectory(const fs::path& prefix) {
 bool makeWinePrefix(const fs::path& prefix) {
     if (!emptyOrRefuse(prefix)) return false;
     const fs::path game = gameDirectory(prefix);
-    const fs::path skins = game / "GameData" / "Skins";
-    fs::create_directories(skins);
+    fs::create_directories(game / "GameData" / "Skins");
     fs::create_directories(game / "ExpansionPack4");
     fs::create_directories(prefix / "dosdevices");
     // Fails on Windows, where the tests use the game's directory without a prefix.
     std::error_code ignored;
     fs::create_directory_symlink(fs::path("..") / "drive_c", prefix / "dosdevices" / "c:", ignored);
-    return writeFile(prefix / "system.reg", systemRegistry) && writeFile(skins / packageSkinName, packageSkin());
+    return writeFile(prefix / "system.reg", systemRegistry);
 }

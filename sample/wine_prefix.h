@@ -8,7 +8,7 @@
 std::filesystem::path gameDirectory(const std::filesystem::path& prefix);
 
 // Makes a prefix in the directory, which it creates or empties. The registry is that of a 64-bit Wine and names the
-// game's directory, which has the package's skin and an expansion pack but no neighborhoods. Returns false and changes
+// game's directory, which has an expansion pack but no neighborhoods, and isn't prepared. Returns false and changes
 // nothing if the directory has files but wasn't made by an earlier call: a player's own prefix is never emptied.
 // Returns false also if a file can't be written.
 bool makeWinePrefix(const std::filesystem::path& prefix);

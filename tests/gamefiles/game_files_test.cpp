@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "data/data_files.h"
+#include "data/family_template.h"
 #include "data/skin_file.h"
 #include "gamefiles/bitmap.h"
 #include "gamefiles/iff_reader.h"

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "data/data_files.h"
+#include "data/family_template.h"
 #include "data/skin_file.h"
 #include "prepare/program.h"
 #include "tests/prepare/unprepared_game.h"

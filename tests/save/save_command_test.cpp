@@ -13,7 +13,7 @@ TEST_F(SaveCommandTest, SavesEachListedNeighborhoodThatHasChanged) {
         files.write(directory + "/neighborhood.iff", makeNeighborhoodFile({.neighbors = {{}}}).bytes);
         files.write(directory + "/Characters/user00001.iff", makeCharacterFile().bytes);
     }
-    EXPECT_TRUE(writeDataFiles(files.path()));
+    EXPECT_TRUE(writeTemplates(files.path()));
     loadNeighborhoods((files.path() + "\\").c_str(), files.path().c_str());
     change(*neighborhoods[0]->sim(0), stageNumber::teen);
     change(*neighborhoods[2]->sim(0), stageNumber::teen);

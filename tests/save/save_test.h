@@ -10,7 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "data/data_files.h"
+#include "data/family_template.h"
+#include "sample/fact_template.h"
 #include "save/backup_names.h"
 #include "tests/support/test_neighborhood.h"
 
@@ -34,7 +35,7 @@ class SaveTest : public testing::Test {
                                                        {.number = 40, .name = "Default"}});
         test_.reset();  // it takes the working directory back
         test_ = std::make_unique<TestNeighborhood>(shape, characters_);
-        EXPECT_TRUE(writeDataFiles(files().path()));
+        EXPECT_TRUE(writeTemplates(files().path()));
         original_ = treeOf(files().path());
         cut_ = !shape.before.empty() ? 64 : shape.freeRoom ? built().freeRoomOffset : built().mapOffset;
         nameVersions();
@@ -146,7 +147,7 @@ class SaveTest : public testing::Test {
         const BodyEnding ending = sampleBodyEnding(sim.slots, neighbors_[index].version);
         Bytes text = filledSampleBodyText(sim.slots, ending, 1041);
         text.resize(1041);
-        Bytes file = makeCharacterTemplate();
+        Bytes file = makeFactTemplate();
         overwrite(file, 3988, bytesFrom(sim.recordName));
         overwrite(file, 4080, u32(sim.guid));
         overwrite(file, 4349, ByteWriter().field(sim.name.substr(0, 63), 64).written());

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "data/data_files.h"
+#include "sample/fact_template.h"
 #include "sample/installation.h"
 #include "shell/selection.h"
 #include "shell/splash.h"
@@ -35,7 +35,7 @@ class MainWindowTest : public testing::Test {
  protected:
     MainWindowTest() {
         writeInstallation(files_.path("prefix"));
-        EXPECT_TRUE(writeDataFiles(files_.path()));
+        EXPECT_TRUE(writeTemplates(files_.path()));
         files_.write("skinsets.cfg", "CHILD=c001fclgt_amanda01;\nTEENAGER=c008falgt_alt;t\nADULT=a;a\n");
         loadCursors();
         loadNeighborhoods(installGame(files_.path("prefix")).c_str(), files_.path().c_str());

@@ -45,7 +45,7 @@ TEST(StartChecksTest, EachRefusalHasItsBoxAndCode) {
 
     makeWinePrefix(prefix);
     installGame(prefix);
-    std::filesystem::resize_file(skin, 0);
+    EXPECT_TRUE(writeFile(skin, ""));
     for (const char* const title : {"The Sims", "The Sims Hot Date", "The Sims House Party", "The Sims Livin' Large"}) {
         DestroyWindow(std::exchange(running, openWindow(title)));
         expectRefusal(-2,

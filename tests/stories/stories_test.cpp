@@ -15,9 +15,8 @@
 
 namespace {
 
-// The Windows program that the stories start, quoted for the shell. Wine runs it in a prefix made for this. Null if
-// they start the native program.
-const char* const windowsProgram = std::getenv("TIDEWRIGHT_EXE");
+// The directory of the Windows programs, if the stories are to start these. Wine runs them in a prefix made for this.
+const char* const windowsPrograms = std::getenv("TIDEWRIGHT_WINDOWS_PROGRAMS");
 
 // A button by its middle: from the window's left edge, and above its bottom.
 struct Button {
@@ -36,16 +35,15 @@ void waitUntil(const std::string& step, const std::function<bool()>& done) {
     ADD_FAILURE() << "never happened: " << step;
 }
 
-// Each begins with the sample installation and a tool directory that has the program's data files.
+// Each begins with a game that nobody prepared, and a tool directory as it is unpacked.
 class Stories : public testing::Test {
  protected:
     Stories() {
         writeInstallation(prefix_);
         files_.makeDirectory("tool");
-        for (const char* name : {"skinsets.cfg", "Template.iff", "famtemplate"})
-            std::filesystem::copy(buildDirectory / name, files_.path("tool"));
+        std::filesystem::copy(buildDirectory / "skinsets-original.cfg", files_.path("tool"));
         // Wine's server keeps the display of its first program, and waits between programs.
-        if (windowsProgram != nullptr) run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
+        if (windowsPrograms != nullptr) run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
     }
 
     // The first word that this command prints; a failure fails the test.
@@ -79,21 +77,33 @@ class Stories : public testing::Test {
         return std::stoi(count);
     }
 
-    // The program is killed after two minutes. The menu is above its controls: natively in the part of the window
-    // outside the client area, 430 rows high, and under Wine below the caption.
-    void start(const char* windowsExe = windowsProgram) {
-        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory / "tidewright").string() + "'";
-        if (windowsExe != nullptr) {
+    // Starts a program of the build in the tool directory. It is killed after two minutes.
+    void launch(const std::string& name, bool onWindows) {
+        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory / name).string() + "'";
+        if (onWindows) {
             run("wine reg add 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32 /d \"$(winepath -w '" +
                 game_.string() + "' 2>/dev/null)\" >/dev/null 2>&1");
-            program = std::string("wine ") + windowsExe;
+            program = "wine '" + std::string(windowsPrograms) + "/" + name + ".exe'";
         }
         const std::string environment = "env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY DISPLAY=" + screen_.display();
         program = environment + " timeout -s KILL 120 " + program + " >/dev/null 2>&1";
         process_ = popen(("cd '" + files_.path("tool") + "' && exec " + program).c_str(), "r");
-        const std::string window = findWindow("(Tidewright|Missing Config Files)");
+    }
+
+    void prepareGame(bool onWindows = windowsPrograms != nullptr) {
+        launch("tidewright-prepare", onWindows);
+        for ([[maybe_unused]] const char* box : {"the question", "the report"})
+            answerBox("Prepare The Sims for Tidewright", "Return");
+        EXPECT_EQ(waitForExit(), 0);
+    }
+
+    // The menu is above the window's controls: natively in the part of the window outside the client area, 430 rows
+    // high, and under Wine below the caption.
+    void start(bool onWindows = windowsPrograms != nullptr) {
+        launch("tidewright", onWindows);
+        const std::string window = findWindow("(Tidewright|Installation Problem)");
         windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window + " | sed -n s/HEIGHT=//p"));
-        clientTop_ = windowsExe != nullptr ? 42 : windowHeight_ - 430;
+        clientTop_ = onWindows ? 42 : windowHeight_ - 430;
         act("windowmove --sync " + window + " 0 0 windowfocus --sync " + window);
     }
 
@@ -158,7 +168,10 @@ class Stories : public testing::Test {
 };
 
 TEST_F(Stories, AnEveningOfPlay) {
+    const Tree unprepared = treeOf(game_);
+    prepareGame();
     const Tree before = treeOf(game_);
+    EXPECT_EQ(differences(unprepared, before), "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn\n");
     start();
     click(childToTeen, 0, 0, 3);  // Clover, whose head leads to a teen's
     click(childToTeen, 0, 0, 4);  // Fern, whose head is in no set
@@ -204,20 +217,20 @@ TEST_F(Stories, AnEveningOfPlay) {
     EXPECT_EQ(std::regex_replace(differences(before, after), changed, ""), "");
 }
 
-TEST_F(Stories, ARefusedStartHasItsExitCode) {
-    files_.remove("tool/skinsets.cfg");
+TEST_F(Stories, AnUnpreparedGameIsRefused) {
     start();
-    answerBox("Missing Config Files", "Return");
-    EXPECT_EQ(waitForExit(), -4);
+    answerBox("Installation Problem", "Return");
+    EXPECT_EQ(waitForExit(), -3);
 }
 
 // The native and the Windows program get the same picks. Nothing of these is drawn by chance, as a new teen's outfit
 // is.
 TEST_F(Stories, TwoProgramsSaveOneTree) {
-    ASSERT_NE(windowsProgram, nullptr) << "TIDEWRIGHT_EXE names no Windows program";
-    const auto savedBy = [this](const char* windowsExe) {
+    ASSERT_NE(windowsPrograms, nullptr) << "TIDEWRIGHT_WINDOWS_PROGRAMS names no directory";
+    const auto savedBy = [this](bool onWindows) {
         writeInstallation(prefix_);
-        start(windowsExe);
+        prepareGame(onWindows);
+        start(onWindows);
         click(teenToAdult, 0, 0, 2);  // Bramble
         click(moveOut, 0, 0, 0);      // Hazel
         click(teenToAdult, 2, 0, 2);  // Heron
@@ -230,9 +243,9 @@ TEST_F(Stories, TwoProgramsSaveOneTree) {
             saved[std::regex_replace(name, date, "")] = bytes;
         return saved;
     };
-    const Tree native = savedBy(nullptr);
+    const Tree native = savedBy(false);
     EXPECT_TRUE(native.contains("UserData/Backups/neighborhood")) << "not saved";
-    EXPECT_EQ(differences(native, savedBy(windowsProgram)), "");
+    EXPECT_EQ(differences(native, savedBy(true)), "");
 }
 
 }  // namespace

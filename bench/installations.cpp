@@ -1,4 +1,4 @@
-#include "bench/large_installation.h"
+#include "bench/installations.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,6 +10,9 @@
 #include <memory>
 #include <string>
 
+#include "data/skin_file.h"
+#include "gamefiles/file_writing.h"
+#include "sample/fact_template.h"
 #include "sample/installation.h"
 
 namespace fs = std::filesystem;
@@ -18,18 +21,26 @@ namespace {
 
 constexpr const char* gameDirectory = "drive_c/Program Files (x86)/Maxis/The Sims";
 
-class Prefix {
+class Installations {
  public:
-    Prefix() : path_(fs::temp_directory_path() / ("tidewright-bench-" + std::to_string(getpid()))) {
-        writeLargeInstallation(path_ / "one", 1);
+    Installations() : path_(fs::temp_directory_path() / ("tidewright-bench-" + std::to_string(getpid()))) {
+        writeLargeInstallation(large(), 1);
+        writeInstallation(sample());
         fs::copy(game() / "UserData", saved(), fs::copy_options::recursive);
-        setenv("WINEPREFIX", (path_ / "one").c_str(), 1);
+        fs::create_directory(tools());
+        if (!writeTemplates(tools()) || !writeFile(tools() / "skinsets.cfg", "TEENAGER=\n")) std::abort();
+        const fs::path skin = sample() / gameDirectory / "GameData/Skins" / packageSkinName;
+        if (!writeFile(skin, packageSkin())) std::abort();
+        setenv("WINEPREFIX", large().c_str(), 1);
     }
-    Prefix(const Prefix&) = delete;
-    Prefix& operator=(const Prefix&) = delete;
-    ~Prefix() { fs::remove_all(path_); }
+    Installations(const Installations&) = delete;
+    Installations& operator=(const Installations&) = delete;
+    ~Installations() { fs::remove_all(path_); }
 
-    fs::path game() const { return path_ / "one" / gameDirectory; }
+    fs::path large() const { return path_ / "one"; }
+    fs::path sample() const { return path_ / "sample"; }
+    fs::path tools() const { return path_ / "tools"; }
+    fs::path game() const { return large() / gameDirectory; }
     fs::path saved() const { return path_ / "saved"; }
     fs::path many(int count) const { return path_ / std::to_string(count); }
 
@@ -37,8 +48,8 @@ class Prefix {
     fs::path path_;
 };
 
-Prefix& prefix() {
-    static Prefix only;
+Installations& installations() {
+    static Installations only;
     return only;
 }
 
@@ -50,16 +61,16 @@ void linkNeighborhood(const fs::path& from, const fs::path& to) {
 }  // namespace
 
 const char* largeSimsDirectory() {
-    prefix();
+    installations();
     return "C:\\Program Files (x86)\\Maxis\\The Sims\\";
 }
 
 fs::path largeNeighborhoodDirectory() {
-    return prefix().game() / "UserData";
+    return installations().game() / "UserData";
 }
 
 fs::path savedNeighborhoodDirectory() {
-    return prefix().saved();
+    return installations().saved();
 }
 
 const char* manySimsDirectory(int count) {
@@ -68,14 +79,26 @@ const char* manySimsDirectory(int count) {
     if (!directory.empty()) return directory.c_str();
     for (int number = 1; number <= count; ++number) {
         const std::string name = number == 1 ? "UserData" : "UserData" + std::to_string(number);
-        linkNeighborhood(largeNeighborhoodDirectory(), prefix().many(count) / name);
+        linkNeighborhood(largeNeighborhoodDirectory(), installations().many(count) / name);
     }
-    directory = prefix().many(count).string() + "\\";
+    directory = installations().many(count).string() + "\\";
     return directory.c_str();
 }
 
 fs::path largeNeighborhoodFile() {
     return largeNeighborhoodDirectory() / "Neighborhood.iff";
+}
+
+fs::path largePrefix() {
+    return installations().large();
+}
+
+fs::path samplePrefix() {
+    return installations().sample();
+}
+
+fs::path toolDirectory() {
+    return installations().tools();
 }
 
 std::vector<fs::path> largeCharacterFiles() {

@@ -1,5 +1,6 @@
-#include "data/data_files.h"
+#include "sample/fact_template.h"
 
+#include "data/family_template.h"
 #include "data/template_chunks.h"
 #include "gamefiles/character_chunks.h"
 #include "gamefiles/character_file.h"
@@ -7,7 +8,7 @@
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
 
-Bytes makeCharacterTemplate() {
+Bytes makeFactTemplate() {
     const PortraitColors colors;
     IffBuilder file;
     for (const IffChunk& chunk : behaviourChunks(BehaviourSet::older)) {
@@ -24,7 +25,7 @@ Bytes makeCharacterTemplate() {
     return file.bytes();
 }
 
-bool writeDataFiles(const std::filesystem::path& directory) {
-    return writeFile(directory / "Template.iff", makeCharacterTemplate()) &&
+bool writeTemplates(const std::filesystem::path& directory) {
+    return writeFile(directory / "Template.iff", makeFactTemplate()) &&
            writeFile(directory / "famtemplate", makeFamilyTemplate());
 }

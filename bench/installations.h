@@ -1,7 +1,7 @@
-// An installation of real size in a temporary directory, made once for all benchmarks, and bare reading and copying to
-// measure the program against.
-#ifndef BENCH_LARGE_INSTALLATION_H
-#define BENCH_LARGE_INSTALLATION_H
+// Installations in a temporary directory, made once for all benchmarks, and bare reading and copying to measure the
+// program against.
+#ifndef BENCH_INSTALLATIONS_H
+#define BENCH_INSTALLATIONS_H
 
 #include <filesystem>
 #include <vector>
@@ -18,6 +18,13 @@ const char* manySimsDirectory(int count);
 
 std::filesystem::path largeNeighborhoodFile();
 std::vector<std::filesystem::path> largeCharacterFiles();
+
+// Wine prefixes: that of the installation with one large neighborhood, which is WINEPREFIX, and that of the sample.
+std::filesystem::path largePrefix();
+std::filesystem::path samplePrefix();
+
+// A directory with the files that the program needs beside it.
+std::filesystem::path toolDirectory();
 
 // Opens, reads in one go and closes. Returns the number of bytes.
 std::size_t readWhole(const std::filesystem::path& path);
