@@ -1,7 +1,15 @@
 #!/bin/sh
-# Starts Tidewright in a directory of the user's own. First it puts the program's data files there, if they are missing.
+# tidewright                         starts Tidewright, and first makes the game ready for it if it isn't.
+# tidewright --prepare [OPTION...]   prepares the game alone; the options are those of tidewright-prepare.
+# Both work in a directory of the user's own.
 set -u
+programs=/usr/lib/tidewright
 originals=/usr/share/tidewright
+
+fail() {
+    echo "tidewright: $*" >&2
+    exit 1
+}
 
 data=${XDG_DATA_HOME:-}
 case $data in
@@ -10,31 +18,31 @@ case $data in
 esac
 own=$data/tidewright
 
-# Makes a copy that the user can edit. A copy that breaks off is removed, because it would count as edited from then on.
-bring_skin_sets() {
-    [ -e "$own/skinsets.cfg" ] && return
-    cp "$originals/skinsets.cfg" "$own/skinsets.cfg.$$" && mv -n "$own/skinsets.cfg.$$" "$own/skinsets.cfg"
-    result=$?
-    rm -f "$own/skinsets.cfg.$$"
-    return "$result"
+# Earlier versions linked files of their own, which are gone. Another link may lead to a disk that isn't there today.
+check_link() {
+    [ -L "$1" ] && [ ! -e "$1" ] || return 0
+    case $(readlink "$1") in
+        "$originals"/*) rm "$1" || fail "can't write into $own" ;;
+        *) fail "$own/$1 is a link to a file that isn't there: bring the file back or remove the link" ;;
+    esac
 }
 
-# Makes a link, so that the template is always that of the installed program. A file of the user's own is kept.
-bring_template() {
-    [ -e "$own/$1" ] || ln -s "$originals/$1" "$own/$1"
+# The preparing program makes skinsets.cfg of it.
+bring_original() {
+    [ -s "$originals/skinsets-original.cfg" ] || fail "$originals isn't complete: install the package again"
+    [ -e skinsets-original.cfg ] || ln -s "$originals/skinsets-original.cfg" . || fail "can't write into $own"
 }
 
-bring_what_is_missing() {
-    mkdir -p "$own" && bring_skin_sets && bring_template Template.iff && bring_template famtemplate
-}
-
-if ! bring_what_is_missing; then
-    if [ -e "$own/skinsets.cfg" ]; then
-        echo "tidewright: not started, because files are missing in $own" >&2
-        exit 1
-    fi
-    echo "tidewright: no $own can be made, so the heads are those of $originals/skinsets.cfg" >&2
-    own=$originals
+if ! mkdir -p "$own" || ! cd "$own"; then
+    fail "can't use the directory $own"
 fi
-
-cd "$own" && exec /usr/lib/tidewright/tidewright "$@"
+for file in skinsets.cfg Template.iff famtemplate skinsets-original.cfg; do
+    check_link "$file"
+done
+[ -s skinsets.cfg ] || bring_original
+if [ "${1:-}" = --prepare ]; then
+    shift
+    exec "$programs/tidewright-prepare" "$@"
+fi
+"$programs/tidewright-prepare" --if-needed || exit
+exec "$programs/tidewright" "$@"

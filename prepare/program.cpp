@@ -64,6 +64,6 @@ int runProgram(int argumentCount, char** arguments) {
     }
     const Preparation preparation = prepareGame(simsDirectory.c_str(), options.newTemplate);
     const char* const end =
-        preparation.ready ? "\nEverything is ready: you can start Tidewright." : "\nTidewright isn't ready yet.";
+        preparation.ready ? "\nEverything is ready: Tidewright can start." : "\nTidewright isn't ready yet.";
     return tell(preparation.report + end, preparation.ready ? 0 : somethingMissing);
 }
