@@ -1,4 +1,4 @@
-// Reads and writes small files as a whole.
+// Reads a whole file into memory, and writes one from there.
 #ifndef PREPARE_WHOLE_FILE_H
 #define PREPARE_WHOLE_FILE_H
 
