@@ -157,8 +157,8 @@ Picture pictureOf(HWND window) {
     SelectObject(copy, before);
     BITMAPINFO format{};
     format.bmiHeader = {sizeof format.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    Picture picture{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width) * height)};
-    GetDIBits(copy, bitmap, 0, client.bottom, picture.pixels.data(), &format, DIB_RGB_COLORS);
+    Picture picture{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width * height))};
+    GetDIBits(copy, bitmap, 0, static_cast<UINT>(height), picture.pixels.data(), &format, DIB_RGB_COLORS);
     ReleaseDC(window, dc);
     for (std::uint32_t& pixel : picture.pixels)
         pixel &= 0xFFFFFF;
