@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 
 #include "platform/files.h"
@@ -24,16 +25,21 @@ bool write(NewVersion& version, NewVersion::Naming naming, const Bytes& bytes) {
 
 std::optional<Bytes> readWholeFile(const char* path) {
     constexpr std::size_t blockSize = 65536;
+    static_assert(wholeFileLimit % blockSize == 0);
+    FileStatus status{};
+    if (queryFileStatus(path, status) && status.size >= std::int64_t{wholeFileLimit}) return std::nullopt;
     std::FILE* const file = openFile(path, "rb");
     if (file == nullptr) return std::nullopt;
     Bytes bytes;
     std::array<std::uint8_t, blockSize> block{};
-    while (const std::size_t got = std::fread(block.data(), 1, block.size(), file)) {
+    std::size_t got = block.size();
+    while (got != 0 && bytes.size() < wholeFileLimit) {
+        got = std::fread(block.data(), 1, block.size(), file);
         bytes.insert(bytes.end(), block.begin(), block.begin() + static_cast<std::ptrdiff_t>(got));
     }
-    const bool failed = std::ferror(file) != 0;
+    const bool isWhole = std::ferror(file) == 0 && bytes.size() < wholeFileLimit;
     std::fclose(file);
-    if (failed) return std::nullopt;
+    if (!isWhole) return std::nullopt;
     return bytes;
 }
 

@@ -2,11 +2,16 @@
 #ifndef PREPARE_WHOLE_FILE_H
 #define PREPARE_WHOLE_FILE_H
 
+#include <cstddef>
 #include <optional>
 
 #include "gamefiles/byte_writer.h"
 
-// Nothing if the file can't be read to its end.
+// Far more than any file here has. A map behind it would be out of reach of the 3 bytes that lead to it.
+constexpr std::size_t wholeFileLimit = std::size_t{1} << 24;
+
+// Nothing if the file can't be read to its end, or has wholeFileLimit bytes or more. Never reads more than that, from a
+// device either.
 std::optional<Bytes> readWholeFile(const char* path);
 
 // Writes the file and syncs it. It takes its name, in place of an older file, when it is complete; where the file
