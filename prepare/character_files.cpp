@@ -4,10 +4,12 @@
 #include <cctype>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "gamefiles/iff_reader.h"
 #include "platform/files.h"
 #include "prepare/character_check.h"
+#include "prepare/source_choice.h"
 #include "prepare/template_maker.h"
 #include "prepare/whole_file.h"
 #include "world/joined_text.h"
@@ -16,32 +18,58 @@
 
 namespace {
 
-// "User00042.iff", in any case. Others are left from a save that broke off.
-bool isCharacterName(std::string name) {
+std::string lowered(std::string name) {
     std::ranges::transform(name, name.begin(), [](unsigned char letter) { return std::tolower(letter); });
-    return name.starts_with("user") && name.ends_with(".iff");
+    return name;
 }
 
-void addSource(const std::string& path, std::vector<TemplateSource>& sources) {
+// "User00042.iff", in any case. Others are left from a save that broke off.
+bool isCharacterName(const std::string& name) {
+    return lowered(name).starts_with("user") && lowered(name).ends_with(".iff");
+}
+
+// A save may write a name in another case than the game.
+std::vector<std::string> characterNamesIn(const char* directory) {
+    std::vector<std::string> names = fileNamesIn(directory);
+    std::erase_if(names, [](const std::string& name) { return !isCharacterName(name); });
+    std::ranges::stable_sort(names, {}, lowered);
+    return names;
+}
+
+// Empty if no template can be made of the file.
+std::vector<IffChunk> usableChunks(const Bytes& file) {
+    IffContents contents = readIff(file);
+    const bool isUsable =
+        contents.fault.empty() && refusalOf(contents.chunks).empty() && !makeTemplate(contents.chunks).empty();
+    if (!isUsable) contents.chunks.clear();
+    return contents.chunks;
+}
+
+void look(const std::string& path, TemplateSource& source, SourceChoice& choice) {
+    ++source.found;
     const std::optional<Bytes> file = readWholeFile(path.c_str());
-    if (!file) return;
-    IffContents contents = readIff(*file);
-    if (!contents.fault.empty() || !refusalOf(contents.chunks).empty() || makeTemplate(contents.chunks).empty()) return;
-    sources.push_back({path, std::move(contents.chunks)});
+    if (!file) ++source.unreadable;
+    const std::vector<IffChunk> chunks = usableChunks(file.value_or(Bytes()));
+    if (!chunks.empty()) choice.add(path, chunks);
 }
 
 }  // namespace
 
-std::vector<TemplateSource> templateSources(const char* simsDirectory) {
-    std::vector<TemplateSource> sources;
+TemplateSource findTemplateSource(const char* simsDirectory) {
+    TemplateSource source;
+    SourceChoice choice;
     FileStatus status{};
     for (int number = 1; number <= highestNeighborhoodCount; ++number) {
         const NeighborhoodPath neighborhood = neighborhoodDirectory(simsDirectory, number);
         if (!queryFileStatus(neighborhood.c_str(), status)) break;
         const auto directory = joined<PathText>(neighborhood, '\\', charactersDirectory, '\\');
-        for (const std::string& name : fileNamesIn(directory.c_str())) {
-            if (isCharacterName(name)) addSource(directory.c_str() + name, sources);
+        for (const std::string& name : characterNamesIn(directory.c_str())) {
+            look(directory.c_str() + name, source, choice);
         }
     }
-    return sources;
+    // The files aren't kept, since there may be many large ones. This one may have changed since.
+    source.path = choice.best();
+    const std::vector<IffChunk> chunks = usableChunks(readWholeFile(source.path.c_str()).value_or(Bytes()));
+    if (!chunks.empty()) source.madeTemplate = makeTemplate(chunks);
+    return source;
 }

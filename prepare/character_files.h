@@ -1,13 +1,21 @@
-// The character files of the player's game that a template can be made of.
+// Looks for the character file of the player's game that a template is made of.
 #ifndef PREPARE_CHARACTER_FILES_H
 #define PREPARE_CHARACTER_FILES_H
 
-#include <vector>
+#include <string>
 
-#include "prepare/source_choice.h"
+#include "gamefiles/byte_writer.h"
 
-// Those of all neighborhoods, in the order of their numbers and then of the names. `simsDirectory` has a trailing
-// backslash. A file that can't be read or doesn't serve is left out.
-std::vector<TemplateSource> templateSources(const char* simsDirectory);
+struct TemplateSource {
+    std::string path;    // of the chosen file
+    Bytes madeTemplate;  // out of that file; empty if no file serves
+    int found = 0;       // character files, in all neighborhoods
+    int unreadable = 0;  // of these
+};
+
+// Chooses among the files of all neighborhoods, in the order of their numbers and then of the names, in any case
+// (prepare/source_choice.h). A file that can't be read or doesn't serve is left out. `simsDirectory` has a trailing
+// backslash.
+TemplateSource findTemplateSource(const char* simsDirectory);
 
 #endif

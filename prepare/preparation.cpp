@@ -10,7 +10,6 @@
 #include "platform/win32.h"
 #include "prepare/character_check.h"
 #include "prepare/character_files.h"
-#include "prepare/template_maker.h"
 #include "prepare/whole_file.h"
 #include "world/game_check.h"
 
@@ -83,21 +82,21 @@ std::string freeCopyName() {
 }
 
 void makeNewTemplate(Preparation& preparation, const char* simsDirectory, const std::optional<Bytes>& old) {
-    const std::vector<TemplateSource> sources = templateSources(simsDirectory);
-    const TemplateSource* const source = chooseSource(sources);
-    if (source == nullptr) {
+    const TemplateSource source = findTemplateSource(simsDirectory);
+    if (source.madeTemplate.empty()) {
         missing(preparation, std::string(templateFile) +
                                  " is missing: no character file of your game is that of an adult whom a player made. "
                                  "Please create a family with an adult in the game, save, and try again.");
         return;
     }
-    const Bytes made = makeTemplate(source->chunks);
-    if (old && *old == made) {
+    if (old == source.madeTemplate) {
         done(preparation, std::string(templateFile) + " is there already.");
         return;
     }
     if (old && !writeNew(preparation, freeCopyName(), *old)) return;
-    if (writeNew(preparation, templateFile, made)) done(preparation, "It is made of " + source->path + ".");
+    if (writeNew(preparation, templateFile, source.madeTemplate)) {
+        done(preparation, "It is made of " + source.path + ".");
+    }
 }
 
 void bringTemplate(Preparation& preparation, const char* simsDirectory, bool newTemplate) {

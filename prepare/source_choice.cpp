@@ -2,15 +2,12 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <map>
+#include <utility>
 
 #include "gamefiles/object_definition.h"
 #include "prepare/chunk_role.h"
 
 namespace {
-
-// The bytes of each chunk, sorted.
-using Behaviour = std::vector<Bytes>;
 
 Bytes bytesOf(const IffChunk& chunk) {
     return ByteWriter()
@@ -32,9 +29,9 @@ IffChunk commonDefinition(IffChunk definition) {
     return definition;
 }
 
-Behaviour behaviourOf(const TemplateSource& source) {
-    Behaviour behaviour = {bytesOf(commonDefinition(withRole(source.chunks, ChunkRole::definition).front()))};
-    for (const IffChunk& chunk : withRole(source.chunks, ChunkRole::carried)) {
+std::vector<Bytes> behaviourOf(const std::vector<IffChunk>& chunks) {
+    std::vector<Bytes> behaviour = {bytesOf(commonDefinition(withRole(chunks, ChunkRole::definition).front()))};
+    for (const IffChunk& chunk : withRole(chunks, ChunkRole::carried)) {
         behaviour.push_back(bytesOf(chunk));
     }
     std::ranges::sort(behaviour);
@@ -43,14 +40,14 @@ Behaviour behaviourOf(const TemplateSource& source) {
 
 }  // namespace
 
-const TemplateSource* chooseSource(const std::vector<TemplateSource>& sources) {
-    std::map<Behaviour, int> counts;
-    std::vector<const int*> countOfEach;
-    for (const TemplateSource& source : sources) {
-        int& count = counts[behaviourOf(source)];
-        ++count;
-        countOfEach.push_back(&count);
-    }
-    const auto most = std::ranges::max_element(countOfEach, {}, [](const int* count) { return *count; });
-    return most == countOfEach.end() ? nullptr : &sources[static_cast<std::size_t>(most - countOfEach.begin())];
+void SourceChoice::add(const std::string& path, const std::vector<IffChunk>& chunks) {
+    std::vector<Bytes> behaviour = behaviourOf(chunks);
+    auto group = std::ranges::find(groups_, behaviour, &Group::behaviour);
+    if (group == groups_.end()) group = groups_.insert(group, {std::move(behaviour), path});
+    ++group->count;
+}
+
+std::string SourceChoice::best() const {
+    const auto most = std::ranges::max_element(groups_, {}, &Group::count);
+    return most == groups_.end() ? "" : most->path;
 }

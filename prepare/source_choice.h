@@ -7,14 +7,23 @@
 
 #include "gamefiles/iff_builder.h"
 
-struct TemplateSource {
-    std::string path;
-    std::vector<IffChunk> chunks;
-};
+// Groups character files by their behaviour: in a group, the object definitions and the chunks that a template carries
+// are the same, in any order. Keeps one copy of each behaviour, however many files there are.
+class SourceChoice {
+ public:
+    void add(const std::string& path, const std::vector<IffChunk>& chunks);
 
-// The first of those that behave as most do: their object definitions and the chunks that a template carries are the
-// same, in any order. Of two behaviours that are equally frequent, the one that comes first is chosen. Null if
-// `sources` is empty.
-const TemplateSource* chooseSource(const std::vector<TemplateSource>& sources);
+    // The path of the first file of the largest group. Of groups that are equally large, the one that began first is
+    // chosen. Empty if nothing was added.
+    std::string best() const;
+
+ private:
+    struct Group {
+        std::vector<Bytes> behaviour;  // the bytes of each chunk, sorted
+        std::string path;
+        int count = 0;
+    };
+    std::vector<Group> groups_;
+};
 
 #endif

@@ -57,15 +57,27 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
 }
 
 TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviourIsChosen) {
-    EXPECT_EQ(chooseSource({}), nullptr);
-    const SampleCharacter newer{.behaviour = BehaviourSet::newer};
-    const SampleCharacter other{.name = "Ann", .guid = 7, .behaviour = BehaviourSet::newer, .freeRoom = true};
-    std::vector<TemplateSource> sources = {{"old", chunksOf({})}, {"new", chunksOf(newer)}, {"Ann", chunksOf(other)}};
-    EXPECT_EQ(chooseSource(sources)->path, "new");
-    std::swap(sources[2].chunks[0], sources[2].chunks[7]);
-    EXPECT_EQ(chooseSource(sources)->path, "new") << "in another order";
-    chunkIn(sources[2].chunks, "OBJD", 128).content[4] ^= 1;
-    EXPECT_EQ(chooseSource(sources)->path, "old") << "three behaviours of one file each";
+    const auto chosen = [](const Chunks& last) {
+        SourceChoice choice;
+        choice.add("old", chunksOf({}));
+        choice.add("new", chunksOf({.behaviour = BehaviourSet::newer}));
+        choice.add("last", last);
+        return choice.best();
+    };
+    Chunks chunks = chunksOf({.name = "Ann", .guid = 7, .behaviour = BehaviourSet::newer, .freeRoom = true});
+    std::swap(chunks[0], chunks[7]);                                        // in another order
+    std::fill_n(chunkIn(chunks, "OBJD", 128).content.begin() + 140, 4, 7);  // the second GUID
+    EXPECT_EQ(SourceChoice().best() + chosen(chunks), "new");
+    const std::pair<const char*, void (*)(IffChunk&)> rows[] = {{"OBJD", [](auto& c) { c.content[139] ^= 1; }},
+                                                                {"OBJD", [](auto& c) { c.content[144] ^= 1; }},
+                                                                {"SLOT", [](auto& c) { c.content[4] ^= 1; }},
+                                                                {"SLOT", [](auto& c) { c.label = "slots"; }},
+                                                                {"SLOT", [](auto& c) { c.flags = 0; }}};
+    for (const auto& [type, change] : rows) {
+        Chunks other = chunks;
+        change(chunkIn(other, type, 128));
+        EXPECT_EQ(chosen(other), "old") << type << " makes three behaviours of one file each";
+    }
 }
 
 }  // namespace

@@ -50,6 +50,33 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
     EXPECT_EQ(copies, (std::set{bytesFrom("t"), withoutActs.bytes()}));
 }
 
+TEST_F(PreparationTest, TheTemplateIsMadeOfTheFirstFileThatServes) {
+    Chunks usual = chunksOf({.behaviour = BehaviourSet::newer}), huge = usual, misleading = usual, other = usual;
+    huge.push_back({.type = "XXXX", .content = Bytes(1 << 24)});
+    chunkIn(misleading, "STR#", 258).label = "DJBO";
+    chunkIn(other, "SLOT", 128).label = "slots";
+    const struct {
+        const char* what;
+        Chunks chunks;
+        const char* directory;
+        int files;  // from "user00.iff" on
+        const char* chosen;
+    } rows[] = {{"in any case of the name", usual, "UserData", 1, "UserData\\Characters\\user00.iff."},
+                {"but not of 16 MiB", huge, "UserData", 1, "\\User00011.iff."},
+                {"but with a map that can be searched", misleading, "UserData2", 40, "\\User00011.iff."},
+                {"also of the second neighborhood", other, "UserData2", 40, "UserData2\\Characters\\user00.iff."}};
+    for (const auto& row : rows) {
+        IffBuilder file;
+        for (const IffChunk& chunk : row.chunks)
+            file.add(chunk);
+        for (int i = 0; i < row.files; ++i)
+            EXPECT_TRUE(
+                writeFile(game_ / row.directory / "Characters" / ("user0" + std::to_string(i) + ".iff"), file.bytes()));
+        EXPECT_TRUE(isReady() && reports(row.chosen)) << row.what << report_;
+        files_.remove("tool/Template.iff");
+    }
+}
+
 TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
     const auto expectMissing = [&](const char* said) {
         EXPECT_FALSE(isReady());
