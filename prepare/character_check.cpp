@@ -113,6 +113,14 @@ bool callsSharedTree(std::span<const std::uint8_t> tree) {
     return false;
 }
 
+// Whether the main tree calls none of the trees that all Sims share, so that the Sim would stand still. This is so in
+// Sims that were saved from the template of this program's earlier packages.
+bool standsStill(const std::vector<IffChunk>& chunks) {
+    return std::ranges::any_of(chunks, [](const IffChunk& chunk) {
+        return matches(chunk, {"BHAV", mainTreeId}) && !callsSharedTree(chunk.content);
+    });
+}
+
 }  // namespace
 
 std::string refusalOf(const std::vector<IffChunk>& chunks) {
@@ -123,10 +131,4 @@ std::string refusalOf(const std::vector<IffChunk>& chunks) {
     if (!beginsWithAdult(contentOf(chunks, {"STR#", bodyStringsId}))) return "has the body strings of no adult";
     if (standsStill(chunks)) return "has a main tree that does nothing";
     return "";
-}
-
-bool standsStill(const std::vector<IffChunk>& chunks) {
-    return std::ranges::any_of(chunks, [](const IffChunk& chunk) {
-        return matches(chunk, {"BHAV", mainTreeId}) && !callsSharedTree(chunk.content);
-    });
 }

@@ -11,9 +11,4 @@
 // ("has ..."); empty if one can.
 std::string refusalOf(const std::vector<IffChunk>& chunks);
 
-// Whether the main tree calls none of the trees that all Sims share, so that the Sim would stand still. This is so in
-// the template that earlier versions of this program came with, and in the Sims saved from it. False without a main
-// tree.
-bool standsStill(const std::vector<IffChunk>& chunks);
-
 #endif

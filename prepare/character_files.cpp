@@ -1,7 +1,6 @@
 #include "prepare/character_files.h"
 
 #include <algorithm>
-#include <cctype>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "gamefiles/iff_reader.h"
 #include "platform/files.h"
 #include "prepare/character_check.h"
+#include "prepare/lower_case.h"
 #include "prepare/source_choice.h"
 #include "prepare/template_maker.h"
 #include "prepare/whole_file.h"
@@ -17,11 +17,6 @@
 #include "world/sims_directory.h"
 
 namespace {
-
-std::string lowered(std::string name) {
-    std::ranges::transform(name, name.begin(), [](unsigned char letter) { return std::tolower(letter); });
-    return name;
-}
 
 // "User00042.iff", in any case. Others are left from a save that broke off.
 bool isCharacterName(const std::string& name) {

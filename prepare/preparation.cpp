@@ -1,15 +1,15 @@
 #include "prepare/preparation.h"
 
 #include <cstdio>
+#include <optional>
 #include <string_view>
 
 #include "data/family_template.h"
 #include "data/skin_file.h"
-#include "gamefiles/iff_reader.h"
 #include "platform/files.h"
 #include "platform/win32.h"
-#include "prepare/character_check.h"
 #include "prepare/character_files.h"
+#include "prepare/present_file.h"
 #include "prepare/whole_file.h"
 #include "world/game_check.h"
 
@@ -51,22 +51,34 @@ bool writeNew(Preparation& preparation, const std::string& path, const Bytes& by
     return written;
 }
 
-void bring(Preparation& preparation, const std::string& path, const Bytes& bytes) {
-    if (hasBytes(path.c_str())) {
-        done(preparation, path + " is there already.");
-    } else {
+// Says what is there and stays.
+void keep(Preparation& preparation, const std::string& path, Present present) {
+    if (present == Present::usable) return done(preparation, path + " is there already.");
+    const char* const fault =
+        present == Present::deadLink
+            ? " is there, but leads to no file."
+            : " is there already, but a save can't use it: it can't be read, is cut or another file.";
+    missing(preparation, path + fault + " Please delete it, and prepare again.");
+}
+
+void bring(Preparation& preparation, const std::string& path, Present present, const Bytes& bytes) {
+    if (present == Present::nothing) {
         writeNew(preparation, path, bytes);
+    } else {
+        keep(preparation, path, present);
     }
 }
 
 void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
+    const std::string skin = simsDirectory + installedSkin;
     // Both directories are the game's. A failure shows when the skin is written.
     CreateDirectoryA((simsDirectory + "GameData").c_str(), nullptr);
     CreateDirectoryA((simsDirectory + "GameData\\Skins").c_str(), nullptr);
-    bring(preparation, simsDirectory + installedSkin, ByteWriter().text(packageSkin()).written());
+    bring(preparation, skin, presentFile(skin), ByteWriter().text(packageSkin()).written());
 }
 
-// "Template 2026-11-25.iff", or with a number if there is such a file.
+// A template's copy has the day in its name: "Template 2026-11-25.iff", or with a number behind the day if there is
+// such a file.
 std::string freeCopyName() {
     SYSTEMTIME now{};
     GetSystemTime(&now);
@@ -74,50 +86,52 @@ std::string freeCopyName() {
     std::snprintf(date, sizeof date, "Template %04u-%02u-%02u", unsigned{now.wYear}, unsigned{now.wMonth},
                   unsigned{now.wDay});
     std::string name = std::string(date) + ".iff";
-    FileStatus status{};
-    for (int number = 2; queryFileStatus(name.c_str(), status); ++number) {
+    for (int number = 2; presentFile(name) != Present::nothing; ++number) {
         name = date + (" " + std::to_string(number)) + ".iff";
     }
     return name;
 }
 
-void makeNewTemplate(Preparation& preparation, const char* simsDirectory, const std::optional<Bytes>& old) {
+void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool isThere) {
+    const std::optional<Bytes> old = isThere ? readWholeFile(templateFile) : std::nullopt;
+    if (isThere && !old) return keep(preparation, templateFile, Present::unusable);
     const TemplateSource source = findTemplateSource(simsDirectory);
     if (source.madeTemplate.empty()) {
         missing(preparation, std::string(templateFile) +
                                  " is missing: no character file of your game is that of an adult whom a player made. "
                                  "Please create a family with an adult in the game, save, and try again.");
-        return;
-    }
-    if (old == source.madeTemplate) {
-        done(preparation, std::string(templateFile) + " is there already.");
-        return;
-    }
-    if (old && !writeNew(preparation, freeCopyName(), *old)) return;
-    if (writeNew(preparation, templateFile, source.madeTemplate)) {
+    } else if (old == source.madeTemplate) {
+        keep(preparation, templateFile, Present::usable);
+    } else if ((!old || writeNew(preparation, freeCopyName(), *old)) &&
+               writeNew(preparation, templateFile, source.madeTemplate)) {
         done(preparation, "It is made of " + source.path + ".");
     }
 }
 
+// Whether a template is to be made where `present` is.
+bool isMade(Present present, bool newTemplate) {
+    return present == Present::nothing || present == Present::ofEarlierVersion ||
+           (newTemplate && present != Present::deadLink);
+}
+
 void bringTemplate(Preparation& preparation, const char* simsDirectory, bool newTemplate) {
-    const bool exists = hasBytes(templateFile);
-    const std::optional<Bytes> old = exists ? readWholeFile(templateFile) : std::nullopt;
-    if (exists && !old) {
-        missing(preparation, std::string(templateFile) + " can't be read. Please allow it, and try again.");
-    } else if (exists && !newTemplate && !standsStill(readIff(*old).chunks)) {
-        done(preparation, std::string(templateFile) + " is there already.");
-    } else {
-        makeNewTemplate(preparation, simsDirectory, old);
+    const Present present = presentTemplate(templateFile);
+    if (isMade(present, newTemplate)) {
+        makeNewTemplate(preparation, simsDirectory, present != Present::nothing);
+        return;
     }
+    keep(preparation, templateFile, present);
+    if (present == Present::unusable) done(preparation, "Or use the option --new-template, which keeps a copy of it.");
 }
 
 void bringSkinSets(Preparation& preparation) {
     const std::optional<Bytes> original = readWholeFile(originalSkinSets);
-    if (!hasBytes(skinSetsName) && (!original || original->empty())) {
+    const Present present = presentFile(skinSetsName);
+    if (present == Present::nothing && (!original || original->empty())) {
         missing(preparation, std::string(skinSetsName) + " is missing, and " + originalSkinSets +
                                  " can't be read. Please unpack the program again.");
     } else {
-        bring(preparation, skinSetsName, original.value_or(Bytes()));
+        bring(preparation, skinSetsName, present, original.value_or(Bytes()));
     }
 }
 
@@ -127,7 +141,7 @@ Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
     Preparation preparation;
     bringSkin(preparation, simsDirectory);
     bringTemplate(preparation, simsDirectory, newTemplate);
-    bring(preparation, familyTemplateFile, makeFamilyTemplate());
+    bring(preparation, familyTemplateFile, presentFamilyTemplate(familyTemplateFile), makeFamilyTemplate());
     if (preparation.ready) bringSkinSets(preparation);
     return preparation;
 }

@@ -13,8 +13,9 @@ struct Preparation {
 // player's character files, "famtemplate", and "skinsets.cfg" as a copy of "skinsets-original.cfg". The last one comes
 // only if nothing is missing, because the program starts wherever it is. `simsDirectory` has a trailing backslash.
 //
-// A Template.iff whose Sims would act is kept. With `newTemplate` it is kept under a dated name, and a new one is made.
-// Nothing else of the player's is changed.
+// A Template.iff of the player's is kept, and so is a file that a save can't use; the report then says what to do. With
+// `newTemplate`, and for a Template.iff of an earlier version of this program, a new one is made, and the old one is
+// kept under a dated name. Nothing else of the player's is changed.
 Preparation prepareGame(const char* simsDirectory, bool newTemplate);
 
 #endif

@@ -6,16 +6,30 @@
 
 namespace {
 
-TEST_F(PreparationTest, AFileThatTheDiskHasNoRoomForDoesNotComeInPart) {
+TEST_F(PreparationTest, ACopyThatTheDiskHasNoRoomForDoesNotComeInPartAndStopsTheNewTemplate) {
+    const Bytes old = ByteWriter().bytes(playersTemplate()).fillTo(70'000).written();
+    files_.write("tool/Template.iff", old);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit small{20'000, before.rlim_max};  // less than a template takes
+    const rlimit small{60'000, before.rlim_max};  // more than the new template takes
     std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
-    const bool ready = isReady();
+    const bool ready = isReady(true);
     setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_TRUE(!ready && reports("Template.iff can't be written: the disk is full")) << report_;
-    EXPECT_FALSE(files_.exists("tool/Template.iff") || files_.exists("tool/skinsets.cfg"));
+    EXPECT_TRUE(!ready && reports(".iff can't be written: the disk is full")) << report_;
+    EXPECT_EQ(files_.bytesOf("tool/Template.iff"), old);
+    EXPECT_EQ(treeOf(files_.path("tool")).size(), 3U) << "with famtemplate and skinsets-original.cfg";
+}
+
+TEST_F(PreparationTest, ADeadLinkStaysAndIsReported) {
+    fs::create_directories(skin_.parent_path());
+    const fs::path links[] = {skin_, "Template.iff", "FAMTEMPLATE", "skinsets.cfg"};
+    for (const fs::path& link : links)
+        fs::create_symlink("nowhere", link);
+    for (const fs::path& link : links) {
+        EXPECT_TRUE(!isReady(true) && reports("leads to no file") && fs::is_symlink(link)) << link << report_;
+        fs::remove(link);
+    }
 }
 
 }  // namespace

@@ -26,8 +26,9 @@ TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
 }
 
 TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
-    const Tree players = {{"Template.iff", bytesFrom("t")},
-                          {"famtemplate", bytesFrom("f")},
+    const Bytes own = playersTemplate();
+    const Tree players = {{"Template.iff", own},
+                          {"famtemplate", Bytes(232)},
                           {"skinsets.cfg", bytesFrom("s")},
                           {"skinsets-original.cfg", bytesFrom("heads")}};
     for (const auto& [name, bytes] : players)
@@ -38,49 +39,55 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
     EXPECT_TRUE(isReady()) << report_;
     EXPECT_EQ(differences(players, treeOf(files_.path("tool"))) + differences(before, treeOf(game_)), "");
 
-    EXPECT_TRUE(isReady(true)) << report_;
-    IffBuilder withoutActs;
-    withoutActs.add({.type = "BHAV", .id = 4096, .content = Bytes(60)});
-    files_.write("tool/Template.iff", withoutActs.bytes());
-    EXPECT_TRUE(isReady()) << report_;
-    EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
-    std::set<Bytes> copies;
+    // The template of earlier packages is replaced unasked.
+    files_.remove("tool/Template.iff");
+    for (const Bytes& old : {own, makeFactTemplate()}) {
+        files_.write("tool/Template.iff", old);
+        EXPECT_TRUE(isReady(old == own)) << report_;
+        EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
+    }
+    std::multiset<Bytes> copies;
     for (const auto& [name, bytes] : treeOf(files_.path("tool")))
         if (name.starts_with("Template 2")) copies.insert(bytes);
-    EXPECT_EQ(copies, (std::set{bytesFrom("t"), withoutActs.bytes()}));
+    EXPECT_EQ(copies, (std::multiset{own, makeFactTemplate()}));
 }
 
-TEST_F(PreparationTest, TheTemplateIsMadeOfTheFirstFileThatServes) {
-    Chunks usual = chunksOf({.behaviour = BehaviourSet::newer}), huge = usual, misleading = usual, other = usual;
-    huge.push_back({.type = "XXXX", .content = Bytes(1 << 24)});
-    chunkIn(misleading, "STR#", 258).label = "DJBO";
-    chunkIn(other, "SLOT", 128).label = "slots";
-    const struct {
-        const char* what;
-        Chunks chunks;
-        const char* directory;
-        int files;  // from "user00.iff" on
-        const char* chosen;
-    } rows[] = {{"in any case of the name", usual, "UserData", 1, "UserData\\Characters\\user00.iff."},
-                {"but not of 16 MiB", huge, "UserData", 1, "\\User00011.iff."},
-                {"but with a map that can be searched", misleading, "UserData2", 40, "\\User00011.iff."},
-                {"also of the second neighborhood", other, "UserData2", 40, "UserData2\\Characters\\user00.iff."}};
-    for (const auto& row : rows) {
-        IffBuilder file;
-        for (const IffChunk& chunk : row.chunks)
-            file.add(chunk);
-        for (int i = 0; i < row.files; ++i)
-            EXPECT_TRUE(
-                writeFile(game_ / row.directory / "Characters" / ("user0" + std::to_string(i) + ".iff"), file.bytes()));
-        EXPECT_TRUE(isReady() && reports(row.chosen)) << row.what << report_;
-        files_.remove("tool/Template.iff");
+TEST_F(PreparationTest, AFileThatASaveCantUseStaysAndIsReported) {
+    const Bytes own = playersTemplate();
+    std::vector<std::pair<std::string, Bytes>> rows = {{"famtemplate", Bytes(231)}};
+    rows.push_back({"Template.iff", Bytes(own.begin(), own.end() - 1)});
+    for (const std::size_t offset : {3976U, 4268U, 54016U, 54025U}) {
+        rows.push_back({"Template.iff", own});
+        rows.back().second[offset] ^= 1;
+    }
+    for (const auto& [name, file] : rows) {
+        files_.write("tool/" + name, file);
+        EXPECT_TRUE(!isReady() && reports(name + " is there already, but a save can't use it")) << report_;
+        EXPECT_EQ(files_.bytesOf("tool/" + name), file);
+        files_.remove("tool/" + name);
     }
 }
 
+TEST_F(PreparationTest, TheTemplateIsMadeOfTheFirstFileThatServes) {
+    const auto expectChosen = [this](SampleCharacter sim, const std::string& directory, int files, const char* chosen) {
+        sim.behaviour = BehaviourSet::newer;
+        for (int i = 0; i < files; ++i)
+            EXPECT_TRUE(writeFile(game_ / directory / ("Characters/user0" + std::to_string(i) + ".iff"),
+                                  makeCharacterFile(sim).bytes));
+        EXPECT_TRUE(isReady() && reports(chosen)) << report_;
+        files_.remove("tool/Template.iff");
+    };
+    expectChosen({}, "UserData", 1, "UserData\\Characters\\user00.iff.");  // in any case of the name
+    expectChosen({.before = {{.type = "XXXX", .content = Bytes(1 << 24)}}}, "UserData", 1, "\\User00011.iff.");
+    // A label that a search of the map would take for a definition, then a behaviour of the second neighborhood.
+    expectChosen({.before = {{.type = "TREE", .label = "DJBO"}}}, "UserData2", 40, "\\User00011.iff.");
+    expectChosen({.before = {{.type = "TREE"}}}, "UserData2", 40, "UserData2\\Characters\\user00.iff.");
+}
+
 TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
-    const auto expectMissing = [&](const char* said) {
-        EXPECT_FALSE(isReady());
-        EXPECT_TRUE(reports(said)) << report_;
+    const auto expectMissing = [&](const std::string& said, bool newTemplate = false) {
+        EXPECT_FALSE(isReady(newTemplate));
+        EXPECT_TRUE(reports(said)) << said << report_;
         EXPECT_FALSE(files_.exists("tool/skinsets.cfg"));
     };
     files_.makeDirectory("tool/famtemplate");
@@ -89,8 +96,12 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
     files_.remove("tool/skinsets-original.cfg");
     expectMissing("unpack");
     files_.write("tool/skinsets-original.cfg", "heads");
+    for (const auto& entry : fs::directory_iterator(characters_))
+        EXPECT_TRUE(writeFile(entry.path(), "broken"));
+    fs::remove_all(game_ / "UserData2");
+    expectMissing("Template.iff is missing", true);
     files_.remove("tool/Template.iff");
-    fs::remove_all(game_ / "UserData");
+    fs::remove_all(characters_);
     expectMissing("Template.iff is missing");
 }
 
@@ -115,7 +126,7 @@ TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
         EXPECT_EQ(treeOf(files_.path()) == unprepared, row.code != 0);
         if (row.code != 0) continue;
         EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
-        files_.write("tool/Template.iff", "a player's own");
+        files_.write("tool/Template.iff", playersTemplate(textLetter));
     }
     uninstallGame(files_.path("prefix"));
     const AnsweredBox box = answerNextBox(IDOK);

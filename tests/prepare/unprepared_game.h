@@ -9,6 +9,7 @@
 #include "gamefiles/iff_reader.h"
 #include "prepare/preparation.h"
 #include "prepare/template_maker.h"
+#include "sample/fact_template.h"
 #include "sample/installation.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
@@ -24,6 +25,16 @@ inline Chunks chunksOf(const SampleCharacter& character) {
 // There must be one.
 inline IffChunk& chunkIn(Chunks& chunks, const std::string& type, int id) {
     return *std::ranges::find_if(chunks, [&](const IffChunk& chunk) { return chunk.type == type && chunk.id == id; });
+}
+
+// A template as a save needs it, of the smallest size. The changed byte is a letter of the label or of the text by
+// which the template of earlier packages is recognised.
+constexpr std::size_t labelLetter = 4000, textLetter = 143;
+inline Bytes playersTemplate(std::size_t changed = labelLetter) {
+    Bytes file = makeFactTemplate();
+    file.resize(55'143);
+    file[changed] ^= 0x20;
+    return file;
 }
 
 // The sample game as its player left it, without the skin, and a tool directory as it comes out of a package.

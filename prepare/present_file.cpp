@@ -1,0 +1,79 @@
+#include "prepare/present_file.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include "data/family_template.h"
+#include "data/template_chunks.h"
+#include "platform/files.h"
+#include "prepare/lower_case.h"
+#include "prepare/whole_file.h"
+#include "world/game_check.h"
+
+namespace {
+
+using namespace std::string_view_literals;
+
+using Judgement = Present (*)(std::string_view file);
+
+// A link that leads nowhere has a name but no status.
+bool isDeadLink(const std::string& path) {
+    FileStatus status{};
+    if (queryFileStatus(path.c_str(), status)) return false;
+    const std::size_t name = path.find_last_of('\\') + 1;
+    const std::string directory = name == 0 ? "." : path.substr(0, name - 1);
+    return std::ranges::count(fileNamesIn(directory.c_str()), lowered(path.substr(name)), lowered) != 0;
+}
+
+Present judged(const std::string& path, Judgement judge) {
+    const Present present = presentFile(path);
+    if (present != Present::usable) return present;
+    const std::optional<Bytes> file = readWholeFile(path.c_str());
+    if (!file) return Present::unusable;
+    return judge({reinterpret_cast<const char*>(file->data()), file->size()});
+}
+
+// A save overwrites the bytes up to here.
+constexpr std::size_t patchedTemplateSize = 55'143;
+
+bool isTemplate(std::string_view file) {
+    constexpr std::size_t idField = 8;
+    return file.size() >= patchedTemplateSize && file.substr(templateObject).starts_with("OBJD") &&
+           file.substr(templateName).starts_with("CTSS") && file.substr(templateBodyStrings).starts_with("STR#") &&
+           file.substr(templateBodyStrings + idField).starts_with("\x00\xC8"sv);
+}
+
+// A text that only this program's sample characters and the template of its earlier packages have, and that template's
+// label of the object definition. A Sim that was saved from it has another label, and so has a template that is made of
+// such a Sim or of a sample character.
+bool isOfEarlierVersion(std::string_view file) {
+    constexpr std::size_t labelField = 12;
+    return file.substr(templateObject + labelField).starts_with("user00000 - Sim\0"sv) &&
+           file.substr(0, templateObject).find("a Sim of the Tidewright sample household") != std::string_view::npos;
+}
+
+Present judgeTemplate(std::string_view file) {
+    if (!isTemplate(file)) return Present::unusable;
+    return isOfEarlierVersion(file) ? Present::ofEarlierVersion : Present::usable;
+}
+
+Present judgeFamilyTemplate(std::string_view file) {
+    return file.size() == makeFamilyTemplate().size() ? Present::usable : Present::unusable;
+}
+
+}  // namespace
+
+Present presentFile(const std::string& path) {
+    if (isDeadLink(path)) return Present::deadLink;
+    return hasBytes(path.c_str()) ? Present::usable : Present::nothing;
+}
+
+Present presentTemplate(const std::string& path) {
+    return judged(path, judgeTemplate);
+}
+
+Present presentFamilyTemplate(const std::string& path) {
+    return judged(path, judgeFamilyTemplate);
+}
