@@ -17,6 +17,10 @@ namespace {
 
 constexpr const char* templateFile = "Template.iff";
 constexpr const char* familyTemplateFile = "famtemplate";
+// In the game's directory.
+constexpr const char* gameData = "GameData";
+constexpr const char* skins = "GameData\\Skins";
+
 constexpr const char* originalSkinSets = "skinsets-original.cfg";
 
 void done(Preparation& preparation, const std::string& line) {
@@ -35,9 +39,16 @@ std::string reason() {
         case ERROR_ACCESS_DENIED:
         case ERROR_WRITE_PROTECT:
             return "writing there isn't allowed";
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_PATH_NOT_FOUND:
+            return "its directory is missing";
         default:
             return "the system's error is " + std::to_string(GetLastError());
     }
+}
+
+void notWritten(Preparation& preparation, const std::string& path) {
+    missing(preparation, path + " can't be written: " + reason() + ". Please mend that, and prepare again.");
 }
 
 bool writeNew(Preparation& preparation, const std::string& path, const Bytes& bytes) {
@@ -45,8 +56,7 @@ bool writeNew(Preparation& preparation, const std::string& path, const Bytes& by
     if (written) {
         done(preparation, path + " is new.");
     } else {
-        missing(preparation,
-                path + " can't be written: " + reason() + ". Please make room or allow it, and try again.");
+        notWritten(preparation, path);
     }
     return written;
 }
@@ -69,12 +79,19 @@ void bring(Preparation& preparation, const std::string& path, Present present, c
     }
 }
 
+bool makeDirectory(const std::string& path) {
+    FileStatus status{};
+    return queryFileStatus(path.c_str(), status) || CreateDirectoryA(path.c_str(), nullptr) != FALSE;
+}
+
 void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
     const std::string skin = simsDirectory + installedSkin;
-    // Both directories are the game's. A failure shows when the skin is written.
-    CreateDirectoryA((simsDirectory + "GameData").c_str(), nullptr);
-    CreateDirectoryA((simsDirectory + "GameData\\Skins").c_str(), nullptr);
-    bring(preparation, skin, presentFile(skin), ByteWriter().text(packageSkin()).written());
+    if (makeDirectory(simsDirectory + gameData) && makeDirectory(simsDirectory + skins)) {
+        deleteLeftOverParts((simsDirectory + skins).c_str());
+        bring(preparation, skin, presentFile(skin), ByteWriter().text(packageSkin()).written());
+    } else {
+        notWritten(preparation, skin);
+    }
 }
 
 // A template's copy has the day in its name: "Template 2026-11-25.iff", or with a number behind the day if there is
@@ -139,6 +156,7 @@ void bringSkinSets(Preparation& preparation) {
 
 Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
     Preparation preparation;
+    deleteLeftOverParts(".");
     bringSkin(preparation, simsDirectory);
     bringTemplate(preparation, simsDirectory, newTemplate);
     bring(preparation, familyTemplateFile, presentFamilyTemplate(familyTemplateFile), makeFamilyTemplate());

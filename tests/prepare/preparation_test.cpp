@@ -95,6 +95,10 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
     files_.remove("tool/famtemplate");
     files_.remove("tool/skinsets-original.cfg");
     expectMissing("unpack");
+    fs::remove_all(game_ / "GameData");
+    EXPECT_TRUE(writeFile(game_ / "GameData", "no directory"));
+    expectMissing("HEAD.skn can't be written: its directory is missing");
+    fs::remove(game_ / "GameData");
     files_.write("tool/skinsets-original.cfg", "heads");
     for (const auto& entry : fs::directory_iterator(characters_))
         EXPECT_TRUE(writeFile(entry.path(), "broken"));
