@@ -96,6 +96,8 @@ void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
 
 // A template's copy has the day in its name: "Template 2026-11-25.iff", or with a number behind the day if there is
 // such a file.
+constexpr std::string_view copyPrefix = "Template 2";
+
 std::string freeCopyName() {
     SYSTEMTIME now{};
     GetSystemTime(&now);
@@ -109,6 +111,16 @@ std::string freeCopyName() {
     return name;
 }
 
+// True if there is a copy, perhaps from a run that failed later.
+bool keepCopy(Preparation& preparation, const Bytes& file) {
+    for (const std::string& name : fileNamesIn(".")) {
+        if (!name.starts_with(copyPrefix) || readWholeFile(name.c_str()) != file) continue;
+        done(preparation, name + " is a copy of the old one.");
+        return true;
+    }
+    return writeNew(preparation, freeCopyName(), file);
+}
+
 void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool isThere) {
     const std::optional<Bytes> old = isThere ? readWholeFile(templateFile) : std::nullopt;
     if (isThere && !old) return keep(preparation, templateFile, Present::unusable);
@@ -119,8 +131,7 @@ void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool i
                                  "Please create a family with an adult in the game, save, and try again.");
     } else if (old == source.madeTemplate) {
         keep(preparation, templateFile, Present::usable);
-    } else if ((!old || writeNew(preparation, freeCopyName(), *old)) &&
-               writeNew(preparation, templateFile, source.madeTemplate)) {
+    } else if ((!old || keepCopy(preparation, *old)) && writeNew(preparation, templateFile, source.madeTemplate)) {
         done(preparation, "It is made of " + source.path + ".");
     }
 }

@@ -39,9 +39,9 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
     EXPECT_TRUE(isReady()) << report_;
     EXPECT_EQ(differences(players, treeOf(files_.path("tool"))) + differences(before, treeOf(game_)), "");
 
-    // The template of earlier packages is replaced unasked.
+    // What has a copy gets no second one. The template of earlier packages is replaced unasked.
     files_.remove("tool/Template.iff");
-    for (const Bytes& old : {own, makeFactTemplate()}) {
+    for (const Bytes& old : {own, own, makeFactTemplate()}) {
         files_.write("tool/Template.iff", old);
         EXPECT_TRUE(isReady(old == own)) << report_;
         EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
