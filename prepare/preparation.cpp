@@ -121,14 +121,30 @@ bool keepCopy(Preparation& preparation, const Bytes& file) {
     return writeNew(preparation, freeCopyName(), file);
 }
 
+// As a sentence, and what to do.
+std::string whyNoSource(const TemplateSource& source, const std::string& simsDirectory) {
+    FileStatus status{};
+    if (!queryFileStatus(simsDirectory.substr(0, simsDirectory.size() - 1).c_str(), status)) {
+        return "The game's directory " + simsDirectory + " can't be found. Please prepare again when it is there.";
+    }
+    const std::string create = "create a family with an adult in the game, save, and prepare again.";
+    if (source.found == 0) {
+        return "No character file can be seen in " + simsDirectory +
+               "UserData\\Characters. Please allow reading it, or " + create;
+    }
+    const std::string unreadable =
+        source.unreadable == 0 ? "" : "; " + std::to_string(source.unreadable) + " of them can't be read";
+    return "None of the " + std::to_string(source.found) + " character files of your game is that of an adult whom a " +
+           "player made" + unreadable + ". Please " + create;
+}
+
 void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool isThere) {
     const std::optional<Bytes> old = isThere ? readWholeFile(templateFile) : std::nullopt;
     if (isThere && !old) return keep(preparation, templateFile, Present::unusable);
     const TemplateSource source = findTemplateSource(simsDirectory);
     if (source.madeTemplate.empty()) {
-        missing(preparation, std::string(templateFile) +
-                                 " is missing: no character file of your game is that of an adult whom a player made. "
-                                 "Please create a family with an adult in the game, save, and try again.");
+        missing(preparation, templateFile + std::string(isThere ? " stays as it is. " : " is missing. ") +
+                                 whyNoSource(source, simsDirectory));
     } else if (old == source.madeTemplate) {
         keep(preparation, templateFile, Present::usable);
     } else if ((!old || keepCopy(preparation, *old)) && writeNew(preparation, templateFile, source.madeTemplate)) {

@@ -103,10 +103,12 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
     for (const auto& entry : fs::directory_iterator(characters_))
         EXPECT_TRUE(writeFile(entry.path(), "broken"));
     fs::remove_all(game_ / "UserData2");
-    expectMissing("Template.iff is missing", true);
+    expectMissing("Template.iff stays as it is. None of the ", true);
     files_.remove("tool/Template.iff");
     fs::remove_all(characters_);
-    expectMissing("Template.iff is missing");
+    expectMissing("Template.iff is missing. No character file can be seen");
+    fs::remove_all(game_);
+    expectMissing("can't be found");
 }
 
 TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
