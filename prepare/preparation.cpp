@@ -179,6 +179,13 @@ void bringSkinSets(Preparation& preparation) {
     }
 }
 
+std::string plannedTemplate(bool newTemplate) {
+    const Present present = presentTemplate(templateFile);
+    if (!isMade(present, newTemplate)) return "";
+    const std::string made = std::string("    ") + templateFile + ", out of one of your own Sims' files\n";
+    return present == Present::nothing ? made : made + "    (the present one is kept as a copy with a date)\n";
+}
+
 }  // namespace
 
 Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
@@ -189,4 +196,20 @@ Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
     bring(preparation, familyTemplateFile, presentFamilyTemplate(familyTemplateFile), makeFamilyTemplate());
     if (preparation.ready) bringSkinSets(preparation);
     return preparation;
+}
+
+std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate) {
+    std::string inTool = plannedTemplate(newTemplate), all;
+    const auto add = [](std::string& text, const char* name) { text.append("    ").append(name).append("\n"); };
+    if (presentFamilyTemplate(familyTemplateFile) == Present::nothing) add(inTool, familyTemplateFile);
+    if (presentFile(skinSetsName) == Present::nothing) add(inTool, skinSetsName);
+    if (presentFile(simsDirectory + installedSkin) == Present::nothing) {
+        all = "In the game's directory " + simsDirectory + ":\n";
+        add(all, installedSkin);
+    }
+    return inTool.empty() ? all : all + "In " + toolDirectory + ":\n" + inTool;
+}
+
+bool isToolDirectory() {
+    return hasBytes(skinSetsName) || hasBytes(originalSkinSets);
 }

@@ -18,4 +18,10 @@ struct Preparation {
 // kept under a dated name. Nothing else of the player's is changed.
 Preparation prepareGame(const char* simsDirectory, bool newTemplate);
 
+// What prepareGame would make now, with the directories, a line for each file; empty if nothing. Nothing is changed.
+std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate);
+
+// Whether the working directory is the one that the program was unpacked to: it has one of the two files of skin sets.
+bool isToolDirectory();
+
 #endif

@@ -36,11 +36,14 @@ int tell(const std::string& text, int code) {
     return code;
 }
 
-std::string question(std::string_view simsDirectory, std::string_view toolDirectory) {
-    std::string text = "Tidewright needs a skin in the game's directory,\n";
-    text.append(simsDirectory).append("\nand a template made of one of your own Sims, with a few other files, in\n");
-    text.append(toolDirectory).append("\n\nYour Sims and neighborhoods stay as they are. Shall these files be made?");
-    return text;
+// IDOK, also if there is nothing to ask.
+int answerTo(const std::string& plannedFiles) {
+    if (plannedFiles.empty()) return IDOK;
+    const std::string text = "These files will be made.\n\n" + plannedFiles +
+                             "\nYour Sims and neighborhoods stay as they are. Shall the files be made?";
+    const int answer = MessageBoxA(nullptr, text.c_str(), boxTitle, MB_OKCANCEL);
+    if (answer == 0) tell("Without a display this needs the option --yes.", somethingMissing);
+    return answer;
 }
 
 }  // namespace
@@ -56,14 +59,20 @@ int runProgram(int argumentCount, char** arguments) {
     }
     DirectoryText simsDirectory;
     if (const int refusal = checkGame(simsDirectory); refusal != 0) return refusal;
+    if (!isToolDirectory()) {
+        return tell("Please start this program in the directory that it was unpacked to.\n\nIt was started in\n" +
+                        std::string(toolDirectory.data()),
+                    somethingMissing);
+    }
     if (!options.yes) {
-        const std::string text = question(simsDirectory.view(), toolDirectory.data());
-        const int answer = MessageBoxA(nullptr, text.c_str(), boxTitle, MB_OKCANCEL);
-        if (answer == 0) tell("Without a display this needs the option --yes.", somethingMissing);
-        if (answer != IDOK) return somethingMissing;
+        const std::string files = plannedFiles(simsDirectory.c_str(), toolDirectory.data(), options.newTemplate);
+        if (answerTo(files) != IDOK) return somethingMissing;
+        // The question may have been open for long. What it named is what is prepared.
+        DirectoryText directoryNow;
+        if (const int refusal = checkGame(directoryNow); refusal != 0) return refusal;
     }
     const Preparation preparation = prepareGame(simsDirectory.c_str(), options.newTemplate);
     const char* const end =
-        preparation.ready ? "\nEverything is ready: Tidewright can start." : "\nTidewright isn't ready yet.";
+        preparation.ready ? "\nEverything is ready: Tidewright can start." : "\nNot everything is ready.";
     return tell(preparation.report + end, preparation.ready ? 0 : somethingMissing);
 }

@@ -2,7 +2,8 @@
 #ifndef PREPARE_PROGRAM_H
 #define PREPARE_PROGRAM_H
 
-// Refuses without a game or beside a running one, asks once, prepares, and says in a box what was done. The options are
+// Refuses without a game, beside a running one, and in a directory that the program wasn't unpacked to. Asks once, if
+// anything is to be made, prepares, and says in a box what was done. The options are
 // "--yes", to ask nothing, and "--new-template"; the first argument is the program's name. Without a display the texts
 // go to standard error, and nothing is done without "--yes".
 //

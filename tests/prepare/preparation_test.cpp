@@ -112,17 +112,22 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
 }
 
 TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
+    const std::string tool = fs::current_path().string();
+    const std::string planned = "In " + tool + ":\n    Template.iff, out of one of your own Sims' files\n";
     const struct {
         std::string option;
         int answer, code;
-        const char* said;
+        std::string said, directory = "tool";
     } rows[] = {{"--no", IDOK, 1, "The options are"},
-                {"", IDCANCEL, 1, "Tidewright needs a skin"},
+                {"--yes", IDOK, 1, "in the directory that it was unpacked to", "prefix"},
+                {"", IDCANCEL, 1, "-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"},
                 {"--yes", IDOK, 0, "Everything is ready"},
-                {"--new-template", IDOK, 0, "Tidewright needs a skin"}};
+                {"", IDOK, 0, "Everything is ready"},
+                {"--new-template", IDOK, 0, "will be made.\n\n" + planned + "    (the present one is kept"}};
     const Tree unprepared = treeOf(files_.path());
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.option);
+        SCOPED_TRACE(row.said);
+        fs::current_path(files_.path(row.directory));
         std::string program = "tidewright-prepare", option = row.option;
         char* arguments[] = {program.data(), option.data()};
         const AnsweredBox first = answerNextBox(row.answer), second = answerNextBox(IDOK);
@@ -131,13 +136,15 @@ TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
         EXPECT_EQ(second->shown, option == "--new-template");
         EXPECT_EQ(treeOf(files_.path()) == unprepared, row.code != 0);
         if (row.code != 0) continue;
-        EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
+        EXPECT_EQ(files_.bytesOf("tool/Template.iff"),
+                  option.empty() ? playersTemplate(textLetter) : expectedTemplate());
         files_.write("tool/Template.iff", playersTemplate(textLetter));
     }
-    uninstallGame(files_.path("prefix"));
-    const AnsweredBox box = answerNextBox(IDOK);
+    files_.remove("tool/famtemplate");
+    const AnsweredBox question = answerNextBox(IDOK, [this] { uninstallGame(files_.path("prefix")); });
+    const AnsweredBox refusal = answerNextBox(IDOK);
     EXPECT_EQ(runProgram(0, nullptr), -1);
-    EXPECT_EQ(box->title, "Cannot find The Sims");
+    EXPECT_TRUE(refusal->title == "Cannot find The Sims" && !files_.exists("tool/famtemplate"));
 }
 
 }  // namespace
