@@ -1,8 +1,10 @@
 #include "prepare/template_maker.h"
 
+#include "platform/byte_order.h"
 #include "prepare/neutral_picture.h"
 #include "tests/prepare/unprepared_game.h"
 #include "tests/support/iff_walk.h"
+#include "tests/support/test_neighborhood.h"
 
 namespace {
 
@@ -88,6 +90,38 @@ TEST(TemplateTest, HoldsTheBehaviourAndNothingOfTheSim) {
     const std::string body = "STR#\0\0\4\x73\0\xC8\0\20bodystring"s + std::string(54, '\0') + "\xFD\xFF\x21\0\1adult"s +
                              text + std::string(12, '\0') + "rsmp";
     EXPECT_EQ(textAt(file, 54016, body.size()), body);
+}
+
+TEST(TemplateTest, SimsSavedFromItAreReadAgainWithAMapAndWithoutOne) {
+    std::vector<SampleCharacter> sims = {{.name = "Ann", .guid = 0x04030201, .tag = "child", .slots = childSlots()},
+                                         {.recordName = "user00002", .name = "Bob", .guid = 2, .slots = teenSlots()},
+                                         {.recordName = "user00003", .name = "Cleo", .guid = 3}};
+    for (SampleCharacter& sim : sims)
+        sim.ending = BodyEnding::atEntry33;
+    TestNeighborhood test(householdOf(sims), sims);
+    const Bytes made = makeTemplate(chunksOf({.behaviour = BehaviourSet::newer}));
+    test.files().write("Template.iff", made);
+    for (const int i : {0, 1, 2}) {
+        EXPECT_TRUE(test.sim(i).loadName() == 1 && test.sim(i).loadGuid() == 1 && test.sim(i).loadBodyStrings() == 1);
+        test.sim(i).setStage(i == 0 ? stageNumber::teen : stageNumber::adult, nullptr);
+    }
+    test->save(test->toolDirectory());
+    for (const bool map : {true, false}) {
+        test.load();
+        for (int i = 0; const SampleCharacter& expected : sims) {
+            const std::string file = TestNeighborhood::characterFile(expected.recordName);
+            Bytes saved = test.files().bytesOf(file);
+            EXPECT_EQ(saved.size(), made.size());
+            if (!map) overwrite(saved, 60, Bytes(4));
+            test.files().write(file, saved);
+            Sim& sim = test.sim(i++);
+            EXPECT_EQ(sim.name(), expected.name);
+            EXPECT_EQ(readU32Le(sim.guid().bytes()), expected.guid);
+            ASSERT_TRUE(sim.bodyStrings() != nullptr && sim.characterTag());
+            for (std::size_t slot = 0; slot < expected.slots.size(); ++slot)
+                EXPECT_EQ(sim.bodyStrings()->slot(static_cast<bodySlot::Index>(slot)), expected.slots[slot]);
+        }
+    }
 }
 
 TEST(TemplateTest, IsNotMadeIfASearchOfItsMapWouldGoWrong) {
