@@ -17,6 +17,7 @@ constexpr int somethingMissing = 1;
 struct Options {
     bool yes = false;          // ask nothing
     bool newTemplate = false;  // replace a template that is there
+    bool ifNeeded = false;     // show nothing if nothing is missing
     bool valid = true;
 };
 
@@ -26,7 +27,8 @@ Options optionsOf(int count, char** arguments) {
         const std::string_view argument = arguments[i];
         options.yes |= argument == "--yes";
         options.newTemplate |= argument == "--new-template";
-        options.valid &= argument == "--yes" || argument == "--new-template";
+        options.ifNeeded |= argument == "--if-needed";
+        options.valid &= argument == "--yes" || argument == "--new-template" || argument == "--if-needed";
     }
     return options;
 }
@@ -50,7 +52,12 @@ int answerTo(const std::string& plannedFiles) {
 
 int runProgram(int argumentCount, char** arguments) {
     const Options options = optionsOf(argumentCount, arguments);
-    if (!options.valid) return tell("The options are --yes, to ask nothing, and --new-template.", somethingMissing);
+    if (!options.valid) {
+        return tell(
+            "The options are --yes, to ask nothing, --new-template, and --if-needed, to show nothing if nothing is "
+            "missing.",
+            somethingMissing);
+    }
     std::array<char, DirectoryText::capacity() + 1> toolDirectory{};
     // The program would refuse to start in a directory with a longer path.
     const DWORD length = GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data());
@@ -64,14 +71,15 @@ int runProgram(int argumentCount, char** arguments) {
                         std::string(toolDirectory.data()),
                     somethingMissing);
     }
+    const std::string files = plannedFiles(simsDirectory.c_str(), toolDirectory.data(), options.newTemplate);
     if (!options.yes) {
-        const std::string files = plannedFiles(simsDirectory.c_str(), toolDirectory.data(), options.newTemplate);
         if (answerTo(files) != IDOK) return somethingMissing;
         // The question may have been open for long. What it named is what is prepared.
         DirectoryText directoryNow;
         if (const int refusal = checkGame(directoryNow); refusal != 0) return refusal;
     }
     const Preparation preparation = prepareGame(simsDirectory.c_str(), options.newTemplate);
+    if (options.ifNeeded && files.empty() && preparation.ready) return 0;
     const char* const end =
         preparation.ready ? "\nEverything is ready: Tidewright can start." : "\nNot everything is ready.";
     return tell(preparation.report + end, preparation.ready ? 0 : somethingMissing);
