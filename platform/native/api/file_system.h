@@ -30,7 +30,8 @@ BOOL FindClose(HANDLE search);
 BOOL CreateDirectoryA(LPCSTR path, SECURITY_ATTRIBUTES* attributes);
 
 // The process's working directory. The getter writes a native path with its terminator and returns its length without
-// it. If `size` bytes are too few, it writes nothing and returns the size needed, terminator included.
+// it. If `size` bytes are too few, it writes nothing and returns the size needed, terminator included. The path is in
+// Windows-1252, to be shown, if it leads back to the directory so; else its bytes are the file system's own.
 BOOL SetCurrentDirectoryA(LPCSTR path);
 DWORD GetCurrentDirectoryA(DWORD size, LPSTR path);
 

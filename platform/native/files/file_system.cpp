@@ -98,9 +98,12 @@ DWORD GetCurrentDirectoryA(DWORD size, LPSTR path) {
         SetLastError(windowsError(errno));
         return 0;
     }
-    const auto length = static_cast<DWORD>(std::strlen(directory));
+    // Not if a character is outside the code page, or if the way to the directory can't be listed.
+    std::string text = text1252FromUtf8(directory);
+    if (nativePath(text.c_str()) != directory) text = directory;
+    const auto length = static_cast<DWORD>(text.size());
     if (length >= size) return length + 1;
-    std::memcpy(path, directory, length + 1);
+    std::memcpy(path, text.c_str(), length + 1);
     return length;
 }
 

@@ -2,7 +2,9 @@
 
 #include <csignal>
 
+#include "prepare/program.h"
 #include "tests/prepare/unprepared_game.h"
+#include "tests/support/user.h"
 
 namespace {
 
@@ -30,6 +32,13 @@ TEST_F(PreparationTest, ADeadLinkStaysAndIsReported) {
         EXPECT_TRUE(!isReady(true) && reports("leads to no file") && fs::is_symlink(link)) << link << report_;
         fs::remove(link);
     }
+}
+
+TEST_F(PreparationTest, TheQuestionShowsTheLettersOfTheDirectory) {
+    fs::rename(files_.path("tool"), files_.path("t\xC3\xB6\xC3\xB6l"));
+    const AnsweredBox question = answerNextBox(IDOK), end = answerNextBox(IDOK);
+    EXPECT_EQ(runProgram(0, nullptr), 0);
+    EXPECT_NE(question->text.find("t\xF6\xF6l:\n"), std::string::npos) << question->text;
 }
 
 }  // namespace
