@@ -30,6 +30,7 @@ TEST_F(PreparationTest, ADeadLinkStaysAndIsReported) {
         fs::create_symlink("nowhere", link);
     for (const fs::path& link : links) {
         EXPECT_TRUE(!isReady(true) && reports("leads to no file") && fs::is_symlink(link)) << link << report_;
+        EXPECT_EQ(reports("Template.iff is there, but leads"), fs::is_symlink("Template.iff")) << report_;
         fs::remove(link);
     }
 }
