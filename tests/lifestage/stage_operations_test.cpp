@@ -52,7 +52,8 @@ std::string outfits(const std::string& build, const std::string& tone) {
     return outfit("F100" + build, tone) + outfit("S100" + build, tone) + outfit("L100" + build, tone);
 }
 
-// The outfits, and before them what differs from a child of this sex and tone, who has the same anchors and hands.
+// The slots that differ from those of a child of this sex and tone, who has the same anchors and hands, and all
+// outfits.
 std::string grownSlots(const BodyStrings& body, std::int16_t sex, const std::string& tone) {
     const BodySlots slots = slotsOf(body);
     const BodySlots child = childSlots(sex == female ? BodySex::female : BodySex::male, tone);

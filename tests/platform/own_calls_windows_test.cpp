@@ -41,7 +41,7 @@ TEST_F(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
     RegCloseKey(key);
 }
 
-TEST_F(OwnCallsWindowsTest, AFileIsMadeAnewOnceNobodyElseHoldsTheDeletedOne) {
+TEST_F(OwnCallsWindowsTest, AFileIsMadeAgainOnceNoProgramHoldsTheDeletedOne) {
     const TempDirectory directory;
     directory.write("live.iff", "old");
     const std::string path = directory.path("live.iff");

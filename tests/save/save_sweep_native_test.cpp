@@ -47,7 +47,7 @@ class SaveSweepTest : public SaveTest {
         if (saves == 0) noteFirst();
     }
 
-    // Does that with each call from `begin` on, the next one `step` calls further, in turn answered by `answer`.
+    // Saves twice for each call from `begin` on, in steps of `step`: the first save gets `answer` for that call.
     void sweep(int answer, int begin, int step, bool hasNamelessFiles = true) {
         int point = begin;
         do {
@@ -112,7 +112,7 @@ TEST_F(SaveSweepTest, AKilledSaveLosesNothing) {
 TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
     for (const bool hasNamelessFiles : {true, false}) {
         const int step = std::getenv("TIDEWRIGHT_ALL_POINTS") != nullptr ? 1 : hasNamelessFiles ? 4 : 12;
-        int begin = 1;  // another one for each error, so that together they come to all calls
+        int begin = 1;  // another one for each error: together they meet all calls, or with a step of 12 a third
         for (const int error : {ENOSPC, EIO, EACCES, EMFILE})
             sweep(error, begin++, step, hasNamelessFiles);
     }

@@ -5,7 +5,7 @@ namespace {
 
 const SampleNeighborhood allBehindFreeRoom = {.before = {{.type = "XXXX"}}};
 
-TEST_F(SaveTest, NewFamiliesStandWhereTheFileIsCutAndThoseOfTheNextSaveBehindThem) {
+TEST_F(SaveTest, NewFamiliesBeginWhereTheFileIsCutAndThoseOfTheNextSaveFollow) {
     const struct {
         const char* what;
         SampleNeighborhood shape;

@@ -102,7 +102,7 @@ TEST_F(MainWindowTest, ItsControlsAreAtTheirPlaces) {
             EXPECT_EQ(std::tuple(place.left, place.top, place.right), std::tuple(left, top, right));
         }
         EXPECT_EQ(enabled(), "");
-        // Every known command ends with a repaint, and that with the arrow. Only a pick or a click does anything else.
+        // Every known command ends with a repaint, which brings the arrow back. Only a pick or a click does more.
         pick(0, 0, 3);
         for (const unsigned id : {1001U, 1002U, 1003U, 2001U, 2002U, 2010U, 32774U}) {
             SCOPED_TRACE(id);

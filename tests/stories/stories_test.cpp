@@ -35,7 +35,7 @@ void waitUntil(const std::string& step, const std::function<bool()>& done) {
     ADD_FAILURE() << "never happened: " << step;
 }
 
-// Each begins with a game that nobody prepared, and a tool directory as it is unpacked.
+// Each begins with an unprepared game, and a tool directory as it is unpacked.
 class Stories : public testing::Test {
  protected:
     Stories() {

@@ -83,7 +83,7 @@ class TempDirectory {
     void makeDirectory(const std::string& name) const {
         EXPECT_TRUE(std::filesystem::create_directories(path_ / name)) << name;
     }
-    // The second name of a file. Makes the directories on the way.
+    // Gives `file` a second name, `name`. Makes the directories on the way.
     void link(const std::string& name, const std::string& file) const {
         std::filesystem::create_directories((path_ / name).parent_path());
         std::filesystem::create_hard_link(path_ / file, path_ / name);

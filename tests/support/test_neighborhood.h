@@ -12,8 +12,8 @@
 #include "tests/support/temp_directory.h"
 #include "world/neighborhood.h"
 
-// One family of these Sims. Each neighbor takes name and GUID from its character and is else a default one; a test
-// changes what it needs.
+// One family of these Sims. Each neighbor takes name and GUID from its character and is otherwise a default one; a
+// test changes what it needs.
 inline SampleNeighborhood householdOf(const std::vector<SampleCharacter>& characters) {
     SampleNeighborhood content{.neighbors = {}, .families = {SampleFamily{.members = {}}}};
     for (const SampleCharacter& character : characters) {

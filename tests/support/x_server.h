@@ -34,7 +34,7 @@ class XServer {
     const std::string& display() const { return display_; }  // ":1234"
     xcb_connection_t* connection() const { return connection_; }
 
-    // The atom's number. When it is here, the server has done what came before.
+    // The atom's number. When this returns, the server has carried out all earlier requests.
     unsigned atom(std::string_view name) const {
         const auto asked = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
         xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection_, asked, nullptr);

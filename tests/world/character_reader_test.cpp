@@ -19,7 +19,7 @@ std::array<int, 3> resultsOf(Sim& sim) {
 const std::string file = TestNeighborhood::characterFile("user00001");
 const SampleNeighborhood oneSim = {.neighbors = {{}}};
 
-TEST(CharacterReader, BothRoadsLeadToTheSameParts) {
+TEST(CharacterReader, TheSamePartsAreFoundWithAMapAndWithoutOne) {
     const struct {
         const char* what;
         SampleCharacter character;

@@ -82,7 +82,7 @@ TEST(NeighborhoodReader, WhatGoesBeyondTheTablesIsReadAndNotListed) {
     EXPECT_EQ(read->simCount(), 820);
 }
 
-TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatStandsWholeInFront) {
+TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatIsWholeBeforeTheCut) {
     TestNeighborhood read(
         SampleNeighborhood{.neighbors = {{}, {}}, .families = {{.number = 3}, {.number = 8}}, .freeRoom = true});
     const NeighborhoodFile& built = read.built();
@@ -130,7 +130,7 @@ TEST(Members, AFamilyFindsThemByGuidAndLosesThemByName) {
     EXPECT_EQ(family.adultCount(), 5);
 }
 
-TEST(Neighborhoods, OneThatCannotBeReadIsToldAndHidesTheRest) {
+TEST(Neighborhoods, OneThatCannotBeReadIsReportedAndHidesTheRest) {
     const TempDirectory files;
     for (int number = 1; number <= 101; ++number) {
         const std::string directory = "UserData" + (number == 1 ? "" : std::to_string(number));

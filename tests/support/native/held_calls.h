@@ -54,7 +54,7 @@ inline void answerCalls(int listener, pid_t child, const CallDecision& decide) {
         const int decision = decide(held.data);
         if (decision == heldCall::endProcess) kill(child, SIGKILL);
         if (decision > 0) answer.error = -decision;
-        // Without a power cut the disk itself doesn't matter, and it takes its time.
+        // Nothing here cuts the power, so a sync would only take time.
         if (decision == heldCall::carryOut && held.data.nr != SYS_fsync)
             answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener, SECCOMP_IOCTL_NOTIF_SEND, &answer);
