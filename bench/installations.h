@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <vector>
 
-// The game's directory, with a trailing backslash: one neighborhood of 566 KB with 216 Sims. It goes with the process.
+// The game's directory, with a trailing backslash: one neighborhood of 566 KB with 216 Sims. It is deleted at exit.
 const char* largeSimsDirectory();
 std::filesystem::path largeNeighborhoodDirectory();
 

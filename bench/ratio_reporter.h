@@ -1,4 +1,4 @@
-// Prints the usual table, and then what counts: how many times the bare bytes' cost the program takes, out of one run.
+// Prints the usual table, and then the ratios of README.md: the program's time over that of the bare work, in one run.
 #ifndef BENCH_RATIO_REPORTER_H
 #define BENCH_RATIO_REPORTER_H
 

@@ -60,7 +60,7 @@ void start(benchmark::State& state, const char* program, const char* title) {
     setenv("WINEPREFIX", samplePrefix().c_str(), 1);
     setenv("DISPLAY", server.display().c_str(), 1);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
-    setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);  // what the one does, the other would wait for
+    setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);  // the program does so itself
     watchWindows(server.connection());
     const std::string path = fs::read_symlink("/proc/self/exe").parent_path() / program;
     posix_spawn_file_actions_t inToolDirectory;

@@ -21,8 +21,9 @@ constexpr std::uint16_t initTraitsId = 4100;
 // What the chunk "GLOB" of a Sim names: the behaviours that all Sims share.
 constexpr const char* sharedBehavioursName = "PersonGlobals";
 
-// Which chunks of behaviour a file has. Those of the two sets of a player's Sims are equally many, but of other sizes
-// and in another order. The game's own characters have the older set's and more; a pet has those of a pet.
+// Which chunks of behaviour a file has. A player's Sim has the older or the newer set: the same number of chunks, in
+// other sizes and another order. A townie has the older set and more. A pet has the older set, but names the shared
+// behaviours of pets.
 enum class BehaviourSet { older, newer, townie, pet };
 
 // Strings, trees, behaviours, slots and the name of the shared behaviours. All of them come before the name.

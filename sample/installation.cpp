@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 struct FileSizes {
     std::size_t neighborhood = 0;    // at least; 0 for no more than its content takes
-    bool growingCharacters = false;  // pads character files up to 50,000 to 369,000 bytes and gives each a map
+    bool growingCharacters = false;  // makes character files of 55,000 to 370,000 bytes, each with a map
     int friendsOfEach = 0;
 };
 

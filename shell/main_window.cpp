@@ -18,7 +18,7 @@ HWND createControl(HWND window, LPCSTR className, LPCSTR text, DWORD style, RECT
                            reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
 }
 
-// The height counts with the open list, as Windows' older controls take it; the newer ones show up to 30 entries.
+// The height includes the open list. Windows' newer controls show up to 30 entries whatever it is.
 HWND createCombo(HWND window, LONG x, LONG y, int id) {
     return createControl(window, "ComboBox", "", CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL, {x, y, x + 200, y + 200},
                          id);

@@ -20,7 +20,7 @@ void listFamilies(const Neighborhood& neighborhood) {
     }
 }
 
-// Slow for the first time: `memberCount` may read many character files.
+// Slow the first time: `memberCount` may read many character files.
 void listMembers(Family& family) {
     showWaitCursor();
     const std::int32_t count = family.memberCount();

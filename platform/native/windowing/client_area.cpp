@@ -20,7 +20,7 @@ void ClientArea::invalidate(const QRegion& region, bool erase) {
 }
 
 QRegion ClientArea::beginDrawing() {
-    surface();  // of another scale, perhaps, and then more than before waits
+    surface();  // after a change of scale the whole area waits
     QRegion drawn = waiting_;
     if (erase_ && hasBackground_) fill(drawn);
     waiting_ = QRegion();

@@ -54,7 +54,7 @@ LRESULT ComboBox::receive(UINT message, WPARAM wParam, LPARAM lParam) {
         case CB_GETCOUNT:
             return box().count();
         case CB_GETCURSEL:
-            return box().currentIndex();  // -1 for none in both worlds
+            return box().currentIndex();  // -1 for none, as on Windows
         default:
             return Control::receive(message, wParam, lParam);
     }
