@@ -31,7 +31,8 @@ need() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build PRESET [TARGET...]: configures once, then builds what has changed. Prints the last line of it, or all of a failure.
+# build PRESET [TARGET...]: configures once, then builds what has changed. Prints the last line of it, or all of a
+# failure.
 build() {
     local preset=$1 log result=0
     shift

@@ -1,13 +1,15 @@
 # Shared by the scripts that run Windows programs: Wine, quiet and in a prefix of our own.
 # shellcheck shell=bash
 
-# Without the overrides Wine would offer to download parts that aren't needed here, and would put entries into the user's own menu.
+# Without the overrides Wine would offer to download parts that aren't needed here, and would put entries into the
+# user's own menu.
 export WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 export LC_ALL=C  # whose code page is 1252
 
 own_prefix=
 
-# Ends what runs in the prefix of new_windows, if that was called; another prefix may be a player's, in the middle of a game.
+# Ends what runs in the prefix of new_windows, if that was called; another prefix may be a player's, in the middle of a
+# game.
 stop_windows() {
     [ -z "$own_prefix" ] || WINEPREFIX=$own_prefix wineserver -k || true
 }
