@@ -21,7 +21,8 @@ class SaveTest : public testing::Test {
  public:
     SaveTest() {
         characters_[0].slots.fill(std::string(25, 'x'));  // together longer than their room
-        std::iota(neighbors_[0].personValues.begin(), neighbors_[0].personValues.end(), 0x1000);
+        for (SampleNeighbor& neighbor : neighbors_)
+            std::iota(neighbor.personValues.begin(), neighbor.personValues.end(), 0x1000);
     }
     ~SaveTest() override { backupClock().followSystem(); }
 

@@ -130,6 +130,8 @@ TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
             EXPECT_EQ(enabled(), buttons);
             EXPECT_TRUE(showsSim());
         }
+        pickEntry(all.simCombo, 6);  // the pet again, without another pick of its family
+        EXPECT_EQ(enabled(), "");
         EXPECT_EQ(entries(all.familyCombo), "Thistlewood|Q&A|Cr\xE8me|Pennyfarthing|Larkspur|");
         EXPECT_EQ(entries(all.simCombo), "Hazel|Rowan|Bramble|Clover|Fern|Moss|Biscuit|Marmalade|");
         pickEntry(all.familyCombo, 1);
@@ -197,7 +199,8 @@ TEST_F(MainWindowTest, KeysAndMenuShowDialogsAndExitWithoutAQuestion) {
         pressKey(all.mainWindow, '?', Hold::altShift);
     });
     later([&] {
-        EXPECT_EQ(about->title, "About");
+        EXPECT_EQ(about->title + "\n" + about->text,
+                  "About\nMarrowfen Plus (Build 2)\nLets your Sims grow up and move out.");
         EXPECT_EQ(textOf(all.neighborhoodCombo), "Neighborhood 2") << "the list doesn't have the key";
         EXPECT_TRUE(chooseMenu(all.mainWindow, {"Help", "Credits"}));
     });
