@@ -34,7 +34,7 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
                                      .id = characterNameId,
                                      .content = textChunkContent({character.name, character.biography})});
     }
-    if (character.hasBodyStrings) built.bodyStringsOffset = file.add(sampleBodyStringsChunk(character));
+    built.bodyStringsOffset = file.add(sampleBodyStringsChunk(character));
     if (character.hasPictures) addWebPictureChunk(file, character.colors);
     if (character.map) built.mapOffset = file.addMap();
     built.bytes = file.bytes();

@@ -31,7 +31,6 @@ struct SampleCharacter {
     BehaviourSet behaviour = BehaviourSet::older;
     bool hasObject = true;              // "OBJD"
     bool hasName = true;                // "CTSS"
-    bool hasBodyStrings = true;         // "STR#" with id 200
     bool hasPictures = true;            // 49,000 of 55,000 bytes
     bool freeRoom = false;              // an "XXXX" chunk behind the behaviours
     bool map = true;                    // a resource map

@@ -155,6 +155,22 @@ bool writeCharacter(const fs::path& directory, SampleCharacter character, const 
     return writeFile(directory / fileName, makeCharacterFile(character).bytes);
 }
 
+SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighborhood& neighborhood) {
+    SampleNeighborhood file;
+    file.freeRoom = neighborhood.freeRoom;
+    file.map = neighborhood.map;
+    file.neighbors.push_back(ownCharacter("robot", 301, true));
+    for (const CastFamily& family : neighborhood.families) {
+        file.families.push_back(castFamily(neighborhoodIndex, family));
+        for (const CastSim& sim : family.members) {
+            if (sim.kind == SampleKind::withoutRecord) continue;
+            file.neighbors.push_back(castNeighbor(neighborhoodIndex, family, sim));
+        }
+    }
+    file.neighbors.push_back(ownCharacter("npc_clown", 302, false));
+    return file;
+}
+
 bool writeNeighborhood(const fs::path& game, int index, const CastNeighborhood& cast, const FileSizes& sizes) {
     const fs::path directory = game / cast.directory;
     const fs::path characters = directory / "Characters";
@@ -190,20 +206,4 @@ bool writeInstallation(const fs::path& prefix) {
 bool writeLargeInstallation(const fs::path& prefix, int neighborhoods) {
     constexpr FileSizes realSizes = {.neighborhood = 566000, .growingCharacters = true, .friendsOfEach = 60};
     return writeCast(prefix, largeCast(neighborhoods), realSizes);
-}
-
-SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighborhood& neighborhood) {
-    SampleNeighborhood file;
-    file.freeRoom = neighborhood.freeRoom;
-    file.map = neighborhood.map;
-    file.neighbors.push_back(ownCharacter("robot", 301, true));
-    for (const CastFamily& family : neighborhood.families) {
-        file.families.push_back(castFamily(neighborhoodIndex, family));
-        for (const CastSim& sim : family.members) {
-            if (sim.kind == SampleKind::withoutRecord) continue;
-            file.neighbors.push_back(castNeighbor(neighborhoodIndex, family, sim));
-        }
-    }
-    file.neighbors.push_back(ownCharacter("npc_clown", 302, false));
-    return file;
 }

@@ -17,7 +17,4 @@ bool writeInstallation(const std::filesystem::path& prefix);
 // to 370,000 bytes in each. One neighborhood takes some 46 million bytes.
 bool writeLargeInstallation(const std::filesystem::path& prefix, int neighborhoods = 3);
 
-// The content of a neighborhood's file, for tests that change a part of it.
-SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighborhood& neighborhood);
-
 #endif

@@ -8,7 +8,6 @@ constexpr UINT DT_LEFT = 0x0000;
 constexpr UINT DT_CENTER = 0x0001;
 constexpr DWORD SRCCOPY = 0x00CC0020;
 constexpr UINT IMAGE_BITMAP = 0;
-constexpr UINT IMAGE_ICON = 1;
 constexpr UINT LR_DEFAULTCOLOR = 0x0000;
 
 inline const LPCSTR IDC_ARROW = MAKEINTRESOURCEA(32512);

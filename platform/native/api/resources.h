@@ -15,8 +15,7 @@ HICON LoadIconA(HINSTANCE instance, LPCSTR name);
 // A cursor of the system (`instance` null): IDC_ARROW, IDC_WAIT or IDC_APPSTARTING.
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
 
-// A bitmap (IMAGE_BITMAP) or icon (IMAGE_ICON) of the resources in its own size; `width` and `height` must be 0. Null
-// if there is none.
+// A bitmap (IMAGE_BITMAP) of the resources in its own size; `width` and `height` must be 0. Null if there is none.
 HANDLE LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags);
 
 #endif

@@ -43,7 +43,6 @@ constexpr UINT CS_VREDRAW = 0x0001;
 constexpr UINT CS_HREDRAW = 0x0002;
 
 constexpr int CW_USEDEFAULT = static_cast<int>(0x80000000U);
-constexpr int SW_HIDE = 0;
 constexpr int SW_SHOWNORMAL = 1;
 constexpr int SW_SHOW = 5;
 constexpr int GWL_STYLE = -16;
@@ -90,7 +89,7 @@ HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, D
 #define CreateWindowA(className, windowName, style, x, y, width, height, parent, menu, instance, parameter) \
     CreateWindowExA(0, className, windowName, style, x, y, width, height, parent, menu, instance, parameter)
 
-// Shows or hides a window. A shown window is on the screen when this returns. Returns whether it was visible before.
+// Shows a window, whatever the command. It is on the screen when this returns. Returns whether it was visible before.
 BOOL ShowWindow(HWND window, int showCommand);
 
 // Sends WM_PAINT at once if part of the window needs drawing.

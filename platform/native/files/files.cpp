@@ -24,7 +24,6 @@ constexpr struct OpenMode {
     {"rb", O_RDONLY},
     {"r+b", O_RDWR},
     {"wb", O_WRONLY | O_CREAT | O_TRUNC},
-    {"w+b", O_RDWR | O_CREAT | O_TRUNC},
     {"ab", O_WRONLY | O_CREAT | O_APPEND},
     {"a+b", O_RDWR | O_CREAT | O_APPEND},
 };

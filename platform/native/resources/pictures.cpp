@@ -71,7 +71,6 @@ HICON LoadIconA(HINSTANCE, LPCSTR name) {
     return static_cast<HICON>(icons.add(std::make_unique<std::vector<QImage>>(std::move(pictures))));
 }
 
-HANDLE LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int, int, UINT) {
-    if (type == IMAGE_BITMAP) return loadBitmap(name);
-    return type == IMAGE_ICON ? LoadIconA(instance, name) : nullptr;
+HANDLE LoadImageA(HINSTANCE, LPCSTR name, UINT type, int, int, UINT) {
+    return type == IMAGE_BITMAP ? loadBitmap(name) : nullptr;
 }

@@ -30,7 +30,6 @@ class ResourceBytes {
     ResourceName name();  // FFFF and a number, or a text
 
     std::span<const std::uint8_t> take(std::size_t size);
-    std::span<const std::uint8_t> rest() { return take(left()); }
 
     // Skips to the next multiple of 4, counted from the first byte. Reaching the end is no failure.
     void align4();

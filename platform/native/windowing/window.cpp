@@ -60,13 +60,6 @@ std::vector<HWND> controlsOf(HWND window) {
     return controls;
 }
 
-HWND windowOfWidget(const QWidget* widget) {
-    for (const auto& [handle, window] : windows()) {
-        if (window->widget() == widget) return window->handle();
-    }
-    return nullptr;
-}
-
 HWND findOwnWindow(const char* title) {
     const QString wanted = qtText(title);
     for (const auto& [handle, window] : windows()) {

@@ -52,9 +52,6 @@ Window* findWindow(HWND window);
 std::vector<HWND> allWindows();
 std::vector<HWND> controlsOf(HWND window);
 
-// The window whose whole widget is `widget`; null for every other widget.
-HWND windowOfWidget(const QWidget* widget);
-
 // The program's top-level window, message box or dialog with exactly this title; null if there is none.
 HWND findOwnWindow(const char* title);
 

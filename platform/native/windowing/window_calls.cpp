@@ -21,16 +21,12 @@ void show(Window& window) {
 
 }  // namespace
 
-BOOL ShowWindow(HWND window, int showCommand) {
+BOOL ShowWindow(HWND window, int) {
     Window* const found = findWindow(window);
     if (found == nullptr) return FALSE;
     const bool wasVisible = found->widget()->isVisible();
-    found->noteVisible(showCommand != SW_HIDE);
-    if (showCommand == SW_HIDE) {
-        found->widget()->hide();
-    } else if (!wasVisible) {
-        show(*found);
-    }
+    found->noteVisible(true);
+    if (!wasVisible) show(*found);
     return wasVisible ? TRUE : FALSE;
 }
 
