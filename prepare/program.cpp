@@ -33,7 +33,7 @@ Options optionsOf(int count, char** arguments) {
     return options;
 }
 
-int tell(const std::string& text, int code) {
+int showText(const std::string& text, int code) {
     MessageBoxA(nullptr, text.c_str(), boxTitle, MB_OK);
     return code;
 }
@@ -44,7 +44,7 @@ int answerTo(const std::string& plannedFiles) {
     const std::string text = "These files will be made.\n\n" + plannedFiles +
                              "\nYour Sims and neighborhoods stay as they are. Shall the files be made?";
     const int answer = MessageBoxA(nullptr, text.c_str(), boxTitle, MB_OKCANCEL);
-    if (answer == 0) tell("Without a display this needs the option --yes.", somethingMissing);
+    if (answer == 0) showText("Without a display this needs the option --yes.", somethingMissing);
     return answer;
 }
 
@@ -53,7 +53,7 @@ int answerTo(const std::string& plannedFiles) {
 int runProgram(int argumentCount, char** arguments) {
     const Options options = optionsOf(argumentCount, arguments);
     if (!options.valid) {
-        return tell(
+        return showText(
             "The options are --yes, to ask nothing, --new-template, and --if-needed, to show nothing if nothing is "
             "missing.",
             somethingMissing);
@@ -62,14 +62,14 @@ int runProgram(int argumentCount, char** arguments) {
     // The program would refuse to start in a directory with a longer path.
     const DWORD length = GetCurrentDirectoryA(toolDirectory.size(), toolDirectory.data());
     if (length == 0 || length >= toolDirectory.size()) {
-        return tell("The path of this directory is too long.", somethingMissing);
+        return showText("The path of this directory is too long.", somethingMissing);
     }
     DirectoryText simsDirectory;
     if (const int refusal = checkGame(simsDirectory); refusal != 0) return refusal;
     if (!isToolDirectory()) {
-        return tell("Please start this program in the directory that it was unpacked to.\n\nIt was started in\n" +
-                        std::string(toolDirectory.data()),
-                    somethingMissing);
+        return showText("Please start this program in the directory that it was unpacked to.\n\nIt was started in\n" +
+                            std::string(toolDirectory.data()),
+                        somethingMissing);
     }
     const std::string files = plannedFiles(simsDirectory.c_str(), toolDirectory.data(), options.newTemplate);
     if (!options.yes) {
@@ -82,5 +82,5 @@ int runProgram(int argumentCount, char** arguments) {
     if (options.ifNeeded && files.empty() && preparation.ready) return 0;
     const char* const end =
         preparation.ready ? "\nEverything is ready: Tidewright can start." : "\nNot everything is ready.";
-    return tell(preparation.report + end, preparation.ready ? 0 : somethingMissing);
+    return showText(preparation.report + end, preparation.ready ? 0 : somethingMissing);
 }
