@@ -42,7 +42,9 @@ void seedCharacters() {
         for (const bool hasMap : {true, false}) {
             const SampleCharacter character{.ending = ending, .hasPictures = false, .map = hasMap};
             const std::string name = std::to_string(static_cast<int>(ending)) + (hasMap ? "with_map" : "without_map");
-            seed("character", name.c_str(), makeCharacterFile(character).bytes);
+            for (const char* const target : {"character", "template"}) {
+                seed(target, name.c_str(), makeCharacterFile(character).bytes);
+            }
         }
     }
 }
