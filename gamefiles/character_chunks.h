@@ -32,8 +32,9 @@ std::vector<IffChunk> behaviourChunks(BehaviourSet set);
 // How many of them come before the object definition.
 std::size_t chunksBeforeDefinition(BehaviourSet set);
 
-// Adds the five pictures that come before the name: faces, relationships, thumbnail and two for speech bubbles.
-// `relationshipRows` is the height of the second one in pixels. It grows with the number of friends.
+// Adds five pictures: faces, relationships, thumbnail and two for speech bubbles. With the older set they come before
+// the name, with the newer one behind the body strings. `relationshipRows` is the height of the second one in pixels.
+// It grows with the number of friends.
 constexpr int fewRelationshipRows = 40;
 constexpr std::size_t relationshipRowSize = 600;  // bytes
 void addPictureChunks(IffBuilder& file, const PortraitColors& colors, int relationshipRows = fewRelationshipRows);

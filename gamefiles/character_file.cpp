@@ -28,13 +28,16 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
         built.objectOffset = file.add(objectDefinition(character.recordName + " - " + character.name, character.guid));
     }
     addAll(file, std::span(behaviour).subspan(before));
-    if (character.hasPictures) addPictureChunks(file, character.colors, relationshipRows);
+    // The newer versions of the game put all pictures last.
+    const bool hasPicturesFirst = character.behaviour != BehaviourSet::newer;
+    if (character.hasPictures && hasPicturesFirst) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasName) {
         built.nameOffset = file.add({.type = "CTSS",
                                      .id = characterNameId,
                                      .content = textChunkContent({character.name, character.biography})});
     }
     built.bodyStringsOffset = file.add(sampleBodyStringsChunk(character));
+    if (character.hasPictures && !hasPicturesFirst) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasPictures) addWebPictureChunk(file, character.colors);
     if (character.map) built.mapOffset = file.addMap();
     built.bytes = file.bytes();
