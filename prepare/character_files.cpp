@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "gamefiles/iff_reader.h"
@@ -31,21 +32,24 @@ std::vector<std::string> characterNamesIn(const char* directory) {
     return names;
 }
 
-// Empty if no template can be made of the file.
-std::vector<IffChunk> usableChunks(const Bytes& file) {
+struct Candidate {
+    std::vector<IffChunk> chunks;
+    Bytes madeTemplate;  // empty if the file doesn't serve
+};
+
+Candidate candidateOf(const Bytes& file) {
     IffContents contents = readIff(file);
-    const bool isUsable =
-        contents.fault.empty() && refusalOf(contents.chunks).empty() && !makeTemplate(contents.chunks).empty();
-    if (!isUsable) contents.chunks.clear();
-    return contents.chunks;
+    if (!contents.fault.empty() || !refusalOf(contents.chunks).empty()) return {};
+    Bytes made = makeTemplate(contents.chunks);
+    return {std::move(contents.chunks), std::move(made)};
 }
 
 void look(const std::string& path, TemplateSource& source, SourceChoice& choice) {
     ++source.found;
     const std::optional<Bytes> file = readWholeFile(path.c_str());
     if (!file) ++source.unreadable;
-    const std::vector<IffChunk> chunks = usableChunks(file.value_or(Bytes()));
-    if (!chunks.empty()) choice.add(path, chunks);
+    const Candidate candidate = candidateOf(file.value_or(Bytes()));
+    if (!candidate.madeTemplate.empty()) choice.add(path, candidate.chunks);
 }
 
 }  // namespace
@@ -64,7 +68,6 @@ TemplateSource findTemplateSource(const char* simsDirectory) {
     }
     // The files aren't kept, since there may be many large ones. This one may have changed since.
     source.path = choice.best();
-    const std::vector<IffChunk> chunks = usableChunks(readWholeFile(source.path.c_str()).value_or(Bytes()));
-    if (!chunks.empty()) source.madeTemplate = makeTemplate(chunks);
+    source.madeTemplate = candidateOf(readWholeFile(source.path.c_str()).value_or(Bytes())).madeTemplate;
     return source;
 }
