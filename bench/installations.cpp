@@ -19,8 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* gameDirectory = "drive_c/Program Files (x86)/Maxis/The Sims";
-
 class Installations {
  public:
     Installations() : path_(fs::temp_directory_path() / ("tidewright-bench-" + std::to_string(getpid()))) {
@@ -29,7 +27,7 @@ class Installations {
         fs::copy(game() / "UserData", saved(), fs::copy_options::recursive);
         fs::create_directory(tools());
         if (!writeTemplates(tools()) || !writeFile(tools() / "skinsets.cfg", "TEENAGER=\n")) std::abort();
-        const fs::path skin = sample() / gameDirectory / "GameData/Skins" / packageSkinName;
+        const fs::path skin = gameDirectory(sample()) / "GameData/Skins" / packageSkinName;
         if (!writeFile(skin, packageSkin())) std::abort();
         setenv("WINEPREFIX", large().c_str(), 1);
     }
@@ -40,7 +38,7 @@ class Installations {
     fs::path large() const { return path_ / "one"; }
     fs::path sample() const { return path_ / "sample"; }
     fs::path tools() const { return path_ / "tools"; }
-    fs::path game() const { return large() / gameDirectory; }
+    fs::path game() const { return gameDirectory(large()); }
     fs::path saved() const { return path_ / "saved"; }
     fs::path many(int count) const { return path_ / std::to_string(count); }
 
