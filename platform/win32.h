@@ -1,5 +1,5 @@
 // The part of Win32 that this program calls, under its own names. On Windows these are the system's calls, except for
-// the five of own_calls.h. Elsewhere the headers below declare them, each with its contract, and `native/` implements
+// those of own_calls.h. Elsewhere the headers below declare them, each with its contract, and `native/` implements
 // them. Constants have Windows' values and structures its fields, so the same code compiles for both.
 //
 // A message, style or flag that these headers do not list does nothing outside Windows.

@@ -20,6 +20,7 @@ void enableButton(HWND button) {
 }
 
 void disableButton(HWND button) {
+    if (GetFocus() == button) SetFocus(all.simCombo);
     SetWindowLongA(button, GWL_STYLE, disabledButton);
 }
 

@@ -1,4 +1,4 @@
-// Our own versions of five of Windows' calls. platform/win32.h replaces the names of Windows with these, so that
+// Our own versions of four of Windows' calls. platform/win32.h replaces the names of Windows with these, so that
 // callers are the same on every system.
 #ifndef PLATFORM_WINDOWS_OWN_CALLS_H
 #define PLATFORM_WINDOWS_OWN_CALLS_H
@@ -17,10 +17,6 @@ HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWOR
 // BeginPaint with the message font selected. EndPaint releases the device context, and the font with it.
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 
-// SetWindowLongA. A control that this disables passes the keyboard focus to its parent. Windows leaves the focus on the
-// disabled control, where Alt and a letter open no menu until the next click.
-LONG setWindowLong(HWND window, int index, LONG value);
-
 // MessageBoxA. A box without an owner blocks every window of the program, like a box with one: a click on a window
 // would start a second operation within the one that asks. Afterwards the window that had the focus has it again, and
 // the wait cursor is back if it was shown.
@@ -30,6 +26,5 @@ int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type);
 #define RegOpenKeyExA openRegistryKey
 #define CreateWindowExA createWindow
 #define BeginPaint beginPaint
-#define SetWindowLongA setWindowLong
 
 #endif

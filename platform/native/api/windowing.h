@@ -111,6 +111,11 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // out: every index but GWL_STYLE.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
+// The control or window of the program that has the keyboard; null while another program has it. SetFocus passes the
+// keyboard to a window and returns the one that had it; null leaves it where it is.
+HWND GetFocus();
+HWND SetFocus(HWND window);
+
 // Calls the window's procedure, or the control's own (controls.h), and returns its result.
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

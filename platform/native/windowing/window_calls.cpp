@@ -1,9 +1,11 @@
 // The calls on existing windows: showing, drawing, styles, messages.
+#include <QApplication>
 #include <QWidget>
 #include <QWindow>
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
+#include "platform/native/screen/display.h"
 #include "platform/native/screen/event_pump.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
@@ -68,6 +70,21 @@ LONG SetWindowLongA(HWND window, int index, LONG value) {
     const auto old = static_cast<LONG>(found->style());
     found->setStyle(static_cast<DWORD>(value));
     return old;
+}
+
+HWND GetFocus() {
+    const QWidget* const focus = hasDisplay() ? QApplication::focusWidget() : nullptr;
+    for (HWND const window : allWindows()) {
+        if (focus != nullptr && findWindow(window)->widget() == focus) return window;
+    }
+    return nullptr;
+}
+
+HWND SetFocus(HWND window) {
+    HWND const before = GetFocus();
+    const Window* const found = findWindow(window);
+    if (found != nullptr) found->widget()->setFocus(Qt::OtherFocusReason);
+    return before;
 }
 
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
