@@ -111,8 +111,8 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // out: every index but GWL_STYLE.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
-// The control or window of the program that has the keyboard; null while another program has it. SetFocus passes the
-// keyboard to a window and returns the one that had it; null leaves it where it is.
+// The control that has the keyboard or, while another program has it, the control that will have it then; null for
+// none. SetFocus passes the keyboard to a control and returns the one that had it.
 HWND GetFocus();
 HWND SetFocus(HWND window);
 

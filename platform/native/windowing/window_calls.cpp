@@ -5,7 +5,6 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/screen/display.h"
 #include "platform/native/screen/event_pump.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
@@ -73,9 +72,10 @@ LONG SetWindowLongA(HWND window, int index, LONG value) {
 }
 
 HWND GetFocus() {
-    const QWidget* const focus = hasDisplay() ? QApplication::focusWidget() : nullptr;
     for (HWND const window : allWindows()) {
-        if (focus != nullptr && findWindow(window)->widget() == focus) return window;
+        const QWidget* const widget = findWindow(window)->widget();
+        if (QApplication::focusWidget() == nullptr ? widget->window()->focusWidget() == widget : widget->hasFocus())
+            return window;
     }
     return nullptr;
 }
