@@ -1,4 +1,4 @@
-// What only the native layer has: texts for screen readers, the picture of the screen, and the browser.
+// The words of stages, and what only the native layer has: the picture of the screen, and the browser.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -15,20 +15,7 @@
 
 namespace {
 
-TEST(MainWindowNativeTest, LinesAndLabelsAreSpoken) {
-    const TestNeighborhood neighborhood(householdOf({{}}), {{}});
-    neighborhood.family().memberCount();
-    selection() = {.simIndex = 0, .currentFamily = &neighborhood.family(), .currentSim = &neighborhood.sim(0)};
-    loadCursors();
-    later([] {
-        EXPECT_EQ(spokenText(controls().mainWindow),
-                  "Pick a Neighborhood:\nPick a Family:\nPick a Sim:\nName: Marigold Meadows\nStage: adult");
-        EXPECT_EQ(spokenName(controls().familyCombo), "Pick a Family:");
-        EXPECT_EQ(spokenName(controls().moveOutButton), "Move Out");
-        PostQuitMessage(0);
-    });
-    runMainWindow(SW_SHOWNORMAL);
-    selection() = {};
+TEST(MainWindowNativeTest, EachStageHasItsWord) {
     std::string words;
     for (std::int32_t stage = stageNumber::pet; stage <= stageNumber::adult; ++stage)
         words += stageWord(stage) + std::string(" ");

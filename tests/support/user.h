@@ -73,10 +73,6 @@ struct Picture {
 };
 Picture pictureOf(HWND window);
 
-// What a screen reader calls a window, and the lines that the window itself shows. Only Qt's windows are asked.
-std::string spokenName(HWND window);
-std::string spokenText(HWND window);
-
 // What support/user.cpp asks of a window system. From now on it calls workWhenQuiet() each time a message loop of the
 // program, or a box's own, has nothing to do while work waits for it.
 void watchForQuiet();

@@ -41,7 +41,7 @@ BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
     dropDeviceContext(paint->hdc);
     ClientArea& area = *found->clientArea();
     area.show(drawn);
-    area.spokenLines().describe(*found->widget(), area);
+    area.spokenLines().publish(area);
     return TRUE;
 }
 

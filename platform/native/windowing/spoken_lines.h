@@ -1,13 +1,17 @@
-// The lines of text that the program draws into a window, for screen readers. All of them together describe the window,
-// and a label drawn to the left of a combo box names that box.
+// The lines of text that the program draws into a window, as objects for screen readers. A line drawn to the left of a
+// combo box is that box's label. Changes of the others are announced, wherever the keyboard is, and so is a new pick,
+// which screen readers would notice in a list only.
 #ifndef PLATFORM_NATIVE_WINDOWING_SPOKEN_LINES_H
 #define PLATFORM_NATIVE_WINDOWING_SPOKEN_LINES_H
 
 #include <QRect>
 #include <QRegion>
-#include <QString>
+#include <QStringList>
+#include <map>
 #include <vector>
 
+class QComboBox;
+class QLabel;
 class QWidget;
 
 class SpokenLines {
@@ -18,19 +22,27 @@ class SpokenLines {
     // `place` is the rectangle of the text in the client area.
     void add(const QRect& place, const QString& text);
 
-    // Sets the description of the window and the names of the combo boxes directly in `client`, where they have
-    // changed.
-    void describe(QWidget& window, const QWidget& client) const;
+    // Brings the objects in `client` up to date: a static text for each line, in reading order with the controls, and
+    // the names of the combo boxes.
+    void publish(QWidget& client);
 
  private:
     struct Line {
         QRect place;
         QString text;
+        bool isDrawn = true;      // else the next `publish` removes it
+        QLabel* label = nullptr;  // a child of the client area
     };
 
-    const Line* labelOf(const QRect& control) const;
+    void removeForgotten();
+    bool updateLabels(QWidget& client);
+    void nameComboBoxes(const QWidget& client);
+    QLabel* labelOf(const QRect& control) const;
+    QString takePick(const QWidget& client);
+    QStringList freeLines() const;
 
-    std::vector<Line> lines_;  // from top to bottom, in a row from left to right
+    std::vector<Line> lines_;
+    std::map<const QComboBox*, QString> picks_;  // what each shows
 };
 
 #endif

@@ -85,8 +85,9 @@ TopLevelWindow::TopLevelWindow(const WindowClass& windowClass, LPCSTR title, DWO
     : Window(style & ~WS_VISIBLE, nullptr), procedure_(windowClass.procedure) {
     auto* const frame = new Frame(handle(), flagsOf(style));
     frame_ = frame;
+    QMenuBar* const menuBar = createMenuBar(windowClass.menuName, handle(), frame);  // read first by a screen reader
     client_ = new ClientArea(windowClass, frame);
-    frame->setParts(createMenuBar(windowClass.menuName, handle(), frame), client_);
+    frame->setParts(menuBar, client_);
     frame->setWindowTitle(qtText(title));
     frame->setWindowIcon(iconOf(windowClass));
     frame->setEnabled((style & WS_DISABLED) == 0);

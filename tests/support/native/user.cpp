@@ -6,7 +6,6 @@
 #include <QtTest/qtestmouse.h>
 #include <QAbstractEventDispatcher>
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -147,14 +146,6 @@ RECT placeOf(HWND control) {
 bool waitCursorShows() {
     const QCursor* const cursor = QApplication::overrideCursor();
     return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
-}
-
-std::string spokenName(HWND window) {
-    return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Name));
-}
-
-std::string spokenText(HWND window) {
-    return programText(QAccessible::queryAccessibleInterface(&widgetOf(window))->text(QAccessible::Description));
 }
 
 Picture pictureOf(HWND window) {
