@@ -5,9 +5,9 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libgtest-dev libbenchmark-dev
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libatspi2.0-dev libgtest-dev libbenchmark-dev
     binutils-mingw-w64-x86-64)
-display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
+display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core dbus-daemon at-spi2-core)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 wine_packages=(wine wine64 fonts-wine)
 check_packages=(git clang-format clang-tidy shellcheck)
