@@ -2,9 +2,11 @@
 // screen.
 #include <xcb/xcb.h>
 
+#include <QtTest/qtestkeyboard.h>
 #include <QApplication>
 #include <QComboBox>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QWindow>
 #include <cstdlib>
 
@@ -40,6 +42,31 @@ TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxI
     runMessages();
     EXPECT_EQ(takeLog(), Log{});
     EXPECT_EQ(QApplication::activeWindow(), findWindow(window_)->widget()) << "the box gives the keyboard back";
+}
+
+TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheKeyboardIsAndF10OpensTheFirstMenu) {
+    HWND const combo = addCombo({"a", "b", "c"}), button = addButton(2010);
+    QWidget& box = *findWindow(combo)->widget();
+    const auto turnWheel = [&box] {
+        QWheelEvent turn(box.rect().center(), box.mapToGlobal(box.rect().center()), {}, {0, -120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&box, &turn);
+    };
+    takeLog();
+    SetFocus(button);
+    turnWheel();
+    EXPECT_EQ(GetFocus(), button);
+    EXPECT_EQ(takeLog(), Log{});
+    SetFocus(combo);
+    turnWheel();
+    EXPECT_EQ(takeLog(), Log{"command 7 1"});
+    QTest::keyClick(box.window()->windowHandle(), Qt::Key_F10);
+    runMessages();
+    QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu->windowHandle(), Qt::Key_V);  // save and exit
+    runMessages();
+    EXPECT_EQ(takeLog(), Log{"command 32772 0"});
 }
 
 TEST_F(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {

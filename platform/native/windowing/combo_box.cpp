@@ -23,9 +23,20 @@ class ListBelowStyle : public QProxyStyle {
     }
 };
 
+// The wheel changes the pick only where the keyboard is: elsewhere a player would lose his picks by scrolling over them.
+class Box : public QComboBox {
+ public:
+    explicit Box(QWidget* area) : QComboBox(area) { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus()) QComboBox::wheelEvent(event);
+    }
+};
+
 }  // namespace
 
-ComboBox::ComboBox(DWORD style, HWND parent, int id, QWidget* area) : Control(style, parent, new QComboBox(area)) {
+ComboBox::ComboBox(DWORD style, HWND parent, int id, QWidget* area) : Control(style, parent, new Box(area)) {
     auto* const listBelow = new ListBelowStyle;
     listBelow->setParent(&box());
     box().setStyle(listBelow);

@@ -2,6 +2,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <optional>
 
 #include "platform/native/resources/menu_template.h"
@@ -35,5 +36,7 @@ QMenuBar* createMenuBar(LPCSTR menuName, HWND window, QWidget* frame) {
     for (const MenuItem& item : *items) {
         if (item.isPopup) addItems(*bar->addMenu(item.text), item.items, window);
     }
+    QObject::connect(new QShortcut(Qt::Key_F10, bar), &QShortcut::activated, bar,
+                     [bar] { bar->setActiveAction(bar->actions().value(0)); });
     return bar;
 }

@@ -7,8 +7,8 @@
 class QMenuBar;
 class QWidget;
 
-// The menu's items post WM_COMMAND with their id to `window`. Null if `menuName` is null or the resources have no valid
-// menu of that id.
+// The menu's items post WM_COMMAND with their id to `window`. F10 opens the first menu. Null if `menuName` is null or
+// the resources have no valid menu of that id.
 QMenuBar* createMenuBar(LPCSTR menuName, HWND window, QWidget* frame);
 
 #endif
