@@ -14,6 +14,7 @@
 #include "platform/native/resources/pictures.h"
 #include "platform/native/resources/resource_file.h"
 #include "platform/native/screen/display.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/button.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
@@ -96,7 +97,7 @@ Dialog::Dialog(const DialogTemplate& source, const Window* owner, DLGPROC proced
       procedure_(procedure) {
     widget_->setWindowModality(owner == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
     widget_->setWindowTitle(source.title);
-    if (source.points > 0) widget_->setFont(QFont(source.font, source.points));
+    if (source.points > 0) widget_->setFont(QFont(source.font, toPixels(source.points)));
     const QRect place = DialogUnits(widget_->font()).pixels(source.place);
     widget_->setFixedSize(place.size());
     widget_->move(originOf(owner) + place.topLeft());

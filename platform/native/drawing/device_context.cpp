@@ -6,6 +6,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
 #include "platform/native/resources/pictures.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/screen_drawing.h"
 #include "platform/native/windowing/window.h"
@@ -62,6 +63,12 @@ bool dropDeviceContext(HDC dc) {
 
 void dropDeviceContexts() {
     contexts.clear();
+}
+
+QRect placeOn(HDC dc, const QRect& rectangle) {
+    const DeviceContext* const context = findDeviceContext(dc);
+    const bool isBitmap = context != nullptr && context->target == DeviceContext::Target::bitmap;
+    return isBitmap ? rectangle : toPixels(rectangle);
 }
 
 bool drawOn(HDC dc, const QRect& area, const Draw& draw) {

@@ -29,8 +29,11 @@ DeviceContext* findDeviceContext(HDC dc);
 bool dropDeviceContext(HDC dc);
 void dropDeviceContexts();
 
-// Calls `draw` with a painter that is limited to `area` of the context. On a window the result shows at once, or with
-// EndPaint while WM_PAINT is answered. False if there is nothing to draw on.
+// Where a rectangle of the context's coordinates lies, in pixels. A bitmap isn't scaled.
+QRect placeOn(HDC dc, const QRect& rectangle);
+
+// Calls `draw` with a painter that is limited to `area` of the context, in pixels. On a window the result shows at
+// once, or with EndPaint while WM_PAINT is answered. False if there is nothing to draw on.
 bool drawOn(HDC dc, const QRect& area, const std::function<void(QPainter&)>& draw);
 
 #endif

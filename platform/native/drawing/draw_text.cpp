@@ -10,6 +10,7 @@
 #include "platform/native/base/qt_text.h"
 #include "platform/native/drawing/device_context.h"
 #include "platform/native/screen/display.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 
@@ -75,18 +76,19 @@ int DrawTextA(HDC dc, LPCSTR text, int count, RECT* rectangle, UINT format) {
     if (!hasDisplay() || context == nullptr || text == nullptr || count < -1) return 0;
     const QString source = count == -1 ? qtText(text) : qtText(std::string_view(text, static_cast<std::size_t>(count)));
     if (source.isEmpty()) return 0;
-    const QRect bounds(QPoint(rectangle->left, rectangle->top), QPoint(rectangle->right - 1, rectangle->bottom - 1));
+    const QRect bounds = placeOn(
+        dc, QRect(QPoint(rectangle->left, rectangle->top), QPoint(rectangle->right - 1, rectangle->bottom - 1)));
     const QFont font = QGuiApplication::font();
     const int lineHeight = QFontMetrics(font).lineSpacing();
     const std::vector<Line> lines = readLines(source);
     drawOn(dc, bounds, [&](QPainter& painter) {
         painter.setFont(font);
-        painter.setPen(QGuiApplication::palette().color(QPalette::WindowText));
+        painter.setPen(QGuiApplication::palette().color(QPalette::Text));
         QRect row = bounds;
         for (const Line& line : lines) {
             speak(*context, drawLine(painter, line, row, (format & DT_CENTER) != 0) & bounds, line.text);
             row.setTop(row.top() + lineHeight);
         }
     });
-    return lineHeight * static_cast<int>(lines.size());
+    return qCeil(lineHeight * static_cast<int>(lines.size()) / windowScale());
 }

@@ -4,6 +4,7 @@
 #include "platform/native/api/gdi.h"
 #include "platform/native/drawing/device_context.h"
 #include "platform/native/resources/pictures.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 
@@ -28,7 +29,7 @@ HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
     context.window = window;
     context.limited = true;
     context.limit = found->clientArea()->beginDrawing();
-    const QRect box = context.limit.boundingRect();
+    const QRect box = unitsAround(context.limit.boundingRect());
     *paint = {addDeviceContext(context), FALSE, {box.left(), box.top(), box.right() + 1, box.bottom() + 1}};
     return paint->hdc;
 }
@@ -50,9 +51,11 @@ BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int sou
     const QImage picture = pictureOf(source);
     if (picture.isNull()) return FALSE;
     const qreal ratio = picture.devicePixelRatio();
-    const QRectF from(sourceX * ratio, sourceY * ratio, width * ratio, height * ratio);
-    return drawOn(target, QRect(x, y, width, height), [&](QPainter& painter) {
+    const QRect part = placeOn(source, QRect(sourceX, sourceY, width, height));
+    const QRectF from(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
+    const QRect to = placeOn(target, QRect(x, y, width, height));
+    return drawOn(target, to, [&](QPainter& painter) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(x, y, width, height), picture, from);
+        painter.drawImage(QRectF(to), picture, from);
     });
 }

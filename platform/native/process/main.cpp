@@ -8,6 +8,7 @@
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/screen/late_clicks.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/accessible_objects.h"
 #include "platform/native/windowing/window.h"
 
@@ -24,6 +25,7 @@ namespace {
 void openScreen(char** arguments) {
     openDisplay(arguments);
     if (!hasDisplay()) return;
+    updateScale();
     describeWindowsToScreenReaders();
     watchKeys();
     passLateClicks();

@@ -45,13 +45,13 @@ QImage& ClientArea::surface() {
 void ClientArea::fill(const QRegion& region) {
     QPainter painter(&surface());
     for (const QRect& part : region) {
-        painter.fillRect(part, palette().window());
+        painter.fillRect(part, palette().base());
     }
 }
 
 void ClientArea::show(const QRegion& drawn) {
     if (drawn.isEmpty()) return;
-    uncoverScreenDrawing(*window(), drawn.translated(pos()));
+    uncoverScreenDrawing(*window(), drawn.translated(mapTo(window(), QPoint(0, 0))));
     repaint(drawn);
 }
 

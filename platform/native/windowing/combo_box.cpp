@@ -7,11 +7,12 @@
 
 #include "platform/native/api/controls.h"
 #include "platform/native/base/qt_text.h"
+#include "platform/native/screen/scale.h"
 
 namespace {
 
 // Windows' combo boxes are no higher, and programs place them 30 pixels apart.
-constexpr int greatestClosedHeight = 28;
+constexpr int greatestClosedHeight = 28;  // units
 
 // Shows a list with a scroll bar below the box, as high as the program asked for. Many styles would show a menu that
 // covers the screen from top to bottom.
@@ -23,7 +24,8 @@ class ListBelowStyle : public QProxyStyle {
     }
 };
 
-// The wheel changes the pick only where the keyboard is: elsewhere a player would lose his picks by scrolling over them.
+// The wheel changes the pick only where the keyboard is: elsewhere a player would lose his picks by scrolling over
+// them.
 class Box : public QComboBox {
  public:
     explicit Box(QWidget* area) : QComboBox(area) { setFocusPolicy(Qt::StrongFocus); }
@@ -50,7 +52,7 @@ QComboBox& ComboBox::box() const {
 
 void ComboBox::place(const QRect& rectangle) {
     box().ensurePolished();
-    const int height = std::min(box().sizeHint().height(), greatestClosedHeight);
+    const int height = std::min(box().sizeHint().height(), toPixels(greatestClosedHeight));
     const int rowHeight = box().view()->fontMetrics().height();
     box().setMaxVisibleItems(std::max(1, (rectangle.height() - height) / rowHeight));
     Control::place(QRect(rectangle.topLeft(), QSize(rectangle.width(), height)));

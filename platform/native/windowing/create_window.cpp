@@ -3,6 +3,7 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/screen/display.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/button.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/combo_box.h"
@@ -45,7 +46,7 @@ HWND CreateWindowExA(DWORD, LPCSTR className, LPCSTR windowName, DWORD style, in
     const int id = static_cast<int>(reinterpret_cast<std::intptr_t>(menu));
     std::unique_ptr<Control> control = makeControl(className, windowName, style, parent, id);
     if (control == nullptr) return nullptr;
-    control->place(QRect(x, y, width, height));
+    control->place(toPixels(QRect(x, y, width, height)));
     return addWindow(std::move(control))->handle();
 }
 

@@ -6,6 +6,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/screen/event_pump.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 
@@ -45,8 +46,8 @@ BOOL InvalidateRect(HWND window, const RECT* rectangle, BOOL erase) {
     ClientArea* const area = found->clientArea();
     if (area == nullptr) return TRUE;  // a control draws itself when it must
     const QRect part = rectangle == nullptr ? area->whole()
-                                            : QRect(QPoint(rectangle->left, rectangle->top),
-                                                    QPoint(rectangle->right - 1, rectangle->bottom - 1));
+                                            : toPixels(QRect(QPoint(rectangle->left, rectangle->top),
+                                                             QPoint(rectangle->right - 1, rectangle->bottom - 1)));
     area->invalidate(part, erase != FALSE);
     return TRUE;
 }
@@ -59,7 +60,7 @@ BOOL GetClientRect(HWND window, RECT* rectangle) {
     const Window* const found = findWindow(window);
     if (found == nullptr) return FALSE;
     const QSize size = found->clientSize();
-    *rectangle = {0, 0, size.width(), size.height()};
+    *rectangle = {0, 0, toUnits(size.width()), toUnits(size.height())};
     return TRUE;
 }
 

@@ -1,0 +1,49 @@
+#include "platform/native/screen/scale.h"
+
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QtMath>
+#include <algorithm>
+
+namespace {
+
+// What the windows have room for at a scale of 1: a label of 21 letters is 150 pixels wide, a line 20 pixels high.
+constexpr double widestLetters = 8.1;  // the average of the alphabet in both cases
+constexpr double highestLine = 20;
+
+double scale = 1;
+
+}  // namespace
+
+void updateScale() {
+    const QFontMetrics metrics(QGuiApplication::font());
+    const QString letters("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+    const double width = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
+    scale = std::max({1.0, width / widestLetters, metrics.lineSpacing() / highestLine});
+}
+
+double windowScale() {
+    return scale;
+}
+
+int toPixels(int units) {
+    return qRound(units * scale);
+}
+
+QSize toPixels(const QSize& units) {
+    return {toPixels(units.width()), toPixels(units.height())};
+}
+
+QRect toPixels(const QRect& units) {
+    return {QPoint(toPixels(units.left()), toPixels(units.top())),
+            QPoint(toPixels(units.right() + 1) - 1, toPixels(units.bottom() + 1) - 1)};
+}
+
+int toUnits(int pixels) {
+    return qCeil(pixels / scale);
+}
+
+QRect unitsAround(const QRect& pixels) {
+    return {QPoint(qFloor(pixels.left() / scale), qFloor(pixels.top() / scale)),
+            QPoint(toUnits(pixels.right() + 1) - 1, toUnits(pixels.bottom() + 1) - 1)};
+}
