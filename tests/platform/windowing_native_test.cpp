@@ -5,11 +5,14 @@
 #include <QtTest/qtestkeyboard.h>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QWheelEvent>
 #include <QWindow>
 #include <cstdlib>
 
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/window.h"
 #include "tests/platform/window_test.h"
 #include "tests/support/scoped_variable.h"
@@ -67,6 +70,45 @@ TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheKeyboardIsAndF10OpensTheFir
     QTest::keyClick(menu->windowHandle(), Qt::Key_V);  // save and exit
     runMessages();
     EXPECT_EQ(takeLog(), Log{"command 32772 0"});
+}
+
+TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom) {
+    const QFont usual = QApplication::font();
+    for (const int points : {9, 18, 24}) {
+        SCOPED_TRACE(points);
+        DestroyWindow(window_);
+        QApplication::setFont(QFont("DejaVu Sans", points));
+        updateScale();
+        window_ = CreateWindowA("WindowTest", "A larger one", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
+                                CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, nullptr, nullptr);
+        QWidget& combo = *findWindow(addCombo({"a"}))->widget();
+        auto& button = static_cast<QPushButton&>(*findWindow(addButton(1))->widget());
+        button.setText("Teen to Adult");
+        EXPECT_GE(button.width(), button.sizeHint().width());
+        EXPECT_GE(combo.height(), combo.sizeHint().height());
+        EXPECT_LT(combo.geometry().bottom(), button.width() * 40 / 100) << "the next one begins 40 units from the top";
+        paint_ = [](HDC dc) {
+            RECT label{10, 10, 160, 30};
+            EXPECT_LE(DrawTextA(dc, "Pick a Neighborhood: ", -1, &label, 0), 20);
+        };
+        ShowWindow(window_, SW_SHOW);
+        UpdateWindow(window_);
+        RECT client{};
+        GetClientRect(window_, &client);
+        EXPECT_EQ(painted_, (std::vector<int>{0, 0, client.right, client.bottom}));
+        EXPECT_GE(client.right, 480);
+        const QLabel& label = *button.parentWidget()->findChild<QLabel*>();
+        EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance("Pick a Neighborhood: ")) << "it isn't cut";
+
+        button.window()->resize(button.width() * 2, button.width() * 2);
+        runMessages();
+        combo.setFocus();
+        QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Tab);
+        runMessages();
+        EXPECT_EQ(button.visibleRegion(), QRegion(button.rect())) << "the keyboard brings it into view";
+    }
+    QApplication::setFont(usual);
+    updateScale();
 }
 
 TEST_F(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {

@@ -3,21 +3,27 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
 #include <QWidget>
 
 #include "platform/native/base/qt_text.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/screen/message_queue.h"
+#include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/menu_bar.h"
 
 namespace {
 
-// The size of the client area for CW_USEDEFAULT, if the screen has room for it.
+// The size of the client area for CW_USEDEFAULT, in units, if the screen has room for it.
 constexpr QSize defaultClientSize(560, 430);
 constexpr QSize smallestDefaultClientSize(480, 400);
 
-// The whole window, without the window manager's frame.
+constexpr int margin = 10;  // units, beside the last control
+
+// The whole window, without the window manager's frame. Where it is too small for its controls, the client area keeps
+// the size that these need, and scrolls.
 class Frame : public QWidget {
  public:
     Frame(HWND window, Qt::WindowFlags flags) : QWidget(nullptr, flags), window_(window) {}
@@ -25,7 +31,12 @@ class Frame : public QWidget {
     void setParts(QMenuBar* menuBar, ClientArea* client) {
         menuBar_ = menuBar;
         client_ = client;
+        scroll_ = new QScrollArea(this);
+        scroll_->setFrameShape(QFrame::NoFrame);
+        scroll_->setFocusPolicy(Qt::NoFocus);
+        scroll_->setWidget(client);
     }
+    void setSmallestClient(const QSize& size) { smallestClient_ = size; }
 
     int menuHeight(int width) const {
         if (menuBar_ == nullptr) return 0;
@@ -38,7 +49,8 @@ class Frame : public QWidget {
     void layOut() {
         const int height = menuHeight(width());
         if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), height);
-        client_->setGeometry(0, height, width(), QWidget::height() - height);
+        scroll_->setGeometry(0, height, width(), QWidget::height() - height);
+        client_->resize(clientSize(scroll_->size()));
     }
 
  protected:
@@ -51,9 +63,29 @@ class Frame : public QWidget {
     }
 
  private:
+    // The width that a text needs isn't known; the height is that of the controls, once there are any.
+    QSize neededSize() const {
+        const QRect controls = client_->childrenRect();
+        if (controls.isEmpty()) return smallestClient_;
+        return {std::max(controls.right() + toPixels(margin), smallestClient_.width()),
+                controls.bottom() + toPixels(margin)};
+    }
+
+    // At least the needed size; else all the room that the scroll bars leave.
+    QSize clientSize(QSize room) const {
+        const QSize needed = neededSize();
+        const int bar = scroll_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        const bool scrollsDown = needed.height() > room.height();
+        if (needed.width() > room.width() - (scrollsDown ? bar : 0)) room.rheight() -= bar;
+        if (needed.height() > room.height()) room.rwidth() -= bar;
+        return room.expandedTo(needed);
+    }
+
     HWND window_;
     QMenuBar* menuBar_ = nullptr;
     ClientArea* client_ = nullptr;
+    QScrollArea* scroll_ = nullptr;
+    QSize smallestClient_;
 };
 
 // A window without a caption is one that the program places itself, such as a splash window. Window managers leave such
@@ -105,12 +137,13 @@ void TopLevelWindow::place(const Placement& placement) {
     auto& frame = static_cast<Frame&>(*frame_);
     if (placement.width == CW_USEDEFAULT) {
         const QSize room = frame.screen()->availableSize() * 9 / 10;
-        const QSize client = defaultClientSize.boundedTo(room).expandedTo(smallestDefaultClientSize);
-        frame.resize(client.width(), client.height() + frame.menuHeight(client.width()));
+        const QSize whole = toPixels(defaultClientSize) + QSize(0, frame.menuHeight(room.width()));
+        frame.setSmallestClient(toPixels(smallestDefaultClientSize));
+        frame.resize(whole.boundedTo(room));
     } else {
-        frame.resize(placement.width, placement.height);
+        frame.resize(toPixels(QSize(placement.width, placement.height)));
     }
-    if (placement.x != CW_USEDEFAULT) frame.move(placement.x, placement.y);
+    if (placement.x != CW_USEDEFAULT) frame.move(toPixels(placement.x), toPixels(placement.y));
 }
 
 QWidget* TopLevelWindow::widget() const {

@@ -149,7 +149,9 @@ bool waitCursorShows() {
 }
 
 Picture pictureOf(HWND window) {
-    const QImage image = widgetOf(window).grab(findWindow(window)->clientArea()->geometry()).toImage();
+    QWidget& whole = widgetOf(window);
+    const QWidget& area = *findWindow(window)->clientArea();
+    const QImage image = whole.grab(QRect(area.mapTo(&whole, QPoint(0, 0)), area.size())).toImage();
     Picture picture{image.width(), image.height(), {}};
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x)
