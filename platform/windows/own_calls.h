@@ -1,4 +1,4 @@
-// Our own versions of four of Windows' calls. platform/win32.h replaces the names of Windows with these, so that
+// Our own versions of some of Windows' calls. platform/win32.h replaces the names of Windows with these, so that
 // callers are the same on every system.
 #ifndef PLATFORM_WINDOWS_OWN_CALLS_H
 #define PLATFORM_WINDOWS_OWN_CALLS_H
@@ -10,12 +10,20 @@
 // administrators get full access below HKEY_LOCAL_MACHINE.
 LSTATUS openRegistryKey(HKEY key, LPCSTR subKey, DWORD options, REGSAM access, HKEY* result);
 
+// RegisterClassExA. Windows of the class hand the keyboard on to the control that had it last, at first to the first
+// one.
+ATOM registerClass(const WNDCLASSEXA* windowClass);
+
 // CreateWindowExA. Controls get the user's message font instead of the bitmap font that they start with.
 HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
                   int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 
 // BeginPaint with the message font selected. EndPaint releases the device context, and the font with it.
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
+
+// TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation, and Enter presses the
+// button that has the keyboard. A message that is used up becomes WM_NULL.
+BOOL translateMessage(MSG* message);
 
 // MessageBoxA. A box without an owner blocks every window of the program, like a box with one: a click on a window
 // would start a second operation within the one that asks. Afterwards the window that had the focus has it again, and
@@ -26,5 +34,7 @@ int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type);
 #define RegOpenKeyExA openRegistryKey
 #define CreateWindowExA createWindow
 #define BeginPaint beginPaint
+#define RegisterClassExA registerClass
+#define TranslateMessage translateMessage
 
 #endif

@@ -10,7 +10,22 @@
 
 namespace {
 
-using OwnCallsWindowsTest = WindowTest;
+class OwnCallsWindowsTest : public WindowTest {
+ protected:
+    // Presses the last key while the others are held.
+    static void press(std::initializer_list<BYTE> keys) {
+        for (const BYTE key : keys)
+            keybd_event(key, 0, 0, 0);
+        for (const BYTE key : keys)
+            keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+        runMessages();
+    }
+
+    void takeKeysAway() const {
+        SetFocus(nullptr);
+        SetFocus(window_);
+    }
+};
 
 TEST_F(OwnCallsWindowsTest, AControlHasTheFontOfMessages) {
     NONCLIENTMETRICSA metrics{};
@@ -52,6 +67,26 @@ TEST_F(OwnCallsWindowsTest, AFileIsMadeAgainOnceNoProgramHoldsTheDeletedOne) {
     EXPECT_NE(file, nullptr);
     closing.join();
     if (file != nullptr) std::fclose(file);
+}
+
+TEST_F(OwnCallsWindowsTest, KeysReachEveryControl) {
+    HWND const disabled = addButton(1), box = addCombo({"a", "b"}), hidden = addButton(2), button = addButton(3);
+    EnableWindow(disabled, FALSE);
+    ShowWindow(hidden, SW_HIDE);
+    takeKeysAway();
+    for (HWND const next : {box, button, box}) {
+        EXPECT_EQ(GetFocus(), next);
+        press({VK_TAB});
+    }
+    press({VK_SHIFT, VK_TAB});
+    EXPECT_EQ(GetFocus(), box);
+    press({VK_SHIFT, VK_TAB});
+    takeLog();
+    press({VK_RETURN});
+    press({VK_SPACE});
+    EXPECT_EQ(takeLog(), (Log{"command 3 0", "command 3 0"}));
+    takeKeysAway();
+    EXPECT_EQ(GetFocus(), button) << "it had them last";
 }
 
 }  // namespace

@@ -1,0 +1,80 @@
+#include "platform/windows/keyboard.h"
+
+#include "platform/windows/own_calls.h"
+
+#undef TranslateMessage
+
+namespace {
+
+HWND lastFocus = nullptr;
+
+LRESULT dialogCode(HWND control) {
+    return SendMessageA(control, WM_GETDLGCODE, 0, 0);
+}
+
+bool takesKeys(HWND control) {
+    const auto style = static_cast<DWORD>(GetWindowLongA(control, GWL_STYLE));
+    return (style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE && (dialogCode(control) & DLGC_STATIC) == 0;
+}
+
+// The control that was created after this one or, going backward, before it; the ends meet.
+HWND neighborOf(HWND control, bool backward) {
+    HWND const next = GetWindow(control, backward ? GW_HWNDPREV : GW_HWNDNEXT);
+    return next != nullptr ? next : GetWindow(control, backward ? GW_HWNDLAST : GW_HWNDFIRST);
+}
+
+// The next control that can have the keyboard: from `control`, or from the ends if that is null. Null if none can.
+HWND nextControl(HWND window, HWND control, bool backward) {
+    HWND const first = GetWindow(window, GW_CHILD);
+    HWND const end = backward ? first : neighborOf(first, true);
+    HWND const start = control != nullptr ? control : end;
+    HWND next = start;
+    do {
+        next = neighborOf(next, backward);
+        if (next == nullptr || takesKeys(next)) return next;
+    } while (next != start);
+    return nullptr;
+}
+
+void moveFocus(HWND from) {
+    HWND const window = GetAncestor(from, GA_ROOT);
+    HWND const next = nextControl(window, from == window ? nullptr : from, GetKeyState(VK_SHIFT) < 0);
+    if (next == nullptr) return;
+    // From the first use of the keyboard on, the focus is to be seen.
+    SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    SetFocus(next);
+}
+
+bool isFirstPress(const MSG& message) {
+    constexpr LPARAM isRepeated = 1 << 30;
+    return (message.lParam & isRepeated) == 0;
+}
+
+// Does what the control doesn't do itself. Returns whether that is all that the message is for.
+bool actOn(const MSG& message) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
+        moveFocus(message.hwnd);
+        return true;
+    }
+    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && (dialogCode(message.hwnd) & DLGC_BUTTON) != 0) {
+        if (isFirstPress(message)) SendMessageA(message.hwnd, BM_CLICK, 0, 0);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+void focusControlOf(HWND window) {
+    const bool canHaveItAgain = GetParent(lastFocus) == window && takesKeys(lastFocus);
+    HWND const control = canHaveItAgain ? lastFocus : nextControl(window, nullptr, false);
+    if (control != nullptr) SetFocus(control);
+}
+
+BOOL translateMessage(MSG* message) {
+    // A message box may take the keyboard while the message is dispatched.
+    if (HWND const focus = GetFocus(); focus != nullptr && GetAncestor(focus, GA_ROOT) != focus) lastFocus = focus;
+    if (!actOn(*message)) return TranslateMessage(message);
+    message->message = WM_NULL;
+    return TRUE;
+}
