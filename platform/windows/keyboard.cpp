@@ -60,7 +60,9 @@ bool actOn(const MSG& message) {
         if (isFirstPress(message)) SendMessageA(message.hwnd, BM_CLICK, 0, 0);
         return true;
     }
-    return false;
+    // A wheel that is turned over a control without the keyboard was meant for something else. A combo box would
+    // change its pick.
+    return message.message == WM_MOUSEWHEEL && message.hwnd != GetFocus();
 }
 
 }  // namespace

@@ -22,7 +22,8 @@ HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWOR
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 
 // TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation, and Enter presses the
-// button that has the keyboard. A message that is used up becomes WM_NULL.
+// button that has the keyboard. The mouse wheel reaches a control only while that has the keyboard. A message that is
+// used up becomes WM_NULL.
 BOOL translateMessage(MSG* message);
 
 // MessageBoxA. A box without an owner blocks every window of the program, like a box with one: a click on a window

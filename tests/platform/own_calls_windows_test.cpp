@@ -69,7 +69,7 @@ TEST_F(OwnCallsWindowsTest, AFileIsMadeAgainOnceNoProgramHoldsTheDeletedOne) {
     if (file != nullptr) std::fclose(file);
 }
 
-TEST_F(OwnCallsWindowsTest, KeysReachEveryControl) {
+TEST_F(OwnCallsWindowsTest, KeysReachEveryControlAndTheWheelOnlyTheOneThatHasThem) {
     HWND const disabled = addButton(1), box = addCombo({"a", "b"}), hidden = addButton(2), button = addButton(3);
     EnableWindow(disabled, FALSE);
     ShowWindow(hidden, SW_HIDE);
@@ -87,6 +87,12 @@ TEST_F(OwnCallsWindowsTest, KeysReachEveryControl) {
     EXPECT_EQ(takeLog(), (Log{"command 3 0", "command 3 0"}));
     takeKeysAway();
     EXPECT_EQ(GetFocus(), button) << "it had them last";
+    for (const int picked : {CB_ERR, 0}) {
+        PostMessageA(box, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+        runMessages();
+        EXPECT_EQ(SendMessageA(box, CB_GETCURSEL, 0, 0), picked);
+        SetFocus(box);
+    }
 }
 
 }  // namespace
