@@ -1,10 +1,4 @@
-#include "platform/windows/own_calls.h"
-
-// After windows.h, whose types it uses.
-#include <commctrl.h>
-
-#undef BeginPaint
-#undef CreateWindowExA
+#include "platform/windows/message_font.h"
 
 namespace {
 
@@ -23,29 +17,9 @@ HFONT createMessageFont() {
     return CreateFontIndirectA(&metrics.lfMessageFont);
 }
 
-// Lives until the program ends. Null if it can't be created, which selects the system's bitmap font.
+}  // namespace
+
 HFONT messageFont() {
     static HFONT const font = createMessageFont();
     return font;
-}
-
-}  // namespace
-
-HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
-                  int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) {
-    // Does nothing itself, but makes Windows load the library. The manifest asks for its controls, and without it XP
-    // creates no window and shows no box.
-    InitCommonControls();
-    HWND const window = CreateWindowExA(extendedStyle, className, windowName, style, x, y, width, height, parent, menu,
-                                        instance, parameter);
-    if (window != nullptr && (style & WS_CHILD) != 0) {
-        SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(messageFont()), FALSE);
-    }
-    return window;
-}
-
-HDC beginPaint(HWND window, PAINTSTRUCT* paint) {
-    HDC const dc = BeginPaint(window, paint);
-    if (dc != nullptr && messageFont() != nullptr) SelectObject(dc, messageFont());
-    return dc;
 }
