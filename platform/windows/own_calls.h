@@ -19,7 +19,11 @@ HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWOR
                   int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 
 // BeginPaint with the message font selected. EndPaint releases the device context, and the font with it.
+// What DrawTextA draws between them is there for screen readers from then on, as static texts that lie before the
+// controls to their right, and changes are announced. All lines of the window must be drawn each time.
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
+BOOL endPaint(HWND window, const PAINTSTRUCT* paint);
+int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format);
 
 // TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation, and Enter presses the
 // button that has the keyboard. The mouse wheel reaches a control only while that has the keyboard. A message that is
@@ -31,10 +35,12 @@ BOOL translateMessage(MSG* message);
 // the wait cursor is back if it was shown.
 int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type);
 
+#define BeginPaint beginPaint
+#define CreateWindowExA createWindow
+#define DrawTextA drawText
+#define EndPaint endPaint
 #define MessageBoxA showMessageBox
 #define RegOpenKeyExA openRegistryKey
-#define CreateWindowExA createWindow
-#define BeginPaint beginPaint
 #define RegisterClassExA registerClass
 #define TranslateMessage translateMessage
 

@@ -95,4 +95,40 @@ TEST_F(OwnCallsWindowsTest, KeysReachEveryControlAndTheWheelOnlyTheOneThatHasThe
     }
 }
 
+TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSaysWhatChanges) {
+    static Log heard;
+    HWND const box = addCombo({"a"}), button = addButton(1);
+    pickEntry(box, 0);
+    // Draws the lines, and returns all texts in the order in which screen readers find them.
+    const auto textsWith = [this](const char* stage) {
+        paint_ = [stage](HDC dc) {
+            RECT label{10, 10, 400, 30}, line{10, 160, 400, 190};
+            DrawTextA(dc, stage, -1, &line, 0);
+            DrawTextA(dc, "Pick: ", -1, &label, 0);
+        };
+        InvalidateRect(window_, nullptr, TRUE);
+        UpdateWindow(window_);
+        runMessages();
+        std::string found;
+        for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+            found += textOf(child) + "|";
+        return found;
+    };
+    EXPECT_EQ(textsWith("Stage: Q&A"), "Pick:|a|Stage: Q&A|One|");
+    HWND const label = GetWindow(window_, GW_CHILD);
+    EXPECT_EQ(SendMessageA(label, WM_GETDLGCODE, 0, 0), DLGC_STATIC);
+    EXPECT_LT(placeOf(label).right, 160) << "as wide as its words";
+    const auto hear = [](HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG, DWORD, DWORD) {
+        if (object == OBJID_CLIENT && GetDlgCtrlID(window) == -1)
+            heard.push_back(std::to_string(event) + textOf(window));
+    };
+    constexpr DWORD nameChange = 0x800C, liveRegionChanged = 0x8019;
+    SetWinEventHook(nameChange, liveRegionChanged, nullptr, hear, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+    EXPECT_EQ(textsWith("Stage: teenager"), "Pick:|a|Stage: teenager|One|");
+    EXPECT_EQ(heard, (Log{"32780Stage: teenager", "32793Stage: teenager"}));
+    EXPECT_EQ(textsWith(""), "Pick:|a|One|");
+    press({VK_TAB});
+    EXPECT_EQ(GetFocus(), button) << "a text takes no keys";
+}
+
 }  // namespace
