@@ -61,8 +61,9 @@ bool actOn(const MSG& message) {
         return true;
     }
     // A wheel that is turned over a control without the keyboard was meant for something else. A combo box would
-    // change its pick.
-    return message.message == WM_MOUSEWHEEL && message.hwnd != GetFocus();
+    // change its pick. Its open list, which is no control of the window, has no keyboard of its own.
+    const bool isControl = GetAncestor(message.hwnd, GA_ROOT) != message.hwnd;
+    return message.message == WM_MOUSEWHEEL && isControl && message.hwnd != GetFocus();
 }
 
 }  // namespace
