@@ -1,16 +1,20 @@
-// Drawing in a window, which screen readers can follow.
+// The calls that take or give places in a window, with the program's units instead of pixels.
 #include "platform/windows/message_font.h"
 #include "platform/windows/own_calls.h"
 #include "platform/windows/spoken_lines.h"
 
 #undef BeginPaint
+#undef BitBlt
 #undef DrawTextA
 #undef EndPaint
+#undef GetClientRect
+#undef InvalidateRect
 
 HDC beginPaint(HWND window, PAINTSTRUCT* paint) {
     HDC const dc = BeginPaint(window, paint);
     if (dc == nullptr) return nullptr;
     if (messageFont() != nullptr) SelectObject(dc, messageFont());
+    paint->rcPaint = toUnits(paint->rcPaint);
     beginLines(window);
     return dc;
 }
@@ -21,7 +25,31 @@ BOOL endPaint(HWND window, const PAINTSTRUCT* paint) {
     return ended;
 }
 
+BOOL getClientRect(HWND window, RECT* rectangle) {
+    if (GetClientRect(window, rectangle) == FALSE) return FALSE;
+    *rectangle = toUnits(*rectangle);
+    return TRUE;
+}
+
+BOOL invalidateRect(HWND window, const RECT* rectangle, BOOL erase) {
+    if (rectangle == nullptr) return InvalidateRect(window, nullptr, erase);
+    const RECT place = toPixels(*rectangle);
+    return InvalidateRect(window, &place, erase);
+}
+
 int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format) {
-    if (HWND const window = WindowFromDC(dc); window != nullptr) addLine(window, dc, text, length, *rectangle, format);
-    return DrawTextA(dc, text, length, rectangle, format);
+    RECT place = toPixels(*rectangle);
+    if (HWND const window = WindowFromDC(dc); window != nullptr) addLine(window, dc, text, length, place, format);
+    return DrawTextA(dc, text, length, &place, format);
+}
+
+BOOL bitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation) {
+    if (GetObjectType(target) == OBJ_MEMDC) {
+        return BitBlt(target, x, y, width, height, source, sourceX, sourceY, operation);
+    }
+    const RECT place = toPixels({x, y, x + width, y + height});
+    SetStretchBltMode(target, HALFTONE);
+    SetBrushOrgEx(target, 0, 0, nullptr);  // which that mode requires
+    return StretchBlt(target, place.left, place.top, place.right - place.left, place.bottom - place.top, source,
+                      sourceX, sourceY, width, height, operation);
 }

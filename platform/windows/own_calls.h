@@ -1,5 +1,8 @@
 // Our own versions of some of Windows' calls. platform/win32.h replaces the names of Windows with these, so that
 // callers are the same on every system.
+//
+// Places and sizes in windows are in units. A unit is a pixel unless the user has chosen a large message font: then it
+// is as much larger as keeps every text within the room that it has at the usual size, if the screen holds that.
 #ifndef PLATFORM_WINDOWS_OWN_CALLS_H
 #define PLATFORM_WINDOWS_OWN_CALLS_H
 
@@ -11,19 +14,29 @@
 LSTATUS openRegistryKey(HKEY key, LPCSTR subKey, DWORD options, REGSAM access, HKEY* result);
 
 // RegisterClassExA. Windows of the class hand the keyboard on to the control that had it last, at first to the first
-// one.
+// one. A resizable one stays large enough for the program's controls.
 ATOM registerClass(const WNDCLASSEXA* windowClass);
 
-// CreateWindowExA. Controls get the user's message font instead of the bitmap font that they start with.
+// CreateWindowExA, in units. Controls get the user's message font instead of the bitmap font that they start with.
+// Place and size are CW_USEDEFAULT together or not at all; if they are, the window is moved onto the screen as a whole.
 HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
                   int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 
-// BeginPaint with the message font selected. EndPaint releases the device context, and the font with it.
+// GetClientRect and InvalidateRect, in units.
+BOOL getClientRect(HWND window, RECT* rectangle);
+BOOL invalidateRect(HWND window, const RECT* rectangle, BOOL erase);
+
+// BeginPaint, in units and with the message font selected. EndPaint releases the device context, and the font with it.
 // What DrawTextA draws between them is there for screen readers from then on, as static texts that lie before the
 // controls to their right, and changes are announced. All lines of the window must be drawn each time.
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL endPaint(HWND window, const PAINTSTRUCT* paint);
+
+// DrawTextA with a place in units that stays unchanged. The result is in pixels.
 int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format);
+
+// BitBlt. If the target is no memory, its place is in units, to which the picture is stretched.
+BOOL bitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation);
 
 // TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation, and Enter presses the
 // button that has the keyboard. The mouse wheel reaches a control only while that has the keyboard. A message that is
@@ -36,9 +49,12 @@ BOOL translateMessage(MSG* message);
 int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type);
 
 #define BeginPaint beginPaint
+#define BitBlt bitBlt
 #define CreateWindowExA createWindow
 #define DrawTextA drawText
 #define EndPaint endPaint
+#define GetClientRect getClientRect
+#define InvalidateRect invalidateRect
 #define MessageBoxA showMessageBox
 #define RegOpenKeyExA openRegistryKey
 #define RegisterClassExA registerClass

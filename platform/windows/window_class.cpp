@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "platform/windows/keyboard.h"
+#include "platform/windows/message_font.h"
 #include "platform/windows/own_calls.h"
 
 #undef RegisterClassExA
@@ -21,9 +22,24 @@ WNDPROC procedureOf(HWND window) {
     return std::ranges::find(classes, atom, &OwnClass::atom)->procedure;
 }
 
+// The client area that holds the controls and the lines of the main window, in units.
+constexpr int neededWidth = 480;
+constexpr int neededHeight = 350;
+
+// The user can't make a window smaller than that, and Windows doesn't.
+void limitSize(HWND window, MINMAXINFO& sizes) {
+    const auto style = static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
+    if ((style & WS_THICKFRAME) == 0) return;
+    const auto extendedStyle = static_cast<DWORD>(GetWindowLongA(window, GWL_EXSTYLE));
+    const SIZE needed = windowSize(toPixels(neededWidth), toPixels(neededHeight), style, extendedStyle);
+    const RECT area = workArea();
+    sizes.ptMinTrackSize = {std::min(needed.cx, area.right - area.left), std::min(needed.cy, area.bottom - area.top)};
+}
+
 // What every window of the program does besides its own procedure, which doesn't notice.
 LRESULT CALLBACK commonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = procedureOf(window)(window, message, wParam, lParam);
+    if (message == WM_GETMINMAXINFO) limitSize(window, *reinterpret_cast<MINMAXINFO*>(lParam));
     if (message == WM_SETFOCUS) focusControlOf(window);
     return result;
 }

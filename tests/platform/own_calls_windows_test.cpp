@@ -131,4 +131,52 @@ TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSa
     EXPECT_EQ(GetFocus(), button) << "a text takes no keys";
 }
 
+TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull) {
+    NONCLIENTMETRICSA usual{};
+    usual.cbSize = sizeof usual;
+    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof usual, &usual, 0);
+    for (const auto& [height, smallest] : {std::pair(-11L, 1.0), {-17L, 1.3}, {-60L, 1.6}}) {
+        SCOPED_TRACE(height);
+        NONCLIENTMETRICSA larger = usual;
+        larger.lfMessageFont.lfHeight = height;
+        SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof larger, &larger, 0);
+        DestroyWindow(window_);
+        window_ = CreateWindowA("WindowTest", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CW_USEDEFAULT, CW_USEDEFAULT,
+                                CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, nullptr, nullptr);
+        RECT whole{}, client{};
+        GetWindowRect(window_, &whole);
+        EXPECT_TRUE(whole.right <= GetSystemMetrics(SM_CXSCREEN) && whole.bottom <= GetSystemMetrics(SM_CYSCREEN));
+        const RECT place = placeOf(addButton(1));
+        const double unit = place.bottom / 330.0;
+        EXPECT_GE(unit, smallest);
+        EXPECT_NEAR(place.left, 10 * unit, 1);
+        EXPECT_NEAR(place.right, 110 * unit, 1);
+        EXPECT_NEAR(place.top, 300 * unit, 1);
+        HDC const dc = BeginPaint(window_, std::make_unique<PAINTSTRUCT>().get());
+        SIZE label{};
+        GetTextExtentPoint32A(dc, "Pick a Neighborhood: ", 21, &label);
+        EXPECT_TRUE(label.cx <= 150 * unit && label.cy <= 20 * unit) << "it has the room that it has at the usual size";
+        EXPECT_GT(label.cx, 100 * unit) << "and needs it";
+        MoveWindow(window_, 0, 0, 10, 10, TRUE);
+        GetClientRect(window_, &client);
+        EXPECT_TRUE(client.right >= 480 && client.bottom >= 350) << "the controls aren't cut";
+        EXPECT_NEAR(client.right * unit, pictureOf(window_).width, 2);
+
+        paint_ = [](HDC target) {
+            HDC const black = CreateCompatibleDC(target);
+            SelectObject(black, CreateCompatibleBitmap(target, 20, 20));
+            BitBlt(target, 40, 40, 20, 20, black, 0, 0, SRCCOPY);
+        };
+        const RECT part{40, 40, 60, 60};
+        InvalidateRect(window_, &part, TRUE);
+        UpdateWindow(window_);
+        for (const std::size_t edge : {0U, 1U, 2U, 3U})
+            EXPECT_NEAR(painted_.at(edge), edge < 2 ? 40 : 60, 1);
+        for (const int x : {38, 41, 59, 62})
+            EXPECT_EQ(pictureOf(window_).at(static_cast<int>(x * unit), static_cast<int>(50 * unit)) == 0,
+                      40 < x && x < 60);
+    }
+    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof usual, &usual, 0);
+}
+
 }  // namespace

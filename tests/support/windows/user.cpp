@@ -3,6 +3,9 @@
 
 #include <algorithm>
 
+// Windows' own, which counts pixels, as mouse and pictures do.
+#undef GetClientRect
+
 namespace {
 
 std::string withoutMarks(std::string text) {
