@@ -14,7 +14,8 @@
 LSTATUS openRegistryKey(HKEY key, LPCSTR subKey, DWORD options, REGSAM access, HKEY* result);
 
 // RegisterClassExA. Windows of the class hand the keyboard on to the control that had it last, at first to the first
-// one. A resizable one stays large enough for the program's controls.
+// one. A resizable one stays large enough for the program's controls. The lists of combo boxes in it open as wide as
+// their longest entry.
 ATOM registerClass(const WNDCLASSEXA* windowClass);
 
 // CreateWindowExA, in units. Controls get the user's message font instead of the bitmap font that they start with.

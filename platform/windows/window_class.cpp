@@ -4,6 +4,7 @@
 
 #include "platform/windows/keyboard.h"
 #include "platform/windows/message_font.h"
+#include "platform/windows/open_list.h"
 #include "platform/windows/own_calls.h"
 
 #undef RegisterClassExA
@@ -41,6 +42,9 @@ LRESULT CALLBACK commonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     const LRESULT result = procedureOf(window)(window, message, wParam, lParam);
     if (message == WM_GETMINMAXINFO) limitSize(window, *reinterpret_cast<MINMAXINFO*>(lParam));
     if (message == WM_SETFOCUS) focusControlOf(window);
+    if (message == WM_COMMAND && HIWORD(wParam) == CBN_DROPDOWN && lParam != 0) {
+        fitOpenList(reinterpret_cast<HWND>(lParam));
+    }
     return result;
 }
 

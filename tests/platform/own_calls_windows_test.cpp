@@ -179,4 +179,25 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
     SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof usual, &usual, 0);
 }
 
+TEST_F(OwnCallsWindowsTest, AListIsAsWideAsItsLongestEntryAndStaysOnTheScreen) {
+    HWND const box = addCombo({"a"});
+    for (const auto& [letters, least] : {std::pair(9U, 200), {40U, 400}, {99U, 800}}) {
+        for (int entries = 0; entries < 50; ++entries)
+            SendMessageA(box, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::string(letters, 'W').c_str()));
+        SendMessageA(box, CB_SHOWDROPDOWN, TRUE, 0);
+        COMBOBOXINFO parts{};
+        parts.cbSize = sizeof parts;
+        GetComboBoxInfo(box, &parts);
+        RECT list{};
+        GetWindowRect(parts.hwndList, &list);
+        EXPECT_GE(list.right - list.left, least);
+        EXPECT_LE(list.right, GetSystemMetrics(SM_CXSCREEN));
+        EXPECT_LE(list.bottom - list.top, 30 * SendMessageA(box, CB_GETITEMHEIGHT, 0, 0) + 4);
+        PostMessageA(parts.hwndList, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+        runMessages();
+        EXPECT_GT(SendMessageA(parts.hwndList, LB_GETTOPINDEX, 0, 0), 0) << "the wheel scrolls it";
+        SendMessageA(box, CB_SHOWDROPDOWN, FALSE, 0);
+    }
+}
+
 }  // namespace
