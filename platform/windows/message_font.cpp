@@ -58,7 +58,7 @@ Scale scaleFor(HFONT measured) {
 }
 
 Scale largestOnScreen() {
-    const RECT area = workArea();
+    const RECT area = workArea(nullptr);
     const SIZE frame = windowSize(0, 0, WS_OVERLAPPEDWINDOW, 0);
     const Scale forWidth{static_cast<int>(area.right - area.left - frame.cx), neededWidth};
     const Scale forHeight{static_cast<int>(area.bottom - area.top - frame.cy), neededHeight};
@@ -106,10 +106,11 @@ RECT toUnits(const RECT& pixels) {
     return {down(pixels.left), down(pixels.top), up(pixels.right), up(pixels.bottom)};
 }
 
-RECT workArea() {
-    RECT area{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
+RECT workArea(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
 }
 
 SIZE windowSize(int clientWidth, int clientHeight, DWORD style, DWORD extendedStyle) {

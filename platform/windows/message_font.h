@@ -21,8 +21,8 @@ RECT toPixels(const RECT& units);
 // The smallest rectangle of whole units that holds this one of the client area.
 RECT toUnits(const RECT& pixels);
 
-// The part of the screen that no task bar covers.
-RECT workArea();
+// The part of the window's screen, or of the main one for null, that no task bar covers.
+RECT workArea(HWND window);
 
 // The size of a resizable window with a menu that has this client area.
 SIZE windowSize(int clientWidth, int clientHeight, DWORD style, DWORD extendedStyle);

@@ -34,7 +34,7 @@ LONG widestEntry(HWND combo) {
 }  // namespace
 
 void fitOpenList(HWND combo) {
-    const RECT area = workArea();
+    const RECT area = workArea(combo);
     RECT place{};
     GetWindowRect(combo, &place);
     // A scroll bar, the list's frame and the space before and behind an entry.

@@ -33,7 +33,7 @@ void limitSize(HWND window, MINMAXINFO& sizes) {
     if ((style & WS_THICKFRAME) == 0) return;
     const auto extendedStyle = static_cast<DWORD>(GetWindowLongA(window, GWL_EXSTYLE));
     const SIZE needed = windowSize(toPixels(neededWidth), toPixels(neededHeight), style, extendedStyle);
-    const RECT area = workArea();
+    const RECT area = workArea(window);
     sizes.ptMinTrackSize = {std::min(needed.cx, area.right - area.left), std::min(needed.cy, area.bottom - area.top)};
 }
 

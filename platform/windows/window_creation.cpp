@@ -15,10 +15,7 @@ namespace {
 void moveIntoWorkArea(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    if (GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor) == FALSE) return;
-    const RECT& area = monitor.rcWork;
+    const RECT area = workArea(window);
     const LONG x = std::max(std::min(place.left, area.right - (place.right - place.left)), area.left);
     const LONG y = std::max(std::min(place.top, area.bottom - (place.bottom - place.top)), area.top);
     if (x == place.left && y == place.top) return;
