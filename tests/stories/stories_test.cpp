@@ -101,10 +101,11 @@ class Stories : public testing::Test {
     // high, and under Wine below the caption.
     void start(bool onWindows = windowsPrograms != nullptr) {
         launch("tidewright", onWindows);
-        const std::string window = findWindow("(Tidewright|Installation Problem)");
-        windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window + " | sed -n s/HEIGHT=//p"));
+        window_ = findWindow("(Tidewright|Installation Problem)");
+        windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window_ + " | sed -n s/HEIGHT=//p"));
         clientTop_ = onWindows ? 42 : windowHeight_ - 430;
-        act("windowmove --sync " + window + " 0 0 windowfocus --sync " + window);
+        act("windowmove --sync " + window_ + " 0 0 windowfocus --sync " + window_);
+        lastPressed_ = nullptr;
     }
 
     void clickAt(int x, int y) const { act("mousemove " + std::to_string(x) + " " + std::to_string(y) + " click 1"); }
@@ -117,33 +118,48 @@ class Stories : public testing::Test {
         act("key " + keys);
         waitUntil(step + " closes", [&] { return windowCount() <= before; });
     }
-    void pickEntry(int comboTop, int index) const {
+    void pickEntry(int list, int index) const {
         std::string keys = "Home";
         for (int i = 0; i < index; ++i)
             keys += " Down";
-        chooseByKeys("list at " + std::to_string(comboTop), keys + " Return",
-                     [=, this] { clickAt(250, clientTop_ + comboTop + 10); });
+        chooseByKeys("list " + std::to_string(list), keys + " Return", [=, this] {
+            if (byKeys_) return void(act("key alt+Down"));
+            clickAt(250, clientTop_ + 20 + 30 * list);
+        });
     }
     void chooseFileItem(const std::string& mnemonic) const {
         chooseByKeys("File menu", mnemonic, [this] { act("key alt+f"); });
     }
 
-    // Picks a Sim, by indexes of entries, and clicks. An enabled button has dark letters in its middle.
-    void click(const Button& button, int neighborhood, int family, int sim) const {
-        pickEntry(10, neighborhood);
-        pickEntry(40, family);
-        pickEntry(70, sim);
-        const int y = windowHeight_ - button.aboveBottom;
-        const std::string left = std::to_string(button.x - 30), top = std::to_string(y - 6);
-        const auto isEnabled = [&] {
-            return run("import -window root -crop 60x12+" + left + "+" + top +
-                       " -colorspace Gray -format '%[fx:minima < 0.3]' info:") == "1";
-        };
-        waitUntil(std::string(button.name) + " is enabled", isEnabled);
+    // An enabled button has dark letters in its middle.
+    bool isEnabled(const Button& button) const {
+        const std::string left = std::to_string(button.x - 30);
+        const std::string top = std::to_string(windowHeight_ - button.aboveBottom - 6);
+        return run("import -window root -crop 60x12+" + left + "+" + top +
+                   " -colorspace Gray -format '%[fx:minima < 0.3]' info:") == "1";
+    }
+
+    // Brings the keyboard to the first list. A button that is disabled has left it in the third one.
+    void returnToFirstList() const {
+        act("windowfocus --sync " + window_);
+        if (lastPressed_ == nullptr) return;
+        act(isEnabled(*lastPressed_) ? "key shift+Tab shift+Tab shift+Tab" : "key shift+Tab shift+Tab");
+    }
+
+    // Picks a Sim, by indexes of entries, and presses the button: the only one that is enabled.
+    void press(const Button& button, int neighborhood, int family, int sim) {
+        if (byKeys_) returnToFirstList();
+        pickEntry(0, neighborhood);
+        if (byKeys_) act("key Tab");
+        pickEntry(1, family);
+        if (byKeys_) act("key Tab");
+        pickEntry(2, sim);
+        waitUntil(std::string(button.name) + " is enabled", [&] { return isEnabled(button); });
         const int before = windowCount();
-        clickAt(button.x, y);
+        byKeys_ ? void(act("key Tab space")) : clickAt(button.x, windowHeight_ - button.aboveBottom);
         waitUntil(std::string(button.name) + " is disabled, or asks",
-                  [&] { return !isEnabled() || windowCount() > before; });
+                  [&] { return !isEnabled(button) || windowCount() > before; });
+        lastPressed_ = &button;
     }
 
     // Waits for a box with this title and presses the key in it; it must close.
@@ -164,35 +180,40 @@ class Stories : public testing::Test {
     const std::filesystem::path game_ = gameDirectory(prefix_);
     const XServer screen_;
     std::FILE* process_ = nullptr;
+    std::string window_;
     int windowHeight_ = 0, clientTop_ = 0;
+    bool byKeys_ = false;
+    const Button* lastPressed_ = nullptr;
 };
 
-TEST_F(Stories, AnEveningOfPlay) {
+TEST_F(Stories, AnEveningOfPlayByKeysAlone) {
+    byKeys_ = true;
     const Tree unprepared = treeOf(game_);
     prepareGame();
     const Tree before = treeOf(game_);
     EXPECT_EQ(differences(unprepared, before), "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn\n");
     start();
-    click(childToTeen, 0, 0, 3);  // Clover, whose head leads to a teen's
-    click(childToTeen, 0, 0, 4);  // Fern, whose head is in no set
+    press(childToTeen, 0, 0, 3);  // Clover, whose head leads to a teen's
+    press(childToTeen, 0, 0, 4);  // Fern, whose head is in no set
     answerBox("Proceed[?]", "Return");
-    click(childToTeen, 2, 0, 3);  // Minnow, the same, but not tonight
+    waitUntil("Fern is a teen", [this] { return !isEnabled(childToTeen); });
+    press(childToTeen, 2, 0, 3);  // Minnow, the same, but not tonight
     answerBox("Proceed[?]", "Escape");
-    click(teenToAdult, 0, 0, 2);  // Bramble
-    click(teenToAdult, 1, 0, 3);  // Barnaby
-    click(moveOut, 0, 0, 0);      // Hazel
-    click(moveOut, 0, 1, 0);      // Quill
+    press(teenToAdult, 0, 0, 2);  // Bramble
+    press(teenToAdult, 1, 0, 3);  // Barnaby
+    press(moveOut, 0, 0, 0);      // Hazel
+    press(moveOut, 0, 1, 0);      // Quill
     EXPECT_EQ(differences(before, treeOf(game_)), "") << "nothing reaches the disk before the save";
     chooseFileItem("s");
-    click(moveOut, 0, 3, 0);  // Pip, whose family is poor
+    press(moveOut, 0, 3, 0);  // Pip, whose family is poor
     answerBox("Insufficient funds", "Return");
-    click(moveOut, 0, 2, 0);  // Zoe
+    press(moveOut, 0, 2, 0);  // Zoe
     chooseFileItem("v");      // save and exit
     EXPECT_EQ(waitForExit(), 0);
 
     const Tree after = treeOf(game_);
     start();
-    click(moveOut, 0, 0, 1);  // Bramble
+    press(moveOut, 0, 0, 1);  // Bramble
     chooseFileItem("x");      // without saving
     EXPECT_EQ(waitForExit(), 0);
     EXPECT_EQ(differences(after, treeOf(game_)), "");
@@ -232,10 +253,10 @@ TEST_F(Stories, TwoProgramsSaveOneTree) {
         writeInstallation(prefix_);
         prepareGame(onWindows);
         start(onWindows);
-        click(teenToAdult, 0, 0, 2);  // Bramble
-        click(moveOut, 0, 0, 0);      // Hazel
-        click(teenToAdult, 2, 0, 2);  // Heron
-        click(moveOut, 1, 0, 1);      // Peregrine
+        press(teenToAdult, 0, 0, 2);  // Bramble
+        press(moveOut, 0, 0, 0);      // Hazel
+        press(teenToAdult, 2, 0, 2);  // Heron
+        press(moveOut, 1, 0, 1);      // Peregrine
         chooseFileItem("v");
         EXPECT_EQ(waitForExit(), 0);
         Tree saved;
