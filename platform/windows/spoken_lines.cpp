@@ -105,8 +105,9 @@ void endLines(HWND window) {
 void addLine(HWND window, HDC dc, LPCSTR text, int length, const RECT& place, UINT format) {
     // A label ends with a blank, which is not part of the control's name.
     std::size_t size = length < 0 ? std::strlen(text) : static_cast<std::size_t>(length);
-    while (size > 0 && text[size - 1] == ' ')
+    while (size > 0 && text[size - 1] == ' ') {
         --size;
+    }
     std::array<char, 256> words{};
     if (size == 0 || size >= words.size()) return;
     std::memcpy(words.data(), text, size);
