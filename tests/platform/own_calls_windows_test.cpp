@@ -156,7 +156,8 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
         EXPECT_NEAR(place.left, 10 * unit, 1);
         EXPECT_NEAR(place.right, 110 * unit, 1);
         EXPECT_NEAR(place.top, 300 * unit, 1);
-        HDC const dc = BeginPaint(window_, std::make_unique<PAINTSTRUCT>().get());
+        PAINTSTRUCT painting{};
+        HDC const dc = BeginPaint(window_, &painting);
         SIZE label{};
         GetTextExtentPoint32A(dc, "Pick a Neighborhood: ", 21, &label);
         EXPECT_TRUE(label.cx <= 150 * unit && label.cy <= 20 * unit) << "it has the room that it has at the usual size";
