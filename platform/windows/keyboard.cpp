@@ -45,6 +45,10 @@ void moveFocus(HWND from) {
     SetFocus(next);
 }
 
+bool isMenuKey(const MSG& message) {
+    return (message.message == WM_SYSKEYDOWN || message.message == WM_SYSKEYUP) && message.wParam == VK_F10;
+}
+
 bool isFirstPress(const MSG& message) {
     constexpr LPARAM isRepeated = 1 << 30;
     return (message.lParam & isRepeated) == 0;
@@ -77,6 +81,8 @@ void focusControlOf(HWND window) {
 BOOL translateMessage(MSG* message) {
     // A message box may take the keyboard while the message is dispatched.
     if (HWND const focus = GetFocus(); focus != nullptr && GetAncestor(focus, GA_ROOT) != focus) lastFocus = focus;
+    // Wine's combo boxes keep F10 to themselves, and no menu opens.
+    if (isMenuKey(*message)) message->hwnd = GetAncestor(message->hwnd, GA_ROOT);
     if (!actOn(*message)) return TranslateMessage(message);
     message->message = WM_NULL;
     return TRUE;

@@ -128,7 +128,7 @@ class Stories : public testing::Test {
         });
     }
     void chooseFileItem(const std::string& mnemonic) const {
-        chooseByKeys("File menu", mnemonic, [this] { act("key alt+f"); });
+        chooseByKeys("File menu", mnemonic, [this] { act(byKeys_ ? "key F10 Down" : "key alt+f"); });
     }
 
     // An enabled button has dark letters in its middle.
