@@ -7,7 +7,7 @@ cd "$root"
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libatspi2.0-dev libgtest-dev libbenchmark-dev
     binutils-mingw-w64-x86-64)
-display_packages=(xvfb xauth xdotool imagemagick fonts-dejavu-core dbus-daemon at-spi2-core)
+display_packages=(xvfb xdotool imagemagick fonts-dejavu-core dbus-daemon at-spi2-core)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 wine_packages=(wine wine64 fonts-wine)
 check_packages=(git clang-format clang-tidy shellcheck)
@@ -43,6 +43,18 @@ build() {
     rm -f "$log"
     return "$result"
 }
+
+# on_display COMMAND...: runs the command, or a function, on a virtual display of its own, which ends with it. The server
+# itself finds a free number, so that runs at the same time don't take each other's.
+on_display() (
+    exec {output}< <(exec Xvfb -displayfd 1 -screen 0 1024x768x24 2>/dev/null)
+    server=$!
+    trap 'kill "$server" && wait "$server" || true' EXIT
+    read -r number <&"$output" || { say "Xvfb doesn't start" >&2; exit 1; }
+    exec {output}<&-
+    export "DISPLAY=:$number"
+    "$@"
+)
 
 # note_sum NAME PASSED FAILED: what .ci/run adds up.
 note_sum() {

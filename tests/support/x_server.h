@@ -3,7 +3,6 @@
 #define TESTS_SUPPORT_X_SERVER_H
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 #include <xcb/xcb.h>
 
 #include <cstdio>
@@ -15,19 +14,15 @@ class XServer {
  public:
     // Starts Xvfb and connects to it; a failure fails the test.
     XServer() {
-        for (int tenths = 0; tenths < 200; ++tenths) {
-            connection_ = xcb_connect(display_.c_str(), nullptr);
-            if (xcb_connection_has_error(connection_) == 0) return;
-            xcb_disconnect(connection_);
-            usleep(100'000);
-        }
-        connection_ = nullptr;
-        ADD_FAILURE() << "Xvfb doesn't start";
+        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_))
+            display_.push_back(static_cast<char>(byte));
+        connection_ = xcb_connect(display_.c_str(), nullptr);
+        EXPECT_EQ(xcb_connection_has_error(connection_), 0) << "Xvfb doesn't start";
     }
     XServer(const XServer&) = delete;
     XServer& operator=(const XServer&) = delete;
     ~XServer() {
-        if (connection_ != nullptr) xcb_disconnect(connection_);
+        xcb_disconnect(connection_);
         pclose(process_);  // it ends with its last connection
     }
 
@@ -44,10 +39,9 @@ class XServer {
     }
 
  private:
-    // The number is this process's own: servers that look for a free one by themselves may take each other's.
-    const std::string display_ = ":" + std::to_string(1000 + getpid() % 30'000);
-    std::FILE* const process_ =
-        popen(("exec Xvfb " + display_ + " -screen 0 1024x768x24 -terminate 2>/dev/null").c_str(), "r");
+    // The server finds a free number by itself and prints it once it takes connections.
+    std::FILE* const process_ = popen("exec Xvfb -displayfd 1 -screen 0 1024x768x24 -terminate 2>/dev/null", "r");
+    std::string display_ = ":";
     xcb_connection_t* connection_ = nullptr;
 };
 
