@@ -5,7 +5,9 @@
 
 #include "sample/wine_prefix.h"
 
-constexpr const char* gameKey = "Software\\Wow6432Node\\Maxis\\The Sims";
+// The key of 32-bit programs; 64-bit ones see it in another place.
+constexpr const char* gameKey =
+    sizeof(void*) == 4 ? "Software\\Maxis\\The Sims" : "Software\\Wow6432Node\\Maxis\\The Sims";
 
 std::string installGame(const std::filesystem::path& prefix) {
     const std::string directory = gameDirectory(prefix).make_preferred().string();

@@ -44,15 +44,18 @@ void press(HWND window, const std::vector<int>& keys) {
         keybd_event(static_cast<BYTE>(key), 0, KEYEVENTF_KEYUP, 0);
 }
 
+// No lambda: 32-bit Windows has a calling convention of its own for these.
+void CALLBACK onTimer(HWND, UINT, UINT_PTR, DWORD) {
+    HWND const box = openBox();
+    if (box != nullptr && !IsWindowVisible(box)) return;  // its loop shows it once it has nothing else to do
+    workWhenQuiet(box != nullptr);
+}
+
 }  // namespace
 
 // Windows has a timer's message only for a loop that has no other.
 void watchForQuiet() {
-    static const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) {
-        HWND const box = openBox();
-        if (box != nullptr && !IsWindowVisible(box)) return;  // its loop shows it once it has nothing else to do
-        workWhenQuiet(box != nullptr);
-    });
+    static const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, onTimer);
     static_cast<void>(timer);
 }
 
