@@ -136,11 +136,13 @@ TEST_F(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
 }
 
 // The test program starts itself once more without a screen.
-TEST_F(WindowingNativeTest, WithoutAScreenABoxIsPrinted) {
+TEST_F(WindowingNativeTest, WithoutAScreenABoxIsPrintedAndTheLackOfAWindowExplained) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const ScopedVariable display("DISPLAY", ""), platform("QT_QPA_PLATFORM", "eglfs");
+    const ScopedVariable display("DISPLAY", ""), wayland("WAYLAND_DISPLAY", "none");
+    const ScopedVariable platform("QT_QPA_PLATFORM", "eglfs");
     EXPECT_EXIT(std::exit(MessageBoxA(nullptr, "The text", "Caf\xE9 title", MB_OKCANCEL)), testing::ExitedWithCode(0),
-                "Caf\xC3\xA9 title\nThe text\n");
+                "No window can be opened: the platform eglfs can't be tried, and DISPLAY isn't set, and the Wayland "
+                "server none doesn't answer.\nCaf\xC3\xA9 title\nThe text\n");
 }
 
 }  // namespace

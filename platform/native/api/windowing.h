@@ -82,7 +82,7 @@ ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 // are those of the whole window without a window manager's frame, for a combo box with its list open; CW_USEDEFAULT
 // leaves them to the system. A window without WS_CAPTION has no frame, is placed exactly and stays in front. WM_CREATE
 // is sent before this returns; the client rectangle is known by then. Null on failure: no such class, no such parent,
-// no display. Left out: a refusal by the result of WM_CREATE.
+// no display, which a line on standard error says with its reason. Left out: a refusal by the result of WM_CREATE.
 HWND CreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
                      int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
 

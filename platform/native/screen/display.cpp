@@ -17,6 +17,8 @@ namespace {
 // Only closeDisplay deletes it: when the X server goes away, Qt calls exit(), and must not be destroyed during that.
 QApplication* application = nullptr;
 
+std::string reasonForNone;
+
 bool pluginLoads(const QByteArray& name) {
     const QString folder = qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH",
                                                 QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms");
@@ -58,23 +60,49 @@ bool waylandAnswers() {
     return answers;
 }
 
-// `platform` may have parameters after a colon.
-bool usable(const QByteArray& platform, XServer& xServer) {
+QByteArray whyNoServer(const char* variable, const char* server, bool answers) {
+    if (answers) return {};
+    const QByteArray name = qgetenv(variable);
+    return name.isEmpty() ? QByteArray(variable) + " isn't set" : QByteArray(server) + " " + name + " doesn't answer";
+}
+
+// Empty if the platform can be used. `platform` may have parameters after a colon.
+QByteArray whyUnusable(const QByteArray& platform, XServer& xServer) {
     const QByteArray name = platform.split(':').first();
-    if (name == "xcb") return xServer.answers() && pluginLoads(name);
-    if (name.startsWith("wayland")) {
-        return waylandAnswers() && pluginLoads(name == "wayland" ? QByteArray("wayland-generic") : name);
+    QByteArray plugin = name, reason;
+    if (name == "xcb") {
+        reason = whyNoServer("DISPLAY", "the X server", xServer.answers());
+    } else if (name.startsWith("wayland")) {
+        if (name == "wayland") plugin = "wayland-generic";
+        reason = whyNoServer("WAYLAND_DISPLAY", "the Wayland server", waylandAnswers());
+    } else if (name != "offscreen" && name != "minimal" && name != "vnc") {
+        // Those need no server. The rest draw directly on hardware, which can't be tried in advance.
+        return "the platform " + name + " can't be tried";
     }
-    // These need no server. The rest draw directly on hardware, which can't be tried in advance.
-    return (name == "offscreen" || name == "minimal" || name == "vnc") && pluginLoads(name);
+    if (!reason.isEmpty() || pluginLoads(plugin)) return reason;
+    return "Qt's plugin for " + name + " can't be loaded";
+}
+
+// Wayland is the last choice: there the program can't see whether the game runs. It counts only where the session names
+// it, so that a program is without a screen if it is started without the names of screens.
+QByteArrayList candidates() {
+    QByteArrayList all;
+    if (const QByteArray wanted = qgetenv("QT_QPA_PLATFORM"); !wanted.isEmpty()) all = wanted.split(';');
+    all.append("xcb");
+    if (!qgetenv("WAYLAND_DISPLAY").isEmpty()) all.append("wayland");
+    return all;
 }
 
 // The name of the platform to use; empty if there is no screen.
 QByteArray choosePlatform(XServer& xServer) {
-    for (const QByteArray& platform : qgetenv("QT_QPA_PLATFORM").split(';')) {
-        if (usable(platform, xServer)) return platform;
+    QByteArrayList reasons;
+    for (const QByteArray& platform : candidates()) {
+        const QByteArray reason = whyUnusable(platform, xServer);
+        if (reason.isEmpty()) return platform;
+        if (!reasons.contains(reason)) reasons.append(reason);
     }
-    return usable("xcb", xServer) ? QByteArray("xcb") : QByteArray();
+    reasonForNone = reasons.join(", and ").toStdString();
+    return {};
 }
 
 // Changes an environment variable while Qt starts. Afterwards it is as before, for programs that this one starts.
@@ -134,6 +162,10 @@ void openDisplay(char** arguments) {
 
 bool hasDisplay() {
     return application != nullptr;
+}
+
+const std::string& whyNoDisplay() {
+    return reasonForNone;
 }
 
 void closeDisplay() {

@@ -1,5 +1,6 @@
 // Creation and destruction of windows.
 #include <QWidget>
+#include <cstdio>
 
 #include "platform/native/api/system.h"
 #include "platform/native/screen/display.h"
@@ -35,6 +36,7 @@ HWND createTopLevel(LPCSTR className, LPCSTR title, DWORD style, const Placement
 HWND CreateWindowExA(DWORD, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU menu, HINSTANCE, LPVOID) {
     if (!hasDisplay()) {
+        std::fprintf(stderr, "No window can be opened: %s.\n", whyNoDisplay().c_str());
         SetLastError(ERROR_GEN_FAILURE);
         return nullptr;
     }
