@@ -8,7 +8,7 @@ cd "$root"
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libatspi2.0-dev libgtest-dev libbenchmark-dev
     binutils-mingw-w64-x86-64)
 display_packages=(xvfb xdotool imagemagick fonts-dejavu-core dbus-daemon at-spi2-core)
-windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
+windows_packages=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-i686-win32 googletest)
 wine_packages=(wine wine64 fonts-wine)
 check_packages=(git clang-format clang-tidy shellcheck)
 fuzz_packages=(clang libclang-rt-14-dev)

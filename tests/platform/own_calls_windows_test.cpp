@@ -2,7 +2,6 @@
 #include <windows.h>
 
 #include <sddl.h>
-#include <thread>
 
 #include "platform/files.h"
 #include "tests/platform/window_test.h"
@@ -52,6 +51,12 @@ TEST_F(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
     RegCloseKey(key);
 }
 
+DWORD WINAPI closeInAMoment(void* handle) {
+    Sleep(200);
+    CloseHandle(handle);
+    return 0;
+}
+
 TEST_F(OwnCallsWindowsTest, AFileIsMadeAgainOnceNoProgramHoldsTheDeletedOne) {
     const TempDirectory directory;
     directory.write("live.iff", "old");
@@ -59,13 +64,11 @@ TEST_F(OwnCallsWindowsTest, AFileIsMadeAgainOnceNoProgramHoldsTheDeletedOne) {
     HANDLE const scanner = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                                        OPEN_EXISTING, 0, nullptr);
     EXPECT_TRUE(DeleteFileA(path.c_str()));
-    std::thread closing([=] {
-        Sleep(200);
-        CloseHandle(scanner);
-    });
+    HANDLE const closing = CreateThread(nullptr, 0, closeInAMoment, scanner, 0, nullptr);
     std::FILE* const file = openFile(path.c_str(), "wb");
     EXPECT_NE(file, nullptr);
-    closing.join();
+    WaitForSingleObject(closing, INFINITE);
+    CloseHandle(closing);
     if (file != nullptr) std::fclose(file);
 }
 
