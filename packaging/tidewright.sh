@@ -22,7 +22,7 @@ own=$data/tidewright
 check_link() {
     [ -L "$1" ] && [ ! -e "$1" ] || return 0
     case $(readlink "$1") in
-        "$originals"/*) rm "$1" || fail "can't write into $own" ;;
+        "$originals"/*) rm "$1" 2>/dev/null || fail "can't write into $own" ;;
         *) fail "$own/$1 is a link to a file that isn't there: bring the file back or remove the link" ;;
     esac
 }
@@ -30,13 +30,14 @@ check_link() {
 # The preparing program makes skinsets.cfg of it.
 bring_original() {
     [ -s "$originals/skinsets-original.cfg" ] || fail "$originals isn't complete: install the package again"
-    [ -e skinsets-original.cfg ] || ln -s "$originals/skinsets-original.cfg" . || fail "can't write into $own"
+    # A link may be there that leads nowhere.
+    [ -e skinsets-original.cfg ] || ln -sf "$originals/skinsets-original.cfg" . 2>/dev/null || fail "can't write into $own"
 }
 
-if ! mkdir -p "$own" || ! cd "$own"; then
+if ! mkdir -p "$own" 2>/dev/null || ! cd "$own" 2>/dev/null; then
     fail "can't use the directory $own"
 fi
-for file in skinsets.cfg Template.iff famtemplate skinsets-original.cfg; do
+for file in skinsets.cfg Template.iff famtemplate; do
     check_link "$file"
 done
 [ -s skinsets.cfg ] || bring_original
