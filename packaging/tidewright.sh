@@ -3,7 +3,7 @@
 # tidewright --prepare [OPTION...]   prepares the game alone; the options are those of tidewright-prepare.
 # Both work in a directory of the user's own.
 set -u
-programs=/usr/lib/tidewright
+programs=/usr/libexec/tidewright
 originals=/usr/share/tidewright
 
 fail() {
