@@ -76,7 +76,7 @@ run_ctest() {
     return "$result"
 }
 
-package_packages=(binutils dpkg-dev git gzip pandoc zip)
+package_packages=(binutils dpkg-dev gzip pandoc zip)
 
 # The program's version, such as 1.0.0.
 project_version() {
