@@ -34,6 +34,15 @@ bring_original() {
     [ -e skinsets-original.cfg ] || ln -sf "$originals/skinsets-original.cfg" . 2>/dev/null || fail "can't write into $own"
 }
 
+# The box about a game that isn't found can't know that there is Wine here.
+prepare() {
+    "$programs/tidewright-prepare" "$@" && return
+    code=$?
+    [ "$code" -ne 255 ] ||
+        echo "tidewright: install the package wine, and The Sims with it, or set WINEPREFIX to the game's prefix" >&2
+    exit "$code"
+}
+
 if ! mkdir -p "$own" 2>/dev/null || ! cd "$own" 2>/dev/null; then
     fail "can't use the directory $own"
 fi
@@ -43,7 +52,8 @@ done
 [ -s skinsets.cfg ] || bring_original
 if [ "${1:-}" = --prepare ]; then
     shift
-    exec "$programs/tidewright-prepare" "$@"
+    prepare "$@"
+    exit
 fi
-"$programs/tidewright-prepare" --if-needed || exit
+prepare --if-needed
 exec "$programs/tidewright" "$@"
