@@ -20,7 +20,7 @@ void operator delete(void* memory, std::size_t) noexcept {
 }
 
 // The library calls these where an argument is out of range or memory runs out.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl58-cpp): they are the library's
+// NOLINTBEGIN(bugprone-reserved-identifier): they are the library's
 namespace std {
 
 void __throw_bad_alloc() {
@@ -44,4 +44,4 @@ void __throw_out_of_range_fmt(const char*, ...) {
 }
 
 }  // namespace std
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl58-cpp)
+// NOLINTEND(bugprone-reserved-identifier)
