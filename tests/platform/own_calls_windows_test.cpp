@@ -20,10 +20,18 @@ class OwnCallsWindowsTest : public WindowTest {
         runMessages();
     }
 
+    // Notes the kind of an event, and the text of the line that it is about.
+    static void CALLBACK hear(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG, DWORD, DWORD) {
+        if (object == OBJID_CLIENT && GetDlgCtrlID(window) == -1)
+            heard_.push_back(std::to_string(event) + textOf(window));
+    }
+
     void takeKeysAway() const {
         SetFocus(nullptr);
         SetFocus(window_);
     }
+
+    static inline Log heard_;
 };
 
 TEST_F(OwnCallsWindowsTest, AControlHasTheFontOfMessages) {
@@ -103,7 +111,7 @@ TEST_F(OwnCallsWindowsTest, KeysReachEveryControlAndTheWheelOnlyTheOneThatHasThe
 }
 
 TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSaysWhatChanges) {
-    static Log heard;
+    heard_.clear();
     HWND const box = addCombo({"a"}), button = addButton(1);
     pickEntry(box, 0);
     // Draws the lines, and returns all texts in the order in which screen readers find them.
@@ -125,14 +133,10 @@ TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSa
     HWND const label = GetWindow(window_, GW_CHILD);
     EXPECT_EQ(SendMessageA(label, WM_GETDLGCODE, 0, 0), DLGC_STATIC);
     EXPECT_LT(placeOf(label).right, 160) << "as wide as its words";
-    const auto hear = [](HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG, DWORD, DWORD) {
-        if (object == OBJID_CLIENT && GetDlgCtrlID(window) == -1)
-            heard.push_back(std::to_string(event) + textOf(window));
-    };
     constexpr DWORD nameChange = 0x800C, liveRegionChanged = 0x8019;
     SetWinEventHook(nameChange, liveRegionChanged, nullptr, hear, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
     EXPECT_EQ(textsWith("Stage: teenager"), "Pick:|a|Stage: teenager|One|");
-    EXPECT_EQ(heard, (Log{"32780Stage: teenager", "32793Stage: teenager"}));
+    EXPECT_EQ(heard_, (Log{"32780Stage: teenager", "32793Stage: teenager"}));
     press({VK_TAB});
     EXPECT_EQ(GetFocus(), button) << "a text takes no keys";
     EXPECT_EQ(textsWith(""), "Pick:|a|One|");
