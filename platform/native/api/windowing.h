@@ -1,5 +1,5 @@
-// Windows and their messages, over Qt Widgets. Coordinates are in pixels of a screen of 96 dots per inch, whatever the
-// real screen's scale. Texts are Windows-1252.
+// Windows and their messages, over Qt Widgets. Coordinates are in units: pixels of a screen of 96 dots per inch,
+// whatever the real screen's scale, and more with a font larger than usual. Texts are Windows-1252.
 //
 // A window procedure receives, in Windows' order: WM_CREATE inside CreateWindowExA, WM_PAINT when part of its client
 // area must be drawn, WM_COMMAND from its controls, menu and accelerators, WM_CLOSE when the user asks to close it, and
@@ -111,8 +111,8 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // out: every index but GWL_STYLE.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
-// The control that has the keyboard or, while another program has it, the control that will have it then; null for
-// none. SetFocus passes the keyboard to a control and returns the one that had it.
+// The control that has the keyboard or, while another program has it, the newest window's that will have it then; null
+// for none. SetFocus passes the keyboard to a control and returns the one that had it.
 HWND GetFocus();
 HWND SetFocus(HWND window);
 
@@ -122,8 +122,9 @@ LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 // The default actions of a window: WM_CLOSE destroys it, WM_PAINT draws its background. Returns 0.
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Finds a top-level window of any class and any program by its whole title. Null if there is none, or no display. Left
-// out: search by class (`className` must be null) and for any title (`windowName` must not be null).
+// Finds a top-level window of any class and any program by its whole title. Null if there is none. Where there is no X
+// server, other programs' windows aren't found. Left out: search by class (`className` must be null) and for any title
+// (`windowName` must not be null).
 HWND FindWindowA(LPCSTR className, LPCSTR windowName);
 
 // Waits for the next message. Returns 0 for WM_QUIT, with the exit code in `wParam`, which comes after PostQuitMessage

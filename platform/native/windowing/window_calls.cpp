@@ -73,10 +73,12 @@ LONG SetWindowLongA(HWND window, int index, LONG value) {
 }
 
 HWND GetFocus() {
-    for (HWND const window : allWindows()) {
-        const QWidget* const widget = findWindow(window)->widget();
-        if (QApplication::focusWidget() == nullptr ? widget->window()->focusWidget() == widget : widget->hasFocus())
-            return window;
+    const std::vector<HWND> windows = allWindows();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        const QWidget* const widget = findWindow(*window)->widget();
+        if (QApplication::focusWidget() == nullptr ? widget->window()->focusWidget() == widget : widget->hasFocus()) {
+            return *window;
+        }
     }
     return nullptr;
 }
