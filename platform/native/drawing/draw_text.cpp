@@ -17,13 +17,14 @@
 namespace {
 
 struct Line {
-    QString text;
+    QString source;
+    QString text;  // without its marks
     QList<QTextLayout::FormatRange> underlined;
 };
 
 // Removes each "&" and notes the character after it. An "&" at the very end is drawn.
 Line readLine(const QString& source) {
-    Line line;
+    Line line{source, {}, {}};
     for (qsizetype i = 0; i < source.size(); ++i) {
         const bool mark = source[i] == '&' && i + 1 < source.size();
         if (mark) ++i;
@@ -86,7 +87,7 @@ int DrawTextA(HDC dc, LPCSTR text, int count, RECT* rectangle, UINT format) {
         painter.setPen(QGuiApplication::palette().color(QPalette::Text));
         QRect row = bounds;
         for (const Line& line : lines) {
-            speak(*context, drawLine(painter, line, row, (format & DT_CENTER) != 0) & bounds, line.text);
+            speak(*context, drawLine(painter, line, row, (format & DT_CENTER) != 0) & bounds, line.source);
             row.setTop(row.top() + lineHeight);
         }
     });

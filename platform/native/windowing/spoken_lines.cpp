@@ -108,8 +108,9 @@ void SpokenLines::nameComboBoxes(const QWidget& client) {
 QString SpokenLines::takePick(const QWidget& client) {
     QString picked;
     for (const QComboBox* const combo : comboBoxesIn(client)) {
-        const QString before = std::exchange(picks_[combo], combo->currentText());
-        if (combo->hasFocus() && combo->currentText() != before) picked = combo->currentText();
+        const std::pair now(combo->currentIndex(), combo->currentText());
+        const bool isNew = std::exchange(picks_[combo], now) != now;
+        if (isNew && combo->hasFocus()) picked = combo->currentText();
     }
     return picked;
 }

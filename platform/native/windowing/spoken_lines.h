@@ -8,6 +8,7 @@
 #include <QRegion>
 #include <QStringList>
 #include <map>
+#include <utility>
 #include <vector>
 
 class QComboBox;
@@ -42,7 +43,7 @@ class SpokenLines {
     QStringList freeLines() const;
 
     std::vector<Line> lines_;
-    std::map<const QComboBox*, QString> picks_;  // what each shows
+    std::map<const QComboBox*, std::pair<int, QString>> picks_;  // each one's index and text
 };
 
 #endif
