@@ -74,10 +74,10 @@ TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheKeyboardIsAndF10OpensTheFir
 
 TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom) {
     const QFont usual = QApplication::font();
-    for (const int points : {9, 18, 24}) {
-        SCOPED_TRACE(points);
+    for (const QFont& font : {QFont("DejaVu Sans", 9), QFont("DejaVu Sans", 18), QFont("DejaVu Sans Mono", 24)}) {
+        SCOPED_TRACE(font.pointSize());
         DestroyWindow(window_);
-        QApplication::setFont(QFont("DejaVu Sans", points));
+        QApplication::setFont(font);
         updateScale();
         window_ = CreateWindowA("WindowTest", "A larger one", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, nullptr, nullptr);
@@ -100,12 +100,16 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         const QLabel& label = *button.parentWidget()->findChild<QLabel*>();
         EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance("Pick a Neighborhood: ")) << "it isn't cut";
 
-        button.window()->resize(button.width() * 2, button.width() * 2);
+        button.window()->resize(button.width() * 3, button.width() * 2);
         runMessages();
-        combo.setFocus();
-        QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Tab);
-        runMessages();
-        EXPECT_EQ(button.visibleRegion(), QRegion(button.rect())) << "the keyboard brings it into view";
+        for (QWidget* const control : {static_cast<QWidget*>(&button), &combo}) {
+            EXPECT_NE(control->visibleRegion(), QRegion(control->rect()));
+            control->setFocus();
+            runMessages();
+            EXPECT_EQ(control->visibleRegion(), QRegion(control->rect())) << "the keyboard brings it into view";
+        }
+        QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Down, Qt::ControlModifier);
+        EXPECT_TRUE(combo.visibleRegion().isEmpty()) << "and keys scroll";
     }
     QApplication::setFont(usual);
     updateScale();

@@ -1,5 +1,6 @@
-// The controls' styles and messages, message boxes and dialogs. Keyboard, wheel, screen readers and scaling are Qt's: a
-// combo box is a QComboBox, a button a QPushButton, a message box a QMessageBox.
+// The controls' styles and messages, message boxes and dialogs. A combo box is a QComboBox, a button a QPushButton, a
+// message box a QMessageBox, and what isn't said here is as Qt has it. The wheel changes a combo box only while that
+// has the keyboard. Screen readers call it by the label to its left.
 #ifndef PLATFORM_NATIVE_API_CONTROLS_H
 #define PLATFORM_NATIVE_API_CONTROLS_H
 
@@ -28,7 +29,7 @@ constexpr UINT MB_OK = 0x0000;
 constexpr UINT MB_OKCANCEL = 0x0001;
 
 // Shows a box and waits for the answer: IDOK or IDCANCEL. Closing a box with one button answers with that button. The
-// box blocks `owner`. Without an owner it blocks every window of the program (on Windows none): the program waits for
+// box blocks `owner`. Without an owner it blocks every window of the program: the program waits for
 // the answer, and a click elsewhere would start another command within this one. Without a display it writes the title
 // and the text to standard error and returns 0.
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);

@@ -27,7 +27,7 @@ BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
 
 // Draws `text` (`count` characters; -1: up to its terminator) in the message font, from the top of `rectangle` and
 // clipped to it, at its left edge or centered with DT_CENTER. CR, LF or CR LF start a new line. "&" underlines the next
-// character, "&&" draws one. Returns the height of the text. Left out: every other format.
+// character, "&&" draws one. Returns the height of the text in units. Left out: every other format.
 int DrawTextA(HDC dc, LPCSTR text, int count, RECT* rectangle, UINT format);
 
 // A device context of the whole screen (`window` null) or of a window's client area. Drawing on the screen appears on

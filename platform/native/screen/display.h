@@ -8,9 +8,8 @@
 #include <string>
 
 // Opens the screen that QT_QPA_PLATFORM names, or else the X server at $DISPLAY, or else the Wayland server at
-// $WAYLAND_DISPLAY. Call it once, before anything else
-// here. Without a screen there is no Qt application afterwards. `arguments` are those of main; only the first, the
-// program's name, is used.
+// $WAYLAND_DISPLAY. Call it once, before anything else here. Without a screen there is no Qt application afterwards.
+// `arguments` are those of main; only the first, the program's name, is used.
 void openDisplay(char** arguments);
 
 // Whether a screen is open. Check it before any use of Qt's widgets.

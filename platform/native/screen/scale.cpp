@@ -8,7 +8,7 @@
 namespace {
 
 // What the windows have room for at a scale of 1: a label of 21 letters is 150 pixels wide, a line 20 pixels high.
-constexpr double widestLetters = 8.1;  // the average of the alphabet in both cases
+constexpr double widestLetters = 7;  // on average, in plain text
 constexpr double highestLine = 20;
 
 double scale = 1;
@@ -17,9 +17,9 @@ double scale = 1;
 
 void updateScale() {
     const QFontMetrics metrics(QGuiApplication::font());
-    const QString letters("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-    const double width = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
-    scale = std::max({1.0, width / widestLetters, metrics.lineSpacing() / highestLine});
+    const QString text("The quick brown fox jumps over the lazy dog");
+    const double letterWidth = metrics.horizontalAdvance(text) / static_cast<double>(text.size());
+    scale = std::max({1.0, letterWidth / widestLetters, metrics.lineSpacing() / highestLine});
 }
 
 double windowScale() {

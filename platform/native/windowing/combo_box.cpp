@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QProxyStyle>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "platform/native/api/controls.h"
@@ -31,9 +32,7 @@ class Box : public QComboBox {
     explicit Box(QWidget* area) : QComboBox(area) { setFocusPolicy(Qt::StrongFocus); }
 
  protected:
-    void wheelEvent(QWheelEvent* event) override {
-        if (hasFocus()) QComboBox::wheelEvent(event);
-    }
+    void wheelEvent(QWheelEvent* event) override { hasFocus() ? QComboBox::wheelEvent(event) : event->ignore(); }
 };
 
 }  // namespace

@@ -1,9 +1,12 @@
 #include "platform/native/windowing/top_level_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QStyle>
 #include <QWidget>
 
@@ -35,6 +38,14 @@ class Frame : public QWidget {
         scroll_->setFrameShape(QFrame::NoFrame);
         scroll_->setFocusPolicy(Qt::NoFocus);
         scroll_->setWidget(client);
+        QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* control) {
+            if (client_->isAncestorOf(control)) scroll_->ensureWidgetVisible(control);
+        });
+        // For lines without a control nearby.
+        addScrollKey(Qt::CTRL | Qt::Key_Up, scroll_->verticalScrollBar(), QAbstractSlider::SliderPageStepSub);
+        addScrollKey(Qt::CTRL | Qt::Key_Down, scroll_->verticalScrollBar(), QAbstractSlider::SliderPageStepAdd);
+        addScrollKey(Qt::CTRL | Qt::Key_Left, scroll_->horizontalScrollBar(), QAbstractSlider::SliderPageStepSub);
+        addScrollKey(Qt::CTRL | Qt::Key_Right, scroll_->horizontalScrollBar(), QAbstractSlider::SliderPageStepAdd);
     }
     void setSmallestClient(const QSize& size) { smallestClient_ = size; }
 
@@ -63,6 +74,10 @@ class Frame : public QWidget {
     }
 
  private:
+    void addScrollKey(QKeySequence key, QScrollBar* bar, QAbstractSlider::SliderAction action) {
+        QObject::connect(new QShortcut(key, this), &QShortcut::activated, bar, [=] { bar->triggerAction(action); });
+    }
+
     // The width that a text needs isn't known; the height is that of the controls, once there are any.
     QSize neededSize() const {
         const QRect controls = client_->childrenRect();

@@ -7,7 +7,7 @@
 #include "platform/native/windowing/window.h"
 #include "platform/native/windowing/window_class.h"
 
-// In pixels of the screen; `x` and `width` may be CW_USEDEFAULT.
+// In units (scale.h); `x` and `width` may be CW_USEDEFAULT.
 struct Placement {
     int x, y, width, height;
 };
