@@ -122,6 +122,55 @@ CastSim largeSim(int number) {
     return sim;
 }
 
+CastNeighborhood largeNeighborhood(int familyCount, int simCount) {
+    CastNeighborhood neighborhood = {.freeRoom = true, .map = true};
+    for (int number = 1; number <= familyCount; ++number) {
+        neighborhood.families.push_back({number, "Household " + std::to_string(number), 5000 * number});
+    }
+    for (int number = 1; number <= simCount; ++number) {
+        const auto family = static_cast<std::size_t>((number - 1) % familyCount);
+        neighborhood.families[family].members.push_back(largeSim(number));
+    }
+    return neighborhood;
+}
+
+CastNeighborhood realNeighborhood() {
+    constexpr int families = 28;
+    constexpr int sims = 216;
+    CastNeighborhood neighborhood = largeNeighborhood(families, sims);
+    neighborhood.growingCharacters = true;
+    return neighborhood;
+}
+
+std::string longestName(std::string name) {
+    constexpr std::size_t longest = 99;
+    while (name.size() < longest) {
+        name += "-\xC5ngstr\xF6m-\x8Atrudl-Cr\xE8me";
+    }
+    name.resize(longest);
+    return name;
+}
+
+// A family has 8 members at most, so some Sims are left when 100 families are full. They are in families that aren't
+// listed.
+CastNeighborhood fullNeighborhood() {
+    constexpr int listedFamilies = 100;
+    constexpr int families = 103;
+    constexpr int sims = 820;
+    CastNeighborhood neighborhood = largeNeighborhood(families, sims);
+    for (CastFamily& family : neighborhood.families) {
+        if (family.number > listedFamilies) {
+            family.name = "Default";
+        } else if (family.number % 10 == 1) {
+            family.name = longestName("\xC9toile " + std::to_string(family.number));
+        }
+    }
+    for (CastSim& sim : neighborhood.families.front().members) {
+        sim.name = longestName(sim.name);
+    }
+    return neighborhood;
+}
+
 }  // namespace
 
 bool isUnreadable(SampleKind kind) {
@@ -134,20 +183,10 @@ const std::vector<CastNeighborhood>& sampleCast() {
 }
 
 std::vector<CastNeighborhood> largeCast(int neighborhoods) {
-    constexpr int familyCount = 28;
-    constexpr int simCount = 216;
-    CastNeighborhood neighborhood = {.freeRoom = true, .map = true};
-    for (int number = 1; number <= familyCount; ++number) {
-        neighborhood.families.push_back({number, "Household " + std::to_string(number), 5000 * number});
-    }
-    for (int number = 1; number <= simCount; ++number) {
-        const auto family = static_cast<std::size_t>((number - 1) % familyCount);
-        neighborhood.families[family].members.push_back(largeSim(number));
-    }
     std::vector<CastNeighborhood> cast;
     for (int number = 1; number <= neighborhoods; ++number) {
-        neighborhood.directory = number == 1 ? "UserData" : "UserData" + std::to_string(number);
-        cast.push_back(neighborhood);
+        cast.push_back(number == 2 ? fullNeighborhood() : realNeighborhood());
+        cast.back().directory = number == 1 ? "UserData" : "UserData" + std::to_string(number);
     }
     return cast;
 }
@@ -159,6 +198,8 @@ std::string castRecordName(const CastSim& sim) {
 
 std::uint32_t castGuid(int neighborhoodIndex, const CastSim& sim) {
     constexpr std::uint32_t common = 0x54570000;
+    constexpr std::uint32_t byteValues = 255;  // without zero
     const auto neighborhood = static_cast<std::uint32_t>(neighborhoodIndex % 100 + 0x11);
-    return common | neighborhood << 8 | static_cast<std::uint32_t>(sim.fileNumber % 255 + 1);
+    const auto number = static_cast<std::uint32_t>(sim.fileNumber);
+    return common + (number / byteValues << 16 | neighborhood << 8 | (number % byteValues + 1));
 }

@@ -24,7 +24,7 @@ enum class SampleKind {
 bool isUnreadable(SampleKind kind);
 
 struct CastSim {
-    int fileNumber = 0;     // 42 for "User00042.iff"; 1 to 254, unique in its neighborhood
+    int fileNumber = 0;     // 42 for "User00042.iff"; 1 to 820, unique in its neighborhood
     std::string name = {};  // Windows-1252
     SampleKind kind = SampleKind::adult;
     int gender = 0;  // 0 male, 1 female, 2 to 5 pet
@@ -46,13 +46,16 @@ struct CastNeighborhood {
     bool freeRoom = false;       // its file has an "XXXX" chunk
     bool map = false;            // its file has a resource map
     std::vector<CastFamily> families = {};
+    bool growingCharacters = false;  // its character files take 55,000 to 370,000 bytes, and each has a map
 };
 
 // The three neighborhoods of the sample installation. One family is named "Default": the game keeps Sims without a home
 // in it, and the program doesn't list it.
 const std::vector<CastNeighborhood>& sampleCast();
 
-// Neighborhoods of a real size: 28 families and 216 Sims in each.
+// Neighborhoods of a real size: 28 families and 216 Sims in each. The second one is as full as the program can show:
+// 100 families, most of 8 members, and 820 Sims. Every tenth family and all members of the first have names of 99
+// characters.
 std::vector<CastNeighborhood> largeCast(int neighborhoods);
 
 // The record name, for example "user00042".

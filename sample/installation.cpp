@@ -10,8 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct FileSizes {
-    std::size_t neighborhood = 0;    // at least; 0 for no more than its content takes
-    bool growingCharacters = false;  // makes character files of 55,000 to 370,000 bytes, each with a map
+    std::size_t neighborhood = 0;  // at least; 0 for no more than its content takes
     int friendsOfEach = 0;
 };
 
@@ -84,7 +83,7 @@ SampleNeighbor castNeighbor(int neighborhoodIndex, const CastFamily& family, con
     return neighbor;
 }
 
-// One of the game's own characters, which are in the same list as the players' Sims.
+// One of the game's own characters, which are in the same list as the players' Sims. Its id is above theirs.
 SampleNeighbor ownCharacter(const std::string& recordName, std::int32_t neighborId, bool hasPersonData) {
     constexpr std::uint32_t ownGuids = 0x11220000;
     SampleNeighbor neighbor;
@@ -145,8 +144,8 @@ SampleCharacter castCharacter(int neighborhoodIndex, const CastFamily& family, c
     return character;
 }
 
-bool writeCharacter(const fs::path& directory, SampleCharacter character, const CastSim& sim, const FileSizes& sizes) {
-    if (sizes.growingCharacters) {
+bool writeCharacter(const fs::path& directory, SampleCharacter character, const CastSim& sim, bool growing) {
+    if (growing) {
         character.map = true;
         character.fileSize = 50000 + static_cast<std::size_t>(sim.fileNumber * 37 % 320) * 1000;
     }
@@ -159,7 +158,7 @@ SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighbo
     SampleNeighborhood file;
     file.freeRoom = neighborhood.freeRoom;
     file.map = neighborhood.map;
-    file.neighbors.push_back(ownCharacter("robot", 301, true));
+    file.neighbors.push_back(ownCharacter("robot", 901, true));
     for (const CastFamily& family : neighborhood.families) {
         file.families.push_back(castFamily(neighborhoodIndex, family));
         for (const CastSim& sim : family.members) {
@@ -167,7 +166,7 @@ SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighbo
             file.neighbors.push_back(castNeighbor(neighborhoodIndex, family, sim));
         }
     }
-    file.neighbors.push_back(ownCharacter("npc_clown", 302, false));
+    file.neighbors.push_back(ownCharacter("npc_clown", 902, false));
     return file;
 }
 
@@ -182,7 +181,8 @@ bool writeNeighborhood(const fs::path& game, int index, const CastNeighborhood& 
     for (const CastFamily& family : cast.families) {
         for (const CastSim& sim : family.members) {
             if (isUnreadable(sim.kind)) continue;
-            if (!writeCharacter(characters, castCharacter(index, family, sim), sim, sizes)) return false;
+            const SampleCharacter character = castCharacter(index, family, sim);
+            if (!writeCharacter(characters, character, sim, cast.growingCharacters)) return false;
         }
     }
     return true;
@@ -204,6 +204,6 @@ bool writeInstallation(const fs::path& prefix) {
 }
 
 bool writeLargeInstallation(const fs::path& prefix, int neighborhoods) {
-    constexpr FileSizes realSizes = {.neighborhood = 566000, .growingCharacters = true, .friendsOfEach = 60};
+    constexpr FileSizes realSizes = {.neighborhood = 566000, .friendsOfEach = 60};
     return writeCast(prefix, largeCast(neighborhoods), realSizes);
 }

@@ -21,15 +21,31 @@ TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
     ASSERT_TRUE(writeInstallation(prefix));
     EXPECT_EQ(treeOf(prefix), first);
 
-    ASSERT_TRUE(writeLargeInstallation(prefix, 1));
-    const Tree large = treeOf(gameDirectory(prefix) / "UserData");
-    EXPECT_EQ(large.at("Neighborhood.iff").size(), 566000U);
-    for (const auto& [name, bytes] : large)
-        EXPECT_EQ(walkIff(bytes).fault, "") << name;
-
     files.write("others/system.reg", "a player's own");
     EXPECT_FALSE(writeInstallation(files.path("others")));
     EXPECT_EQ(treeOf(files.path("others")), (Tree{{"system.reg", bytesFrom("a player's own")}}));
+}
+
+TEST(InstallationTest, ALargeOneHasARealNeighborhoodAndAFullOne) {
+    const TempDirectory files;
+    ASSERT_TRUE(writeLargeInstallation(files.path("prefix"), 2));
+    const Tree large = treeOf(gameDirectory(files.path("prefix")));
+    EXPECT_EQ(large.at("UserData/Neighborhood.iff").size(), 566000U);
+    for (const auto& [name, bytes] : large)
+        EXPECT_EQ(name.ends_with(".iff") ? walkIff(bytes).fault : "", "") << name;
+
+    loadNeighborhoods(installGame(files.path("prefix")).c_str(), "");
+    Neighborhood& full = *neighborhoods[1];
+    EXPECT_EQ(full.simCount(), 820);
+    EXPECT_EQ(full.familyCount(), 100);
+    for (std::int32_t i = 0; i < full.familyCount(); ++i) {
+        Family& family = *full.family(i);
+        for (std::int32_t k = family.memberCount() - 1; k >= 0; --k)
+            ASSERT_NE(family.member(k), nullptr) << family.name();
+    }
+    EXPECT_EQ(full.family(0)->memberCount(), 8);
+    EXPECT_EQ(std::string(full.family(0)->name()).size(), 99U);
+    EXPECT_EQ(std::string(full.family(0)->member(7)->name()).size(), 99U);
 }
 
 TEST(InstallationTest, HasSimsOfEveryKind) {
