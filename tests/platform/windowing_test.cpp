@@ -1,6 +1,7 @@
 // Windows, controls, menus, keys and boxes: what a window receives, and what the user sees of it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <tuple>
 
 #include "tests/platform/window_test.h"
@@ -66,6 +67,11 @@ TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
     for (const auto& [one, other] : {std::pair("Q&&A", "QA"), {"a&bc", "abc"}, {"\xE9", "e"}})
         EXPECT_FALSE(drawn(one) == drawn(other)) << one;
     EXPECT_TRUE(drawn(std::string(60, 'w')) == drawn(std::string(80, 'w'))) << "clipped";
+    const auto bare = [&drawn](const char* text) {
+        const auto pixels = drawn(text);
+        return std::ranges::count(pixels, pixels.front());
+    };
+    EXPECT_EQ(bare("\xC5\x8A"), bare("\n\xC5\x8A")) << "the first line has room for tall letters too";
 }
 
 TEST_F(WindowingTest, APickByMouseOrKeyIsReportedAndADeletionIsNot) {

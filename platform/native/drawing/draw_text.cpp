@@ -11,6 +11,7 @@
 #include "platform/native/drawing/device_context.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/screen/scale.h"
+#include "platform/native/screen/tall_letters.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 
@@ -49,7 +50,7 @@ std::vector<Line> readLines(QString source) {
     return lines;
 }
 
-// Draws one line in the top row of the rectangle. Returns the place of its text.
+// Draws one line in the top row of the rectangle, which has room for tall letters. Returns the place of its text.
 QRect drawLine(QPainter& painter, const Line& line, const QRect& rectangle, bool centered) {
     QTextLayout layout(line.text, painter.font());
     layout.setFormats(line.underlined);
@@ -59,7 +60,7 @@ QRect drawLine(QPainter& painter, const Line& line, const QRect& rectangle, bool
     if (!textLine.isValid()) return {};
     const int width = qCeil(textLine.naturalTextWidth());
     const int left = centered ? rectangle.left() + (rectangle.width() - width) / 2 : rectangle.left();
-    layout.draw(&painter, QPointF(left, rectangle.top()));
+    layout.draw(&painter, QPointF(left, rectangle.top() + riseOfTallLetters(painter.font())));
     return QRect(left, rectangle.top(), width, qCeil(textLine.height()));
 }
 
