@@ -3,14 +3,18 @@
 #include <xcb/xcb.h>
 
 #include <QtTest/qtestkeyboard.h>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QWheelEvent>
 #include <QWindow>
 #include <cstdlib>
+#include <set>
 
 #include "platform/native/screen/scale.h"
 #include "platform/native/windowing/window.h"
@@ -70,6 +74,37 @@ TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheKeyboardIsAndF10OpensTheFir
     QTest::keyClick(menu->windowHandle(), Qt::Key_V);  // save and exit
     runMessages();
     EXPECT_EQ(takeLog(), Log{"command 32772 0"});
+}
+
+TEST_F(WindowingNativeTest, AnOpenListShowsLongAndTallEntriesAndFindsWhatIsTyped) {
+    HWND const combo = addCombo({"\xC5", "Zo\xEB"});
+    auto& box = static_cast<QComboBox&>(*findWindow(combo)->widget());
+    for (int family = 1; family <= 100; ++family)
+        box.addItem("Household " + QString::number(family));
+    QAbstractItemView& list = *box.view();
+    for (const auto& [letter, wide] : {std::pair('i', false), {'W', true}}) {
+        const QString name = QString::fromUtf8("\u00C9") + QString(98, letter);
+        box.setItemText(60, name);
+        box.showPopup();
+        const QRect screen = box.screen()->availableGeometry(), place = list.window()->geometry();
+        EXPECT_TRUE(screen.contains(place));
+        EXPECT_LE(place.bottom(), box.mapToGlobal(QPoint(0, toPixels(200))).y());
+        EXPECT_TRUE(list.verticalScrollBar()->isVisible());
+        EXPECT_EQ(place.width() == screen.width(), wide);
+        EXPECT_TRUE(wide || list.viewport()->width() > list.fontMetrics().horizontalAdvance(name)) << "it isn't cut";
+        list.scrollToTop();
+        const QImage row = list.viewport()->grab(list.visualRect(box.model()->index(0, 0))).toImage();
+        std::set<int> inked;
+        for (int y = 0; y < row.height(); ++y)
+            for (int x = 2; x < 20; ++x)
+                if (qGray(row.pixel(x, y)) < 128) inked.insert(y);
+        EXPECT_EQ(static_cast<int>(inked.size()), list.fontMetrics().tightBoundingRect(box.itemText(0)).height());
+        takeLog();
+        for (const auto& [key, text] : {std::pair(Qt::Key_Eacute, name.left(1)), {Qt::Key_Return, "\r"}})
+            QTest::sendKeyEvent(QTest::Click, list.window()->windowHandle(), key, text, Qt::NoModifier);
+        EXPECT_EQ(box.currentIndex(), 60);
+        EXPECT_EQ(takeLog(), Log{"command 7 1"});
+    }
 }
 
 TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom) {

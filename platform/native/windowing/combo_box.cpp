@@ -2,13 +2,18 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QFrame>
 #include <QProxyStyle>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <algorithm>
 
 #include "platform/native/api/controls.h"
 #include "platform/native/base/qt_text.h"
 #include "platform/native/screen/scale.h"
+#include "platform/native/screen/tall_letters.h"
 
 namespace {
 
@@ -25,11 +30,29 @@ class ListBelowStyle : public QProxyStyle {
     }
 };
 
+// An entry of the open list, with room for tall letters. Its text is in the middle.
+class Entry : public QStyledItemDelegate {
+ public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * riseOfTallLetters(option.font));
+    }
+};
+
 // The wheel changes the pick only where the keyboard is: elsewhere a player would lose his picks by scrolling over
-// them.
+// them. The list opens as wide as its longest entry, if the screen is; Qt moves it to the left where that takes it.
 class Box : public QComboBox {
  public:
     explicit Box(QWidget* area) : QComboBox(area) { setFocusPolicy(Qt::StrongFocus); }
+
+    void showPopup() override {
+        const QAbstractItemView& list = *view();
+        auto& frame = static_cast<QFrame&>(*list.parentWidget());
+        const int besides = list.verticalScrollBar()->sizeHint().width() + 2 * frame.frameWidth();
+        frame.setMinimumWidth(std::min(list.sizeHintForColumn(0) + besides, screen()->availableSize().width()));
+        QComboBox::showPopup();
+    }
 
  protected:
     void wheelEvent(QWheelEvent* event) override { hasFocus() ? QComboBox::wheelEvent(event) : event->ignore(); }
@@ -41,6 +64,7 @@ ComboBox::ComboBox(DWORD style, HWND parent, int id, QWidget* area) : Control(st
     auto* const listBelow = new ListBelowStyle;
     listBelow->setParent(&box());
     box().setStyle(listBelow);
+    box().setItemDelegate(new Entry(&box()));  // makes the list, which takes the style's scroll bar
     QObject::connect(&box(), &QComboBox::activated, &box(),
                      [parent, id, control = handle()] { notifyParent(parent, id, CBN_SELCHANGE, control); });
 }
@@ -52,7 +76,7 @@ QComboBox& ComboBox::box() const {
 void ComboBox::place(const QRect& rectangle) {
     box().ensurePolished();
     const int height = std::min(box().sizeHint().height(), toPixels(greatestClosedHeight));
-    const int rowHeight = box().view()->fontMetrics().height();
+    const int rowHeight = box().view()->fontMetrics().height() + 2 * riseOfTallLetters(box().view()->font());
     box().setMaxVisibleItems(std::max(1, (rectangle.height() - height) / rowHeight));
     Control::place(QRect(rectangle.topLeft(), QSize(rectangle.width(), height)));
 }
