@@ -122,6 +122,7 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         EXPECT_GE(button.width(), button.sizeHint().width());
         EXPECT_GE(combo.height(), combo.sizeHint().height());
         EXPECT_LT(combo.geometry().bottom(), button.width() * 40 / 100) << "the next one begins 40 units from the top";
+        QApplication::setPalette(QPalette(Qt::white, Qt::black));
         paint_ = [](HDC dc) {
             RECT label{10, 10, 160, 30};
             EXPECT_LE(DrawTextA(dc, "Pick a Neighborhood: ", -1, &label, 0), 20);
@@ -132,6 +133,9 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         GetClientRect(window_, &client);
         EXPECT_EQ(painted_, (std::vector<int>{0, 0, client.right, client.bottom}));
         EXPECT_GE(client.right, 480);
+        const Picture dark = pictureOf(window_);
+        EXPECT_EQ(dark.at(0, 0), 0U);
+        EXPECT_GT(std::ranges::count(dark.pixels, 0xFFFFFFU), 20) << "white letters";
         const QLabel& label = *button.parentWidget()->findChild<QLabel*>();
         EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance("Pick a Neighborhood: ")) << "it isn't cut";
 
@@ -146,6 +150,7 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Down, Qt::ControlModifier);
         EXPECT_TRUE(combo.visibleRegion().isEmpty()) << "and keys scroll";
     }
+    QApplication::setPalette(QPalette());
     QApplication::setFont(usual);
     updateScale();
 }
