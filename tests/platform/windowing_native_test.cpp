@@ -109,6 +109,7 @@ TEST_F(WindowingNativeTest, AnOpenListShowsLongAndTallEntriesAndFindsWhatIsTyped
 
 TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom) {
     const QFont usual = QApplication::font();
+    const QPalette usualColors = QApplication::palette();
     for (const QFont& font : {QFont("DejaVu Sans", 9), QFont("DejaVu Sans", 18), QFont("DejaVu Sans Mono", 24)}) {
         SCOPED_TRACE(font.pointSize());
         DestroyWindow(window_);
@@ -122,7 +123,10 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         EXPECT_GE(button.width(), button.sizeHint().width());
         EXPECT_GE(combo.height(), combo.sizeHint().height());
         EXPECT_LT(combo.geometry().bottom(), button.width() * 40 / 100) << "the next one begins 40 units from the top";
-        QApplication::setPalette(QPalette(Qt::white, Qt::black));
+        QPalette inverted = usualColors;
+        inverted.setColor(QPalette::Base, Qt::black);
+        inverted.setColor(QPalette::Text, Qt::white);
+        QApplication::setPalette(inverted);
         paint_ = [](HDC dc) {
             RECT label{10, 10, 160, 30};
             EXPECT_LE(DrawTextA(dc, "Pick a Neighborhood: ", -1, &label, 0), 20);
@@ -150,7 +154,7 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Down, Qt::ControlModifier);
         EXPECT_TRUE(combo.visibleRegion().isEmpty()) << "and keys scroll";
     }
-    QApplication::setPalette(QPalette());
+    QApplication::setPalette(usualColors);
     QApplication::setFont(usual);
     updateScale();
 }
