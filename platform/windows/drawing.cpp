@@ -14,6 +14,9 @@ HDC beginPaint(HWND window, PAINTSTRUCT* paint) {
     HDC const dc = BeginPaint(window, paint);
     if (dc == nullptr) return nullptr;
     if (messageFont() != nullptr) SelectObject(dc, messageFont());
+    // A device context starts with black letters on white, whatever the window's color.
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkMode(dc, TRANSPARENT);
     paint->rcPaint = toUnits(paint->rcPaint);
     beginLines(window);
     return dc;

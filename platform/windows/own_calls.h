@@ -27,9 +27,10 @@ HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWOR
 BOOL getClientRect(HWND window, RECT* rectangle);
 BOOL invalidateRect(HWND window, const RECT* rectangle, BOOL erase);
 
-// BeginPaint, in units and with the message font selected. EndPaint releases the device context, and the font with it.
-// What DrawTextA draws between them is there for screen readers from then on, as static texts that lie before the
-// controls to their right, and changes are announced. All lines of the window must be drawn each time.
+// BeginPaint, in units and with the message font selected. Texts have the user's color for windows' texts, and what is
+// below them shows between the letters. EndPaint releases the device context, and all this with it. What DrawTextA
+// draws between them is there for screen readers from then on, as static texts that lie before the controls to their
+// right, and changes are announced. All lines of the window must be drawn each time.
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL endPaint(HWND window, const PAINTSTRUCT* paint);
 

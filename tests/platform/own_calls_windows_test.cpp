@@ -3,6 +3,9 @@
 
 #include <sddl.h>
 
+#include <algorithm>
+#include <array>
+
 #include "platform/files.h"
 #include "tests/platform/window_test.h"
 #include "tests/support/temp_directory.h"
@@ -140,6 +143,22 @@ TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSa
     press({VK_TAB});
     EXPECT_EQ(GetFocus(), button) << "a text takes no keys";
     EXPECT_EQ(textsWith(""), "Pick:|a|One|");
+}
+
+TEST_F(OwnCallsWindowsTest, TextsHaveTheUsersColors) {
+    constexpr std::array elements{COLOR_WINDOW, COLOR_WINDOWTEXT};
+    const std::array usual{GetSysColor(COLOR_WINDOW), GetSysColor(COLOR_WINDOWTEXT)};
+    constexpr std::array chosen{RGB(0, 0, 64), RGB(255, 255, 64)};
+    SetSysColors(2, elements.data(), chosen.data());
+    paint_ = [](HDC dc) {
+        RECT place{10, 10, 400, 30};
+        DrawTextA(dc, "Name: IIII", -1, &place, 0);
+    };
+    InvalidateRect(window_, nullptr, TRUE);
+    const Picture seen = pictureOf(window_);
+    SetSysColors(2, elements.data(), usual.data());
+    EXPECT_GT(std::ranges::count(seen.pixels, 0xFFFF40U), 0);
+    EXPECT_EQ(std::ranges::count(seen.pixels, 0xFFFFFFU), 0) << "they lie on the window's color";
 }
 
 TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull) {
