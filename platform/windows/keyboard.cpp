@@ -8,13 +8,10 @@ namespace {
 
 HWND lastFocus = nullptr;
 
-LRESULT dialogCode(HWND control) {
-    return SendMessageA(control, WM_GETDLGCODE, 0, 0);
-}
-
 bool takesKeys(HWND control) {
     const auto style = static_cast<DWORD>(GetWindowLongA(control, GWL_STYLE));
-    return (style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE && (dialogCode(control) & DLGC_STATIC) == 0;
+    const LRESULT code = SendMessageA(control, WM_GETDLGCODE, 0, 0);
+    return (style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE && (code & DLGC_STATIC) == 0;
 }
 
 // The control that was created after this one or, going backward, before it; the ends meet.
@@ -49,19 +46,10 @@ bool isMenuKey(const MSG& message) {
     return (message.message == WM_SYSKEYDOWN || message.message == WM_SYSKEYUP) && message.wParam == VK_F10;
 }
 
-bool isFirstPress(const MSG& message) {
-    constexpr LPARAM isRepeated = 1 << 30;
-    return (message.lParam & isRepeated) == 0;
-}
-
 // Does what the control doesn't do itself. Returns whether that is all that the message is for.
 bool actOn(const MSG& message) {
     if (message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
         moveFocus(message.hwnd);
-        return true;
-    }
-    if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && (dialogCode(message.hwnd) & DLGC_BUTTON) != 0) {
-        if (isFirstPress(message)) SendMessageA(message.hwnd, BM_CLICK, 0, 0);
         return true;
     }
     // A wheel that is turned over a control without the keyboard was meant for something else. A combo box would

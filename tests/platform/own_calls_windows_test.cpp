@@ -99,10 +99,9 @@ TEST_F(OwnCallsWindowsTest, KeysReachEveryControlAndTheWheelOnlyTheOneThatHasThe
     }
     takeLog();
     press({VK_RETURN});
+    EXPECT_EQ(takeLog(), Log{}) << "held, it would also answer the box that the press opens";
     press({VK_SPACE});
-    PostMessageA(button, WM_KEYDOWN, VK_RETURN, 1 << 30);  // held since before
-    runMessages();
-    EXPECT_EQ(takeLog(), (Log{"command 3 0", "command 3 0"}));
+    EXPECT_EQ(takeLog(), Log{"command 3 0"});
     takeKeysAway();
     EXPECT_EQ(GetFocus(), button) << "it had them last";
     for (const int picked : {CB_ERR, 0}) {
