@@ -19,10 +19,6 @@ constexpr char letters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz
 constexpr int letterCount = sizeof letters - 1;
 constexpr int letterWidth = 7;
 
-// The client area that must fit the screen, in units.
-constexpr int neededWidth = 480;
-constexpr int neededHeight = 430;
-
 LOGFONTA description{};
 HFONT font = nullptr;
 Scale scale = unscaled;
@@ -60,8 +56,8 @@ Scale scaleFor(HFONT measured) {
 Scale largestOnScreen() {
     const RECT area = workArea(nullptr);
     const SIZE frame = windowSize(0, 0, WS_OVERLAPPEDWINDOW, 0);
-    const Scale forWidth{static_cast<int>(area.right - area.left - frame.cx), neededWidth};
-    const Scale forHeight{static_cast<int>(area.bottom - area.top - frame.cy), neededHeight};
+    const Scale forWidth{static_cast<int>(area.right - area.left - frame.cx), neededSize.cx};
+    const Scale forHeight{static_cast<int>(area.bottom - area.top - frame.cy), neededSize.cy};
     return larger(unscaled, smaller(forWidth, forHeight));
 }
 

@@ -6,6 +6,10 @@
 
 #include <windows.h>
 
+// The client area that holds the controls and the lines of the main window, in units. A scale at which it leaves the
+// screen is too large.
+constexpr SIZE neededSize{480, 350};
+
 // Asks for the user's choice and the size of the screen anew. Windows that are there already keep their look, so this
 // is for a program that is about to open a window of its own.
 void updateMessageFont();

@@ -23,16 +23,12 @@ WNDPROC procedureOf(HWND window) {
     return std::ranges::find(classes, atom, &OwnClass::atom)->procedure;
 }
 
-// The client area that holds the controls and the lines of the main window, in units.
-constexpr int neededWidth = 480;
-constexpr int neededHeight = 350;
-
 // The user can't make a window smaller than that, and Windows doesn't.
 void limitSize(HWND window, MINMAXINFO& sizes) {
     const auto style = static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
     if ((style & WS_THICKFRAME) == 0) return;
     const auto extendedStyle = static_cast<DWORD>(GetWindowLongA(window, GWL_EXSTYLE));
-    const SIZE needed = windowSize(toPixels(neededWidth), toPixels(neededHeight), style, extendedStyle);
+    const SIZE needed = windowSize(toPixels(neededSize.cx), toPixels(neededSize.cy), style, extendedStyle);
     const RECT area = workArea(window);
     sizes.ptMinTrackSize = {std::min(needed.cx, area.right - area.left), std::min(needed.cy, area.bottom - area.top)};
 }

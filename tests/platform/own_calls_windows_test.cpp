@@ -164,7 +164,7 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
     NONCLIENTMETRICSA usual{};
     usual.cbSize = sizeof usual;
     SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof usual, &usual, 0);
-    for (const auto& [height, smallest] : {std::pair(-11L, 1.0), {-17L, 1.3}, {-60L, 1.6}}) {
+    for (const auto& [height, smallest] : {std::pair(-11L, 1.0), {-17L, 1.3}, {-60L, 1.9}}) {
         SCOPED_TRACE(height);
         NONCLIENTMETRICSA larger = usual;
         larger.lfMessageFont.lfHeight = height;
