@@ -164,9 +164,15 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
     NONCLIENTMETRICSA usual{};
     usual.cbSize = sizeof usual;
     SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof usual, &usual, 0);
-    for (const auto& [height, smallest] : {std::pair(-11L, 1.0), {-17L, 1.3}, {-60L, 1.9}}) {
-        SCOPED_TRACE(height);
+    const char* const proportional = usual.lfMessageFont.lfFaceName;
+    const char* const monospaced = "DejaVu Sans Mono";
+    for (const auto& [face, height, smallest] : {std::tuple(proportional, -11L, 1.0),
+                                                 {monospaced, -16L, 1.3},
+                                                 {proportional, -17L, 1.3},
+                                                 {proportional, -60L, 1.9}}) {
+        SCOPED_TRACE(testing::Message() << face << height);
         NONCLIENTMETRICSA larger = usual;
+        lstrcpyA(larger.lfMessageFont.lfFaceName, face);
         larger.lfMessageFont.lfHeight = height;
         SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof larger, &larger, 0);
         DestroyWindow(window_);
@@ -183,9 +189,11 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
         EXPECT_NEAR(place.top, 300 * unit, 1);
         PAINTSTRUCT painting{};
         HDC const dc = BeginPaint(window_, &painting);
-        SIZE label{};
+        SIZE label{}, button{};
         GetTextExtentPoint32A(dc, "Pick a Neighborhood: ", 21, &label);
+        GetTextExtentPoint32A(dc, "Teen to Adult", 13, &button);
         EXPECT_TRUE(label.cx <= 150 * unit && label.cy <= 20 * unit) << "it has the room that it has at the usual size";
+        EXPECT_LE(button.cx + 8, 100 * unit) << "and so has a button, within its edges";
         EXPECT_GT(label.cx, 100 * unit) << "and needs it";
         MoveWindow(window_, 0, 0, 10, 10, TRUE);
         GetClientRect(window_, &client);
