@@ -43,7 +43,8 @@ BOOL invalidateRect(HWND window, const RECT* rectangle, BOOL erase) {
 int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format) {
     RECT place = toPixels(*rectangle);
     if (HWND const window = WindowFromDC(dc); window != nullptr) addLine(window, dc, text, length, place, format);
-    return DrawTextA(dc, text, length, &place, format);
+    const LONG height = DrawTextA(dc, text, length, &place, format);
+    return toUnits(RECT{0, 0, 0, height}).bottom;
 }
 
 BOOL bitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation) {

@@ -34,7 +34,7 @@ BOOL invalidateRect(HWND window, const RECT* rectangle, BOOL erase);
 HDC beginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL endPaint(HWND window, const PAINTSTRUCT* paint);
 
-// DrawTextA with a place in units that stays unchanged. The result is in pixels.
+// DrawTextA with a place in units that stays unchanged. The result is in whole units, rounded up.
 int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format);
 
 // BitBlt. If the target is no memory, its place is in units, to which the picture is stretched.

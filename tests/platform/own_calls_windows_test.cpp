@@ -195,6 +195,8 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
         EXPECT_TRUE(label.cx <= 150 * unit && label.cy <= 20 * unit) << "it has the room that it has at the usual size";
         EXPECT_LE(button.cx + 8, 100 * unit) << "and so has a button, within its edges";
         EXPECT_GT(label.cx, 100 * unit) << "and needs it";
+        RECT line{200, 100, 400, 120};
+        EXPECT_NEAR(DrawTextA(dc, "x", -1, &line, 0), label.cy / unit + 0.5, 0.51) << "whole units, rounded up";
         MoveWindow(window_, 0, 0, 10, 10, TRUE);
         GetClientRect(window_, &client);
         EXPECT_TRUE(client.right >= 480 && client.bottom >= 350) << "the controls aren't cut";
