@@ -1,6 +1,6 @@
 // The user's message font, and the scale of the windows that follows from it. The program lays its windows out in
-// units, which are pixels for the font that Windows starts with. Who chose a larger font gets larger windows, so that
-// every text keeps its room.
+// units, which are pixels for the font that Windows starts with. A user who chose a larger font gets larger windows,
+// so that every text keeps its room.
 #ifndef PLATFORM_WINDOWS_MESSAGE_FONT_H
 #define PLATFORM_WINDOWS_MESSAGE_FONT_H
 

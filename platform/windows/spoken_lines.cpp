@@ -82,7 +82,8 @@ HWND createLine(HWND window, const RECT& place) {
     return line;
 }
 
-// Screen readers say a change of the second kind by themselves. The older ones don't know it.
+// The second kind of event asks a screen reader to say the new words at once. Not every one does; the line is there to
+// be read when the user asks for it.
 void announce(HWND line) {
     NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, line, OBJID_CLIENT, CHILDID_SELF);
     NotifyWinEvent(EVENT_OBJECT_LIVEREGIONCHANGED, line, OBJID_CLIENT, CHILDID_SELF);
