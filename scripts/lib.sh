@@ -2,7 +2,7 @@
 # shellcheck shell=bash disable=SC2034  # the packages are for the scripts
 
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)  # which the 32-bit Wine sees, unlike a link to it
 cd "$root"
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libatspi2.0-dev libgtest-dev libbenchmark-dev
@@ -29,7 +29,8 @@ need() {
     [ ${#missing[@]} -eq 0 ] && return
     say "Installing ${missing[*]}"
     as_root apt-get update -qq
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -y -qq -o DPkg::Lock::Timeout=600 \
+        install --no-install-recommends "${missing[@]}" >/dev/null
 }
 
 # build PRESET [TARGET...]: configures once, then builds what has changed. Prints the last line of it, or all of a
