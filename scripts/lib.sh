@@ -69,13 +69,13 @@ run_ctest() {
     local name=$1 log result=0 failed all skipped
     shift
     log=$(mktemp)
-    ctest --output-on-failure "$@" 2>&1 | tee "$log" || result=$?
+    ctest --output-on-failure --no-tests=error "$@" 2>&1 | tee "$log" || result=$?
     read -r failed all < <(sed -n -E 's/^[0-9]+% tests passed, ([0-9]+) tests failed out of ([0-9]+)$/\1 \2/p' "$log") ||
         read -r failed all <<<"1 1"  # it never came to a sum
     skipped=$(grep -c '(Skipped)$' "$log" || true)
     rm -f "$log"
     note_sum "$name" $((all - failed - skipped)) "$failed"
-    return "$result"
+    [ "$result" -eq 0 ] && [ "$failed" -eq 0 ]
 }
 
 package_packages=(binutils dpkg-dev gzip pandoc zip)
