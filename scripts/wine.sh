@@ -63,8 +63,9 @@ stop_windows() {
     [ -z "$own_prefix" ] || WINEPREFIX=$own_prefix wineserver -k || true
 }
 
-# Ends it and takes its 700 MB away.
+# Ends it and takes its 700 MB away, if there is one.
 remove_windows() {
+    [ -n "$own_prefix" ] || return 0
     stop_windows
     wineserver -w
     rm -rf "$own_prefix" "$own_prefix.tmp"
