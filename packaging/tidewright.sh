@@ -30,8 +30,8 @@ check_link() {
 # The preparing program makes skinsets.cfg of it.
 bring_original() {
     [ -s "$originals/skinsets-original.cfg" ] || fail "$originals isn't complete: install the package again"
-    # A link may be there that leads nowhere.
-    [ -e skinsets-original.cfg ] || ln -sf "$originals/skinsets-original.cfg" . 2>/dev/null || fail "can't write into $own"
+    # A link may be there that leads nowhere, or a file that a full disk left empty.
+    [ -s skinsets-original.cfg ] || ln -sf "$originals/skinsets-original.cfg" . 2>/dev/null || fail "can't write into $own"
 }
 
 # The box about a game that isn't found can't know that there is Wine here.
