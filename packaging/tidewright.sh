@@ -14,7 +14,9 @@ fail() {
 data=${XDG_DATA_HOME:-}
 case $data in
     /*) ;;
-    *) data=${HOME:?"has no value, so there is no place for skinsets.cfg"}/.local/share ;;
+    *)
+        [ -n "${HOME:-}" ] || fail "HOME has no value, so there is no place for skinsets.cfg"
+        data=$HOME/.local/share ;;
 esac
 own=$data/tidewright
 
