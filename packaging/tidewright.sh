@@ -6,8 +6,21 @@ set -u
 programs=/usr/libexec/tidewright
 originals=/usr/share/tidewright
 
-fail() {
+# A start from the menu has no terminal: there only a box is seen, by whichever program shows one.
+complain() {
     echo "tidewright: $*" >&2
+    [ ! -t 2 ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || return 0
+    if command -v zenity; then
+        zenity --error --no-markup --title Tidewright --text "$*"
+    elif command -v kdialog; then
+        kdialog --title Tidewright --error "$*"
+    elif command -v xmessage; then
+        xmessage -title Tidewright -default okay "$*"
+    fi >/dev/null 2>&1
+}
+
+fail() {
+    complain "$@"
     exit 1
 }
 
@@ -41,7 +54,7 @@ prepare() {
     "$programs/tidewright-prepare" "$@" && return
     code=$?
     [ "$code" -ne 255 ] ||
-        echo "tidewright: install the package wine, and The Sims with it, or set WINEPREFIX to the game's prefix" >&2
+        complain "install the package wine, and The Sims with it, or set WINEPREFIX to the game's prefix"
     exit "$code"
 }
 
