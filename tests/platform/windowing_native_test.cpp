@@ -107,9 +107,25 @@ TEST_F(WindowingNativeTest, AnOpenListShowsLongAndTallEntriesAndFindsWhatIsTyped
     }
 }
 
+TEST_F(WindowingNativeTest, AWindowHasTheColorsOfTexts) {
+    const QPalette usual = QApplication::palette();
+    QPalette inverted = usual;
+    inverted.setColor(QPalette::Base, Qt::black);
+    inverted.setColor(QPalette::Text, Qt::white);
+    QApplication::setPalette(inverted);
+    paint_ = [](HDC dc) {
+        RECT place{10, 10, 160, 30};
+        DrawTextA(dc, "Pick", -1, &place, 0);
+    };
+    runMessages();
+    const Picture dark = pictureOf(window_);
+    EXPECT_EQ(dark.at(0, 0), 0U);
+    EXPECT_GT(std::ranges::count(dark.pixels, 0xFFFFFFU), 0);
+    QApplication::setPalette(usual);
+}
+
 TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom) {
     const QFont usual = QApplication::font();
-    const QPalette usualColors = QApplication::palette();
     for (const QFont& font : {QFont("DejaVu Sans", 9), QFont("DejaVu Sans", 18), QFont("DejaVu Sans Mono", 24)}) {
         SCOPED_TRACE(font.pointSize());
         DestroyWindow(window_);
@@ -123,10 +139,6 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         EXPECT_GE(button.width(), button.sizeHint().width());
         EXPECT_GE(combo.height(), combo.sizeHint().height());
         EXPECT_LT(combo.geometry().bottom(), button.width() * 40 / 100) << "the next one begins 40 units from the top";
-        QPalette inverted = usualColors;
-        inverted.setColor(QPalette::Base, Qt::black);
-        inverted.setColor(QPalette::Text, Qt::white);
-        QApplication::setPalette(inverted);
         paint_ = [](HDC dc) {
             RECT label{10, 10, 160, 30};
             EXPECT_LE(DrawTextA(dc, "Pick a Neighborhood: ", -1, &label, 0), 20);
@@ -137,9 +149,6 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         GetClientRect(window_, &client);
         EXPECT_EQ(painted_, (std::vector<int>{0, 0, client.right, client.bottom}));
         EXPECT_GE(client.right, 480);
-        const Picture dark = pictureOf(window_);
-        EXPECT_EQ(dark.at(0, 0), 0U);
-        EXPECT_GT(std::ranges::count(dark.pixels, 0xFFFFFFU), 20) << "white letters";
         const QLabel& label = *button.parentWidget()->findChild<QLabel*>();
         EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance("Pick a Neighborhood: ")) << "it isn't cut";
 
@@ -154,7 +163,6 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Down, Qt::ControlModifier);
         EXPECT_TRUE(combo.visibleRegion().isEmpty()) << "and keys scroll";
     }
-    QApplication::setPalette(usualColors);
     QApplication::setFont(usual);
     updateScale();
 }
