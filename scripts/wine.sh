@@ -68,18 +68,15 @@ remove_windows() {
     [ -n "$own_prefix" ] || return 0
     stop_windows
     wineserver -w
-    rm -rf "$own_prefix" "$own_prefix.tmp"
+    rm -rf "$own_prefix"
     own_prefix=
-    export TMPDIR=/tmp
 }
 
-# new_windows DIR: a new Windows in that directory, which is WINEPREFIX from then on. Wine leaves its server's directory
-# among the temporary files, so these have a place of their own beside it.
+# new_windows DIR: a new Windows in that directory, which is WINEPREFIX from then on.
 new_windows() {
     own_prefix=$1
-    export WINEPREFIX=$1 TMPDIR=$1.tmp
-    rm -rf "$WINEPREFIX" "$TMPDIR"
-    mkdir -p "$TMPDIR"
+    export WINEPREFIX=$1
+    rm -rf "$WINEPREFIX"
     env -u DISPLAY wine wineboot --init >/dev/null 2>&1
     # Where no window manager answers, Wine waits two seconds for one with each window, unless it is to do without.
     env -u DISPLAY wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
