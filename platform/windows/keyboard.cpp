@@ -42,8 +42,10 @@ void moveFocus(HWND from) {
     SetFocus(next);
 }
 
-bool isMenuKey(const MSG& message) {
-    return (message.message == WM_SYSKEYDOWN || message.message == WM_SYSKEYUP) && message.wParam == VK_F10;
+// F10, which opens the menu, and Alt+F4, which closes the window.
+bool isWindowKey(const MSG& message) {
+    const bool isSystemKey = message.message == WM_SYSKEYDOWN || message.message == WM_SYSKEYUP;
+    return isSystemKey && (message.wParam == VK_F10 || message.wParam == VK_F4);
 }
 
 // Does what the control doesn't do itself. Returns whether that is all that the message is for.
@@ -69,8 +71,8 @@ void focusControlOf(HWND window) {
 BOOL translateMessage(MSG* message) {
     // A message box may take the keyboard while the message is dispatched.
     if (HWND const focus = GetFocus(); focus != nullptr && GetAncestor(focus, GA_ROOT) != focus) lastFocus = focus;
-    // Wine's combo boxes keep F10 to themselves, and no menu opens.
-    if (isMenuKey(*message)) message->hwnd = GetAncestor(message->hwnd, GA_ROOT);
+    // Wine's combo boxes would keep them to themselves.
+    if (isWindowKey(*message)) message->hwnd = GetAncestor(message->hwnd, GA_ROOT);
     if (!actOn(*message)) return TranslateMessage(message);
     message->message = WM_NULL;
     return TRUE;
