@@ -14,6 +14,9 @@ wine_packages=(wine wine64 fonts-wine)
 check_packages=(git clang-format clang-tidy shellcheck)
 fuzz_packages=(clang libclang-rt-14-dev)
 
+# These change what compilers and linkers make, but what is made with them isn't made again without them.
+unset COMPILER_PATH CPATH CPLUS_INCLUDE_PATH C_INCLUDE_PATH GCC_EXEC_PREFIX LD_RUN_PATH LIBRARY_PATH
+
 say() { printf '%s\n' "$*"; }
 
 as_root() {
