@@ -40,9 +40,9 @@ int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format);
 // BitBlt. If the target is no memory, its place is in units, to which the picture is stretched.
 BOOL bitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation);
 
-// TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation. F10 and
-// Alt+F4 go to the window, which opens its menu or closes. The mouse wheel reaches a control only while that has the
-// keyboard. A message that is used up becomes WM_NULL.
+// TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation. F10 and Alt+F4 go to
+// the window, which opens its menu or closes. The mouse wheel reaches a control only while that has the keyboard. A
+// message that is used up becomes WM_NULL.
 BOOL translateMessage(MSG* message);
 
 // MessageBoxA. A box without an owner blocks every window of the program, like a box with one: a click on a window

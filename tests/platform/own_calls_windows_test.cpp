@@ -109,6 +109,9 @@ TEST_F(OwnCallsWindowsTest, KeysReachEveryControlAndTheWheelOnlyTheOneThatHasThe
         EXPECT_EQ(SendMessageA(box, CB_GETCURSEL, 0, 0), picked);
         SetFocus(box);
     }
+    takeLog();
+    press({VK_MENU, VK_F4});
+    EXPECT_EQ(takeLog(), (Log{"close", "destroy"}));
 }
 
 TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSaysWhatChanges) {
