@@ -74,7 +74,7 @@ class Frame : public QWidget {
     }
 
  private:
-    void addScrollKey(QKeySequence key, QScrollBar* bar, QAbstractSlider::SliderAction action) {
+    void addScrollKey(const QKeySequence& key, QScrollBar* bar, QAbstractSlider::SliderAction action) {
         QObject::connect(new QShortcut(key, this), &QShortcut::activated, bar, [=] { bar->triggerAction(action); });
     }
 
