@@ -15,7 +15,7 @@ TEST_F(LeftOverPartsWindowsTest, ASaveDeletesThoseOfEndedProcessesButNotARunning
     HANDLE const writer = CreateFileA(files().path(runningOnes).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                       OPEN_EXISTING, 0, nullptr);
     save();
-    EXPECT_EQ(states(), allSaved + "; " + runningOnes + "\n");
+    EXPECT_EQ(states(), std::string(allSaved) + "; " + runningOnes + "\n");
     CloseHandle(writer);
 }
 

@@ -15,7 +15,7 @@
 #include "save/backup_names.h"
 #include "tests/support/test_neighborhood.h"
 
-const std::string allSaved = "new, backup old; new, backup old; new, backup old";
+constexpr char allSaved[] = "new, backup old; new, backup old; new, backup old";
 
 class SaveTest : public testing::Test {
  public:
