@@ -105,7 +105,9 @@ class ScreenReader : public testing::Test {
     void hears(const std::string& expected, const std::string& keys) {
         heard_.clear();
         press(keys);
-        waitUntil(expected, [&] { return heard_.find("notification '" + expected + "'\n") != std::string::npos; });
+        waitUntil(expected, [&] {
+            return heard_.find("showing begins: notification '" + expected + "'\n") != std::string::npos;
+        });
     }
 
     Object window() {
@@ -130,7 +132,9 @@ class ScreenReader : public testing::Test {
 
  private:
     static void hear(AtspiEvent* event, void* test) {
-        if (event->source != nullptr) static_cast<ScreenReader*>(test)->heard_ += described(event->source) + "\n";
+        const std::string change = std::string(event->type) + (event->detail1 == 1 ? " begins: " : ": ");
+        if (event->source != nullptr)
+            static_cast<ScreenReader*>(test)->heard_ += change + described(event->source) + "\n";
         g_boxed_free(ATSPI_TYPE_EVENT, event);
     }
 };
@@ -143,7 +147,7 @@ TEST_F(ScreenReader, ReadsTheWindowAndHearsEachPickAndEachNewStage) {
     hears("Hazel\nName: Hazel Thistlewood\nStage: adult", "Tab Down");
     hears("Bramble\nName: Bramble Thistlewood\nStage: teenager", "B");
     hears("Name: Bramble Thistlewood\nStage: adult", "Tab space");
-    EXPECT_NE(heard_.find("label 'Stage: adult'\n"), std::string::npos) << heard_;
+    EXPECT_NE(heard_.find("accessible-name: label 'Stage: adult'\n"), std::string::npos) << heard_;
     const Object scrolled = childOf(frame.get(), 1), client = childOf(childOf(scrolled.get(), 0).get(), 0);
     EXPECT_EQ(described(frame.get()), "frame 'Tidewright'");
     EXPECT_EQ(treeOf(client.get()),
@@ -179,6 +183,8 @@ TEST_F(ScreenReader, ReadsTheWindowAndHearsEachPickAndEachNewStage) {
  push button 'Teen to Adult'
  push button 'Move Out'
 )");
+    hears("Q&A", "shift+Tab Down");
+    EXPECT_EQ(treeOf(client.get()).find("Name:"), std::string::npos) << "the line is gone, and so is its text";
 }
 
 }  // namespace
