@@ -92,5 +92,5 @@ int DrawTextA(HDC dc, LPCSTR text, int count, RECT* rectangle, UINT format) {
             row.setTop(row.top() + lineHeight);
         }
     });
-    return qCeil(lineHeight * static_cast<int>(lines.size()) / windowScale());
+    return toUnits(lineHeight * static_cast<int>(lines.size()));
 }

@@ -22,10 +22,6 @@ void updateScale() {
     scale = std::max({1.0, letterWidth / widestLetters, metrics.lineSpacing() / highestLine});
 }
 
-double windowScale() {
-    return scale;
-}
-
 int toPixels(int units) {
     return qRound(units * scale);
 }

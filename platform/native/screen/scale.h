@@ -11,8 +11,6 @@
 // Takes the scale from the application's font: 1, or more for a large one. Windows that exist keep their places.
 void updateScale();
 
-double windowScale();
-
 // Rounded to the nearest pixel; neighbouring rectangles stay neighbours.
 int toPixels(int units);
 QSize toPixels(const QSize& units);
