@@ -50,8 +50,8 @@ ChunkSearch findBodyStringsByLabel(StreamView stream, std::int32_t fileSize) {
 }
 
 ChunkSearch findBodyStrings(StreamView& stream, std::int32_t mapOffset, std::int32_t fileSize) {
-    if (mapOffset == 0) return findBodyStringsByLabel(stream, fileSize);
     stream.seek(mapOffset);
+    if (mapOffset == 0) return findBodyStringsByLabel(stream, fileSize);
     const std::int32_t hit = findTag(stream, characterFile::bodyStringsInMap, fileSize);
     if (hit < 0) return {false, hit};
     return {true, offsetNearHit(stream, hit, characterFile::mapPatternToOffset)};

@@ -98,6 +98,14 @@ TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
     }
 }
 
+TEST(CharacterReader, WithoutAMapTheFirstCallAlsoScansTheHeader) {
+    TestNeighborhood read(oneSim);
+    const std::string chunk = "STR#12345678bodystring" + std::string(59, '\0') + "adult\xA3\xA3\xA3\xA3\xA3";
+    read.files().write(file, std::string(30, ' ') + chunk);
+    read.load();
+    EXPECT_EQ(read.sim(0).loadBodyStrings(), 1);
+}
+
 TEST(Members, TheStageFollowsFromAgeKindAndBody) {
     const struct {
         const char* bodySkin;  // null without a character file
