@@ -5,11 +5,11 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)  # which the 32-bit Wine sees, unlike a link to it
 cd "$root"
 
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libatspi2.0-dev libgtest-dev libbenchmark-dev
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libxcb1-dev libatspi2.0-dev libgtest-dev libbenchmark-dev zlib1g-dev
     binutils-mingw-w64-x86-64)
 display_packages=(xvfb xdotool imagemagick fonts-dejavu-core dbus-daemon at-spi2-core
     weston qt6-wayland)
-windows_packages=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-i686-win32 googletest)
+windows_packages=(libz-mingw-w64-dev g++-mingw-w64-x86-64-win32 g++-mingw-w64-i686-win32 googletest)
 wine_packages=(wine wine64 fonts-wine)
 check_packages=(git clang-format clang-tidy shellcheck)
 fuzz_packages=(clang libclang-rt-14-dev)

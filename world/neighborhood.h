@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/fixed_text.h"
+#include "world/content_sum.h"
 #include "world/family.h"
 #include "world/paths.h"
 #include "world/sim.h"
@@ -120,6 +121,7 @@ class Neighborhood {
     std::array<Family*, highestNewFamilyCount> newFamilies_{};
     std::int32_t highestFamilyNumber_ = 0;
 
+    ContentSum sumAsRead_;  // of the whole file; after a save, of the new one
     std::shared_ptr<SaveAttempt> saveAttempt_;  // null while nothing is being saved or owed
 
     // All families and Sims created here, including those not listed. Links stay valid until exit.

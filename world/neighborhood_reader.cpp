@@ -32,6 +32,7 @@ int Neighborhood::load(const char* directory, const char* fileName) {
     const auto window = static_cast<std::size_t>(std::min<std::int64_t>(fileSize_ + std::int64_t{1}, largestWindow));
     if (!file.open(path.c_str(), StreamFile::Access::read, window)) return -1;
     readPasses(StreamView(file));
+    sumAsRead_ = file.sum();
     return 0;
 }
 

@@ -59,6 +59,14 @@ std::span<const std::uint8_t> StreamFile::bytesAt(std::int64_t position, std::si
     return {window_.get(), windowSize_};
 }
 
+ContentSum StreamFile::sum() {
+    ContentSum sum;
+    for (auto bytes = bytesAt(0, 1); !bytes.empty(); bytes = bytesAt(sum.size, 1)) {
+        sum.add(bytes);
+    }
+    return sum;
+}
+
 bool StreamFile::write(std::span<const std::uint8_t> bytes) {
     windowSize_ = 0;  // the write may change the bytes that the window holds
     windowEndsFile_ = false;

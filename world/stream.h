@@ -11,6 +11,8 @@
 #include <span>
 #include <string_view>
 
+#include "world/content_sum.h"
+
 // The size of a file in bytes, at most 2^31 - 1; 0 if there is no such file.
 std::int32_t sizeOfFile(const char* path);
 
@@ -40,6 +42,9 @@ class StreamFile {
     // The bytes from `position` on that are in the window: at least `least` (up to 64), unless the file ends before
     // that. Valid until the next call.
     std::span<const std::uint8_t> bytesAt(std::int64_t position, std::size_t least);
+
+    // The sum of the whole file, of the bytes in the window as far as it has them.
+    ContentSum sum();
 
     // Writes at the cursor and moves it. `close` also reports a write that failed.
     bool write(std::span<const std::uint8_t> bytes);
