@@ -25,6 +25,11 @@ struct FileStatus {
 // GetLastError; a directory can't be opened. The caller closes the stream and checks the result.
 std::FILE* openFile(const char* path, const char* mode);
 
+// The same, and DeleteFileA, but while another program has the file open in a way that excludes this, they wait: two
+// seconds at most. Then they fail with ERROR_SHARING_VIOLATION.
+std::FILE* openWhenFree(const char* path, const char* mode);
+bool deleteWhenFree(const char* path);
+
 // False, with `status` unchanged, if nothing of that name exists or the system refuses the query.
 bool queryFileStatus(const char* path, FileStatus& status);
 
@@ -49,21 +54,18 @@ class SteadyDirectories {
 // error.
 bool syncFile(std::FILE* file);
 
-// Writes a directory's entries through to the disk, on systems where that takes a call of its own.
-void syncDirectory(const char* path);
+// Writes a directory's entries through to the disk, on systems where that takes a call of its own. False if the disk
+// reports an error; a file system without such a call has nothing left to do.
+bool syncDirectory(const char* path);
 
-// A new version of a file, which takes the file's name only when it is complete: a process or machine that stops
-// half-way leaves no partial file under that name. Natively it is a file without a name (O_TMPFILE). On Windows it is
-// "~partN.tmp" in the same directory, with the process's number, and has "~partN-link.tmp" as a second name. FAT and
-// some network and FUSE file systems can't do this; on those only `atOnce` works. A process may have one version at a
-// time open in a directory.
+// A new version of a file. It is written as a part beside that file (platform/part_names.h) and takes the file's name
+// when it is complete and on the disk, so a process or machine that stops half-way leaves no partial file under that
+// name. Each step waits up to two seconds for another program that has the file open in a way that excludes the step;
+// then it fails with ERROR_SHARING_VIOLATION.
 class NewVersion {
  public:
-    enum class Naming { whenComplete, atOnce };
-
-    // Settles which file `path` means: a later change of the working directory, or a new file whose name differs in
-    // case only, makes no difference. If that file is gone by the time the version gets its name, the name is spelled
-    // as in `path`.
+    // Settles which file `path` means: a later change of the working directory makes no difference, and an existing
+    // file keeps the spelling of its name.
     explicit NewVersion(const char* path);
     NewVersion(const NewVersion&) = delete;
     NewVersion& operator=(const NewVersion&) = delete;
@@ -71,30 +73,37 @@ class NewVersion {
     // Discards a version that has no name yet.
     ~NewVersion();
 
-    // Opens the empty file to write, without a buffer. This object owns the stream. `whenComplete` leaves the existing
-    // file as it is; `atOnce` empties or creates it. Null on failure, with the reason in GetLastError:
-    // ERROR_NOT_SUPPORTED if the file system can't name a file later, ERROR_ACCESS_DENIED if the name belongs to a
-    // directory or a write-protected file.
-    std::FILE* open(Naming naming);
+    // Opens the empty part to write, without a buffer. This object owns the stream. Where files have a mode and a
+    // group, the part gets those of the file `model`, as far as that exists and the system allows it. Null on failure,
+    // with the reason in GetLastError: ERROR_ACCESS_DENIED if the name belongs to a directory or a write-protected
+    // file.
+    std::FILE* open(const char* model);
 
-    // Writes all data through to the disk. On false the disk reported an error and the version is discarded.
+    // Writes all data through to the disk and closes the part. On false the disk reported an error and the version is
+    // discarded.
     bool complete();
 
-    // Gives the complete file its name, replacing the older file. A file that is deleted afterwards, in any directory,
-    // is not gone from the disk before this step has reached it. On false the version is discarded, the older file may
-    // be gone, and GetLastError gives the reason as for `open`.
+    // Renames the older file, if there is one, to a name beside it, so that it can come back. What is in the directory
+    // by then is on the disk first. On false, with the reason in GetLastError, the older file is where it was.
+    bool setAside();
+
+    // Gives the complete version its name, in one step over an older file. (Windows can't replace a file that anyone
+    // has open, so there it is set aside first.) On false, with the reason in GetLastError, the version is discarded,
+    // and the older file has its name, even if it was set aside.
     bool giveName();
 
-    // Discards the new version. A file that was opened `atOnce` is incomplete, so it is deleted.
+    // Whether the new name has reached the disk. If not, what the new version replaces must not be deleted.
+    bool isOnDisk() const;
+
+    // Deletes the older file that was set aside. Without this call it stays there.
+    void deleteAside();
+
+    // Discards a version that has no name yet.
     void discard();
 
  private:
     struct State;
     std::unique_ptr<State> state_;
 };
-
-// Deletes the "~part*.tmp" files that processes left in `directory` when they ended half-way. Those of running
-// processes stay. Does nothing natively, where such files do not exist.
-void deleteLeftOverParts(const char* directory);
 
 #endif

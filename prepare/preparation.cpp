@@ -7,6 +7,7 @@
 #include "data/family_template.h"
 #include "data/skin_file.h"
 #include "platform/files.h"
+#include "platform/part_names.h"
 #include "platform/win32.h"
 #include "prepare/character_files.h"
 #include "prepare/present_file.h"

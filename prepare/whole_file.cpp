@@ -8,21 +8,6 @@
 #include "platform/files.h"
 #include "platform/win32.h"
 
-namespace {
-
-bool write(NewVersion& version, NewVersion::Naming naming, const Bytes& bytes) {
-    std::FILE* const file = version.open(naming);
-    if (file == nullptr) return false;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && version.complete()) {
-        return version.giveName();
-    }
-    version.discard();
-    SetLastError(ERROR_DISK_FULL);  // the usual reason; a write and a close don't say theirs
-    return false;
-}
-
-}  // namespace
-
 std::optional<Bytes> readWholeFile(const char* path) {
     constexpr std::size_t blockSize = 65536;
     static_assert(wholeFileLimit % blockSize == 0);
@@ -45,7 +30,11 @@ std::optional<Bytes> readWholeFile(const char* path) {
 
 bool writeWholeFile(const char* path, const Bytes& bytes) {
     NewVersion version(path);
-    SetLastError(NO_ERROR);
-    if (write(version, NewVersion::Naming::whenComplete, bytes)) return true;
-    return GetLastError() == ERROR_NOT_SUPPORTED && write(version, NewVersion::Naming::atOnce, bytes);
+    std::FILE* const file = version.open(path);
+    if (file == nullptr) return false;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && version.complete()) {
+        return version.giveName();
+    }
+    SetLastError(ERROR_DISK_FULL);  // the usual reason; a write and a close don't say theirs
+    return false;
 }

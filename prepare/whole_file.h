@@ -14,9 +14,8 @@ constexpr std::size_t wholeFileLimit = std::size_t{1} << 24;
 // device either.
 std::optional<Bytes> readWholeFile(const char* path);
 
-// Writes the file and syncs it. It takes its name, in place of an older file, when it is complete; where the file
-// system can't do that, it is deleted if it can't be completed. False on failure, with the reason in GetLastError:
-// ERROR_DISK_FULL for each failed write.
+// Writes the file and syncs it. It takes its name, in place of an older file, when it is complete. False on failure,
+// with the reason in GetLastError: ERROR_DISK_FULL for each failed write.
 bool writeWholeFile(const char* path, const Bytes& bytes);
 
 #endif

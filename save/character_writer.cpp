@@ -42,6 +42,7 @@ int Sim::saveCharacterFile(const char* toolDirectory, const char* directory) {
     if (buildCharacterFile(tempPath.c_str()) == 1) {
         backupCharacterFile(directory);
         installed = installCharacterFile(tempPath.c_str()) == 1;
+        characterDirty_ = !installed;  // the next save makes the file again
     }
     // The rest of the save relies on this directory. ".." might lead elsewhere, if "Characters" was moved or is a link.
     SetCurrentDirectoryA(directory);

@@ -1,5 +1,6 @@
 // The save of one neighborhood, step by step.
 #include "platform/files.h"
+#include "platform/part_names.h"
 #include "platform/win32.h"
 #include "save/save_attempt.h"
 
@@ -24,12 +25,12 @@ void Neighborhood::save(const char* toolDirectory) {
     if (SetCurrentDirectoryA(directory_.c_str()) == FALSE) return;
     if (!isDirty()) return;
     deletePartsOfEarlierSaves();
+    const SaveAttempt attempt(*this);
     const PathText tempPath = tempNeighborhoodPath(directory_);
-    if (writeTempFile(tempPath.c_str()) == 1) {
-        backupLiveFile();
-        installTempFile(tempPath.c_str());
-        syncDirectory(directory_.c_str());
-        saveAttempt().finish();
-    }
-    if (saveAttempt().owesNothing()) saveAttempt_.reset();
+    if (writeTempFile(tempPath.c_str()) != 1) return;
+    backupLiveFile();
+    installTempFile(tempPath.c_str());
+    // The temporary files are gone from the disk, too.
+    syncDirectory(charactersDirectory);
+    syncDirectory(".");
 }

@@ -6,7 +6,6 @@
 
 #include "platform/files.h"
 #include "platform/win32.h"
-#include "save/live_file.h"
 #include "save/save_attempt.h"
 #include "save/template_layout.h"
 
@@ -43,6 +42,11 @@ std::int32_t appendFamilyTemplates(const Neighborhood& neighborhood, const char*
     return copyError::none;
 }
 
+// A platform's code of 1 would read as success.
+int failureOf(std::int32_t copyError) {
+    return copyError == 1 ? -1 : copyError;
+}
+
 int patchTempFile(Neighborhood& neighborhood, StreamView stream) {
     neighborhood.saveCharacterFiles(neighborhood.toolDirectory(), neighborhood.directory(), stream);
     if (!neighborhood.hasNewFamilies()) return 1;
@@ -56,29 +60,30 @@ int patchTempFile(Neighborhood& neighborhood, StreamView stream) {
 // Returns 1; the error of a copy; or -1 if the live file isn't the one that was read, or if the temporary file couldn't
 // be patched to its last byte.
 int Neighborhood::writeTempFile(const char* tempPath) {
-    if (!isAsRead(fileName_.c_str(), *this)) return -1;
+    ContentSum live;
+    if (!sumOfFile(fileName_.c_str(), live) || live != sumAsRead_) return -1;  // before anything is written
     const std::int32_t cut = hasNewFamilies_ ? cutForNewFamilies(*this) : 0;
-    const std::int32_t copied = copyFileBytes(fileName_.c_str(), tempPath, cut, CopyMode::overwrite);
-    if (copied != copyError::none) return copied;
-    SaveAttempt& attempt = saveAttempt();
-    attempt.setCopiedSize(sizeOf(tempPath));
-    if (attempt.copiedSize() == unknownSize) return -1;  // new families would be written over the header
+    const std::int32_t copied = copyFileBytes(fileName_.c_str(), tempPath, cut, CopyMode::overwrite, &live);
+    if (copied != copyError::none) return failureOf(copied);
+    if (live != sumAsRead_) return -1;
+    saveAttempt_->setCopiedSize(sizeOf(tempPath));
+    if (saveAttempt_->copiedSize() == unknownSize) return -1;  // new families would be written over the header
     if (hasNewFamilies_) {
         const std::int32_t appended = appendFamilyTemplates(*this, tempPath);
-        if (appended != copyError::none) return appended;
+        if (appended != copyError::none) return failureOf(appended);
     }
     StreamFile file;
     if (!file.open(tempPath, StreamFile::Access::readAndPatch, patchWindow)) return -1;
-    attempt.noteWaiting();
+    saveAttempt_->noteWaiting();
     const int result = patchTempFile(*this, StreamView(file));
     // The next steps of the save go by relative names, and the pass over the Sims has changed the directory.
     if (file.closeOnDisk() && result == 1 && SetCurrentDirectoryA(directory_.c_str()) != FALSE) return 1;
-    attempt.restoreWaiting();
+    saveAttempt_->restoreWaiting();
     return -1;
 }
 
 int Neighborhood::saveCharacterFiles(const char* toolDirectory, const char* directory, StreamView stream) {
-    SaveAttempt& attempt = saveAttempt();
+    SaveAttempt& attempt = *saveAttempt_;
     for (std::int32_t i = 0; i < simCount_; ++i) {
         Sim& sim = *this->sim(i);
         if (sim.characterDirty()) {
@@ -101,7 +106,7 @@ int Neighborhood::writeChangedFamilies(StreamView stream) {
     for (std::int32_t i = 0; i < familyCount_; ++i) {
         Family& family = *this->family(i);
         const std::int32_t table = family.memberTableOffset();
-        const bool isCopied = table > 0 && saveAttempt().isCopied(table, family.tableSize());
+        const bool isCopied = table > 0 && saveAttempt_->isCopied(table, family.tableSize());
         if (family.dirty() && isCopied) family.rewriteRecord(stream);
     }
     return 1;
@@ -109,7 +114,7 @@ int Neighborhood::writeChangedFamilies(StreamView stream) {
 
 // The copies of the template, one for each family, are behind what was copied of the live file.
 int Neighborhood::writeNewFamilies(StreamView stream) {
-    std::int32_t position = saveAttempt().copiedSize();
+    std::int32_t position = saveAttempt_->copiedSize();
     for (std::int32_t i = 0; i < newFamilyCount_; ++i) {
         Family& family = *newFamily(i);
         if (family.writeNewRecord(stream, position) != 1) return -1;

@@ -1,8 +1,13 @@
 #include "save/save_attempt.h"
 
-SaveAttempt& Neighborhood::saveAttempt() {
-    if (!saveAttempt_) saveAttempt_ = std::make_shared<SaveAttempt>(*this);
-    return *saveAttempt_;
+#include "save/backup_names.h"
+
+SaveAttempt::SaveAttempt(Neighborhood& neighborhood) : neighborhood_(neighborhood), time_(backupClock().now()) {
+    neighborhood_.saveAttempt_ = this;
+}
+
+SaveAttempt::~SaveAttempt() {
+    neighborhood_.saveAttempt_ = nullptr;
 }
 
 void SaveAttempt::noteWaiting() {
@@ -32,20 +37,26 @@ void SaveAttempt::restoreWaiting() {
     neighborhood_.highestFamilyNumber_ = waiting_.highestFamilyNumber;
 }
 
-void SaveAttempt::owe(Sim& sim) {
-    owed_.insert(&sim);
-    sim.recordDirty_ = true;
-}
-
 void SaveAttempt::forgetRecord(Sim& sim) {
     settle(sim);
     sim.recordOffset_ = -1;
     sim.recordDirty_ = false;
 }
 
+void SaveAttempt::backUp(const char* live, const char* target, const PathText& backup, const PathText& temporary,
+                         const std::optional<ContentSum>& expected) {
+    replacement_.emplace(live, target, backup.c_str(), temporary.c_str());
+    replacement_->backUp(expected);
+}
+
+std::int32_t SaveAttempt::install() {
+    return replacement_->install();
+}
+
 // After a cut the offsets are those that a fresh read of the new file would give. So a later save of this run copies
 // the whole file, and passes over the pieces that are gone.
 void SaveAttempt::finish() {
+    neighborhood_.sumAsRead_ = replacement_->sum();
     neighborhood_.dirty_ = false;
     if (!neighborhood_.hasNewFamilies_) return;
     neighborhood_.hasNewFamilies_ = false;

@@ -1,21 +1,26 @@
-// What a save has to remember about its neighborhood. The object is made when a save begins and deleted when it ends.
-// It stays for the next save if a record is still owed.
+// What a save has to remember about its neighborhood. The object lives as long as the save.
 #ifndef SAVE_SAVE_ATTEMPT_H
 #define SAVE_SAVE_ATTEMPT_H
 
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <set>
 #include <vector>
 
-#include "save/file_copy.h"
+#include "platform/win32.h"
+#include "save/replacement.h"
 #include "save/save_paths.h"
 #include "world/neighborhood.h"
 
 class SaveAttempt {
  public:
-    explicit SaveAttempt(Neighborhood& neighborhood) : neighborhood_(neighborhood) {}
+    // Reads the clock, so that all backups of the save have one date. The neighborhood's steps find the object there.
+    explicit SaveAttempt(Neighborhood& neighborhood);
+    SaveAttempt(const SaveAttempt&) = delete;
+    SaveAttempt& operator=(const SaveAttempt&) = delete;
+    ~SaveAttempt();
+
+    const SYSTEMTIME& time() const { return time_; }
 
     // How many bytes of the live file were copied to the temporary one. Nothing is written in the place of a piece that
     // wasn't copied.
@@ -23,28 +28,30 @@ class SaveAttempt {
     void setCopiedSize(std::int32_t size) { copiedSize_ = size; }
     bool isCopied(std::int32_t offset, std::int32_t size) const { return offset >= 0 && copiedSize_ - offset >= size; }
 
-    // Notes what waits to be written into the temporary file, and marks it all as waiting again if that file is lost.
-    // The records of Sims whose character files were replaced in between are owed then.
+    // Notes what waits to be written into the temporary file, and marks it all as waiting again if that file is lost or
+    // can't be installed. The records of Sims whose character files were replaced in between are owed then.
     void noteWaiting();
     void restoreWaiting();
 
     // A record is owed if the Sim's character file is new, but the record isn't in the live neighborhood file yet. The
     // next save then writes the record without another character file.
-    void owe(Sim& sim);
-    void settle(const Sim& sim) { owed_.erase(&sim); }
-    bool owes(const Sim& sim) const { return owed_.contains(&sim); }
-    bool owesNothing() const { return owed_.empty(); }
+    static void owe(Sim& sim) { sim.recordOwed_ = sim.recordDirty_ = true; }
+    static void settle(Sim& sim) { sim.recordOwed_ = false; }
+    static bool owes(const Sim& sim) { return sim.recordOwed_; }
 
     // Gives up a record that was cut off the file.
-    void forgetRecord(Sim& sim);
+    static void forgetRecord(Sim& sim);
 
-    // Moves the live file to `backup`, and prepares the move of the temporary file to `liveAfterwards`.
-    void backUp(const char* live, const PathText& backup, const PathText& tempPath, const char* liveAfterwards);
+    // Begins the replacement of a live file, whose path for the new file is `target`: backs it up, unless another
+    // program has it open, or its sum isn't the `expected` one.
+    void backUp(const char* live, const char* target, const PathText& backup, const PathText& temporary,
+                const std::optional<ContentSum>& expected);
 
-    // Moves the temporary file to the live name. 0, or the error of the copy.
-    std::int32_t install(const char* tempPath, const char* live);
+    // Ends it. 0, or an error as of copyFileBytes; the live file is as it was then.
+    std::int32_t install();
 
-    // Clears the neighborhood's marks when everything is in the live file, and gives up the pieces that were cut off.
+    // After the installation of the neighborhood file: notes the new file as the one that was read, clears the marks,
+    // and gives up the pieces that were cut off.
     void finish();
 
  private:
@@ -58,10 +65,10 @@ class SaveAttempt {
     };
 
     Neighborhood& neighborhood_;
+    SYSTEMTIME time_;
     std::int32_t copiedSize_ = 0;
     Waiting waiting_;
-    std::set<const Sim*> owed_;
-    std::optional<Move> install_;  // prepared while the old file is backed up
+    std::optional<Replacement> replacement_;
 };
 
 #endif

@@ -92,8 +92,8 @@ class Neighborhood {
     int writeChangedFamilies(StreamView stream);
     int writeNewFamilies(StreamView stream);
 
-    // The save that is under way (save/save_attempt.h). Begins one if there is none.
-    SaveAttempt& saveAttempt();
+    // The save that is under way (save/save_attempt.h); null if there is none.
+    SaveAttempt* saveAttempt() const { return saveAttempt_; }
 
  private:
     friend class SaveAttempt;
@@ -122,7 +122,7 @@ class Neighborhood {
     std::int32_t highestFamilyNumber_ = 0;
 
     ContentSum sumAsRead_;  // of the whole file; after a save, of the new one
-    std::shared_ptr<SaveAttempt> saveAttempt_;  // null while nothing is being saved or owed
+    SaveAttempt* saveAttempt_ = nullptr;
 
     // All families and Sims created here, including those not listed. Links stay valid until exit.
     std::vector<std::unique_ptr<Family>> ownedFamilies_;

@@ -156,6 +156,7 @@ class Sim {
     bool stageKnown_ = false;
     bool characterDirty_ = false;
     bool recordDirty_ = false;
+    bool recordOwed_ = false;  // the character file is new, but the record isn't in the live neighborhood file yet
     FixedText<13> fileName_;
     DirectoryText filePath_;
     Guid guid_;

@@ -25,7 +25,7 @@ StreamFile::~StreamFile() {
 }
 
 bool StreamFile::open(const char* path, Access access, std::size_t windowSize) {
-    file_ = openFile(path, access == Access::read ? "rb" : "r+b");
+    file_ = access == Access::read ? openFile(path, "rb") : openWhenFree(path, "r+b");
     windowCapacity_ = std::max(windowSize, smallestWindow);
     return file_ != nullptr;
 }

@@ -4,13 +4,13 @@
 
 #include <windows.h>
 
-// Whether an operation on `path` failed, by the last error, because another program has the file open: exclusively, or
-// since before it was deleted, in which case Windows refuses the name to everyone until it is closed. Leaves the last
-// error unchanged.
+// Whether an operation on `path` failed, by the last error, because another program has the file open: in a way that
+// excludes the operation, or since before the file was deleted, when Windows refuses the name to everyone. Leaves the
+// last error unchanged.
 bool isHeldByAnother(const char* path);
 
-// Repeats `attempt` while it fails for that reason, for two seconds at most, so that the second step of replacing a
-// file does not fail because a program reads it. Returns the result of the last attempt.
+// Repeats `attempt` while it fails for that reason, for two seconds at most. Returns the result of the last attempt. If
+// the file is still held, the last error is ERROR_SHARING_VIOLATION.
 template <typename Attempt>
 auto whileHeld(const char* path, Attempt attempt) {
     constexpr int tries = 100;
@@ -20,7 +20,9 @@ auto whileHeld(const char* path, Attempt attempt) {
         result = attempt();
     }
     // It may have come free between attempt and question.
-    return result ? result : attempt();
+    if (!result) result = attempt();
+    if (!result && isHeldByAnother(path)) SetLastError(ERROR_SHARING_VIOLATION);
+    return result;
 }
 
 #endif

@@ -5,13 +5,32 @@
 #include "platform/win32.h"
 #include "platform/windows/file_held.h"
 
+// Windows reports a file that is open elsewhere as "access denied", too, if it is to be replaced, or was deleted while
+// it was open. A file whose access rights exclude the user looks the same, and is waited for in vain.
+bool isHeldByAnother(const char* path) {
+    const DWORD error = GetLastError();
+    if (error != ERROR_ACCESS_DENIED) return error == ERROR_SHARING_VIOLATION;
+    const DWORD attributes = GetFileAttributesA(path);
+    const bool isDeleted = attributes == INVALID_FILE_ATTRIBUTES && GetLastError() == ERROR_ACCESS_DENIED;
+    SetLastError(error);
+    if (attributes == INVALID_FILE_ATTRIBUTES) return isDeleted;
+    return (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0;
+}
+
 std::FILE* openFile(const char* path, const char* mode) {
     // The runtime refuses some arguments itself, without setting the last error.
     SetLastError(ERROR_INVALID_PARAMETER);
-    const auto open = [=] { return std::fopen(path, mode); };
-    std::FILE* file = *mode == 'r' ? open() : whileHeld(path, open);
+    std::FILE* file = std::fopen(path, mode);
     if (file != nullptr) std::setvbuf(file, nullptr, _IONBF, 0);
     return file;
+}
+
+std::FILE* openWhenFree(const char* path, const char* mode) {
+    return whileHeld(path, [=] { return openFile(path, mode); });
+}
+
+bool deleteWhenFree(const char* path) {
+    return whileHeld(path, [=] { return DeleteFileA(path) != FALSE; });
 }
 
 // The runtime's own query reports the same modes, but sets an extra bit for programs and also asks for three times.
@@ -48,7 +67,9 @@ SteadyDirectories::SteadyDirectories() = default;
 SteadyDirectories::~SteadyDirectories() = default;
 
 // NTFS keeps a journal of its names. A program can do no more.
-void syncDirectory(const char*) {}
+bool syncDirectory(const char*) {
+    return true;
+}
 
 bool syncFile(std::FILE* file) {
     return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;

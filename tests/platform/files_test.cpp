@@ -5,14 +5,13 @@
 #include <functional>
 #include <tuple>
 
+#include "platform/part_names.h"
 #include "platform/win32.h"
 #include "tests/support/temp_directory.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-using enum NewVersion::Naming;
 
 // The working directory holds "User00042.iff", the directory "Sub", and "protected.iff", which can't be written.
 class FilesTest : public testing::Test {
@@ -59,7 +58,7 @@ TEST_F(FilesTest, AModeDecidesWhatAnOpenedFileHolds) {
 
 TEST_F(FilesTest, EachRefusalHasItsReason) {
     const auto opens = [](const char* path, const char* mode) { return openFile(path, mode) != nullptr; };
-    const auto replaces = [](const char* path) { return NewVersion(path).open(whenComplete) != nullptr; };
+    const auto replaces = [](const char* path) { return NewVersion(path).open(path) != nullptr; };
     const struct {
         const char* what;
         std::function<bool()> works;
@@ -82,7 +81,7 @@ TEST_F(FilesTest, EachRefusalHasItsReason) {
 
 TEST_F(FilesTest, AProtectedFileIsReadButNotWritten) {
     EXPECT_EQ(openFile("protected.iff", "wb"), nullptr);
-    EXPECT_EQ(NewVersion("protected.iff").open(whenComplete), nullptr);
+    EXPECT_EQ(NewVersion("protected.iff").open(""), nullptr);
     EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
     EXPECT_EQ(contentOf("protected.iff"), "kept");
     std::FILE* const read = openFile("protected.iff", "rb");
@@ -91,15 +90,16 @@ TEST_F(FilesTest, AProtectedFileIsReadButNotWritten) {
 }
 
 TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
+    const std::string part = "User00042.iff.tidewright-new0", aside = "User00042.iff.tidewright-old0";
+    enum Act { none, name, setAsideAndName, setAsideAndLoseThePart };
     const struct {
         const char* what;
-        NewVersion::Naming naming;
-        bool isNamed;
-        std::string before, after;  // what the name has until the version gets it, and from then on
-    } rows[] = {{"named", whenComplete, true, "old", "new"},
-                {"discarded", whenComplete, false, "old", "old"},
-                {"named at once", atOnce, true, "new", "new"},
-                {"discarded, named at once", atOnce, false, "new", "no such file"}};
+        Act act;
+        std::string live, asideAfterwards;
+    } rows[] = {{"discarded", none, "old", "no such file"},
+                {"named", name, "new", "no such file"},
+                {"not named, so that the older file comes back", setAsideAndLoseThePart, "old", "no such file"},
+                {"named where the older file had been", setAsideAndName, "new", "old"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         directory_.write("User00042.iff", "old");
@@ -107,16 +107,39 @@ TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
         {
             NewVersion version("user00042.iff");
             fs::current_path(directory_.path("Sub"));
-            std::FILE* file = version.open(row.naming);
+            std::FILE* file = version.open("");
             ASSERT_NE(file, nullptr);
             EXPECT_EQ(std::fwrite("new", 1, 3, file), 3U);
             EXPECT_TRUE(version.complete());
-            EXPECT_EQ(contentOf("User00042.iff"), row.before);
-            EXPECT_TRUE(!row.isNamed || version.giveName());
+            EXPECT_EQ(contentOf("User00042.iff") + contentOf(part), "oldnew");
+            if (row.act >= setAsideAndName) {
+                EXPECT_TRUE(version.setAside());
+                EXPECT_EQ(contentOf("User00042.iff") + contentOf(aside), "no such fileold");
+            }
+            if (row.act == setAsideAndLoseThePart) directory_.remove(part);
+            EXPECT_EQ(row.act != none && version.giveName(), row.act == name || row.act == setAsideAndName);
         }
-        EXPECT_EQ(contentOf("User00042.iff"), row.after);
-        EXPECT_EQ(std::distance(fs::directory_iterator(directory_.path()), {}), directory_.exists("User00042.iff") + 2);
+        EXPECT_EQ(contentOf("User00042.iff"), row.live);
+        EXPECT_EQ(contentOf(aside), row.asideAfterwards);
+        EXPECT_EQ(contentOf(part), "no such file");
     }
+    EXPECT_EQ(fileNamesIn(directory_.path().c_str()).size(), 3U) << "the name is spelled as it was";
+}
+
+TEST_F(FilesTest, OfEndedProcessesOnlyPartsThatAreNoLongerNeededGo) {
+    const std::string stay[] = {".tidewright-new0",        "a.iff.tidewright-new",  "a.iff.tidewright-new10",
+                                "a.iff.tidewright-newx",   "a.iff.TIDEWRIGHT-new0", "~partner.tmp",
+                                "gone.iff.tidewright-old0"};
+    for (const std::string& name : stay)
+        directory_.write(name, "stays");
+    for (const char* const name :
+         {"a.iff.tidewright-new0", "gone.iff.tidewright-new9", "User00042.iff.tidewright-old3"})
+        directory_.write(name, "goes");
+    deleteLeftOverParts(".");
+    std::vector<std::string> expected(std::begin(stay), std::end(stay));
+    expected.insert(expected.end(), {"User00042.iff", "protected.iff"});
+    std::sort(expected.begin(), expected.end());
+    EXPECT_EQ(fileNamesIn("."), expected);
 }
 
 TEST_F(FilesTest, NamesAreDeletedFoundAndEnteredInAnyCase) {

@@ -1,5 +1,4 @@
 // Kills a save at each of its system calls in turn, then makes each call fail in turn.
-#include <fcntl.h>
 #include <sys/syscall.h>
 
 #include <cerrno>
@@ -48,20 +47,19 @@ class SaveSweepTest : public SaveTest {
     }
 
     // Saves twice for each call from `begin` on, in steps of `step`: the first save gets `answer` for that call.
-    void sweep(int answer, int begin, int step, bool hasNamelessFiles = true) {
+    void sweep(int answer, int begin, int step) {
         int point = begin;
         do {
             int calls = 0;
             answeredCall_ = -1;
             saveTwice([&](const seccomp_data& call) {
-                const bool opensNameless = call.nr == SYS_openat && (call.args[2] & O_TMPFILE) == O_TMPFILE;
-                if (++calls != point) return opensNameless && !hasNamelessFiles ? EOPNOTSUPP : heldCall::carryOut;
+                if (++calls != point) return heldCall::carryOut;
                 answeredCall_ = static_cast<int>(call.nr);
                 return answer;
             });
-            SCOPED_TRACE(testing::Message() << "answered " << answer << " at call " << point << ", number "
-                                            << answeredCall_ << ", nameless files: " << hasNamelessFiles);
-            expectNothingLost(answer != heldCall::endProcess);
+            SCOPED_TRACE(testing::Message()
+                         << "answered " << answer << " at call " << point << ", number " << answeredCall_);
+            expectNothingLost();
             if (answer != heldCall::endProcess) expectHomeOrMarked();
             point += step;
         } while (answeredCall_ >= 0 && !HasFailure());
@@ -70,13 +68,14 @@ class SaveSweepTest : public SaveTest {
     }
 
  private:
-    // Both versions of each file are somewhere whole. A failed backup doesn't stop the save; then only the new version
-    // is left. But a directory that can't be entered does stop it.
-    void expectNothingLost(bool backupsMayFail) const {
-        const std::string withBackups =
-            "old(, temporary (new|other bytes))?|(old|gone|new), temporary new, backup old|new, backup old";
-        const bool needsBackups = !backupsMayFail || answeredCall_ == SYS_chdir;
-        const std::string each = "(" + withBackups + (needsBackups ? ")" : "|new(, temporary new)?)");
+    // No file is partial but those on the way, and of each there is an old and a new version: an old one for as long as
+    // there is no new one, and beside the new one at least under the name by which it was set aside.
+    void expectNothingLost() const {
+        const std::string before = "old(, temporary (new|other bytes))?(, backup old)?";
+        const std::string between = "gone, temporary new(, backup old)?, aside old, part new";
+        const std::string after = "new(, temporary new)?(, backup old|, aside old|, backup old, aside old)";
+        const std::string onTheWay = "(, part (new|other bytes))?(, backup's part (old|other bytes))?";
+        const std::string each = "(" + before + "|" + between + "|" + after + ")" + onTheWay;
         const std::string versions = std::regex_replace(afterFirst_, std::regex(" without (Ann|Bob|both)"), "");
         EXPECT_TRUE(std::regex_match(versions, std::regex(each + "; " + each + "; " + each))) << afterFirst_;
         // The record of a Sim that has its new file may be missing only together with all that the save wrote.
@@ -84,15 +83,12 @@ class SaveSweepTest : public SaveTest {
         EXPECT_FALSE(std::regex_match(livesOf(afterFirst_), newWithoutRecord)) << afterFirst_;
     }
 
-    // A file that couldn't take its live name waits under its temporary one; all else is home after the next save. Only
-    // the neighborhood file may wait unmarked.
+    // All is home after the next save, and until then the window asks.
     void expectHomeOrMarked() const {
-        const std::string first = livesOf(afterFirst_), home = "new; new; new";
-        const bool waits = first.find("gone") != std::string::npos, isInstalled = !first.ends_with("gone");
-        EXPECT_TRUE(first == home || isMarkedAfterFirst_ || !isInstalled) << afterFirst_;
+        EXPECT_TRUE(livesOf(afterFirst_) == "new; new; new" || isMarkedAfterFirst_) << afterFirst_;
+        EXPECT_FALSE(livesOf(afterFirst_).find("gone") != std::string::npos) << afterFirst_;
         // Behind the third state are the backups of the second save.
-        EXPECT_TRUE((livesOf(states()) + ";").starts_with(home + ";") || waits) << states();
-        EXPECT_TRUE(!waits || isMarked_ || !isInstalled) << afterFirst_;
+        EXPECT_TRUE((livesOf(states()) + ";").starts_with("new; new; new;") && !isMarked_) << states();
     }
 
     void noteFirst() {
@@ -110,28 +106,24 @@ TEST_F(SaveSweepTest, AKilledSaveLosesNothing) {
 }
 
 TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
-    for (const bool hasNamelessFiles : {true, false}) {
-        const int step = std::getenv("TIDEWRIGHT_ALL_POINTS") != nullptr ? 1 : hasNamelessFiles ? 4 : 12;
-        int begin = 1;  // another one for each error: together they meet all calls, or with a step of 12 a third
-        for (const int error : {ENOSPC, EIO, EACCES, EMFILE})
-            sweep(error, step == 1 ? 1 : begin++, step, hasNamelessFiles);
-    }
+    const bool isWhole = std::getenv("TIDEWRIGHT_ALL_POINTS") != nullptr;
+    int begin = 1;  // another one for each error, so that together they meet all calls
+    for (const int error : {ENOSPC, EIO, EACCES, EMFILE})
+        sweep(error, isWhole ? 1 : begin++, isWhole ? 1 : 4);
 }
 
 TEST_F(SaveSweepTest, EachVersionIsOnTheDiskBeforeAnOlderOneGoes) {
     std::string calls;
     saveTwice([&](const seccomp_data& call) {
         if (call.nr == SYS_fsync) calls += "sync ";
-        if (call.nr == SYS_linkat) calls += "name ";
+        if (call.nr == SYS_renameat) calls += "name ";
         if (call.nr == SYS_unlinkat) calls += "delete ";
         return heldCall::carryOut;
     });
-    // The temporary file, the backup's copy and the live file's are synced; the first of these two is named before the
-    // old file goes, the second before the temporary one does. Elsewhere than on ext4 each naming is synced as well.
-    // In front are the syncs of the new directories of backups, the Sims' and the neighborhood's.
-    const std::string ofEach = "sync sync sync name delete name delete ";
-    EXPECT_EQ(std::regex_replace(calls, std::regex("name sync"), "name"),
-              "sync " + ofEach + ofEach + "sync " + ofEach + "sync ");
+    // The temporary file and both copies; the backup's name, and its directory; the live file's directory, before the
+    // old file is set aside and the new one takes its name; that directory again, before the older ones go.
+    const std::string ofEach = "sync sync sync name sync sync name name sync delete delete ";
+    EXPECT_EQ(calls, ofEach + ofEach + ofEach + "sync sync ");
 }
 
 }  // namespace

@@ -103,18 +103,22 @@ class SaveTest : public testing::Test {
 
     // What a save at seven minutes past two has under its names: of Ann's file, of Bob's and of the
     // neighborhood's, such as "old, temporary new, backup old" each. A new neighborhood may lack a record, as "new
-    // without Ann". Other files that have come, gone or changed follow by name.
+    // without Ann". A part is what is on its way to the live name or the backup's. Other files that have come, gone or
+    // changed follow by name.
     std::string states() const {
         Tree before = original_, now = treeOf(files().path());
         std::string states;
         for (const auto& [file, versions] : versions_) {
             const std::string directory = file.substr(0, file.rfind('/') + 1), name = file.substr(directory.size());
             const std::string date = file == live ? ".200235.147" : ".200235";
+            const std::string backup = directory + "Backups/" + name.substr(0, name.rfind('.')) + date + ".iff";
             states += (states.empty() ? "" : "; ") + std::string(now.contains(file) ? "" : "gone");
-            for (const auto& [what, copy] :
-                 {std::pair("", file),
-                  {", temporary ", directory + "TMP" + name},
-                  {", backup ", directory + "Backups/" + name.substr(0, name.rfind('.')) + date + ".iff"}}) {
+            for (const auto& [what, copy] : {std::pair("", file),
+                                             {", temporary ", directory + "TMP" + name},
+                                             {", backup ", backup},
+                                             {", aside ", file + ".tidewright-old0"},
+                                             {", part ", file + ".tidewright-new0"},
+                                             {", backup's part ", backup + ".tidewright-new0"}}) {
                 before.erase(copy);
                 if (!now.contains(copy)) continue;
                 const auto version = versions.find(now.extract(copy).mapped());

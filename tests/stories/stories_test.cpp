@@ -237,7 +237,7 @@ TEST_F(Stories, AnEveningOfPlayByKeysAlone) {
     const std::regex changed(
         "UserData2?/((Backups/)?[Nn]eighborhood|Characters/(Backups/)?[Uu]ser000(13|15|42|04))[.0-9]*iff\n");
     EXPECT_EQ(std::regex_replace(differences(before, after), changed, ""), "");
-    EXPECT_TRUE(after.contains("UserData/neighborhood.iff")) << "it was spelled with a capital";
+    EXPECT_TRUE(after.contains("UserData/Neighborhood.iff")) << "it is spelled with a capital";
 }
 
 TEST_F(Stories, AnUnpreparedGameIsRefused) {

@@ -10,11 +10,9 @@
 #include "platform/native/files/path_error.h"
 #include "platform/native/files/permissions.h"
 
-bool isRefused(const struct stat& status, int flags) {
-    if (S_ISDIR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) return true;
-    return (flags & O_ACCMODE) != O_RDONLY && isWriteProtected(status);
-}
+namespace {
 
+// Null on failure, with the last error set and the descriptor closed.
 std::FILE* streamOf(int descriptor, const char* mode) {
     std::FILE* stream = fdopen(descriptor, mode);
     if (stream == nullptr) {
@@ -24,6 +22,13 @@ std::FILE* streamOf(int descriptor, const char* mode) {
     }
     std::setvbuf(stream, nullptr, _IONBF, 0);
     return stream;
+}
+
+}  // namespace
+
+bool isRefused(const struct stat& status, int flags) {
+    if (S_ISDIR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode)) return true;
+    return (flags & O_ACCMODE) != O_RDONLY && isWriteProtected(status);
 }
 
 std::FILE* openStream(const NativePath& file, int flags, const char* mode) {
@@ -53,4 +58,8 @@ std::FILE* openStream(const NativePath& file, int flags, const char* mode) {
     }
     if (stream == nullptr && isNew) unlinkat(file.directory, file.name.c_str(), 0);
     return stream;
+}
+
+bool syncToDisk(int descriptor) {
+    return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
 }

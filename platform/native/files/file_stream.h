@@ -16,7 +16,8 @@ bool isRefused(const struct stat& status, int flags);
 // error set; an existing file then keeps its bytes, and no new file is left behind.
 std::FILE* openStream(const NativePath& file, int flags, const char* mode);
 
-// Makes an unbuffered stream of an open descriptor. Null on failure, with the last error set and the descriptor closed.
-std::FILE* streamOf(int descriptor, const char* mode);
+// Writes what the open file or directory has through to the disk. False, with `errno` set, if the disk reports an
+// error. A device or file system without a sync has nothing left to do.
+bool syncToDisk(int descriptor);
 
 #endif

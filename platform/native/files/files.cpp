@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "platform/native/api/file_system.h"
 #include "platform/native/api/system.h"
 #include "platform/native/files/file_stream.h"
 #include "platform/native/files/path_error.h"
@@ -40,6 +41,15 @@ std::FILE* openFile(const char* path, const char* mode) {
     return openStream(locate(path), found->flags, mode);
 }
 
+// No other program can exclude this one from a file here.
+std::FILE* openWhenFree(const char* path, const char* mode) {
+    return openFile(path, mode);
+}
+
+bool deleteWhenFree(const char* path) {
+    return DeleteFileA(path) != FALSE;
+}
+
 bool queryFileStatus(const char* path, FileStatus& status) {
     const NativePath file = locate(path);
     struct stat found = {};
@@ -65,16 +75,15 @@ bool isSameFile(const char* first, const char* second) {
     return query(first, one) && query(second, other) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
-void syncDirectory(const char* path) {
+bool syncDirectory(const char* path) {
     const NativePath directory = locate(path);
     const int opened = openat(directory.directory, directory.name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (opened < 0) return;
-    fsync(opened);
+    if (opened < 0) return false;
+    const bool isSynced = syncToDisk(opened);
     close(opened);
+    return isSynced;
 }
 
 bool syncFile(std::FILE* file) {
-    if (std::fflush(file) != 0) return false;
-    // A device or file system without sync has nothing left to do.
-    return fsync(fileno(file)) == 0 || errno == EINVAL || errno == ENOTSUP;
+    return std::fflush(file) == 0 && syncToDisk(fileno(file));
 }

@@ -28,12 +28,12 @@ using CallDecision = std::function<int(const seccomp_data& call)>;
 
 [[noreturn]] inline void runChild(const std::function<void()>& act) {
     std::vector<sock_filter> filter{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
-    for (const unsigned call : std::initializer_list<unsigned>{
-             SYS_openat, SYS_close,    SYS_newfstatat, SYS_fstat,      SYS_statx,    SYS_faccessat,
-             SYS_lseek,  SYS_read,     SYS_write,      SYS_getdents64, SYS_fcntl,    SYS_fsync,
-             SYS_linkat, SYS_unlinkat, SYS_mkdirat,    SYS_ftruncate,  SYS_chdir,    SYS_faccessat2,
-             SYS_dup,    SYS_dup3,     SYS_fstatfs,    SYS_getcwd,     SYS_renameat2}) {
-        filter.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 0, 1));
+    for (const long call :
+         {SYS_openat, SYS_close,    SYS_newfstatat, SYS_fstat,     SYS_statx,      SYS_faccessat, SYS_faccessat2,
+          SYS_lseek,  SYS_read,     SYS_write,      SYS_ftruncate, SYS_getdents64, SYS_fcntl,     SYS_fsync,
+          SYS_rename, SYS_renameat, SYS_renameat2,  SYS_unlinkat,  SYS_mkdirat,    SYS_chdir,     SYS_getcwd,
+          SYS_fchmod, SYS_fchown,   SYS_flock,      SYS_dup,       SYS_dup3,       SYS_fstatfs}) {
+        filter.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call), 0, 1));
         filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_USER_NOTIF));
     }
     filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));

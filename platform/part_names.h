@@ -1,0 +1,21 @@
+// The names that a NewVersion (platform/files.h) uses beside its file, until the file is in its place: those of
+// "user00013.iff" are "user00013.iff.tidewright-new0" for the part that is being written and
+// "user00013.iff.tidewright-old0" for the older file that was set aside. No other file ends with such a name.
+#ifndef PLATFORM_PART_NAMES_H
+#define PLATFORM_PART_NAMES_H
+
+#include <string>
+#include <string_view>
+
+// The last digit, for names that are taken: by a process that has ended, or by another one where nothing can be locked.
+constexpr int partNumbers = 10;
+
+// `file` may be a path.
+std::string partName(std::string_view file, int number);
+std::string asideName(std::string_view file, int number);
+
+// Deletes what processes that ended half-way left in `directory`. A file that was set aside stays while nothing has its
+// name: it is the only one. The caller holds the lock under which all those files are written.
+void deleteLeftOverParts(const char* directory);
+
+#endif
