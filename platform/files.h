@@ -58,6 +58,27 @@ bool syncFile(std::FILE* file);
 // reports an error; a file system without such a call has nothing left to do.
 bool syncDirectory(const char* path);
 
+// A lock on a directory, which one process at a time can have. The system releases it when the process ends, however
+// that happens. It doesn't keep others from using the directory: it is an agreement between those who ask for it.
+class DirectoryLock {
+ public:
+    // Waits up to two seconds for another process to release the lock.
+    explicit DirectoryLock(const char* path);
+    DirectoryLock(const DirectoryLock&) = delete;
+    DirectoryLock& operator=(const DirectoryLock&) = delete;
+    ~DirectoryLock();
+
+    // Neither is true where the directory can't be locked, as on some network drives.
+    bool isHeld() const { return state_ == State::held; }
+    bool isHeldByAnother() const { return state_ == State::heldByAnother; }
+
+ private:
+    enum class State { held, heldByAnother, unavailable };
+
+    State state_ = State::unavailable;
+    std::intptr_t handle_ = -1;  // a file descriptor or a handle
+};
+
 // A new version of a file. It is written as a part beside that file (platform/part_names.h) and takes the file's name
 // when it is complete and on the disk, so a process or machine that stops half-way leaves no partial file under that
 // name. Each step waits up to two seconds for another program that has the file open in a way that excludes the step;

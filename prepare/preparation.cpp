@@ -88,7 +88,8 @@ bool makeDirectory(const std::string& path) {
 void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
     const std::string skin = simsDirectory + installedSkin;
     if (makeDirectory(simsDirectory + gameData) && makeDirectory(simsDirectory + skins)) {
-        deleteLeftOverParts((simsDirectory + skins).c_str());
+        const DirectoryLock lock((simsDirectory + skins).c_str());
+        if (lock.isHeld()) deleteLeftOverParts((simsDirectory + skins).c_str());
         bring(preparation, skin, presentFile(skin), ByteWriter().text(packageSkin()).written());
     } else {
         notWritten(preparation, skin);
@@ -191,7 +192,8 @@ std::string plannedTemplate(bool newTemplate) {
 
 Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
     Preparation preparation;
-    deleteLeftOverParts(".");
+    const DirectoryLock lock(".");
+    if (lock.isHeld()) deleteLeftOverParts(".");
     bringSkin(preparation, simsDirectory);
     bringTemplate(preparation, simsDirectory, newTemplate);
     bring(preparation, familyTemplateFile, presentFamilyTemplate(familyTemplateFile), makeFamilyTemplate());

@@ -24,7 +24,9 @@ void Neighborhood::save(const char* toolDirectory) {
     // another neighborhood's files.
     if (SetCurrentDirectoryA(directory_.c_str()) == FALSE) return;
     if (!isDirty()) return;
-    deletePartsOfEarlierSaves();
+    const DirectoryLock lock(".");
+    if (lock.isHeldByAnother()) return;
+    if (lock.isHeld()) deletePartsOfEarlierSaves();
     const SaveAttempt attempt(*this);
     const PathText tempPath = tempNeighborhoodPath(directory_);
     if (writeTempFile(tempPath.c_str()) != 1) return;

@@ -1,0 +1,43 @@
+#include <cstdio>
+
+#include "platform/files.h"
+#include "platform/win32.h"
+
+namespace {
+
+// A name that a directory has under each of its paths. Empty if the file system doesn't number its files.
+std::string mutexName(const char* path) {
+    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE const opened = CreateFileA(path, 0, shareAll, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    BY_HANDLE_FILE_INFORMATION directory = {};
+    const bool isKnown = opened != INVALID_HANDLE_VALUE && GetFileInformationByHandle(opened, &directory) != FALSE;
+    if (opened != INVALID_HANDLE_VALUE) CloseHandle(opened);
+    if (!isKnown) return "";
+    char name[64];
+    std::snprintf(name, sizeof name, "Global\\Tidewright directory %08lx %08lx%08lx", directory.dwVolumeSerialNumber,
+                  directory.nFileIndexHigh, directory.nFileIndexLow);
+    return name;
+}
+
+}  // namespace
+
+// A mutex, because a file that is locked would stay behind. It is this machine's alone.
+DirectoryLock::DirectoryLock(const char* path) {
+    constexpr DWORD twoSeconds = 2000;
+    const std::string name = mutexName(path);
+    HANDLE const mutex = name.empty() ? nullptr : CreateMutexA(nullptr, FALSE, name.c_str());
+    if (mutex == nullptr) return;
+    handle_ = reinterpret_cast<std::intptr_t>(mutex);
+    // WAIT_ABANDONED: its last holder ended without releasing it.
+    const DWORD result = WaitForSingleObject(mutex, twoSeconds);
+    state_ = result == WAIT_TIMEOUT                                ? State::heldByAnother
+             : result == WAIT_OBJECT_0 || result == WAIT_ABANDONED ? State::held
+                                                                   : State::unavailable;
+}
+
+DirectoryLock::~DirectoryLock() {
+    if (handle_ == -1) return;
+    HANDLE const mutex = reinterpret_cast<HANDLE>(handle_);
+    if (state_ == State::held) ReleaseMutex(mutex);
+    CloseHandle(mutex);
+}
