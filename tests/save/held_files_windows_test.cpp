@@ -1,0 +1,124 @@
+// A save while another program has one of its files open, or while another Tidewright saves.
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <regex>
+
+#include "platform/files.h"
+#include "tests/save/save_test.h"
+
+namespace {
+
+constexpr DWORD none = 0, read = FILE_SHARE_READ, write = FILE_SHARE_WRITE, erase = FILE_SHARE_DELETE;
+
+// What another program does in a thread of its own.
+DWORD WINAPI closeSoon(void* file) {
+    Sleep(400);
+    CloseHandle(file);
+    return 0;
+}
+
+struct OtherSave {
+    std::string directory;
+    DWORD milliseconds;
+    HANDLE hasBegun = CreateEventA(nullptr, FALSE, FALSE, nullptr);
+};
+
+DWORD WINAPI holdLock(void* of) {
+    const auto& save = *static_cast<OtherSave*>(of);
+    const DirectoryLock lock(save.directory.c_str());
+    SetEvent(save.hasBegun);
+    Sleep(save.milliseconds);
+    return 0;
+}
+
+class HeldFilesWindowsTest : public SaveTest {
+ public:
+    // Begins anew, with an older file of each name that a save gives, and opens one of all, as a reader who shares it.
+    HANDLE startAndHold(const std::string& name, DWORD share) {
+        start();
+        files().write(temporary, "older");
+        files().write(backup, "older");
+        return CreateFileA(files().path(name).c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr);
+    }
+
+    const std::string neighborhood = live, ann = TestNeighborhood::characterFile("user00001"),
+                      temporary = "UserData/TMPneighborhood.iff",
+                      backup = "UserData/Backups/neighborhood.200235.147.iff", body = "Template.iff",
+                      family = "famtemplate";
+    const std::vector<DWORD> usualShares = {none, read, read | write, read | write | erase};
+};
+
+TEST_F(HeldFilesWindowsTest, AFileThatStaysHeldStaysWholeAndIsMarked) {
+    const std::vector<DWORD> withoutRead = {none, write, erase, write | erase};
+    const std::vector<DWORD> withRead = {read, read | write, read | erase, read | write | erase};
+    const std::string allOld = "old; old; old, temporary other bytes, backup other bytes";
+    const std::string newSims = "new, backup old; new, backup old; ";
+    const std::string withoutAnn = "; new, backup old; new without Ann, backup old";
+    const struct {
+        std::string held;
+        std::vector<DWORD> shares;
+        std::string after;
+        bool isMarked;
+    } rows[] = {{neighborhood, withoutRead, allOld, true},
+                {neighborhood, {read, read | write}, newSims + "old, temporary new, backup old", true},
+                {neighborhood, {read | erase, read | write | erase}, allSaved, false},
+                {ann, withoutRead, "old, temporary new" + withoutAnn, true},
+                {ann, {read, read | write}, "old, temporary new, backup old" + withoutAnn, true},
+                {ann, {read | erase, read | write | erase}, allSaved, false},
+                {temporary, {none, read, write, erase, read | erase, write | erase}, allOld, true},
+                {temporary, {read | write}, newSims + "new, temporary new, backup old", false},
+                {temporary, {read | write | erase}, allSaved, false},
+                {backup, {none, read, write, read | write}, newSims + "old, temporary new, backup other bytes", true},
+                {backup, {erase, read | erase, write | erase, read | write | erase}, allSaved, false},
+                {body, withoutRead, "old; old; new without both, backup old", true},
+                {body, withRead, allSaved, false},
+                {family, withoutRead, allOld, true},
+                {family, withRead, allSaved, false}};
+    for (const auto& row : rows) {
+        for (const DWORD share : row.shares) {
+            const bool isUsual = std::ranges::count(usualShares, share) != 0;
+            if (!isUsual && std::getenv("TIDEWRIGHT_ALL_POINTS") == nullptr) continue;
+            SCOPED_TRACE(testing::Message() << row.held << ", sharing " << share);
+            HANDLE const held = startAndHold(row.held, share);
+            save();
+            CloseHandle(held);
+            EXPECT_EQ(states(), row.after);
+            EXPECT_EQ(test()->isDirty(), row.isMarked);
+            save();
+            EXPECT_TRUE(std::regex_match(states(), std::regex("new[^;]*; new[^;]*; new, [^;]*"))) << states();
+            EXPECT_FALSE(test()->isDirty());
+        }
+    }
+}
+
+TEST_F(HeldFilesWindowsTest, AFileThatComesFreeIsWaitedFor) {
+    for (const std::string& name : {neighborhood, ann, temporary, backup, body, family}) {
+        for (const DWORD share : usualShares) {
+            SCOPED_TRACE(testing::Message() << name << ", sharing " << share);
+            HANDLE const thread = CreateThread(nullptr, 0, closeSoon, startAndHold(name, share), 0, nullptr);
+            save();
+            WaitForSingleObject(thread, INFINITE);
+            CloseHandle(thread);
+            EXPECT_EQ(states(), allSaved);
+            EXPECT_FALSE(test()->isDirty());
+        }
+    }
+}
+
+TEST_F(HeldFilesWindowsTest, AnotherSaveIsWaitedForButOnlyForAWhile) {
+    for (const auto& [milliseconds, after] : {std::pair(DWORD{400}, std::string(allSaved)), {3000, "old; old; old"}}) {
+        start();
+        OtherSave other{files().path("UserData"), milliseconds};
+        HANDLE const thread = CreateThread(nullptr, 0, holdLock, &other, 0, nullptr);
+        WaitForSingleObject(other.hasBegun, INFINITE);
+        save();
+        WaitForSingleObject(thread, INFINITE);
+        CloseHandle(thread);
+        EXPECT_EQ(states(), after);
+        EXPECT_EQ(test()->isDirty(), after != allSaved);
+    }
+}
+
+}  // namespace
