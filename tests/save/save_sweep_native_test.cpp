@@ -67,6 +67,10 @@ class SaveSweepTest : public SaveTest {
         EXPECT_EQ(afterFirst_, allSaved) << "without an answer";
     }
 
+ protected:
+    std::string afterFirst_;
+    bool isMarked_ = false, isMarkedAfterFirst_ = false;
+
  private:
     // No file is partial but those on the way, and of each there is an old and a new version: an old one for as long as
     // there is no new one, and beside the new one at least under the name by which it was set aside.
@@ -96,8 +100,6 @@ class SaveSweepTest : public SaveTest {
         isMarkedAfterFirst_ = isMarked_;
     }
 
-    std::string afterFirst_;
-    bool isMarked_ = false, isMarkedAfterFirst_ = false;
     int answeredCall_ = -1;
 };
 
@@ -124,6 +126,58 @@ TEST_F(SaveSweepTest, EachVersionIsOnTheDiskBeforeAnOlderOneGoes) {
     // old file is set aside and the new one takes its name; that directory again, before the older ones go.
     const std::string ofEach = "sync sync sync name sync sync name name sync delete delete ";
     EXPECT_EQ(calls, ofEach + ofEach + ofEach + "sync sync ");
+}
+
+TEST_F(SaveSweepTest, ASyncThatFailsCostsNoVersion) {
+    const std::string others = "; new, backup old; new without Ann, backup old";
+    const struct {
+        const char* what;  // of Ann's file isn't on the disk
+        int sync;
+        std::string after;
+        bool isMarked;
+    } rows[] = {{"the temporary file", 1, "old, temporary new" + others, true},
+                {"the backup, which is made again", 2, allSaved, false},
+                {"the new file", 3, "old, temporary new" + others, true},
+                {"the backup's name", 4, allSaved, false},
+                {"the new file's name beside the old one", 5, "old, temporary new, backup old" + others, true},
+                {"the new file's name", 6,
+                 "new, temporary new, backup old, aside old; new, backup old; new, backup old", false}};
+    for (const auto& row : rows) {
+        for (const int error : {EIO, EINVAL, ENOTSUP}) {
+            SCOPED_TRACE(testing::Message() << row.what << ", error " << error);
+            int syncs = 0;
+            saveTwice([&](const seccomp_data& call) {
+                return call.nr == SYS_fsync && ++syncs == row.sync ? error : heldCall::carryOut;
+            });
+            EXPECT_EQ(afterFirst_, error == EIO ? row.after : allSaved);
+            EXPECT_EQ(isMarkedAfterFirst_, error == EIO && row.isMarked);
+        }
+    }
+}
+
+// The game saves between the reading for the temporary file and that for the backup, in front of the change of names of
+// Bob's file.
+TEST_F(SaveSweepTest, AFileThatIsSavedByTheGameMeanwhileStaysAndItsRecordsAreOwed) {
+    Bytes games = original().at(live);
+    games.back() ^= 1;
+    int renames = 0;
+    saveTwice([&](const seccomp_data& call) {
+        if (call.nr == SYS_renameat && ++renames == 4) files().write(live, games);
+        return heldCall::carryOut;
+    });
+    EXPECT_EQ(afterFirst_, "new, backup old; new, backup old; other bytes, temporary new");
+    EXPECT_TRUE(isMarkedAfterFirst_);
+    EXPECT_EQ(files().bytesOf(live), games) << "the second save leaves it alone, too";
+    EXPECT_TRUE(isMarked_);
+}
+
+TEST_F(SaveSweepTest, WhereNothingCanBeLockedASaveGoesOnAndDeletesNoPart) {
+    saveTwice([&](const seccomp_data& call) {
+        if (call.nr != SYS_flock) return heldCall::carryOut;
+        files().write("UserData/lost.iff.tidewright-new0", "of another save");
+        return ENOLCK;
+    });
+    EXPECT_EQ(afterFirst_, std::string(allSaved) + "; UserData/lost.iff.tidewright-new0\n");
 }
 
 }  // namespace

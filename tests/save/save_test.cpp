@@ -1,5 +1,6 @@
 // What a save writes, what is on the disk when a step of it fails, and what the next save makes of that.
 #include "tests/save/save_test.h"
+#include "save/save_attempt.h"
 
 namespace {
 
@@ -92,27 +93,62 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
 
 // The game doesn't run when the program starts; it may have run by the time of the save.
 TEST_F(SaveTest, ALiveFileThatIsNotTheOneReadIsLeftAlone) {
-    start({.freeRoom = true});
-    const FamilyOffsets family = built().families[0];
-    const std::size_t freeRoom = built().freeRoomOffset;
-    const std::pair<const char*, std::size_t> changedPlaces[] = {{"a Sim's name", built().neighborOffsets[0] + 8},
-                                                                 {"the free chunk", freeRoom},
-                                                                 {"the map's offset", 61},
-                                                                 {"a family's number", family.record + 8},
-                                                                 {"a family's size", family.memberTable - 4}};
-    for (const auto& [what, offset] : changedPlaces) {
-        SCOPED_TRACE(what);
-        start({.freeRoom = offset == freeRoom});
-        Bytes changed = built().bytes;
-        overwrite(changed, offset, u16(9));
+    const struct {
+        const char* what;
+        std::size_t fileSize;
+        bool isLonger;
+    } rows[] = {{"its last byte", 40'000, false},
+                {"a byte more", 40'000, true},
+                {"the last byte of a file that isn't read at once", 17'000'000, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        start({.freeRoom = true, .fileSize = row.fileSize});
+        Bytes changed = original().at(live);
+        if (row.isLonger) changed.push_back(0);
+        changed.back() ^= 1;
         files().write(live, changed);
         save();
         EXPECT_EQ(files().bytesOf(live), changed);
         EXPECT_EQ(states(), "old; old; other bytes");
+        EXPECT_TRUE(test()->isDirty());
         files().write(live, original().at(live));
         save();
         EXPECT_EQ(states(), allSaved);
     }
+}
+
+TEST_F(SaveTest, ASaveAcrossMidnightHasTheDateOfItsBeginning) {
+    start();
+    std::filesystem::current_path(files().path("UserData"));
+    backupClock().stopAt({2002, 3, 0, 5, 14, 7, 0, 0});
+    const SaveAttempt attempt(*test());
+    backupClock().stopAt({2002, 3, 0, 6, 0, 0, 0, 0});
+    const std::string temporary = files().path("UserData") + "\\TMPneighborhood.iff";
+    EXPECT_EQ(test()->writeTempFile(temporary.c_str()), 1);
+    test()->backupLiveFile();
+    test()->installTempFile(temporary.c_str());
+    EXPECT_EQ(states(), allSaved);
+}
+
+TEST_F(SaveTest, TheErrorOfACopyIsThatOfTheOpenThatFailedAndTheDestinationsIfBothDid) {
+    const TempDirectory directory;
+    directory.write("source", "bytes");
+    directory.makeDirectory("taken");
+    const struct {
+        const char *source, *destination;
+        std::int32_t error;
+    } rows[] = {{"none", "new", ERROR_FILE_NOT_FOUND},
+                {"none", "taken", ERROR_ACCESS_DENIED},
+                {"none", "nowhere\\new", ERROR_PATH_NOT_FOUND},
+                {"source", "taken", ERROR_ACCESS_DENIED},
+                {"source", "nowhere\\new", ERROR_PATH_NOT_FOUND}};
+    std::filesystem::current_path(directory.path());
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.source) + " to " + row.destination);
+        EXPECT_EQ(copyFileBytes(row.source, row.destination, 0, CopyMode::overwrite), row.error);
+        EXPECT_EQ(moveByCopy(row.source, row.destination), row.error);
+    }
+    EXPECT_EQ(treeOf(directory.path()).size(), 1U);
 }
 
 }  // namespace
