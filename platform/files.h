@@ -54,10 +54,6 @@ class SteadyDirectories {
 // error.
 bool syncFile(std::FILE* file);
 
-// Writes a directory's entries through to the disk, on systems where that takes a call of its own. False if the disk
-// reports an error; a file system without such a call has nothing left to do.
-bool syncDirectory(const char* path);
-
 // A lock on a directory, which one process at a time can have. The system releases it when the process ends, however
 // that happens. It doesn't keep others from using the directory: it is an agreement between those who ask for it.
 class DirectoryLock {

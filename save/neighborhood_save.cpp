@@ -32,7 +32,4 @@ void Neighborhood::save(const char* toolDirectory) {
     if (writeTempFile(tempPath.c_str()) != 1) return;
     backupLiveFile();
     installTempFile(tempPath.c_str());
-    // The temporary files are gone from the disk, too.
-    syncDirectory(charactersDirectory);
-    syncDirectory(".");
 }

@@ -67,5 +67,5 @@ bool FilePlace::remove(const std::string& name) const {
 }
 
 bool FilePlace::sync() const {
-    return true;  // with each rename
+    return true;  // a rename writes itself through, and NTFS keeps a journal of its names
 }

@@ -66,11 +66,6 @@ bool isSameFile(const char* first, const char* second) {
 SteadyDirectories::SteadyDirectories() = default;
 SteadyDirectories::~SteadyDirectories() = default;
 
-// NTFS keeps a journal of its names. A program can do no more.
-bool syncDirectory(const char*) {
-    return true;
-}
-
 bool syncFile(std::FILE* file) {
     return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
 }
