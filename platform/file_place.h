@@ -5,12 +5,12 @@
 #include <cstdio>
 #include <string>
 
-// Names are those of files in the directory. Where an operation fails, GetLastError has the reason; one that other
-// programs are in the way of waits for them, as in NewVersion.
+// Names are those of files in the directory. Where an operation fails, GetLastError has the reason. Renaming and
+// removing wait for other programs, as in NewVersion.
 class FilePlace {
  public:
-    // Whether `rename` replaces a file that another program has open.
-    static const bool replacesOpenFiles;
+    // Whether `rename` replaces a file in one step, as a rule.
+    static const bool renameReplaces;
 
     explicit FilePlace(const char* path);
     FilePlace(const FilePlace&) = delete;
@@ -23,7 +23,8 @@ class FilePlace {
     // Whether the file may be replaced: it is neither a directory nor write-protected. True if there is none.
     bool isReplaceable() const;
 
-    bool exists(const std::string& name) const;
+    // Whether there is certainly no file of that name.
+    bool isFree(const std::string& name) const;
 
     // Creates a file, with mode and group of `model`, to be written without a buffer. Fails if it exists.
     std::FILE* create(const std::string& name, const char* model) const;

@@ -54,6 +54,10 @@ class SteadyDirectories {
 // error.
 bool syncFile(std::FILE* file);
 
+// Writes a directory's entries through to the disk. False if the disk reports an error; a file system that can't do
+// this has its own way.
+bool syncDirectory(const char* path);
+
 // A lock on a directory, which one process at a time can have. The system releases it when the process ends, however
 // that happens. It doesn't keep others from using the directory: it is an agreement between those who ask for it.
 class DirectoryLock {
@@ -104,15 +108,15 @@ class NewVersion {
     // by then is on the disk first. On false, with the reason in GetLastError, the older file is where it was.
     bool setAside();
 
-    // Gives the complete version its name, in one step over an older file. (Windows can't replace a file that anyone
-    // has open, so there it is set aside first.) On false, with the reason in GetLastError, the version is discarded,
-    // and the older file has its name, even if it was set aside.
+    // Gives the complete version its name: in one step over an older file where the system can do that, else the older
+    // file is set aside first, and deleted afterwards. On false, with the reason in GetLastError, the version is
+    // discarded, and the older file has its name, even if it was set aside.
     bool giveName();
 
     // Whether the new name has reached the disk. If not, what the new version replaces must not be deleted.
     bool isOnDisk() const;
 
-    // Deletes the older file that was set aside. Without this call it stays there.
+    // Deletes the older file that `setAside` has set aside. Without this call it stays there.
     void deleteAside();
 
     // Discards a version that has no name yet.

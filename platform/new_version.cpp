@@ -26,10 +26,11 @@ NewVersion::~NewVersion() {
 std::FILE* NewVersion::open(const char* model) {
     const FilePlace& place = state_->place;
     if (!place.isReplaceable()) return nullptr;
+    SetLastError(ERROR_ALREADY_EXISTS);
     for (int number = 0; !state_->hasPart && number < partNumbers; ++number) {
         state_->part = partName(place.name(), number);
         state_->aside = asideName(place.name(), number);
-        if (place.exists(state_->aside)) continue;
+        if (!place.isFree(state_->aside)) continue;
         state_->stream = place.create(state_->part, model);
         state_->hasPart = state_->stream != nullptr;
     }
@@ -53,10 +54,12 @@ bool NewVersion::setAside() {
 bool NewVersion::giveName() {
     const FilePlace& place = state_->place;
     const bool wasAside = state_->hasAside;
-    const bool isFree = wasAside || FilePlace::replacesOpenFiles || setAside();
-    if (!isFree || !place.rename(state_->part, place.name())) {
+    bool isNamed = (wasAside || FilePlace::renameReplaces) && place.rename(state_->part, place.name());
+    if (!isNamed && !wasAside) isNamed = setAside() && place.rename(state_->part, place.name());
+    if (!isNamed) {
         const DWORD error = GetLastError();
-        if (state_->hasAside) state_->hasAside = !place.rename(state_->aside, place.name());
+        const bool comesBack = state_->hasAside && place.isFree(place.name());
+        if (comesBack) state_->hasAside = !place.rename(state_->aside, place.name());
         discard();
         SetLastError(error);
         return false;

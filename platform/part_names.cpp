@@ -1,7 +1,7 @@
 #include "platform/part_names.h"
 
+#include "platform/file_place.h"
 #include "platform/files.h"
-#include "platform/win32.h"
 
 namespace {
 
@@ -14,11 +14,23 @@ std::string numbered(std::string_view file, std::string_view suffix, int number)
 }
 
 // What the name is made from; empty if it isn't made with this suffix.
-std::string_view fileOf(std::string_view name, std::string_view suffix) {
+std::string fileOf(std::string_view name, std::string_view suffix) {
     if (name.size() <= suffix.size() + 1) return {};
     const std::string_view file = name.substr(0, name.size() - suffix.size() - 1);
     const char number = name.back();
-    return name.substr(file.size(), suffix.size()) == suffix && number >= '0' && number <= '9' ? file : "";
+    const bool isMade = name.substr(file.size(), suffix.size()) == suffix && number >= '0' && number <= '9';
+    return std::string(isMade ? file : "");
+}
+
+// Where the process ended between the two renames, the older file gets its name back. Else the new one has the name; it
+// must be on the disk before the older one goes.
+void clearAside(const FilePlace& place, int number) {
+    const std::string aside = asideName(place.name(), number);
+    if (place.isFree(place.name())) {
+        place.rename(aside, place.name());
+    } else if (place.sync()) {
+        place.remove(aside);
+    }
 }
 
 }  // namespace
@@ -31,12 +43,14 @@ std::string asideName(std::string_view file, int number) {
     return numbered(file, asideSuffix, number);
 }
 
-void deleteLeftOverParts(const char* directory) {
+void clearLeftOverParts(const char* directory) {
     const std::string prefix = std::string(directory) + '\\';
     for (const std::string& name : fileNamesIn(directory)) {
-        const std::string aside = prefix + std::string(fileOf(name, asideSuffix));
-        FileStatus status{};
-        const bool isReplaced = aside != prefix && queryFileStatus(aside.c_str(), status);
-        if (isReplaced || !fileOf(name, partSuffix).empty()) DeleteFileA((prefix + name).c_str());
+        const std::string replaced = fileOf(name, asideSuffix), unfinished = fileOf(name, partSuffix);
+        const int number = name.back() - '0';
+        if (!replaced.empty()) clearAside(FilePlace((prefix + replaced).c_str()), number);
+        if (unfinished.empty()) continue;
+        const FilePlace place((prefix + unfinished).c_str());
+        place.remove(partName(place.name(), number));
     }
 }

@@ -14,8 +14,9 @@ constexpr int partNumbers = 10;
 std::string partName(std::string_view file, int number);
 std::string asideName(std::string_view file, int number);
 
-// Deletes what processes that ended half-way left in `directory`. A file that was set aside stays while nothing has its
-// name: it is the only one. The caller holds the lock under which all those files are written.
-void deleteLeftOverParts(const char* directory);
+// Clears away what processes that ended half-way left in `directory`: deletes the parts, and the files that were set
+// aside, but one without a new version gets its name back. The caller holds the lock under which all those files are
+// written.
+void clearLeftOverParts(const char* directory);
 
 #endif

@@ -89,7 +89,7 @@ void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
     const std::string skin = simsDirectory + installedSkin;
     if (makeDirectory(simsDirectory + gameData) && makeDirectory(simsDirectory + skins)) {
         const DirectoryLock lock((simsDirectory + skins).c_str());
-        if (lock.isHeld()) deleteLeftOverParts((simsDirectory + skins).c_str());
+        if (lock.isHeld()) clearLeftOverParts((simsDirectory + skins).c_str());
         bring(preparation, skin, presentFile(skin), ByteWriter().text(packageSkin()).written());
     } else {
         notWritten(preparation, skin);
@@ -193,7 +193,7 @@ std::string plannedTemplate(bool newTemplate) {
 Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
     Preparation preparation;
     const DirectoryLock lock(".");
-    if (lock.isHeld()) deleteLeftOverParts(".");
+    if (lock.isHeld()) clearLeftOverParts(".");
     bringSkin(preparation, simsDirectory);
     bringTemplate(preparation, simsDirectory, newTemplate);
     bring(preparation, familyTemplateFile, presentFamilyTemplate(familyTemplateFile), makeFamilyTemplate());

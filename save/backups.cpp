@@ -1,4 +1,4 @@
-// Moves the live file to its dated backup, and the temporary file to the live name. The live file's name is relative
+// Backs the live file up under a dated name, and puts the temporary file in its place. The live file's name is relative
 // when it is backed up, and so is that of the backups' directory: the current directory is then the neighborhood's, or
 // its "Characters" for a character file.
 #include "platform/files.h"
@@ -13,9 +13,8 @@ void Neighborhood::backupLiveFile() {
     saveAttempt_->backUp(fileName_.c_str(), fileName_.c_str(), backup, tempNeighborhoodPath(directory_), sumAsRead_);
 }
 
-// The temporary file is the one that `backupLiveFile` has prepared.
-void Neighborhood::installTempFile(const char*) {
-    if (saveAttempt_->install() == copyError::none) {
+void Neighborhood::installTempFile(const char* tempPath) {
+    if (saveAttempt_->install(tempPath, fileName_.c_str()) == copyError::none) {
         saveAttempt_->finish();
     } else {
         saveAttempt_->restoreWaiting();
@@ -29,6 +28,6 @@ void Sim::backupCharacterFile(const char* directory) {
     attempt.backUp(fileName_.c_str(), filePath_.c_str(), backup, tempCharacterPath(directory, fileName_), std::nullopt);
 }
 
-int Sim::installCharacterFile(const char*) {
-    return neighborhood_->saveAttempt()->install() == copyError::none ? 1 : -1;
+int Sim::installCharacterFile(const char* tempPath) {
+    return neighborhood_->saveAttempt()->install(tempPath, filePath_.c_str()) == copyError::none ? 1 : -1;
 }

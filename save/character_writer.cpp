@@ -53,6 +53,8 @@ int Sim::buildCharacterFile(const char* tempPath) {
     namespace at = characterTemplate;
     const auto templatePath = joined<PathText>(neighborhood_->toolDirectory(), '\\', characterTemplateName);
     // In a shorter template a patch would leave a gap of made-up bytes in front of it.
+    // Both were read long ago, as a rule. A file that couldn't be opened then may be there again.
+    if (loadName() == -1 || loadGuid() == -1) return -1;
     FileStatus status{};
     if (!queryFileStatus(templatePath.c_str(), status) || status.size < at::smallestSize) return -1;
     // If the temporary name is a link to the live file, writing there would spoil the only old version.

@@ -1,5 +1,5 @@
-// How a save copies and moves files. A move is a copy and then a delete of the source, never a rename: no old file is
-// deleted before its copy is known to be on the disk.
+// How a save copies and moves files. The source of a move is read, and deleted when its copy is known to be on the
+// disk; only the copy is renamed.
 #ifndef SAVE_FILE_COPY_H
 #define SAVE_FILE_COPY_H
 

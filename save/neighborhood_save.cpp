@@ -7,17 +7,17 @@
 namespace {
 
 // Looks in every directory that a save writes to: the save that was cut off may have got further than this one will.
-void deletePartsOfEarlierSaves() {
+void clearPartsOfEarlierSaves() {
     for (const std::string_view directory : {".", charactersDirectory}) {
-        deleteLeftOverParts(PathText(directory).c_str());
-        deleteLeftOverParts(joined<PathText>(directory, '\\', backupsDirectory).c_str());
+        clearLeftOverParts(PathText(directory).c_str());
+        clearLeftOverParts(joined<PathText>(directory, '\\', backupsDirectory).c_str());
     }
 }
 
 }  // namespace
 
-// Live files are never edited in place. The temporary file is finished first, then the live file goes to its backup,
-// then the temporary file takes the live name.
+// Live files are never edited in place. The temporary file is finished first, then the live file is backed up,
+// then the temporary file takes its place.
 void Neighborhood::save(const char* toolDirectory) {
     setToolDirectory(toolDirectory);
     // The names of the live file and of its backups' directory are relative. In any directory but this they would mean
@@ -26,7 +26,7 @@ void Neighborhood::save(const char* toolDirectory) {
     if (!isDirty()) return;
     const DirectoryLock lock(".");
     if (lock.isHeldByAnother()) return;
-    if (lock.isHeld()) deletePartsOfEarlierSaves();
+    if (lock.isHeld()) clearPartsOfEarlierSaves();
     const SaveAttempt attempt(*this);
     const PathText tempPath = tempNeighborhoodPath(directory_);
     if (writeTempFile(tempPath.c_str()) != 1) return;

@@ -5,29 +5,35 @@
 
 namespace {
 
-constexpr std::int32_t notAsExpected = -1;
+constexpr std::int32_t notAsSeen = -1;
 
 }  // namespace
 
-void Replacement::backUp(const std::optional<ContentSum>& expected) {
-    hasBackup_ = tryBackUp(expected) || (error_ == copyError::none && tryBackUp(expected));
-    if (isPrepared_ || error_ != copyError::none) return;
+void Replacement::backUp() {
+    for (int tries = 0; tries < 2 && !hasBackup_ && error_ == copyError::none; ++tries) {
+        hasBackup_ = tryBackUp();
+    }
+    if (hasBackup_ || isPrepared_ || error_ != copyError::none) return;
     ContentSum live;
-    if (expected) sumOfFile(live_.c_str(), live);
-    prepareInstall(live, expected);
+    if (sumOfFile(live_.c_str(), live) || seen_) {
+        prepareInstall(live);
+    } else {
+        error_ = install_.make();
+    }
 }
 
 // The backup's copy is made first, so that the other one can't take its room on the disk. It gets its name last, so
 // that a save that fails doesn't replace the older backup of that day.
-bool Replacement::tryBackUp(const std::optional<ContentSum>& expected) {
+bool Replacement::tryBackUp() {
     CreateDirectoryA(backupsDirectory, nullptr);  // usually it exists already
     StagedCopy copy(live_.c_str(), backup_.c_str(), live_.c_str());
-    return succeeded(copy.make()) && prepareInstall(copy.sum(), expected) && succeeded(copy.giveName()) &&
-           copy.isOnDisk();
+    if (!succeeded(copy.make()) || !prepareInstall(copy.sum())) return false;
+    return succeeded(copy.giveName()) && copy.isOnDisk();
 }
 
-bool Replacement::prepareInstall(const ContentSum& live, const std::optional<ContentSum>& expected) {
-    if (expected && live != *expected) error_ = notAsExpected;
+bool Replacement::prepareInstall(const ContentSum& live) {
+    if (seen_ && live != *seen_) error_ = notAsSeen;
+    seen_ = live;
     if (error_ == copyError::none && !isPrepared_) error_ = install_.make();
     isPrepared_ = error_ == copyError::none;
     return isPrepared_;
@@ -39,11 +45,17 @@ bool Replacement::succeeded(std::int32_t error) {
     return error == copyError::none;
 }
 
+bool Replacement::isLiveAsSeen() const {
+    ContentSum live;
+    return !seen_ || (sumOfFile(live_.c_str(), live) && live == *seen_);
+}
+
 std::int32_t Replacement::install() {
+    if (error_ == copyError::none && !isLiveAsSeen()) error_ = notAsSeen;
     if (error_ == copyError::none) error_ = install_.setAside();
     if (error_ == copyError::none) error_ = install_.giveName();
     if (error_ != copyError::none) return error_;
-    // Without a backup the old file is the only copy of its version. The next save deletes it.
+    // Without a backup the old file is the only one of its version. It stays until the next save.
     if (hasBackup_ && install_.isOnDisk()) install_.deleteAside();
     install_.deleteSource();
     return copyError::none;

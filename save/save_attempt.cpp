@@ -45,18 +45,25 @@ void SaveAttempt::forgetRecord(Sim& sim) {
 
 void SaveAttempt::backUp(const char* live, const char* target, const PathText& backup, const PathText& temporary,
                          const std::optional<ContentSum>& expected) {
-    replacement_.emplace(live, target, backup.c_str(), temporary.c_str());
-    replacement_->backUp(expected);
+    replacement_.emplace(live, target, backup.c_str(), temporary.c_str(), expected);
+    replacement_->backUp();
 }
 
-std::int32_t SaveAttempt::install() {
-    return replacement_->install();
+std::int32_t SaveAttempt::install(const char* temporary, const char* live) {
+    const std::int32_t error = replacement_ ? replacement_->install() : moveByCopy(temporary, live);
+    if (replacement_) {
+        installed_ = replacement_->sum();
+    } else {
+        sumOfFile(live, installed_);
+    }
+    replacement_.reset();
+    return error;
 }
 
 // After a cut the offsets are those that a fresh read of the new file would give. So a later save of this run copies
 // the whole file, and passes over the pieces that are gone.
 void SaveAttempt::finish() {
-    neighborhood_.sumAsRead_ = replacement_->sum();
+    neighborhood_.sumAsRead_ = installed_;
     neighborhood_.dirty_ = false;
     if (!neighborhood_.hasNewFamilies_) return;
     neighborhood_.hasNewFamilies_ = false;

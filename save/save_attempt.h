@@ -47,8 +47,9 @@ class SaveAttempt {
     void backUp(const char* live, const char* target, const PathText& backup, const PathText& temporary,
                 const std::optional<ContentSum>& expected);
 
-    // Ends it. 0, or an error as of copyFileBytes; the live file is as it was then.
-    std::int32_t install();
+    // Ends it, or moves the temporary file if there was no backup. 0, or an error as of copyFileBytes; the live file is
+    // as it was then.
+    std::int32_t install(const char* temporary, const char* live);
 
     // After the installation of the neighborhood file: notes the new file as the one that was read, clears the marks,
     // and gives up the pieces that were cut off.
@@ -69,6 +70,7 @@ class SaveAttempt {
     std::int32_t copiedSize_ = 0;
     Waiting waiting_;
     std::optional<Replacement> replacement_;
+    ContentSum installed_;  // of the file that was installed last
 };
 
 #endif

@@ -124,7 +124,7 @@ class Sim {
 
     // Replaces the character file by a new one, made from the template in `toolDirectory` (save/character_writer.cpp).
     // `directory` is the neighborhood's. Returns 1 if the new file has the live name, 0 if the body strings were never
-    // found and nothing was done, or -1. The next three are its steps; a backup that fails doesn't stop the others.
+    // found and nothing was done, or -1; then everything is marked still. The next three are its steps.
     int saveCharacterFile(const char* toolDirectory, const char* directory);
     int buildCharacterFile(const char* tempPath);
     void backupCharacterFile(const char* directory);

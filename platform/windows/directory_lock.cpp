@@ -12,7 +12,7 @@ std::string mutexName(const char* path) {
     BY_HANDLE_FILE_INFORMATION directory = {};
     const bool isKnown = opened != INVALID_HANDLE_VALUE && GetFileInformationByHandle(opened, &directory) != FALSE;
     if (opened != INVALID_HANDLE_VALUE) CloseHandle(opened);
-    if (!isKnown) return "";
+    if (!isKnown || (directory.nFileIndexHigh == 0 && directory.nFileIndexLow == 0)) return "";
     char name[64];
     std::snprintf(name, sizeof name, "Global\\Tidewright directory %08lx %08lx%08lx", directory.dwVolumeSerialNumber,
                   directory.nFileIndexHigh, directory.nFileIndexLow);
@@ -21,18 +21,27 @@ std::string mutexName(const char* path) {
 
 }  // namespace
 
-// A mutex, because a file that is locked would stay behind. It is this machine's alone.
+// A mutex, which leaves no file behind. It is this machine's alone. Another user's can't be opened; it exists only
+// while that user's process has the lock or waits for it.
 DirectoryLock::DirectoryLock(const char* path) {
     constexpr DWORD twoSeconds = 2000;
     const std::string name = mutexName(path);
-    HANDLE const mutex = name.empty() ? nullptr : CreateMutexA(nullptr, FALSE, name.c_str());
-    if (mutex == nullptr) return;
+    if (name.empty()) return;
+    const DWORD begin = GetTickCount();
+    HANDLE mutex = CreateMutexA(nullptr, FALSE, name.c_str());
+    while (mutex == nullptr && GetLastError() == ERROR_ACCESS_DENIED && GetTickCount() - begin < twoSeconds) {
+        Sleep(20);
+        mutex = CreateMutexA(nullptr, FALSE, name.c_str());
+    }
+    if (mutex == nullptr) {
+        if (GetLastError() == ERROR_ACCESS_DENIED) state_ = State::heldByAnother;
+        return;
+    }
     handle_ = reinterpret_cast<std::intptr_t>(mutex);
-    // WAIT_ABANDONED: its last holder ended without releasing it.
     const DWORD result = WaitForSingleObject(mutex, twoSeconds);
-    state_ = result == WAIT_TIMEOUT                                ? State::heldByAnother
-             : result == WAIT_OBJECT_0 || result == WAIT_ABANDONED ? State::held
-                                                                   : State::unavailable;
+    if (result == WAIT_TIMEOUT) state_ = State::heldByAnother;
+    // WAIT_ABANDONED: its last holder ended without releasing it.
+    if (result == WAIT_OBJECT_0 || result == WAIT_ABANDONED) state_ = State::held;
 }
 
 DirectoryLock::~DirectoryLock() {

@@ -13,16 +13,19 @@ bool isHeldByAnother(const char* path);
 // the file is still held, the last error is ERROR_SHARING_VIOLATION.
 template <typename Attempt>
 auto whileHeld(const char* path, Attempt attempt) {
-    constexpr int tries = 100;
+    constexpr DWORD twoSeconds = 2000;
+    const DWORD begin = GetTickCount();
     auto result = attempt();
-    for (int tried = 1; !result && tried < tries && isHeldByAnother(path); ++tried) {
+    while (!result && isHeldByAnother(path)) {
+        if (GetTickCount() - begin >= twoSeconds) {
+            SetLastError(ERROR_SHARING_VIOLATION);
+            return result;
+        }
         Sleep(20);
         result = attempt();
     }
     // It may have come free between attempt and question.
-    if (!result) result = attempt();
-    if (!result && isHeldByAnother(path)) SetLastError(ERROR_SHARING_VIOLATION);
-    return result;
+    return result || GetLastError() != ERROR_ACCESS_DENIED ? result : attempt();
 }
 
 #endif

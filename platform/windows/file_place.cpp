@@ -7,7 +7,8 @@
 #include "platform/win32.h"
 #include "platform/windows/file_held.h"
 
-const bool FilePlace::replacesOpenFiles = false;
+// A file that anyone has open can't be replaced, only renamed.
+const bool FilePlace::renameReplaces = false;
 
 // A name is a whole path here, so that the working directory doesn't matter.
 FilePlace::FilePlace(const char* path) {
@@ -31,8 +32,9 @@ bool FilePlace::isReplaceable() const {
     return false;
 }
 
-bool FilePlace::exists(const std::string& name) const {
-    return GetFileAttributesA(name.c_str()) != INVALID_FILE_ATTRIBUTES;
+// A name whose file is deleted, but still open elsewhere, gives another error.
+bool FilePlace::isFree(const std::string& name) const {
+    return GetFileAttributesA(name.c_str()) == INVALID_FILE_ATTRIBUTES && GetLastError() == ERROR_FILE_NOT_FOUND;
 }
 
 // The directory decides who may use the file.
@@ -67,5 +69,5 @@ bool FilePlace::remove(const std::string& name) const {
 }
 
 bool FilePlace::sync() const {
-    return true;  // a rename writes itself through, and NTFS keeps a journal of its names
+    return syncDirectory(name_.substr(0, name_.find_last_of('\\') + 1).c_str());
 }

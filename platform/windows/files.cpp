@@ -66,6 +66,18 @@ bool isSameFile(const char* first, const char* second) {
 SteadyDirectories::SteadyDirectories() = default;
 SteadyDirectories::~SteadyDirectories() = default;
 
+// The rights to a directory may not suffice for this, and not every file system can do it.
+bool syncDirectory(const char* path) {
+    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    HANDLE const directory =
+        CreateFileA(path, GENERIC_WRITE, shareAll, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (directory == INVALID_HANDLE_VALUE) return true;
+    const bool isSynced = FlushFileBuffers(directory) != FALSE;
+    const DWORD error = GetLastError();
+    CloseHandle(directory);
+    return isSynced || (error != ERROR_CRC && error != ERROR_IO_DEVICE && error != ERROR_WRITE_FAULT);
+}
+
 bool syncFile(std::FILE* file) {
     return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
 }

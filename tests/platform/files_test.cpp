@@ -126,18 +126,19 @@ TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
     EXPECT_EQ(fileNamesIn(directory_.path().c_str()).size(), 3U) << "the name is spelled as it was";
 }
 
-TEST_F(FilesTest, OfEndedProcessesOnlyPartsThatAreNoLongerNeededGo) {
-    const std::string stay[] = {".tidewright-new0",        "a.iff.tidewright-new",  "a.iff.tidewright-new10",
-                                "a.iff.tidewright-newx",   "a.iff.TIDEWRIGHT-new0", "~partner.tmp",
-                                "gone.iff.tidewright-old0"};
+TEST_F(FilesTest, OfEndedProcessesPartsGoAndAFileThatHasNoNewVersionComesBack) {
+    const std::string stay[] = {".tidewright-new0",      "a.iff.tidewright-new",  "a.iff.tidewright-new10",
+                                "a.iff.tidewright-newx", "a.iff.TIDEWRIGHT-new0", "~partner.tmp"};
     for (const std::string& name : stay)
         directory_.write(name, "stays");
     for (const char* const name :
          {"a.iff.tidewright-new0", "gone.iff.tidewright-new9", "User00042.iff.tidewright-old3"})
         directory_.write(name, "goes");
-    deleteLeftOverParts(".");
+    directory_.write("gone.iff.tidewright-old4", "comes back");
+    clearLeftOverParts(".");
+    EXPECT_EQ(contentOf("gone.iff"), "comes back");
     std::vector<std::string> expected(std::begin(stay), std::end(stay));
-    expected.insert(expected.end(), {"User00042.iff", "protected.iff"});
+    expected.insert(expected.end(), {"User00042.iff", "gone.iff", "protected.iff"});
     std::sort(expected.begin(), expected.end());
     EXPECT_EQ(fileNamesIn("."), expected);
 }

@@ -11,13 +11,13 @@
 
 DirectoryLock::DirectoryLock(const char* path) {
     using namespace std::chrono_literals;
-    constexpr int tries = 100;
+    const auto begin = std::chrono::steady_clock::now();
     const NativePath directory = locate(path);
     const int opened = openat(directory.directory, directory.name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (opened < 0) return;
     handle_ = opened;
     int result = flock(opened, LOCK_EX | LOCK_NB);
-    for (int tried = 1; result != 0 && errno == EWOULDBLOCK && tried < tries; ++tried) {
+    while (result != 0 && errno == EWOULDBLOCK && std::chrono::steady_clock::now() - begin < 2s) {
         std::this_thread::sleep_for(20ms);
         result = flock(opened, LOCK_EX | LOCK_NB);
     }

@@ -19,19 +19,19 @@ bool done(int result) {
     return result == 0;
 }
 
-// Some file systems have neither mode nor group, and a group that the user isn't in can't be given.
+// Some file systems have neither mode nor group. Where the user can't give the group, its rights go to nobody else.
 void takeModeAndGroup(std::FILE* file, const char* model) {
     const NativePath found = locate(model);
     struct stat status = {};
     if (fstatat(found.directory, found.name.c_str(), &status, 0) != 0) return;
-    [[maybe_unused]] const int group = fchown(fileno(file), static_cast<uid_t>(-1), status.st_gid);
-    constexpr mode_t permissions = 07777;
+    const bool hasGroup = fchown(fileno(file), static_cast<uid_t>(-1), status.st_gid) == 0;
+    const mode_t permissions = hasGroup ? 07777 : 07777 & ~S_IRWXG;
     fchmod(fileno(file), status.st_mode & permissions);  // last, because a new group takes some of the bits away
 }
 
 }  // namespace
 
-const bool FilePlace::replacesOpenFiles = true;
+const bool FilePlace::renameReplaces = true;
 
 FilePlace::FilePlace(const char* path) {
     const std::string file = nativePath(path);
@@ -59,9 +59,9 @@ bool FilePlace::isReplaceable() const {
     return false;
 }
 
-bool FilePlace::exists(const std::string& name) const {
+bool FilePlace::isFree(const std::string& name) const {
     struct stat status = {};
-    return fstatat(directory_, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+    return fstatat(directory_, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 && errno == ENOENT;
 }
 
 std::FILE* FilePlace::create(const std::string& name, const char* model) const {

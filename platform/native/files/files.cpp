@@ -75,6 +75,15 @@ bool isSameFile(const char* first, const char* second) {
     return query(first, one) && query(second, other) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
+bool syncDirectory(const char* path) {
+    const NativePath directory = locate(path);
+    const int opened = openat(directory.directory, directory.name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened < 0) return false;
+    const bool isSynced = syncToDisk(opened);
+    close(opened);
+    return isSynced;
+}
+
 bool syncFile(std::FILE* file) {
     return std::fflush(file) == 0 && syncToDisk(fileno(file));
 }
