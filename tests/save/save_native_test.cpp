@@ -30,6 +30,26 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
     EXPECT_FALSE(std::filesystem::exists(characters + "user00001.iff"));
 }
 
+TEST_F(SaveNativeTest, AProtectedFileStays) {
+    const std::string backup = "UserData/Backups/neighborhood.200235.147.iff";
+    const struct {
+        std::string name, after;
+        bool isMarked;
+    } rows[] = {{live, "new, backup old; new, backup old; old, temporary new", true},
+                {TestNeighborhood::characterFile("user00001"),
+                 "old, temporary new; new, backup old; new without Ann, backup old", true},
+                {backup, "new, backup old; new, backup old; new, backup other bytes, aside old", false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        start();
+        if (row.name == backup) files().write(backup, "older");
+        std::filesystem::permissions(files().path(row.name), std::filesystem::perms::owner_read);
+        save();
+        EXPECT_EQ(states(), row.after);
+        EXPECT_EQ(test()->isDirty(), row.isMarked);
+    }
+}
+
 TEST_F(SaveNativeTest, ATemporaryNameThatLinksToTheLiveFileCostsItNothing) {
     start();
     std::filesystem::create_symlink(files().path(live), files().path("UserData/TMPneighborhood.iff"));
