@@ -1,6 +1,7 @@
 #include "data/template_chunks.h"
 
 #include "gamefiles/character_file.h"
+#include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
 

@@ -5,13 +5,9 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 
 #include "gamefiles/byte_writer.h"
-
-// The id of the "STR#" chunk with the body strings.
-constexpr std::uint16_t bodyStringsId = 200;
 
 // The texts of entries 1 to 33 in order. An entry that is a pair has two: the mesh, then its skin.
 using BodySlots = std::array<std::string, 50>;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "gamefiles/character_ids.h"
 #include "gamefiles/text_chunk.h"
 
 namespace {

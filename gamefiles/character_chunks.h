@@ -4,22 +4,10 @@
 #define GAMEFILES_CHARACTER_CHUNKS_H
 
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
 #include "gamefiles/bitmap.h"
 #include "gamefiles/iff_builder.h"
-
-constexpr std::uint16_t characterSlotsId = 128;
-
-// The ids of a Sim's own behaviours, "BHAV".
-constexpr std::uint16_t mainTreeId = 4096;
-constexpr std::uint16_t initTreeId = 4097;
-constexpr std::uint16_t loadTreeId = 4098;
-constexpr std::uint16_t initTraitsId = 4100;
-
-// What the chunk "GLOB" of a Sim names: the behaviours that all Sims share.
-constexpr const char* sharedBehavioursName = "PersonGlobals";
 
 // Which chunks of behaviour a file has. A player's Sim has the older or the newer set: the same number of chunks, in
 // other sizes and another order. A townie has the older set and more. A pet has the older set, but names the shared

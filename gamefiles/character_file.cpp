@@ -3,6 +3,7 @@
 #include <span>
 
 #include "gamefiles/character_chunks.h"
+#include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/character_ids.h"
 
 namespace {
 

@@ -2,9 +2,7 @@
 
 #include <array>
 
-#include "gamefiles/body_string_text.h"
-#include "gamefiles/character_chunks.h"
-#include "gamefiles/text_chunk.h"
+#include "gamefiles/character_ids.h"
 
 namespace {
 

@@ -15,9 +15,6 @@ constexpr std::uint8_t textFill = 0xA3;
 // The language byte in front of each text.
 constexpr int usEnglish = 1;
 
-// The id of the "CTSS" chunk with a Sim's name and biography.
-constexpr std::uint16_t characterNameId = 2000;
-
 // Where the first text begins, from the start of the content.
 constexpr std::size_t firstTextOffset = 5;
 

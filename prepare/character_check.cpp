@@ -7,8 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "gamefiles/body_string_text.h"
-#include "gamefiles/character_chunks.h"
+#include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
 #include "platform/byte_order.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/character_ids.h"
 
 ChunkRole roleOf(const IffChunk& chunk) {
     if (chunk.type == "XXXX" || chunk.type == "rsmp") return ChunkRole::dropped;
