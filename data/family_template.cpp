@@ -1,24 +1,31 @@
 #include "data/family_template.h"
 
 #include "gamefiles/iff_builder.h"
-#include "gamefiles/neighborhood_file.h"
 #include "gamefiles/text_chunk.h"
 
-Bytes makeFamilyTemplate() {
+namespace {
+
+// House, number, funds, value of the house and number of friends are 0, and so are the member and the last number.
+Bytes familyContent() {
+    constexpr int version = 4;
+    constexpr int newFamily = 24;  // the flags of a new family in the game
+    constexpr std::size_t flagsField = 32;
+    ByteWriter content;
+    content.u32Le(0).u32Le(version).text("IMAF").fillTo(flagsField).u32Le(newFamily);
+    return content.u32Le(1).u32Le(0).u32Le(0).written();  // one member
+}
+
+Bytes nameContent() {
     constexpr std::size_t nameEnd = firstTextOffset + 24;
     constexpr std::size_t fillSize = 3;
-    const SampleFamily family = {.number = 0,
-                                 .funds = 0,
-                                 .members = {0},
-                                 .house = 0,
-                                 .houseValue = 0,
-                                 .friends = 0,
-                                 .flags = 24,  // a new family in the game
-                                 .trailingNumbers = 1};
-    ByteWriter name = beginTextChunk(1);
-    name.u8(usEnglish).fillTo(nameEnd).fillTo(nameEnd + fillSize, textFill);
+    return beginTextChunk(1).u8(usEnglish).fillTo(nameEnd).fillTo(nameEnd + fillSize, textFill).written();
+}
+
+}  // namespace
+
+Bytes makeFamilyTemplate() {
     IffBuilder file;
-    file.add(sampleFamilyChunk(family));
-    file.add({.type = "FAMs", .content = name.written()});
+    file.add({.type = "FAMI", .content = familyContent()});
+    file.add({.type = "FAMs", .content = nameContent()});
     return {file.bytes().begin() + iffHeaderSize, file.bytes().end()};
 }
