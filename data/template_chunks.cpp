@@ -1,6 +1,5 @@
 #include "data/template_chunks.h"
 
-#include "gamefiles/character_file.h"
 #include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
@@ -21,8 +20,9 @@ IffChunk templateNameChunk(const std::string& name) {
 // fill for the winter outfit of a Sim without one. The zero bytes behind the fill complete the 33 texts if the text
 // ends with entry 29.
 IffChunk templateBodyStringsChunk(const BodySlots& slots) {
+    constexpr std::size_t textSize = 1041;
     constexpr std::size_t zerosBehind = 12;
-    IffChunk chunk = sampleBodyStringsChunk({.slots = slots});
+    IffChunk chunk = bodyStringsChunk("adult", slots, BodyEnding::atEntry32, textSize);
     chunk.content.resize(chunk.content.size() + zerosBehind);
     return chunk;
 }

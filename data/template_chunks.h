@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/body_strings_chunk.h"
 #include "gamefiles/iff_builder.h"
 
 // Offsets of the chunks in the file. The object definition reaches up to the name.

@@ -2,9 +2,31 @@
 #ifndef GAMEFILES_BODIES_H
 #define GAMEFILES_BODIES_H
 
+#include <cstddef>
 #include <string>
 
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/body_strings_chunk.h"
+
+// The slots that the builders and tests set by name.
+namespace sampleSlot {
+constexpr std::size_t bodyMesh = 0;
+constexpr std::size_t bodySkin = 1;
+constexpr std::size_t headMesh = 2;
+constexpr std::size_t headSkin = 3;
+constexpr std::size_t firstAnchor = 4;
+constexpr std::size_t gender = 13;
+constexpr std::size_t ageText = 14;
+constexpr std::size_t skinTone = 15;
+constexpr std::size_t nBodyMesh = 16;
+constexpr std::size_t uBodyMesh = 18;
+constexpr std::size_t handLOMesh = 20;
+constexpr std::size_t fBodyMesh = 36;
+constexpr std::size_t fHandLOMesh = 38;
+constexpr std::size_t fHandROMesh = 40;
+constexpr std::size_t f100Mesh = 42;
+constexpr std::size_t w100Mesh = 48;
+constexpr std::size_t w100Skin = 49;
+}  // namespace sampleSlot
 
 enum class BodySex { male, female };
 
@@ -20,6 +42,9 @@ BodySlots childSlots(BodySex sex = BodySex::female, const std::string& tone = "l
 
 // A pet has a child's hands and no outfits.
 BodySlots petSlots();
+
+// How a text with these slots ends that the program writes for a Sim whose neighbor record has this version.
+BodyEnding sampleBodyEnding(const BodySlots& slots, int version);
 
 void setHead(BodySlots& slots, const std::string& mesh, const std::string& skin);
 

@@ -37,7 +37,8 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
                                      .id = characterNameId,
                                      .content = textChunkContent({character.name, character.biography})});
     }
-    built.bodyStringsOffset = file.add(sampleBodyStringsChunk(character));
+    built.bodyStringsOffset = file.add(bodyStringsChunk(character.tag, character.slots, character.ending,
+                                                        character.bodyTextSize, character.bodyLabel));
     if (character.hasPictures && !hasPicturesFirst) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasPictures) addWebPictureChunk(file, character.colors);
     if (character.map) built.mapOffset = file.addMap();
@@ -46,13 +47,6 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
 }
 
 }  // namespace
-
-IffChunk sampleBodyStringsChunk(const SampleCharacter& character) {
-    ByteWriter content = beginTextChunk(bodyStringCount(character.ending));
-    content.u8(usEnglish).text(character.tag);
-    content.bytes(filledSampleBodyText(character.slots, character.ending, character.bodyTextSize));
-    return {.type = "STR#", .id = bodyStringsId, .label = character.bodyLabel, .content = content.written()};
-}
 
 CharacterFile makeCharacterFile(const SampleCharacter& character) {
     CharacterFile file = buildWith(character, fewRelationshipRows);

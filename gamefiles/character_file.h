@@ -10,7 +10,7 @@
 
 #include "gamefiles/bitmap.h"
 #include "gamefiles/bodies.h"
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/body_strings_chunk.h"
 #include "gamefiles/character_chunks.h"
 #include "gamefiles/iff_builder.h"
 
@@ -50,8 +50,5 @@ struct CharacterFile {
 };
 
 CharacterFile makeCharacterFile(const SampleCharacter& character = {});
-
-// The chunk with the body strings: the tag at offset 81, the text at 86.
-IffChunk sampleBodyStringsChunk(const SampleCharacter& character);
 
 #endif

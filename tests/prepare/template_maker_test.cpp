@@ -86,7 +86,7 @@ TEST(TemplateTest, HoldsTheBehaviourAndNothingOfTheSim) {
     const std::string name = "CTSS\0\0\0\x98\x07\xD0\0\x10"s + noLabel + "\xFD\xFF\2\0\1"s + std::string(71, '\0');
     EXPECT_EQ(textAt(file, 4268, name.size()), name);
     // The zero bytes behind the fill make 33 strings of any text.
-    const std::string text = textAt(filledSampleBodyText({}, BodyEnding::atEntry32, 1041));
+    const std::string text = textAt(filledBodyStringText({}, BodyEnding::atEntry32, 1041));
     const std::string body = "STR#\0\0\4\x73\0\xC8\0\20bodystring"s + std::string(54, '\0') + "\xFD\xFF\x21\0\1adult"s +
                              text + std::string(12, '\0') + "rsmp";
     EXPECT_EQ(textAt(file, 54016, body.size()), body);

@@ -150,7 +150,7 @@ class SaveTest : public testing::Test {
     Bytes savedCharacter(std::size_t index) const {
         const SampleCharacter& sim = characters_[index];
         const BodyEnding ending = sampleBodyEnding(sim.slots, neighbors_[index].version);
-        Bytes text = filledSampleBodyText(sim.slots, ending, 1041);
+        Bytes text = filledBodyStringText(sim.slots, ending, 1041);
         text.resize(1041);
         Bytes file = makeFactTemplate();
         overwrite(file, 3988, bytesFrom(sim.recordName));

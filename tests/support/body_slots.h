@@ -2,7 +2,7 @@
 #ifndef TESTS_SUPPORT_BODY_SLOTS_H
 #define TESTS_SUPPORT_BODY_SLOTS_H
 
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/bodies.h"
 #include "world/body_strings.h"
 
 inline BodySlots slotsOf(const BodyStrings& body) {

@@ -54,7 +54,7 @@ TEST(CharacterReader, TheSamePartsAreFoundWithAMapAndWithoutOne) {
 
 TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
     const CharacterFile built = makeCharacterFile({.hasPictures = false, .map = false});
-    const std::size_t fill = built.bodyStringsOffset + 86 + sampleBodyText(adultSlots(), BodyEnding::atEntry32).size();
+    const std::size_t fill = built.bodyStringsOffset + 86 + bodyStringText(adultSlots(), BodyEnding::atEntry32).size();
     const auto cutAt = [&](std::size_t size) {
         return std::string(built.bytes.begin(), built.bytes.end()).substr(0, size);
     };

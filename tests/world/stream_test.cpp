@@ -84,12 +84,12 @@ TEST(BodyStrings, ATextIsReadAndWrittenBackByteByByte) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         BodyStrings body;
-        body.parse(TestStream(filledSampleBodyText(row.slots, row.ending, 1041)).view, row.simVersion);
+        body.parse(TestStream(filledBodyStringText(row.slots, row.ending, 1041)).view, row.simVersion);
         EXPECT_EQ(slotsOf(body), row.slots);
         EXPECT_EQ(body.version(), row.version);
         Bytes buffer(3000);
         buffer.resize(body.serialise(buffer, 1041, row.simVersion));
-        EXPECT_EQ(buffer, filledSampleBodyText(row.slots, row.written, 1042));
+        EXPECT_EQ(buffer, filledBodyStringText(row.slots, row.written, 1042));
     }
 }
 

@@ -1,11 +1,10 @@
-#include "gamefiles/body_string_text.h"
+#include "gamefiles/body_strings_chunk.h"
 
+#include "gamefiles/character_ids.h"
 #include "gamefiles/text_chunk.h"
 
 namespace {
 
-constexpr std::size_t shortestWinterText = 2;
-constexpr int firstPackVersion = 7;
 constexpr int closingBlocks = 7;
 
 // Entries 1 and 2 are the body and the head, 15 to 22 the outfits and six hands, 27 to 33 later outfits.
@@ -15,18 +14,7 @@ constexpr bool isPair(int entry) {
 
 }  // namespace
 
-BodyEnding sampleBodyEnding(const BodySlots& slots, int version) {
-    if (version < firstPackVersion) return BodyEnding::atEntry29;
-    const bool hasWinterOutfit = slots[sampleSlot::w100Mesh].size() >= shortestWinterText &&
-                                 slots[sampleSlot::w100Skin].size() >= shortestWinterText;
-    return hasWinterOutfit ? BodyEnding::atEntry33 : BodyEnding::atEntry32;
-}
-
-std::size_t bodyStringCount(BodyEnding ending) {
-    return static_cast<std::size_t>(ending) + 1;
-}
-
-Bytes sampleBodyText(const BodySlots& slots, BodyEnding ending) {
+Bytes bodyStringText(const BodySlots& slots, BodyEnding ending) {
     ByteWriter text;
     text.u16Le(0);  // closes the word "adult" or "child"
     auto slot = slots.begin();
@@ -45,6 +33,14 @@ Bytes sampleBodyText(const BodySlots& slots, BodyEnding ending) {
     return text.written();
 }
 
-Bytes filledSampleBodyText(const BodySlots& slots, BodyEnding ending, std::size_t size) {
-    return ByteWriter().bytes(sampleBodyText(slots, ending)).fillTo(size, textFill).written();
+Bytes filledBodyStringText(const BodySlots& slots, BodyEnding ending, std::size_t size) {
+    return ByteWriter().bytes(bodyStringText(slots, ending)).fillTo(size, textFill).written();
+}
+
+IffChunk bodyStringsChunk(const std::string& tag, const BodySlots& slots, BodyEnding ending, std::size_t textSize,
+                          const std::string& label) {
+    const std::size_t textCount = 1 + static_cast<std::size_t>(ending);  // the tag, and one for each entry
+    ByteWriter content = beginTextChunk(textCount);
+    content.u8(usEnglish).text(tag).bytes(filledBodyStringText(slots, ending, textSize));
+    return {.type = "STR#", .id = bodyStringsId, .label = label, .content = content.written()};
 }
