@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "fuzz/fuzz_files.h"
-#include "gamefiles/neighborhood_file.h"
+#include "sample/neighborhood_file.h"
 #include "world/neighborhood.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "gamefiles/file_writing.h"
-#include "gamefiles/neighborhood_file.h"
+#include "sample/neighborhood_file.h"
 
 namespace {
 

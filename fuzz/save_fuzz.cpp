@@ -8,8 +8,8 @@
 
 #include "data/family_template.h"
 #include "fuzz/fuzz_files.h"
-#include "gamefiles/neighborhood_file.h"
 #include "sample/fact_template.h"
+#include "sample/neighborhood_file.h"
 #include "save/backup_names.h"
 #include "world/neighborhood.h"
 

@@ -2,11 +2,11 @@
 
 #include "data/family_template.h"
 #include "data/template_chunks.h"
-#include "gamefiles/character_chunks.h"
-#include "gamefiles/character_file.h"
 #include "gamefiles/file_writing.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
+#include "sample/character_chunks.h"
+#include "sample/character_file.h"
 
 Bytes makeFactTemplate() {
     const PortraitColors colors;

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "gamefiles/character_file.h"
 #include "gamefiles/file_writing.h"
+#include "sample/character_file.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-#include "gamefiles/neighborhood_file.h"
 #include "sample/cast.h"
+#include "sample/neighborhood_file.h"
 #include "sample/wine_prefix.h"
 
 // Writes a prefix with the neighborhoods of sampleCast(). The directory is emptied or refused like that of

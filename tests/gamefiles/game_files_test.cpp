@@ -5,9 +5,7 @@
 
 #include "data/family_template.h"
 #include "data/skin_file.h"
-#include "gamefiles/bitmap.h"
 #include "gamefiles/iff_reader.h"
-#include "gamefiles/neighborhood_file.h"
 #include "gamefiles/object_definition.h"
 #include "tests/support/iff_walk.h"
 
@@ -53,24 +51,11 @@ TEST(IffTest, AFileIsTakenApartAsItWasBuilt) {
 }
 
 TEST(ObjectDefinitionTest, HasTheWordsOfAPlayersSim) {
-    const Bytes content = objectDefinition("Ada", sampleGuid).content;
+    const Bytes content = objectDefinition("Ada", 0x54571101).content;
     EXPECT_EQ(textAt(content, 0, 48), "\x8A\0\0\0\x30\0\0\0\1\0\0\x10\2\0\x81\0\x80\0\2\0\0\0\0\0\0\0\x80\0\1\x11WT"s +
                                           "\0\0\0\0\0\0\xC8\0\x80\0\0\0\0\0\xCA\0"s);
     EXPECT_EQ(textAt(content, 82, 24), "\xD0\7\0\0\1\x10\0\0\0\0\0\0\2\x10\0\0\1\0\0\0\0\0\x12\x20"s);
     EXPECT_EQ(textAt(content, 136), "\1"s + std::string(79, '\0'));
-}
-
-TEST(BitmapTest, HasPaddedRowsFromTheBottomUp) {
-    EXPECT_EQ(textAt(portraitBitmap(2, 2, {.background = 0x010203, .skin = 0x040506})),
-              "BM\x46\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x10\0\0\0"s
-              "\x13\x0B\0\0\x13\x0B\0\0\0\0\0\0\0\0\0\0\3\2\1\6\5\4\0\0\3\2\1\3\2\1\0\0"s);
-}
-
-TEST(NeighborhoodFileTest, ARecordGoesOnBehindThePersonData) {
-    const Bytes record = sampleNeighborRecord({.neighborId = 0x0102, .relationships = {{7, {-1}}}});
-    EXPECT_EQ(textAt(record, 186), "\2\1\x01\x11WT\xFF\xFF\xFF\xFF\1\0\0\0\1\0\0\0\7\0\0\0\1\0\0\0\xFF\xFF\xFF\xFF"s);
-    EXPECT_EQ(textAt(sampleFamilyChunk({.number = 3, .members = {}}).content, 4, 32),
-              "\4\0\0\0IMAF\1\0\0\0\3\0\0\0\x20\x4E\0\0\x98\x3A\0\0\2\0\0\0\x09\0\0\0"s);
 }
 
 TEST(FamilyTemplateTest, IsTwoChunksForOneMemberAndAName) {

@@ -4,12 +4,28 @@
 
 #include <set>
 
+#include "sample/bitmap.h"
 #include "tests/support/iff_walk.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "world/neighborhoods.h"
 
 namespace {
+
+using namespace std::string_literals;
+
+TEST(BitmapTest, HasPaddedRowsFromTheBottomUp) {
+    EXPECT_EQ(textAt(portraitBitmap(2, 2, {.background = 0x010203, .skin = 0x040506})),
+              "BM\x46\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x10\0\0\0"s
+              "\x13\x0B\0\0\x13\x0B\0\0\0\0\0\0\0\0\0\0\3\2\1\6\5\4\0\0\3\2\1\3\2\1\0\0"s);
+}
+
+TEST(NeighborhoodFileTest, ARecordGoesOnBehindThePersonData) {
+    const Bytes record = sampleNeighborRecord({.neighborId = 0x0102, .relationships = {{7, {-1}}}});
+    EXPECT_EQ(textAt(record, 186), "\2\1\x01\x11WT\xFF\xFF\xFF\xFF\1\0\0\0\1\0\0\0\7\0\0\0\1\0\0\0\xFF\xFF\xFF\xFF"s);
+    EXPECT_EQ(textAt(sampleFamilyChunk({.number = 3, .members = {}}).content, 4, 32),
+              "\4\0\0\0IMAF\1\0\0\0\3\0\0\0\x20\x4E\0\0\x98\x3A\0\0\2\0\0\0\x09\0\0\0"s);
+}
 
 TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
     const TempDirectory files;

@@ -2,7 +2,7 @@
 #ifndef TESTS_SUPPORT_BODY_SLOTS_H
 #define TESTS_SUPPORT_BODY_SLOTS_H
 
-#include "gamefiles/bodies.h"
+#include "sample/bodies.h"
 #include "world/body_strings.h"
 
 inline BodySlots slotsOf(const BodyStrings& body) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "gamefiles/neighborhood_file.h"
+#include "sample/neighborhood_file.h"
 #include "tests/support/temp_directory.h"
 #include "world/neighborhood.h"
 

@@ -1,13 +1,13 @@
 // The chunks of a Sim's character file that the program doesn't look at: behaviour and pictures, with the ids, labels
 // and sizes of the game's own files.
-#ifndef GAMEFILES_CHARACTER_CHUNKS_H
-#define GAMEFILES_CHARACTER_CHUNKS_H
+#ifndef SAMPLE_CHARACTER_CHUNKS_H
+#define SAMPLE_CHARACTER_CHUNKS_H
 
 #include <cstddef>
 #include <vector>
 
-#include "gamefiles/bitmap.h"
 #include "gamefiles/iff_builder.h"
+#include "sample/bitmap.h"
 
 // Which chunks of behaviour a file has. A player's Sim has the older or the newer set: the same number of chunks, in
 // other sizes and another order. A townie has the older set and more. A pet has the older set, but names the shared

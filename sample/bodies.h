@@ -1,6 +1,6 @@
 // What the Sims of the sample and of the tests wear: the body strings of an adult, a teen, a child and a pet.
-#ifndef GAMEFILES_BODIES_H
-#define GAMEFILES_BODIES_H
+#ifndef SAMPLE_BODIES_H
+#define SAMPLE_BODIES_H
 
 #include <cstddef>
 #include <string>

@@ -1,4 +1,4 @@
-#include "gamefiles/neighborhood_file.h"
+#include "sample/neighborhood_file.h"
 
 #include "gamefiles/text_chunk.h"
 

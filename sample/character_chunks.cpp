@@ -1,4 +1,4 @@
-#include "gamefiles/character_chunks.h"
+#include "sample/character_chunks.h"
 
 #include <algorithm>
 #include <iterator>

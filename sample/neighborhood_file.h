@@ -1,7 +1,7 @@
 // Whole neighborhood files, each of which lists the neighbors and the families of a neighborhood. A default struct
 // makes a valid part of a file.
-#ifndef GAMEFILES_NEIGHBORHOOD_FILE_H
-#define GAMEFILES_NEIGHBORHOOD_FILE_H
+#ifndef SAMPLE_NEIGHBORHOOD_FILE_H
+#define SAMPLE_NEIGHBORHOOD_FILE_H
 
 #include <array>
 #include <cstddef>
@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "gamefiles/character_file.h"
 #include "gamefiles/iff_builder.h"
+#include "sample/character_file.h"
 
 struct SampleRelationship {
     std::uint32_t neighborId = 0;

@@ -1,4 +1,4 @@
-#include "gamefiles/bodies.h"
+#include "sample/bodies.h"
 
 #include <utility>
 

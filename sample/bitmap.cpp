@@ -1,4 +1,4 @@
-#include "gamefiles/bitmap.h"
+#include "sample/bitmap.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,6 @@
 // Pictures for "BMP_" chunks: whole Windows bitmap files.
-#ifndef GAMEFILES_BITMAP_H
-#define GAMEFILES_BITMAP_H
+#ifndef SAMPLE_BITMAP_H
+#define SAMPLE_BITMAP_H
 
 #include <cstdint>
 

@@ -1,18 +1,18 @@
 // Whole character files, each of which holds one Sim. A default SampleCharacter makes a valid file. Tests change the
 // fields that a reader looks at and leave out parts.
-#ifndef GAMEFILES_CHARACTER_FILE_H
-#define GAMEFILES_CHARACTER_FILE_H
+#ifndef SAMPLE_CHARACTER_FILE_H
+#define SAMPLE_CHARACTER_FILE_H
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include "gamefiles/bitmap.h"
-#include "gamefiles/bodies.h"
 #include "gamefiles/body_strings_chunk.h"
-#include "gamefiles/character_chunks.h"
 #include "gamefiles/iff_builder.h"
+#include "sample/bitmap.h"
+#include "sample/bodies.h"
+#include "sample/character_chunks.h"
 
 // No byte of it is zero. The file has it as "\x01\x11WT".
 constexpr std::uint32_t sampleGuid = 0x54571101;

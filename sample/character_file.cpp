@@ -1,11 +1,11 @@
-#include "gamefiles/character_file.h"
+#include "sample/character_file.h"
 
 #include <span>
 
-#include "gamefiles/character_chunks.h"
 #include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
+#include "sample/character_chunks.h"
 
 namespace {
 
