@@ -10,8 +10,8 @@
 #include <memory>
 #include <string>
 
-#include "data/skin_file.h"
 #include "gamefiles/file_writing.h"
+#include "gamefiles/skin_file.h"
 #include "sample/fact_template.h"
 #include "sample/installation.h"
 

@@ -6,8 +6,8 @@
 #include <system_error>
 #include <utility>
 
-#include "data/family_template.h"
 #include "fuzz/fuzz_files.h"
+#include "gamefiles/family_template.h"
 #include "sample/fact_template.h"
 #include "sample/neighborhood_file.h"
 #include "save/backup_names.h"

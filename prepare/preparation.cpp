@@ -4,8 +4,8 @@
 #include <optional>
 #include <string_view>
 
-#include "data/family_template.h"
-#include "data/skin_file.h"
+#include "gamefiles/family_template.h"
+#include "gamefiles/skin_file.h"
 #include "platform/files.h"
 #include "platform/part_names.h"
 #include "platform/win32.h"

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string_view>
 
-#include "data/family_template.h"
-#include "data/template_chunks.h"
+#include "gamefiles/character_template.h"
+#include "gamefiles/family_template.h"
 #include "platform/files.h"
 #include "prepare/lower_case.h"
 #include "prepare/whole_file.h"

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <span>
 
-#include "data/template_chunks.h"
+#include "gamefiles/character_template.h"
 #include "platform/byte_order.h"
 #include "prepare/chunk_role.h"
 #include "prepare/neutral_picture.h"

@@ -1,7 +1,7 @@
 #include "sample/fact_template.h"
 
-#include "data/family_template.h"
-#include "data/template_chunks.h"
+#include "gamefiles/character_template.h"
+#include "gamefiles/family_template.h"
 #include "gamefiles/file_writing.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"

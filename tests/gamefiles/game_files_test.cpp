@@ -3,10 +3,10 @@
 
 #include <sstream>
 
-#include "data/family_template.h"
-#include "data/skin_file.h"
+#include "gamefiles/family_template.h"
 #include "gamefiles/iff_reader.h"
 #include "gamefiles/object_definition.h"
+#include "gamefiles/skin_file.h"
 #include "tests/support/iff_walk.h"
 
 namespace {

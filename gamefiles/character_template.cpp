@@ -1,4 +1,4 @@
-#include "data/template_chunks.h"
+#include "gamefiles/character_template.h"
 
 #include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"

@@ -1,4 +1,4 @@
-#include "data/family_template.h"
+#include "gamefiles/family_template.h"
 
 #include "gamefiles/iff_builder.h"
 #include "gamefiles/text_chunk.h"

@@ -1,4 +1,4 @@
-#include "data/skin_file.h"
+#include "gamefiles/skin_file.h"
 
 std::string_view packageSkin() {
     return "xskin-c601fa_amanda-HEAD-HEAD\n"  // mesh

@@ -1,6 +1,6 @@
 // The two chunks of "Template.iff" whose texts a save overwrites, and where it expects them.
-#ifndef DATA_TEMPLATE_CHUNKS_H
-#define DATA_TEMPLATE_CHUNKS_H
+#ifndef GAMEFILES_CHARACTER_TEMPLATE_H
+#define GAMEFILES_CHARACTER_TEMPLATE_H
 
 #include <cstddef>
 #include <string>

@@ -1,6 +1,6 @@
 // The skin that the packages put into the game's directory. The program looks for it when it starts.
-#ifndef DATA_SKIN_FILE_H
-#define DATA_SKIN_FILE_H
+#ifndef GAMEFILES_SKIN_FILE_H
+#define GAMEFILES_SKIN_FILE_H
 
 #include <string_view>
 

@@ -1,5 +1,5 @@
-#ifndef DATA_FAMILY_TEMPLATE_H
-#define DATA_FAMILY_TEMPLATE_H
+#ifndef GAMEFILES_FAMILY_TEMPLATE_H
+#define GAMEFILES_FAMILY_TEMPLATE_H
 
 #include "gamefiles/byte_writer.h"
 
