@@ -2,7 +2,6 @@
 
 #include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
-#include "gamefiles/text_chunk.h"
 
 static_assert(templateObject + objectDefinitionSize == templateName);
 
@@ -20,9 +19,8 @@ IffChunk templateNameChunk(const std::string& name) {
 // fill for the winter outfit of a Sim without one. The zero bytes behind the fill complete the 33 texts if the text
 // ends with entry 29.
 IffChunk templateBodyStringsChunk(const BodySlots& slots) {
-    constexpr std::size_t textSize = 1041;
     constexpr std::size_t zerosBehind = 12;
-    IffChunk chunk = bodyStringsChunk("adult", slots, BodyEnding::atEntry32, textSize);
+    IffChunk chunk = bodyStringsChunk("adult", slots, BodyEnding::atEntry32, templateBodyTextSize);
     chunk.content.resize(chunk.content.size() + zerosBehind);
     return chunk;
 }

@@ -14,6 +14,14 @@ constexpr std::size_t iffHeaderSize = 64;
 constexpr std::size_t iffMapOffsetSize = 4;  // of the header's last field, the offset of the resource map
 constexpr std::size_t iffChunkHeaderSize = 76;
 
+// Offsets in a chunk's header, behind its type. All numbers in it are big-endian.
+namespace iffChunkHeader {
+constexpr std::size_t size = 4;
+constexpr std::size_t id = 8;
+constexpr std::size_t flags = 10;
+constexpr std::size_t label = 12;
+}  // namespace iffChunkHeader
+
 struct IffChunk {
     std::string type = {};  // 4 letters
     std::uint16_t id = 0;

@@ -8,12 +8,6 @@ namespace {
 
 using View = std::span<const std::uint8_t>;
 
-// Offsets in a chunk's header. All numbers are big-endian.
-constexpr std::size_t sizeField = 4;
-constexpr std::size_t idField = 8;
-constexpr std::size_t flagsField = 10;
-constexpr std::size_t labelField = 12;
-
 std::uint32_t bigEndian(View bytes) {
     std::uint32_t value = 0;
     for (const std::uint8_t byte : bytes) {
@@ -23,13 +17,13 @@ std::uint32_t bigEndian(View bytes) {
 }
 
 IffChunk chunkOf(View bytes) {
-    const View label = bytes.subspan(labelField, iffChunkHeaderSize - labelField);
+    const View label = bytes.subspan(iffChunkHeader::label, iffChunkHeaderSize - iffChunkHeader::label);
     const View content = bytes.subspan(iffChunkHeaderSize);
-    return {.type = {bytes.begin(), bytes.begin() + sizeField},
-            .id = static_cast<std::uint16_t>(bigEndian(bytes.subspan(idField, 2))),
+    return {.type = {bytes.begin(), bytes.begin() + iffChunkHeader::size},
+            .id = static_cast<std::uint16_t>(bigEndian(bytes.subspan(iffChunkHeader::id, 2))),
             .label = {label.begin(), std::ranges::find(label, 0)},
             .content = {content.begin(), content.end()},
-            .flags = static_cast<std::uint16_t>(bigEndian(bytes.subspan(flagsField, 2)))};
+            .flags = static_cast<std::uint16_t>(bigEndian(bytes.subspan(iffChunkHeader::flags, 2)))};
 }
 
 }  // namespace
@@ -43,7 +37,7 @@ IffContents readIff(View file) {
     for (View rest = file.subspan(iffHeaderSize); !rest.empty();) {
         const std::string at = std::to_string(file.size() - rest.size());
         if (rest.size() < iffChunkHeaderSize) return {.fault = "has bytes left over at " + at};
-        const std::size_t size = bigEndian(rest.subspan(sizeField, 4));
+        const std::size_t size = bigEndian(rest.subspan(iffChunkHeader::size, 4));
         if (size < iffChunkHeaderSize) return {.fault = "has a chunk without room for its header at " + at};
         if (size > rest.size()) return {.fault = "ends inside the chunk at " + at};
         contents.chunks.push_back(chunkOf(rest.first(size)));

@@ -9,6 +9,7 @@
 
 #include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
+#include "gamefiles/text_chunk.h"
 #include "platform/byte_order.h"
 
 namespace {
@@ -94,10 +95,9 @@ bool namesPersonGlobals(std::span<const std::uint8_t> content) {
 }
 
 bool beginsWithAdult(std::span<const std::uint8_t> content) {
-    constexpr std::size_t firstText = 5;  // behind the format, the count and the language byte
     constexpr std::string_view word = "adult\0"sv;
-    return content.size() >= firstText + word.size() &&
-           std::ranges::equal(content.subspan(firstText, word.size()), word,
+    return content.size() >= firstTextOffset + word.size() &&
+           std::ranges::equal(content.subspan(firstTextOffset, word.size()), word,
                               [](std::uint8_t byte, char letter) { return byte == static_cast<std::uint8_t>(letter); });
 }
 

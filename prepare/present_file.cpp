@@ -35,22 +35,17 @@ Present judged(const std::string& path, Judgement judge) {
     return judge({reinterpret_cast<const char*>(file->data()), file->size()});
 }
 
-// A save overwrites the bytes up to here.
-constexpr std::size_t patchedTemplateSize = 55'143;
-
 bool isTemplate(std::string_view file) {
-    constexpr std::size_t idField = 8;
-    return file.size() >= patchedTemplateSize && file.substr(templateObject).starts_with("OBJD") &&
+    return file.size() >= smallestTemplateSize && file.substr(templateObject).starts_with("OBJD") &&
            file.substr(templateName).starts_with("CTSS") && file.substr(templateBodyStrings).starts_with("STR#") &&
-           file.substr(templateBodyStrings + idField).starts_with("\x00\xC8"sv);
+           file.substr(templateBodyStrings + iffChunkHeader::id).starts_with("\x00\xC8"sv);
 }
 
 // A text that only this program's sample characters and the template of its earlier packages have, and that template's
 // label of the object definition. A Sim that was saved from it has another label, and so has a template that is made of
 // such a Sim or of a sample character.
 bool isOfEarlierVersion(std::string_view file) {
-    constexpr std::size_t labelField = 12;
-    return file.substr(templateObject + labelField).starts_with("user00000 - Sim\0"sv) &&
+    return file.substr(templateObject + iffChunkHeader::label).starts_with("user00000 - Sim\0"sv) &&
            file.substr(0, templateObject).find("a Sim of the Tidewright sample household") != std::string_view::npos;
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "gamefiles/body_strings_chunk.h"
+#include "gamefiles/character_template.h"
 #include "gamefiles/iff_builder.h"
 #include "sample/bitmap.h"
 #include "sample/bodies.h"
@@ -25,7 +26,7 @@ struct SampleCharacter {
     std::string tag = "adult";  // 5 characters: "adult" or "child" in a real file
     BodySlots slots = adultSlots();
     BodyEnding ending = BodyEnding::atEntry32;
-    std::size_t bodyTextSize = 1041;  // filled up to this size; a longer text isn't cut
+    std::size_t bodyTextSize = templateBodyTextSize;  // filled up to this size; a longer text isn't cut
     std::string bodyLabel = "bodystring";
 
     BehaviourSet behaviour = BehaviourSet::older;

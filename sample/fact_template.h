@@ -7,9 +7,8 @@
 
 #include "gamefiles/byte_writer.h"
 
-// A "Template.iff": the character file of an adult. A save overwrites five fields at fixed file offsets, so the chunks
-// lie there: "OBJD" at 3976, "CTSS" at 4268 and "STR#" 200 at 54016. There is room for a name of 64 bytes at 4349 and
-// for a body-string text of 1041 bytes at 54102.
+// A "Template.iff": the character file of an adult. The chunks that a save overwrites lie where it expects them
+// (gamefiles/character_template.h).
 Bytes makeFactTemplate();
 
 // Writes it and "famtemplate" into an existing directory. Returns false if one can't be written.

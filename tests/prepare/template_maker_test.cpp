@@ -1,7 +1,9 @@
 #include "prepare/template_maker.h"
 
+#include "gamefiles/character_template.h"
 #include "platform/byte_order.h"
 #include "prepare/neutral_picture.h"
+#include "save/template_layout.h"
 #include "tests/prepare/unprepared_game.h"
 #include "tests/support/iff_walk.h"
 #include "tests/support/test_neighborhood.h"
@@ -9,6 +11,12 @@
 namespace {
 
 using namespace std::string_literals;
+
+// The maker and the save may not share a table, since the one tests the other.
+static_assert(templateObject == characterTemplate::objectChunk && templateName == characterTemplate::nameChunk &&
+              templateBodyStrings == characterTemplate::bodyStringsChunk &&
+              templateBodyTextSize == characterTemplate::bodyTextSize &&
+              smallestTemplateSize == characterTemplate::smallestSize);
 
 // Id and offset of each chunk of the type, and the offsets of free room.
 std::string placesIn(const IffWalk& walk, const std::string& type) {
