@@ -7,7 +7,6 @@
 #include "lifestage/random_generator.h"
 #include "lifestage/text_lines.h"
 #include "platform/files.h"
-#include "world/joined_text.h"
 #include "world/paths.h"
 #include "world/sim.h"
 

@@ -2,9 +2,9 @@
 // the game's own files.
 #include "lifestage/stage_template.h"
 
+#include "platform/fixed_text.h"
 #include "world/body_string_text.h"
 #include "world/body_strings.h"
-#include "world/joined_text.h"
 #include "world/sim.h"
 
 namespace {

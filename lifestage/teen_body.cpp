@@ -5,7 +5,7 @@
 #include "lifestage/skin_sets.h"
 #include "lifestage/stage_template.h"
 #include "platform/files.h"
-#include "world/joined_text.h"
+#include "platform/fixed_text.h"
 #include "world/sim.h"
 #include "world/sims_directory.h"
 

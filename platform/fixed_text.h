@@ -49,4 +49,12 @@ class FixedText {
     std::size_t size_ = 0;
 };
 
+// All parts one after the other, texts or single characters. What doesn't fit into a `Text`, a FixedText, is cut off.
+template <typename Text, typename... Parts>
+Text joined(const Parts&... parts) {
+    Text text;
+    (text.append(parts), ...);
+    return text;
+}
+
 #endif

@@ -8,12 +8,12 @@
 
 #include "gamefiles/iff_reader.h"
 #include "platform/files.h"
+#include "platform/fixed_text.h"
 #include "prepare/character_check.h"
 #include "prepare/lower_case.h"
 #include "prepare/source_choice.h"
 #include "prepare/template_maker.h"
 #include "prepare/whole_file.h"
-#include "world/joined_text.h"
 #include "world/paths.h"
 #include "world/sims_directory.h"
 

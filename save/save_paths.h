@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "world/joined_text.h"
+#include "platform/fixed_text.h"
 #include "world/paths.h"
 
 constexpr const char* backupsDirectory = "Backups";

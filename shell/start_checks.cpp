@@ -1,7 +1,7 @@
 #include "shell/start_checks.h"
 
+#include "platform/fixed_text.h"
 #include "world/game_check.h"
-#include "world/joined_text.h"
 
 int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
     if (const int refusal = checkGame(simsDirectory); refusal != 0) return refusal;

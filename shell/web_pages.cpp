@@ -2,7 +2,6 @@
 
 #include "platform/fixed_text.h"
 #include "platform/win32.h"
-#include "world/joined_text.h"
 
 namespace {
 

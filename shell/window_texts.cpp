@@ -3,7 +3,6 @@
 #include "platform/fixed_text.h"
 #include "shell/selection.h"
 #include "ui/cursors.h"
-#include "world/joined_text.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "platform/byte_order.h"
 #include "platform/files.h"
-#include "world/joined_text.h"
+#include "platform/fixed_text.h"
 #include "world/neighborhood.h"
 #include "world/tag_scan.h"
 

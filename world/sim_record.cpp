@@ -1,7 +1,7 @@
 // Reads and writes a Sim's neighbor record, both by one list of its fields.
 #include <algorithm>
 
-#include "world/joined_text.h"
+#include "platform/fixed_text.h"
 #include "world/neighborhood.h"
 #include "world/record_fields.h"
 #include "world/sim.h"

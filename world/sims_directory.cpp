@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
+#include "platform/fixed_text.h"
 #include "platform/win32.h"
-#include "world/joined_text.h"
 
 int findSimsDirectory(DirectoryText& directory) {
     HKEY key = nullptr;
