@@ -8,6 +8,7 @@
 #include "lifestage/text_lines.h"
 #include "platform/files.h"
 #include "world/paths.h"
+#include "world/program_files.h"
 #include "world/sim.h"
 
 namespace {
@@ -96,7 +97,7 @@ void pickOutfit(const std::array<std::string_view, N>& outfits, OutfitText& outf
 
 int findNextStageHead(std::int32_t stage, const char* headSkin, const char* toolDirectory, HeadText& newSkin,
                       HeadText& newMesh) {
-    const auto path = joined<PathText>(toolDirectory, "\\skinsets.cfg");
+    const auto path = joined<PathText>(toolDirectory, '\\', skinSetsName);
     std::FILE* file = openFile(path.c_str(), "rb");
     if (file == nullptr) return -1;
     SkinSet set(stage, headSkin);

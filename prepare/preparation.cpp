@@ -12,15 +12,15 @@
 #include "prepare/character_files.h"
 #include "prepare/present_file.h"
 #include "prepare/whole_file.h"
-#include "world/game_check.h"
+#include "world/program_files.h"
 
 namespace {
 
-constexpr const char* templateFile = "Template.iff";
-constexpr const char* familyTemplateFile = "famtemplate";
 // In the game's directory.
 constexpr const char* gameData = "GameData";
 constexpr const char* skins = "GameData\\Skins";
+static_assert(std::string_view(installedSkin).starts_with(skins) &&
+              std::string_view(installedSkin).ends_with(packageSkinName));
 
 constexpr const char* originalSkinSets = "skinsets-original.cfg";
 
@@ -141,15 +141,16 @@ std::string whyNoSource(const TemplateSource& source, const std::string& simsDir
 }
 
 void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool isThere) {
-    const std::optional<Bytes> old = isThere ? readWholeFile(templateFile) : std::nullopt;
-    if (isThere && !old) return keep(preparation, templateFile, Present::unusable);
+    const std::optional<Bytes> old = isThere ? readWholeFile(characterTemplateName) : std::nullopt;
+    if (isThere && !old) return keep(preparation, characterTemplateName, Present::unusable);
     const TemplateSource source = findTemplateSource(simsDirectory);
     if (source.madeTemplate.empty()) {
-        missing(preparation, templateFile + std::string(isThere ? " stays as it is. " : " is missing. ") +
+        missing(preparation, characterTemplateName + std::string(isThere ? " stays as it is. " : " is missing. ") +
                                  whyNoSource(source, simsDirectory));
     } else if (old == source.madeTemplate) {
-        keep(preparation, templateFile, Present::usable);
-    } else if ((!old || keepCopy(preparation, *old)) && writeNew(preparation, templateFile, source.madeTemplate)) {
+        keep(preparation, characterTemplateName, Present::usable);
+    } else if ((!old || keepCopy(preparation, *old)) &&
+               writeNew(preparation, characterTemplateName, source.madeTemplate)) {
         done(preparation, "It is made of " + source.path + ".");
     }
 }
@@ -161,12 +162,12 @@ bool isMade(Present present, bool newTemplate) {
 }
 
 void bringTemplate(Preparation& preparation, const char* simsDirectory, bool newTemplate) {
-    const Present present = presentTemplate(templateFile);
+    const Present present = presentTemplate(characterTemplateName);
     if (isMade(present, newTemplate)) {
         makeNewTemplate(preparation, simsDirectory, present != Present::nothing);
         return;
     }
-    keep(preparation, templateFile, present);
+    keep(preparation, characterTemplateName, present);
     if (present == Present::unusable) done(preparation, "Or use the option --new-template, which keeps a copy of it.");
 }
 
@@ -182,9 +183,9 @@ void bringSkinSets(Preparation& preparation) {
 }
 
 std::string plannedTemplate(bool newTemplate) {
-    const Present present = presentTemplate(templateFile);
+    const Present present = presentTemplate(characterTemplateName);
     if (!isMade(present, newTemplate)) return "";
-    const std::string made = std::string("    ") + templateFile + ", out of one of your own Sims' files\n";
+    const std::string made = std::string("    ") + characterTemplateName + ", out of one of your own Sims' files\n";
     return present == Present::nothing ? made : made + "    (the present one is kept as a copy with a date)\n";
 }
 
@@ -196,7 +197,7 @@ Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
     if (lock.isHeld()) clearLeftOverParts(".");
     bringSkin(preparation, simsDirectory);
     bringTemplate(preparation, simsDirectory, newTemplate);
-    bring(preparation, familyTemplateFile, presentFamilyTemplate(familyTemplateFile), makeFamilyTemplate());
+    bring(preparation, familyTemplateName, presentFamilyTemplate(familyTemplateName), makeFamilyTemplate());
     if (preparation.ready) bringSkinSets(preparation);
     return preparation;
 }
@@ -204,7 +205,7 @@ Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
 std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate) {
     std::string inTool = plannedTemplate(newTemplate), all;
     const auto add = [](std::string& text, const char* name) { text.append("    ").append(name).append("\n"); };
-    if (presentFamilyTemplate(familyTemplateFile) == Present::nothing) add(inTool, familyTemplateFile);
+    if (presentFamilyTemplate(familyTemplateName) == Present::nothing) add(inTool, familyTemplateName);
     if (presentFile(skinSetsName) == Present::nothing) add(inTool, skinSetsName);
     if (presentFile(simsDirectory + installedSkin) == Present::nothing) {
         all = "In the game's directory " + simsDirectory + ":\n";

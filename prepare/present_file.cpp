@@ -10,7 +10,7 @@
 #include "platform/files.h"
 #include "prepare/lower_case.h"
 #include "prepare/whole_file.h"
-#include "world/game_check.h"
+#include "world/program_files.h"
 
 namespace {
 

@@ -6,10 +6,9 @@
 
 #include "platform/fixed_text.h"
 #include "world/paths.h"
+#include "world/program_files.h"
 
 constexpr const char* backupsDirectory = "Backups";
-constexpr const char* characterTemplateName = "Template.iff";
-constexpr const char* familyTemplateName = "famtemplate";
 
 // `directory` is the neighborhood's.
 inline PathText tempNeighborhoodPath(std::string_view directory) {

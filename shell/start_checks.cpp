@@ -2,6 +2,7 @@
 
 #include "platform/fixed_text.h"
 #include "world/game_check.h"
+#include "world/program_files.h"
 
 int checkStart(DirectoryText& simsDirectory, const char* toolDirectory) {
     if (const int refusal = checkGame(simsDirectory); refusal != 0) return refusal;

@@ -1,6 +1,5 @@
 #include "world/game_check.h"
 
-#include "platform/files.h"
 #include "platform/win32.h"
 
 namespace {
@@ -13,11 +12,6 @@ bool gameRuns() {
 }
 
 }  // namespace
-
-bool hasBytes(const char* path) {
-    FileStatus status{};
-    return queryFileStatus(path, status) && status.size >= 1;
-}
 
 int refuseStart(const char* text, const char* title, int code) {
     MessageBoxA(nullptr, text, title, MB_OK);

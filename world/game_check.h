@@ -10,14 +10,6 @@ constexpr int gameNotFound = -1;
 constexpr int gameRunning = -2;
 }  // namespace exitCode
 
-// A skin that this program's package puts into the game's directory.
-constexpr const char* installedSkin = "GameData\\Skins\\xskin-c601fa_amanda-HEAD-HEAD.skn";
-
-constexpr const char* skinSetsName = "skinsets.cfg";
-
-// Whether the file exists and holds at least 1 byte.
-bool hasBytes(const char* path);
-
 // Shows the box, posts the code as the process's, and returns it.
 int refuseStart(const char* text, const char* title, int code);
 

@@ -1,0 +1,21 @@
+// The program's own files: their names, and whether one is there.
+#ifndef WORLD_PROGRAM_FILES_H
+#define WORLD_PROGRAM_FILES_H
+
+#include "platform/files.h"
+
+// In the tool directory.
+constexpr const char* skinSetsName = "skinsets.cfg";           // which head follows which
+constexpr const char* characterTemplateName = "Template.iff";  // what character files are made of
+constexpr const char* familyTemplateName = "famtemplate";      // what the records of new families are made of
+
+// In the game's directory, a skin.
+constexpr const char* installedSkin = "GameData\\Skins\\xskin-c601fa_amanda-HEAD-HEAD.skn";
+
+// Whether the file exists and holds at least 1 byte.
+inline bool hasBytes(const char* path) {
+    FileStatus status{};
+    return queryFileStatus(path, status) && status.size >= 1;
+}
+
+#endif
