@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "fuzz/fuzz_files.h"
+#include "platform/letter_case.h"
 #include "platform/native/registry/registry_file.h"
 #include "world/sims_directory.h"
 
@@ -19,7 +20,7 @@ std::string directoryIn(std::string_view file) {
         promise(isThere || values.empty(), "values of a key that is there");
         for (const RegistryValue& value : values) {
             promise(value.name.size() + value.text.size() <= file.size(), "a value no longer than the file");
-            if (isSameRegistryName(value.name, "SIMS_DATA")) directory = value.text;
+            if (equalInAnyCase(value.name, "SIMS_DATA")) directory = value.text;
         }
     }
     return directory;

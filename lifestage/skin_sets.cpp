@@ -1,12 +1,12 @@
 #include "lifestage/skin_sets.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
 #include "lifestage/random_generator.h"
 #include "lifestage/text_lines.h"
 #include "platform/files.h"
+#include "platform/letter_case.h"
 #include "world/paths.h"
 #include "world/program_files.h"
 #include "world/sim.h"
@@ -37,15 +37,6 @@ Entry splitEntry(std::string_view line) {
     return entry;
 }
 
-char upperCase(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-bool equalInUpperCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return upperCase(x) == upperCase(y); });
-}
-
 // What matters of the skin set that is being read.
 class SkinSet {
  public:
@@ -61,7 +52,7 @@ class SkinSet {
     void forgetCandidates() { count_ = 0; }
 
     void take(const Entry& entry) {
-        if (entry.key == sourceKey_ && equalInUpperCase(entry.skin, headSkin_)) matched_ = true;
+        if (entry.key == sourceKey_ && equalInAnyCase(entry.skin, headSkin_)) matched_ = true;
         if (entry.key == targetKey_ && count_ < highestCandidateCount) candidates_[count_++] = entry;
     }
 

@@ -8,7 +8,7 @@
 #include "gamefiles/character_template.h"
 #include "gamefiles/family_template.h"
 #include "platform/files.h"
-#include "prepare/lower_case.h"
+#include "platform/letter_case.h"
 #include "prepare/whole_file.h"
 #include "world/program_files.h"
 

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/letter_case.h"
 #include "platform/native/api/system.h"
 #include "platform/native/files/paths.h"
 #include "platform/native/registry/registry_file.h"
@@ -53,7 +54,7 @@ std::string readWhole(const std::string& path) {
 
 const RegistryValue* findValue(const HKEY__& key, std::string_view name) {
     const auto found = std::find_if(key.values.rbegin(), key.values.rend(),
-                                    [&](const RegistryValue& value) { return isSameRegistryName(value.name, name); });
+                                    [&](const RegistryValue& value) { return equalInAnyCase(value.name, name); });
     return found != key.values.rend() ? &*found : nullptr;
 }
 
@@ -65,7 +66,7 @@ LSTATUS RegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD, REGSAM, HKEY* result) {
     const std::string file = readWhole(winePrefix() + "/system.reg");
     auto opened = std::make_unique<HKEY__>();
     bool found = readRegistryKey(file, path, opened->values);
-    if (isSameRegistryName(path.substr(0, software.size()), software)) {
+    if (equalInAnyCase(path.substr(0, software.size()), software)) {
         const std::string twin = std::string(softwareOf32Bit).append(path.substr(software.size()));
         found = readRegistryKey(file, twin, opened->values) || found;
     }

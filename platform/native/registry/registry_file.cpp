@@ -2,19 +2,16 @@
 
 #include <algorithm>
 
+#include "platform/letter_case.h"
 #include "platform/native/api/registry.h"
 #include "platform/native/base/text1252.h"
 
 namespace {
 
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 // The value of a digit of any base up to 16; 16 if it isn't one.
 unsigned digitValue(char c) {
     if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
-    const char lower = lowered(c);
+    const char lower = lowerCase(c);
     return lower >= 'a' && lower <= 'f' ? static_cast<unsigned>(lower - 'a' + 10) : 16;
 }
 
@@ -108,10 +105,6 @@ bool readValue(std::string_view line, RegistryValue& value) {
 
 }  // namespace
 
-bool isSameRegistryName(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return lowered(x) == lowered(y); });
-}
-
 bool readRegistryKey(std::string_view file, std::string_view key, std::vector<RegistryValue>& values) {
     bool found = false;
     bool inKey = false;
@@ -120,7 +113,7 @@ bool readRegistryKey(std::string_view file, std::string_view key, std::vector<Re
         LineReader reader(line);
         if (reader.take("[")) {
             std::string section;
-            inKey = reader.takeText(']', section) && isSameRegistryName(section, key);
+            inKey = reader.takeText(']', section) && equalInAnyCase(section, key);
             found = found || inKey;
         } else if (inKey) {
             RegistryValue value = {};

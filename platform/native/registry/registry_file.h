@@ -17,11 +17,8 @@ struct RegistryValue {
     std::string text;
 };
 
-// Key paths and the names of values are compared without regard to the case of ASCII letters.
-bool isSameRegistryName(std::string_view a, std::string_view b);
-
-// Appends the text values of all sections of the key `key` ("Software\Maxis") to `values`, in file order. False if
-// there is no such section.
+// Appends the text values of all sections of the key `key` ("Software\Maxis", in any case) to `values`, in file order.
+// False if there is no such section.
 bool readRegistryKey(std::string_view file, std::string_view key, std::vector<RegistryValue>& values);
 
 #endif

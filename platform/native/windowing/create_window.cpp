@@ -2,6 +2,7 @@
 #include <QWidget>
 #include <cstdio>
 
+#include "platform/letter_case.h"
 #include "platform/native/api/system.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/screen/scale.h"
@@ -16,8 +17,8 @@ std::unique_ptr<Control> makeControl(LPCSTR className, LPCSTR text, DWORD style,
     Window* const owner = findWindow(parent);
     if (owner == nullptr || owner->clientArea() == nullptr) return nullptr;
     QWidget* const area = owner->clientArea();
-    if (sameClassName(className, "ComboBox")) return std::make_unique<ComboBox>(style, parent, id, area);
-    if (sameClassName(className, "Button")) return std::make_unique<Button>(style, parent, id, text, area);
+    if (equalInAnyCase(className, "ComboBox")) return std::make_unique<ComboBox>(style, parent, id, area);
+    if (equalInAnyCase(className, "Button")) return std::make_unique<Button>(style, parent, id, text, area);
     SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
     return nullptr;
 }

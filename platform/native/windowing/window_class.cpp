@@ -1,9 +1,8 @@
 #include "platform/native/windowing/window_class.h"
 
-#include <strings.h>
-
 #include <deque>
 
+#include "platform/letter_case.h"
 #include "platform/native/api/system.h"
 
 namespace {
@@ -15,16 +14,12 @@ constexpr ATOM firstAtom = 0xC000;
 
 const WindowClass* find(LPCSTR name) {
     for (const WindowClass& windowClass : classes) {
-        if (sameClassName(windowClass.name.c_str(), name)) return &windowClass;
+        if (equalInAnyCase(windowClass.name, name)) return &windowClass;
     }
     return nullptr;
 }
 
 }  // namespace
-
-bool sameClassName(LPCSTR a, LPCSTR b) {
-    return strcasecmp(a, b) == 0;
-}
 
 const WindowClass* findWindowClass(LPCSTR name) {
     const WindowClass* const found = name == nullptr ? nullptr : find(name);

@@ -21,7 +21,4 @@ struct WindowClass {
 // The class lives until the process ends.
 const WindowClass* findWindowClass(LPCSTR name);
 
-// Whether two class names are equal, without regard to ASCII case.
-bool sameClassName(LPCSTR a, LPCSTR b);
-
 #endif
