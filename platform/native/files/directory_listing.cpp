@@ -2,19 +2,8 @@
 
 #include <sys/statvfs.h>
 
+#include "platform/letter_case.h"
 #include "platform/native/base/text1252.h"
-
-namespace {
-
-std::string lowered(std::string_view name) {
-    std::string lower(name);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    }
-    return lower;
-}
-
-}  // namespace
 
 std::string nameToCreate(std::string_view written) {
     return isUtf8(written) ? std::string(written) : utf8From1252(written);
