@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "lifestage/skin_sets.h"
-#include "lifestage/stage_template.h"
+#include "lifestage/stage_body.h"
 #include "platform/files.h"
 #include "platform/fixed_text.h"
 #include "world/sim.h"

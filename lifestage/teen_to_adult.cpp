@@ -4,7 +4,7 @@
 
 #include "lifestage/head_question.h"
 #include "lifestage/random_generator.h"
-#include "lifestage/stage_template.h"
+#include "lifestage/stage_body.h"
 #include "ui/controls.h"
 #include "ui/cursors.h"
 #include "world/family.h"

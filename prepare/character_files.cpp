@@ -44,7 +44,7 @@ Candidate candidateOf(const Bytes& file) {
     return {std::move(contents.chunks), std::move(made)};
 }
 
-void look(const std::string& path, TemplateSource& source, SourceChoice& choice) {
+void addIfServes(const std::string& path, TemplateSource& source, SourceChoice& choice) {
     ++source.found;
     const std::optional<Bytes> file = readWholeFile(path.c_str());
     if (!file) ++source.unreadable;
@@ -63,7 +63,7 @@ TemplateSource findTemplateSource(const char* simsDirectory) {
         if (!queryFileStatus(neighborhood.c_str(), status)) break;
         const auto directory = joined<PathText>(neighborhood, '\\', charactersDirectory, '\\');
         for (const std::string& name : characterNamesIn(directory.c_str())) {
-            look(directory.c_str() + name, source, choice);
+            addIfServes(directory.c_str() + name, source, choice);
         }
     }
     // The files aren't kept, since there may be many large ones. This one may have changed since.

@@ -24,13 +24,13 @@ static_assert(std::string_view(installedSkin).starts_with(skins) &&
 
 constexpr const char* originalSkinSets = "skinsets-original.cfg";
 
-void done(Preparation& preparation, const std::string& line) {
+void report(Preparation& preparation, const std::string& line) {
     preparation.report += line + "\n";
 }
 
-void missing(Preparation& preparation, const std::string& line) {
+void reportMissing(Preparation& preparation, const std::string& line) {
     preparation.ready = false;
-    done(preparation, line);
+    report(preparation, line);
 }
 
 std::string reason() {
@@ -48,35 +48,34 @@ std::string reason() {
     }
 }
 
-void notWritten(Preparation& preparation, const std::string& path) {
-    missing(preparation, path + " can't be written: " + reason() + ". Please mend that, and prepare again.");
+void reportUnwritten(Preparation& preparation, const std::string& path) {
+    reportMissing(preparation, path + " can't be written: " + reason() + ". Please mend that, and prepare again.");
 }
 
 bool writeNew(Preparation& preparation, const std::string& path, const Bytes& bytes) {
     const bool written = writeWholeFile(path.c_str(), bytes);
     if (written) {
-        done(preparation, path + " is new.");
+        report(preparation, path + " is new.");
     } else {
-        notWritten(preparation, path);
+        reportUnwritten(preparation, path);
     }
     return written;
 }
 
-// Says what is there and stays.
-void keep(Preparation& preparation, const std::string& path, Present present) {
-    if (present == Present::usable) return done(preparation, path + " is there already.");
+void reportPresent(Preparation& preparation, const std::string& path, Present present) {
+    if (present == Present::usable) return report(preparation, path + " is there already.");
     const char* const fault =
         present == Present::deadLink
             ? " is there, but leads to no file."
             : " is there already, but a save can't use it: it can't be read, is cut or another file.";
-    missing(preparation, path + fault + " Please delete it, and prepare again.");
+    reportMissing(preparation, path + fault + " Please delete it, and prepare again.");
 }
 
 void bring(Preparation& preparation, const std::string& path, Present present, const Bytes& bytes) {
     if (present == Present::nothing) {
         writeNew(preparation, path, bytes);
     } else {
-        keep(preparation, path, present);
+        reportPresent(preparation, path, present);
     }
 }
 
@@ -92,7 +91,7 @@ void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
         if (lock.isHeld()) clearLeftOverParts((simsDirectory + skins).c_str());
         bring(preparation, skin, presentFile(skin), ByteWriter().text(packageSkin()).written());
     } else {
-        notWritten(preparation, skin);
+        reportUnwritten(preparation, skin);
     }
 }
 
@@ -117,7 +116,7 @@ std::string freeCopyName() {
 bool keepCopy(Preparation& preparation, const Bytes& file) {
     for (const std::string& name : fileNamesIn(".")) {
         if (!name.starts_with(copyPrefix) || readWholeFile(name.c_str()) != file) continue;
-        done(preparation, name + " is a copy of the old one.");
+        report(preparation, name + " is a copy of the old one.");
         return true;
     }
     return writeNew(preparation, freeCopyName(), file);
@@ -142,16 +141,17 @@ std::string whyNoSource(const TemplateSource& source, const std::string& simsDir
 
 void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool isThere) {
     const std::optional<Bytes> old = isThere ? readWholeFile(characterTemplateName) : std::nullopt;
-    if (isThere && !old) return keep(preparation, characterTemplateName, Present::unusable);
+    if (isThere && !old) return reportPresent(preparation, characterTemplateName, Present::unusable);
     const TemplateSource source = findTemplateSource(simsDirectory);
     if (source.madeTemplate.empty()) {
-        missing(preparation, characterTemplateName + std::string(isThere ? " stays as it is. " : " is missing. ") +
-                                 whyNoSource(source, simsDirectory));
+        reportMissing(preparation, characterTemplateName +
+                                       std::string(isThere ? " stays as it is. " : " is missing. ") +
+                                       whyNoSource(source, simsDirectory));
     } else if (old == source.madeTemplate) {
-        keep(preparation, characterTemplateName, Present::usable);
+        reportPresent(preparation, characterTemplateName, Present::usable);
     } else if ((!old || keepCopy(preparation, *old)) &&
                writeNew(preparation, characterTemplateName, source.madeTemplate)) {
-        done(preparation, "It is made of " + source.path + ".");
+        report(preparation, "It is made of " + source.path + ".");
     }
 }
 
@@ -167,16 +167,18 @@ void bringTemplate(Preparation& preparation, const char* simsDirectory, bool new
         makeNewTemplate(preparation, simsDirectory, present != Present::nothing);
         return;
     }
-    keep(preparation, characterTemplateName, present);
-    if (present == Present::unusable) done(preparation, "Or use the option --new-template, which keeps a copy of it.");
+    reportPresent(preparation, characterTemplateName, present);
+    if (present == Present::unusable) {
+        report(preparation, "Or use the option --new-template, which keeps a copy of it.");
+    }
 }
 
 void bringSkinSets(Preparation& preparation) {
     const std::optional<Bytes> original = readWholeFile(originalSkinSets);
     const Present present = presentFile(skinSetsName);
     if (present == Present::nothing && (!original || original->empty())) {
-        missing(preparation, std::string(skinSetsName) + " is missing, and " + originalSkinSets +
-                                 " can't be read. Please unpack the program again.");
+        reportMissing(preparation, std::string(skinSetsName) + " is missing, and " + originalSkinSets +
+                                       " can't be read. Please unpack the program again.");
     } else {
         bring(preparation, skinSetsName, present, original.value_or(Bytes()));
     }

@@ -32,16 +32,16 @@ void onCreate(HWND window) {
     RECT client{};
     GetClientRect(window, &client);
     const LONG left = client.left, top = client.top, bottom = client.bottom;
-    Controls& all = controls();
-    all.mainWindow = window;
-    all.neighborhoodCombo = createCombo(window, left + 160, top + 10, controlId::neighborhoodCombo);
-    all.familyCombo = createCombo(window, left + 160, top + 40, controlId::familyCombo);
-    all.simCombo = createCombo(window, left + 160, top + 70, controlId::simCombo);
-    all.childToTeenButton =
+    Controls& created = controls();
+    created.mainWindow = window;
+    created.neighborhoodCombo = createCombo(window, left + 160, top + 10, controlId::neighborhoodCombo);
+    created.familyCombo = createCombo(window, left + 160, top + 40, controlId::familyCombo);
+    created.simCombo = createCombo(window, left + 160, top + 70, controlId::simCombo);
+    created.childToTeenButton =
         createButton(window, "Child to Teen", left + 10, bottom - 150, controlId::childToTeenButton);
-    all.teenToAdultButton =
+    created.teenToAdultButton =
         createButton(window, "Teen to Adult", left + 120, bottom - 150, controlId::teenToAdultButton);
-    all.moveOutButton = createButton(window, "Move Out", left + 10, bottom - 50, controlId::moveOutButton);
+    created.moveOutButton = createButton(window, "Move Out", left + 10, bottom - 50, controlId::moveOutButton);
     addNeighborhoodEntries(listedNeighborhoodCount());
 }
 

@@ -7,12 +7,12 @@ namespace {
 constexpr LONG enabledButton = static_cast<LONG>(WS_CHILD | WS_VISIBLE);
 constexpr LONG disabledButton = static_cast<LONG>(WS_CHILD | WS_VISIBLE | WS_DISABLED);
 
-Controls all{};
+Controls handles{};
 
 }  // namespace
 
 Controls& controls() {
-    return all;
+    return handles;
 }
 
 void enableButton(HWND button) {
@@ -20,14 +20,14 @@ void enableButton(HWND button) {
 }
 
 void disableButton(HWND button) {
-    if (GetFocus() == button) SetFocus(all.simCombo);
+    if (GetFocus() == button) SetFocus(handles.simCombo);
     SetWindowLongA(button, GWL_STYLE, disabledButton);
 }
 
 void disableStageButtons() {
-    disableButton(all.childToTeenButton);
-    disableButton(all.teenToAdultButton);
-    disableButton(all.moveOutButton);
+    disableButton(handles.childToTeenButton);
+    disableButton(handles.teenToAdultButton);
+    disableButton(handles.moveOutButton);
 }
 
 void addEntry(HWND combo, const char* text) {
@@ -44,6 +44,6 @@ void addNeighborhoodEntries(int count) {
     for (int number = 1; number <= count; ++number) {
         char text[sizeof "Neighborhood 2147483647"];
         std::snprintf(text, sizeof text, "Neighborhood %d", number);
-        addEntry(all.neighborhoodCombo, text);
+        addEntry(handles.neighborhoodCombo, text);
     }
 }

@@ -1,6 +1,6 @@
 #include "world/body_strings.h"
 
-#include "world/body_string_text.h"
+#include "world/body_text_layout.h"
 
 BodyStrings::BodyStrings() {
     slots_[bodySlot::gender].assign("female");

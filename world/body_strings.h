@@ -1,5 +1,5 @@
 // What one Sim looks like: its meshes and skins, its hands, and the words for gender, age and skin tone. Read from a
-// character file or made from a stage template, and written as the text of the game's "bodystring" chunk.
+// character file or made new for a stage, and written as the text of the game's "bodystring" chunk.
 #ifndef WORLD_BODY_STRINGS_H
 #define WORLD_BODY_STRINGS_H
 
@@ -77,7 +77,7 @@ class BodyStrings {
     // All slots are empty, except that the gender is "female". `parse` starts from this.
     BodyStrings();
 
-    // A complete body for a stage (lifestage/stage_template.cpp). `gender` is 1 for a female, anything else for a male;
+    // A complete body for a stage (lifestage/stage_body.cpp). `gender` is 1 for a female, anything else for a male;
     // `age` 0 for a child's body, anything else for a grown one; `skinTone` 1 light, 3 medium, anything else dark;
     // `bodyType` 0 "TNR", 1 "skn", 2 "fit", 3 "fat". A `version` below 7 leaves the slots from `f100Mesh` on empty.
     BodyStrings(std::int16_t gender, std::uint8_t age, std::int16_t skinTone, std::int16_t version,

@@ -2,8 +2,8 @@
 // file has to move.
 #include <algorithm>
 
-#include "world/body_string_text.h"
 #include "world/body_strings.h"
+#include "world/body_text_layout.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "lifestage/child_to_teen.h"
 #include "lifestage/move_out.h"
 #include "lifestage/random_generator.h"
-#include "lifestage/stage_template.h"
+#include "lifestage/stage_body.h"
 #include "lifestage/teen_to_adult.h"
 #include "sample/wine_prefix.h"
 #include "tests/support/body_slots.h"

@@ -1,7 +1,7 @@
 // The building blocks of the body-string text. An entry is 0x01, its characters and two zero bytes. Room that the
 // entries don't need is filled up.
-#ifndef WORLD_BODY_STRING_TEXT_H
-#define WORLD_BODY_STRING_TEXT_H
+#ifndef WORLD_BODY_TEXT_LAYOUT_H
+#define WORLD_BODY_TEXT_LAYOUT_H
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,6 @@
-// The parts of names of meshes and skins that depend on the Sim. The templates themselves are a constructor of
-// BodyStrings.
-#ifndef LIFESTAGE_STAGE_TEMPLATE_H
-#define LIFESTAGE_STAGE_TEMPLATE_H
+// What the body of a stage depends on. The constructor of BodyStrings that makes the body is in stage_body.cpp.
+#ifndef LIFESTAGE_STAGE_BODY_H
+#define LIFESTAGE_STAGE_BODY_H
 
 #include <cstdint>
 #include <string_view>

@@ -1,10 +1,10 @@
 // Makes the complete body of a stage out of fixed names and a few facts about the Sim. The odd capitals are those of
 // the game's own files.
-#include "lifestage/stage_template.h"
+#include "lifestage/stage_body.h"
 
 #include "platform/fixed_text.h"
-#include "world/body_string_text.h"
 #include "world/body_strings.h"
+#include "world/body_text_layout.h"
 #include "world/sim.h"
 
 namespace {
