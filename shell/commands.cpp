@@ -1,5 +1,8 @@
 #include "shell/commands.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "lifestage/child_to_teen.h"
 #include "lifestage/move_out.h"
 #include "lifestage/teen_to_adult.h"
@@ -12,82 +15,58 @@
 
 namespace {
 
-bool runComboCommand(int id, int notification) {
-    const bool picked = notification == CBN_SELCHANGE;
-    switch (id) {
-        case controlId::neighborhoodCombo:
-            if (picked) neighborhoodPicked();
-            return true;
-        case controlId::familyCombo:
-            if (picked) familyPicked();
-            return true;
-        case controlId::simCombo:
-            if (picked) simPicked();
-            return true;
-        default:
-            return false;
-    }
+void childToTeenClicked() {
+    childToTeen(selection().currentSim);
 }
 
-bool runButtonCommand(int id, int notification) {
-    const bool clicked = notification == BN_CLICKED;
-    switch (id) {
-        case controlId::childToTeenButton:
-            if (clicked) childToTeen(selection().currentSim);
-            return true;
-        case controlId::teenToAdultButton:
-            if (clicked) teenToAdult(selection().currentSim);
-            return true;
-        case controlId::moveOutButton:
-            if (clicked) moveOut(selection().currentSim);
-            return true;
-        default:
-            return false;
-    }
+void teenToAdultClicked() {
+    teenToAdult(selection().currentSim);
 }
 
-bool runFileCommand(int id) {
-    switch (id) {
-        case IDM_SAVE:
-            saveAll();
-            return true;
-        case IDM_SAVE_AND_EXIT:
-            saveAll();
-            PostQuitMessage(0);
-            return true;
-        case IDM_EXIT_WITHOUT_SAVING:
-            PostQuitMessage(0);
-            return true;
-        default:
-            return false;
-    }
+void moveOutClicked() {
+    moveOut(selection().currentSim);
 }
 
-bool runHelpCommand(int id) {
-    switch (id) {
-        case IDM_ABOUT:
-            showInfoDialog(IDD_ABOUT);
-            return true;
-        case IDM_CREDITS:
-            showInfoDialog(IDD_CREDITS);
-            return true;
-        case IDM_ONLINE_HELP:
-            openWebPage(WebPage::help);
-            return true;
-        case IDM_QUESTIONS:
-            openWebPage(WebPage::questions);
-            return true;
-        case IDM_DONATE:
-            openWebPage(WebPage::donation);
-            return true;
-        default:
-            return false;
-    }
+void saveAndExit() {
+    saveAll();
+    PostQuitMessage(0);
 }
+
+void exitWithoutSaving() {
+    PostQuitMessage(0);
+}
+
+// The menu and the keys send codes of their own, which don't matter.
+constexpr int anyNotification = -1;
+
+struct Command {
+    int id;
+    int notification;
+    void (*run)();
+};
+
+constexpr Command commands[] = {
+    {controlId::neighborhoodCombo, CBN_SELCHANGE, neighborhoodPicked},
+    {controlId::familyCombo, CBN_SELCHANGE, familyPicked},
+    {controlId::simCombo, CBN_SELCHANGE, simPicked},
+    {controlId::childToTeenButton, BN_CLICKED, childToTeenClicked},
+    {controlId::teenToAdultButton, BN_CLICKED, teenToAdultClicked},
+    {controlId::moveOutButton, BN_CLICKED, moveOutClicked},
+    {IDM_SAVE, anyNotification, saveAll},
+    {IDM_SAVE_AND_EXIT, anyNotification, saveAndExit},
+    {IDM_EXIT_WITHOUT_SAVING, anyNotification, exitWithoutSaving},
+    {IDM_ABOUT, anyNotification, [] { showInfoDialog(IDD_ABOUT); }},
+    {IDM_CREDITS, anyNotification, [] { showInfoDialog(IDD_CREDITS); }},
+    {IDM_ONLINE_HELP, anyNotification, [] { openWebPage(WebPage::help); }},
+    {IDM_QUESTIONS, anyNotification, [] { openWebPage(WebPage::questions); }},
+    {IDM_DONATE, anyNotification, [] { openWebPage(WebPage::donation); }},
+};
 
 }  // namespace
 
 bool runCommand(int id, int notification) {
-    return runComboCommand(id, notification) || runButtonCommand(id, notification) || runFileCommand(id) ||
-           runHelpCommand(id);
+    const auto* const command = std::ranges::find(commands, id, &Command::id);
+    if (command == std::end(commands)) return false;
+    if (command->notification == anyNotification || command->notification == notification) command->run();
+    return true;
 }
