@@ -31,7 +31,7 @@ std::uint32_t portraitColor(int x, int y, const PortraitColors& colors) {
     return colors.background;
 }
 
-// The colour of a pixel in a picture that whole portraits of `side` pixels tile from its top left corner. What is left
+// The color of a pixel in a picture that whole portraits of `side` pixels tile from its top left corner. What is left
 // over at the right and at the bottom is background.
 std::uint32_t tiledColor(int column, int row, int width, int height, int side, const PortraitColors& colors) {
     if (column / side >= width / side || row / side >= height / side) return colors.background;

@@ -6,7 +6,7 @@
 
 #include "gamefiles/byte_writer.h"
 
-// Colours as 0xRRGGBB. No byte of them may be A3: five of these in a row mark the end of a Sim's body strings.
+// Colors as 0xRRGGBB. No byte of them may be A3: five of these in a row mark the end of a Sim's body strings.
 struct PortraitColors {
     std::uint32_t background = 0x9CC4E0;
     std::uint32_t skin = 0xF0C8A0;

@@ -67,7 +67,7 @@ struct WNDCLASSEXA {
     HINSTANCE hInstance;
     HICON hIcon;
     HCURSOR hCursor;
-    HBRUSH hbrBackground;  // a system colour's number plus one
+    HBRUSH hbrBackground;  // a system color's number plus one
     LPCSTR lpszMenuName;
     LPCSTR lpszClassName;
     HICON hIconSm;

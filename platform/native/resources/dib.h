@@ -1,4 +1,4 @@
-// Pictures in the form of the resources: a 40-byte header, colours of 4 bytes (blue, green, red, unused), and rows of
+// Pictures in the form of the resources: a 40-byte header, colors of 4 bytes (blue, green, red, unused), and rows of
 // pixels padded to 4 bytes, bottom row first. Uncompressed, with 1, 4, 8, 24 or 32 bits per pixel.
 #ifndef PLATFORM_NATIVE_RESOURCES_DIB_H
 #define PLATFORM_NATIVE_RESOURCES_DIB_H

@@ -73,7 +73,7 @@ void ClientArea::resizeEvent(QResizeEvent* event) {
     invalidate(wholly ? QRegion(whole()) : QRegion(whole()) - QRect(QPoint(0, 0), event->oldSize()), true);
 }
 
-// The font or the colours have changed, so the picture is out of date.
+// The font or the colors have changed, so the picture is out of date.
 void ClientArea::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) invalidate(whole(), true);
