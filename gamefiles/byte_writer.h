@@ -1,5 +1,5 @@
-// Writes the bytes of the game's files. The program's own reading and writing share no code with it, so a test that
-// compares the two finds a wrong byte order in either.
+// Writes the bytes of the game's files. The readers in world/ and the writers in save/ share no code with it, so a test
+// that compares the two finds a wrong byte order in either.
 #ifndef GAMEFILES_BYTE_WRITER_H
 #define GAMEFILES_BYTE_WRITER_H
 

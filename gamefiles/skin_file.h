@@ -1,4 +1,5 @@
-// The skin that the packages put into the game's directory. The program looks for it when it starts.
+// The skin by which the program knows, when it starts, that the game is prepared. The preparing program writes it into
+// the game's directory, and the zip brings it along.
 #ifndef GAMEFILES_SKIN_FILE_H
 #define GAMEFILES_SKIN_FILE_H
 

@@ -31,6 +31,7 @@ std::int32_t moveOut(Sim* sim) {
     // A Sim still names the family that it has moved out of, which matters if another family lists it too.
     if (family == nullptr || !family->hasMember(*sim)) return -1;
     if (static_cast<std::uint32_t>(family->funds()) < leastFunds) {
+        // Without an owner on purpose, unlike the questions: a window of its own, which still blocks the main window.
         MessageBoxA(
             nullptr,
             "Your newly independent sim will need some starting funds!  The family must save up at least 10,000 before "

@@ -19,7 +19,8 @@
 
 namespace {
 
-// "User00042.iff", in any case. Others are left from a save that broke off.
+// Whether the name is like "User00042.iff", in any case. A save that broke off leaves files of other names, which start
+// with "TMP".
 bool isCharacterName(const std::string& name) {
     return lowered(name).starts_with("user") && lowered(name).ends_with(".iff");
 }

@@ -4,8 +4,9 @@
 
 #include "gamefiles/byte_writer.h"
 
-// The bitmap file with each pixel as its first stored one, in nearly all pictures of the game the background. Headers,
-// size and the fill of each row stay. Anything but a whole uncompressed bitmap of 24 bits a pixel is returned as it is.
+// Returns the bitmap file with every pixel set to the color of the first one stored. In the game's pictures that is
+// nearly always the background. Headers, size and the fill of each row stay. Anything but a whole uncompressed bitmap
+// of 24 bits a pixel is returned unchanged.
 Bytes neutralPicture(const Bytes& bitmap);
 
 #endif

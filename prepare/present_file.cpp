@@ -41,9 +41,9 @@ bool isTemplate(std::string_view file) {
            file.substr(templateBodyStrings + iffChunkHeader::id).starts_with("\x00\xC8"sv);
 }
 
-// A text that only this program's sample characters and the template of its earlier packages have, and that template's
-// label of the object definition. A Sim that was saved from it has another label, and so has a template that is made of
-// such a Sim or of a sample character.
+// Whether this is the template of the program's earlier packages, by its label and by a text. The text alone isn't
+// enough: a Sim saved from that template has it too, and so has a template made of such a Sim, but both have another
+// label.
 bool isOfEarlierVersion(std::string_view file) {
     return file.substr(templateObject + iffChunkHeader::label).starts_with("user00000 - Sim\0"sv) &&
            file.substr(0, templateObject).find("a Sim of the Tidewright sample household") != std::string_view::npos;

@@ -1,5 +1,5 @@
-// The chunks of a Sim's character file that the program doesn't look at: behaviour and pictures, with the ids, labels
-// and sizes of the game's own files.
+// The chunks of a Sim's character file that don't matter to reading or saving the Sim: behaviour and pictures, with the
+// ids, labels and sizes of the game's own files.
 #ifndef SAMPLE_CHARACTER_CHUNKS_H
 #define SAMPLE_CHARACTER_CHUNKS_H
 

@@ -19,7 +19,8 @@ Sim* Family::member(std::int32_t index) const {
 
 int Family::resolveMembers() {
     if (membersResolved_) return 1;
-    membersResolved_ = true;  // first of all: the user can pick the family again while a stage has a box open
+    // Set first: reading a stage may open a box, and meanwhile the user can pick this family again.
+    membersResolved_ = true;
     linkMembers();
     for (std::int32_t i = 0; i < memberCount_; ++i) {
         if (member(i) != nullptr && member(i)->stage() >= stageNumber::adult) ++adultCount_;

@@ -124,14 +124,15 @@ class Sim {
 
     // Replaces the character file by a new one, made from the template in `toolDirectory` (save/character_writer.cpp).
     // `directory` is the neighborhood's. Returns 1 if the new file has the live name, 0 if the body strings were never
-    // found and nothing was done, or -1; then everything is marked still. The next three are its steps.
+    // found and nothing was done, or -1; then everything is marked still. The next three are its steps, the last two in
+    // save/backups.cpp.
     int saveCharacterFile(const char* toolDirectory, const char* directory);
     int buildCharacterFile(const char* tempPath);
     void backupCharacterFile(const char* directory);
     int installCharacterFile(const char* tempPath);
 
-    // Writes the record into the temporary neighborhood file. 1, or -1 on a stream in a bad state: the record then
-    // still waits to be written.
+    // Writes the record into the temporary neighborhood file (save/character_writer.cpp). 1, or -1 on a stream in a bad
+    // state: the record then still waits to be written.
     int writeNeighborRecord(StreamView stream);
 
  private:

@@ -1,26 +1,16 @@
-// The words of stages, and what only the native layer has: the picture of the screen, and the browser.
+// What a test can see only natively: the picture on the screen, and the pages that a browser is told to open.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include "shell/main_window.h"
-#include "shell/selection.h"
 #include "shell/splash.h"
-#include "shell/window_texts.h"
 #include "tests/support/scoped_variable.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 #include "ui/controls.h"
-#include "ui/cursors.h"
 #include "ui/status_line.h"
 
 namespace {
-
-TEST(MainWindowNativeTest, EachStageHasItsWord) {
-    std::string words;
-    for (std::int32_t stage = stageNumber::pet; stage <= stageNumber::adult; ++stage)
-        words += stageWord(stage) + std::string(" ");
-    EXPECT_EQ(words, "not applicable (pet) unknown baby toddler child preteen teenager adult ");
-}
 
 TEST(MainWindowNativeTest, TheSplashPictureIsOnTheScreen) {
     ASSERT_TRUE(showSplashWindow());

@@ -9,6 +9,7 @@
 #include "sample/installation.h"
 #include "shell/selection.h"
 #include "shell/splash.h"
+#include "shell/window_texts.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
@@ -83,6 +84,13 @@ class MainWindowTest : public testing::Test {
 
     TempDirectory files_;
 };
+
+TEST(WindowTextsTest, EachStageHasItsWord) {
+    std::string words;
+    for (std::int32_t stage = stageNumber::pet; stage <= stageNumber::adult; ++stage)
+        words += stageWord(stage) + std::string(" ");
+    EXPECT_EQ(words, "not applicable (pet) unknown baby toddler child preteen teenager adult ");
+}
 
 TEST_F(MainWindowTest, ItsControlsAreAtTheirPlaces) {
     run([] {
