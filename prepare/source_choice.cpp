@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "gamefiles/object_definition.h"
-#include "prepare/chunk_role.h"
+#include "prepare/template_maker.h"
 
 namespace {
 

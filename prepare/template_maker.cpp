@@ -4,14 +4,23 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <span>
 
+#include "gamefiles/character_ids.h"
 #include "gamefiles/character_template.h"
 #include "platform/byte_order.h"
-#include "prepare/chunk_role.h"
 #include "prepare/neutral_picture.h"
 
 namespace {
+
+ChunkRole roleOf(const IffChunk& chunk) {
+    if (chunk.type == "XXXX" || chunk.type == "rsmp") return ChunkRole::dropped;
+    if (chunk.type == "OBJD") return ChunkRole::definition;
+    if (chunk.type == "CTSS") return ChunkRole::name;
+    if (chunk.type == "STR#" && chunk.id == bodyStringsId) return ChunkRole::bodyStrings;
+    return chunk.type == "BMP_" ? ChunkRole::picture : ChunkRole::carried;
+}
 
 // Free room is a chunk itself, so a gap that is smaller than a chunk's header can't be filled.
 bool fits(std::size_t size, std::size_t room) {
@@ -71,6 +80,13 @@ bool mapLeadsToChunks(const Bytes& file, std::size_t mapOffset) {
 }
 
 }  // namespace
+
+std::vector<IffChunk> withRole(const std::vector<IffChunk>& chunks, ChunkRole role) {
+    std::vector<IffChunk> found;
+    std::ranges::copy_if(chunks, std::back_inserter(found),
+                         [role](const IffChunk& chunk) { return roleOf(chunk) == role; });
+    return found;
+}
 
 Bytes makeTemplate(const std::vector<IffChunk>& source) {
     IffBuilder file;
