@@ -1,11 +1,11 @@
 #include "prepare/template_maker.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <span>
+#include <string_view>
 
 #include "gamefiles/character_ids.h"
 #include "gamefiles/character_template.h"
@@ -53,30 +53,20 @@ std::vector<IffChunk> neutralPictures(const std::vector<IffChunk>& source) {
     return pictures;
 }
 
-struct MapSearch {
-    std::array<std::uint8_t, 4> pattern;
-    std::ptrdiff_t distance;  // from the pattern to an offset of 3 bytes, little-endian
-    std::size_t chunk;        // what that offset must be
-};
-
-// How the program finds the three chunks. It doesn't walk the map but searches it, from the offset in the file's
-// header, of which it reads 3 bytes.
-constexpr MapSearch mapSearches[] = {
-    {{'D', 'J', 'B', 'O'}, 8, templateObject},
-    {{'S', 'S', 'T', 'C'}, 8, templateName},
-    {{0x00, 0xC8, 0x00, 0x10}, -3, templateBodyStrings},
-};
-
-bool isFound(const MapSearch& search, const Bytes& file, std::size_t mapOffset) {
-    const auto map = std::span(file).subspan(mapOffset);
-    const auto hit = std::search(map.begin(), map.end(), search.pattern.begin(), search.pattern.end()) - map.begin();
-    return readU24Le(map.subspan(static_cast<std::size_t>(hit + search.distance)).first<3>()) == search.chunk;
+// Whether a search of the map for this tag, which it spells backwards, finds the chunk's offset 8 bytes behind it.
+bool leadsTo(std::size_t chunk, std::string_view tag, std::span<const std::uint8_t> map) {
+    constexpr std::ptrdiff_t tagToOffset = 8;
+    const auto hit = std::search(map.begin(), map.end(), tag.begin(), tag.end()) - map.begin();
+    return readU24Le(map.subspan(static_cast<std::size_t>(hit + tagToOffset)).first<3>()) == chunk;
 }
 
+// The program doesn't walk the map but searches it, from the offset in the file's header, of which it reads 3 bytes. A
+// label may contain a tag. The entry of the body strings can't be missed: it comes first of all.
 bool mapLeadsToChunks(const Bytes& file, std::size_t mapOffset) {
     constexpr std::size_t mapOffsetLimit = 1U << 24;
-    return mapOffset < mapOffsetLimit &&
-           std::ranges::all_of(mapSearches, [&](const MapSearch& search) { return isFound(search, file, mapOffset); });
+    if (mapOffset >= mapOffsetLimit) return false;
+    const auto map = std::span(file).subspan(mapOffset);
+    return leadsTo(templateObject, "DJBO", map) && leadsTo(templateName, "SSTC", map);
 }
 
 }  // namespace

@@ -7,10 +7,12 @@
 #include "tests/prepare/unprepared_game.h"
 #include "tests/support/iff_walk.h"
 #include "tests/support/test_neighborhood.h"
+#include "world/character_layout.h"
 
 namespace {
 
 using namespace std::string_literals;
+using namespace std::string_view_literals;
 
 // The maker and the save may not share a table, since the one tests the other.
 static_assert(templateObject == characterTemplate::objectChunk && templateName == characterTemplate::nameChunk &&
@@ -133,10 +135,10 @@ TEST(TemplateTest, SimsSavedFromItAreReadAgainWithAMapAndWithoutOne) {
 }
 
 TEST(TemplateTest, IsNotMadeIfASearchOfItsMapWouldGoWrong) {
-    for (const char* label : {"", "DJBO", "SSTC"}) {
+    for (const std::string_view label : {""sv, characterFile::objectChunk.inMap, characterFile::nameChunk.inMap}) {
         Chunks source = chunksOf({});
         chunkIn(source, "STR#", 258).label = label;
-        EXPECT_EQ(makeTemplate(source).empty(), *label != '\0') << label;
+        EXPECT_EQ(makeTemplate(source).empty(), !label.empty()) << label;
     }
     Chunks source = chunksOf({});
     source.push_back({.type = "TREE", .content = Bytes(1 << 24)});
