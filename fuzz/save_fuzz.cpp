@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "fuzz/fuzz_files.h"
-#include "gamefiles/family_template.h"
+#include "gamefiles/templates.h"
 #include "sample/fact_template.h"
 #include "sample/neighborhood_file.h"
 #include "save/backup_names.h"

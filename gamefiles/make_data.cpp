@@ -3,9 +3,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "gamefiles/family_template.h"
 #include "gamefiles/file_writing.h"
 #include "gamefiles/skin_file.h"
+#include "gamefiles/templates.h"
 
 int main(int count, char** arguments) {
     constexpr int badUsage = 2;

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string_view>
 
-#include "gamefiles/family_template.h"
 #include "gamefiles/skin_file.h"
+#include "gamefiles/templates.h"
 #include "platform/files.h"
 #include "platform/part_names.h"
 #include "platform/win32.h"

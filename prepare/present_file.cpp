@@ -5,8 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "gamefiles/character_template.h"
-#include "gamefiles/family_template.h"
+#include "gamefiles/templates.h"
 #include "platform/files.h"
 #include "platform/letter_case.h"
 #include "prepare/whole_file.h"

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "gamefiles/character_ids.h"
-#include "gamefiles/character_template.h"
+#include "gamefiles/templates.h"
 #include "platform/byte_order.h"
 #include "prepare/neutral_picture.h"
 

@@ -20,7 +20,7 @@ enum class ChunkRole {
 std::vector<IffChunk> withRole(const std::vector<IffChunk>& chunks, ChunkRole role);
 
 // The whole file, from the chunks of a character file that refusalOf accepts. "OBJD", "CTSS" and "STR#" 200 lie where
-// a save patches them (gamefiles/character_template.h). The rest keeps its order, as far as it fits in front of them;
+// a save patches them (gamefiles/templates.h). The rest keeps its order, as far as it fits in front of them;
 // what doesn't fit follows behind. Empty if a search of the resource map wouldn't find these three, because of its
 // other labels or of the file's length.
 Bytes makeTemplate(const std::vector<IffChunk>& source);

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "gamefiles/body_strings_chunk.h"
-#include "gamefiles/character_template.h"
 #include "gamefiles/iff_builder.h"
+#include "gamefiles/templates.h"
 #include "sample/bitmap.h"
 #include "sample/bodies.h"
 #include "sample/character_chunks.h"

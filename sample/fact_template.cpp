@@ -1,9 +1,8 @@
 #include "sample/fact_template.h"
 
-#include "gamefiles/character_template.h"
-#include "gamefiles/family_template.h"
 #include "gamefiles/file_writing.h"
 #include "gamefiles/object_definition.h"
+#include "gamefiles/templates.h"
 #include "gamefiles/text_chunk.h"
 #include "sample/character_chunks.h"
 #include "sample/character_file.h"

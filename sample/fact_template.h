@@ -8,7 +8,7 @@
 #include "gamefiles/byte_writer.h"
 
 // A "Template.iff": the character file of an adult. The chunks that a save overwrites lie where it expects them
-// (gamefiles/character_template.h).
+// (gamefiles/templates.h).
 Bytes makeFactTemplate();
 
 // Writes it and "famtemplate" into an existing directory. Returns false if one can't be written.

@@ -3,10 +3,10 @@
 
 #include <sstream>
 
-#include "gamefiles/family_template.h"
 #include "gamefiles/iff_reader.h"
 #include "gamefiles/object_definition.h"
 #include "gamefiles/skin_file.h"
+#include "gamefiles/templates.h"
 #include "tests/support/iff_walk.h"
 
 namespace {

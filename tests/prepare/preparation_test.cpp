@@ -2,8 +2,8 @@
 
 #include <set>
 
-#include "gamefiles/family_template.h"
 #include "gamefiles/skin_file.h"
+#include "gamefiles/templates.h"
 #include "prepare/program.h"
 #include "tests/prepare/unprepared_game.h"
 #include "tests/support/user.h"

@@ -1,6 +1,6 @@
 #include "prepare/template_maker.h"
 
-#include "gamefiles/character_template.h"
+#include "gamefiles/templates.h"
 #include "platform/byte_order.h"
 #include "prepare/neutral_picture.h"
 #include "save/template_layout.h"

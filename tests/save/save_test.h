@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "gamefiles/family_template.h"
+#include "gamefiles/templates.h"
 #include "sample/fact_template.h"
 #include "save/backup_names.h"
 #include "tests/support/test_neighborhood.h"

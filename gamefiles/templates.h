@@ -1,7 +1,7 @@
-// Where a save patches "Template.iff", and the two chunks whose texts it overwrites. The save has a table of its own
-// (save/template_layout.h); a test compares the two.
-#ifndef GAMEFILES_CHARACTER_TEMPLATE_H
-#define GAMEFILES_CHARACTER_TEMPLATE_H
+// The two templates that a save patches: of "Template.iff" its places and the two chunks whose texts are overwritten,
+// and the whole of "famtemplate". The save has a table of its own (save/template_layout.h); a test compares the two.
+#ifndef GAMEFILES_TEMPLATES_H
+#define GAMEFILES_TEMPLATES_H
 
 #include <cstddef>
 #include <string>
@@ -10,7 +10,7 @@
 #include "gamefiles/iff_builder.h"
 #include "gamefiles/text_chunk.h"
 
-// Offsets of the chunks in the file. The object definition reaches up to the name.
+// Offsets of the chunks in "Template.iff". The object definition reaches up to the name.
 constexpr std::size_t templateObject = 3976;        // "OBJD"
 constexpr std::size_t templateName = 4268;          // "CTSS"
 constexpr std::size_t templateBodyStrings = 54016;  // "STR#" 200
@@ -28,5 +28,9 @@ IffChunk templateNameChunk(const std::string& name);
 
 // "STR#" 200 of an adult, with room for a text of 1041 bytes.
 IffChunk templateBodyStringsChunk(const BodySlots& slots);
+
+// "famtemplate", the two chunks of a family with one member, without a file around them: 124 bytes of "FAMI", then 108
+// bytes of "FAMs" with room for a name of 24 characters. Number, funds, member and name are zero.
+Bytes makeFamilyTemplate();
 
 #endif
