@@ -2,6 +2,7 @@
 #ifndef LIFESTAGE_RANDOM_GENERATOR_H
 #define LIFESTAGE_RANDOM_GENERATOR_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -20,9 +21,16 @@ class RandomGenerator {
 };
 
 // The one generator of the program. The entry seeds it from the clock.
-RandomGenerator& randomGenerator();
+inline RandomGenerator& randomGenerator() {
+    static RandomGenerator generator;
+    return generator;
+}
 
-// The index, below `count`, that a draw from 0 to 32767 picks. Each index has about an equal share of the draws.
-std::size_t pickIndex(int draw, std::size_t count);
+// The index, below `count`, that a draw from 0 to 32767 picks. Each index has about an equal share of the draws. The
+// highest draw would give `count`; it picks the last entry instead.
+constexpr std::size_t pickIndex(int draw, std::size_t count) {
+    constexpr std::size_t highestDraw = 32767;
+    return std::min(count * static_cast<std::size_t>(draw) / highestDraw, count - 1);
+}
 
 #endif
