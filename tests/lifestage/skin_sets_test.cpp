@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 #include "lifestage/random_generator.h"
+#include "platform/letter_case.h"
 #include "tests/support/build_directory.h"
 #include "tests/support/temp_directory.h"
 
@@ -80,8 +80,7 @@ TEST(SkinSetsTest, TheShippedSetsLeadEachChildToAnAdult) {
         for (const std::int32_t stage : {teen, adult}) {
             HeadText skin, mesh;
             ASSERT_EQ(findNextStageHead(stage, head.c_str(), directory.path().c_str(), skin, mesh), 0) << head;
-            head = skin.view();
-            std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
+            head = lowered(skin);
             EXPECT_EQ(head.substr(4, 5), kind);
             EXPECT_TRUE(mesh.view().starts_with(head.substr(0, 6)) && mesh.view().ends_with(",HEAD-HEAD")) << head;
         }

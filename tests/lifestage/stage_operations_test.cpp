@@ -7,7 +7,6 @@
 #include "lifestage/stage_body.h"
 #include "lifestage/teen_to_adult.h"
 #include "sample/wine_prefix.h"
-#include "tests/support/body_slots.h"
 #include "tests/support/machine.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"

@@ -15,10 +15,9 @@ using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 // The maker and the save may not share a table, since the one tests the other.
-static_assert(templateObject == characterTemplate::objectChunk && templateName == characterTemplate::nameChunk &&
-              templateBodyStrings == characterTemplate::bodyStringsChunk &&
-              templateBodyTextSize == characterTemplate::bodyTextSize &&
-              smallestTemplateSize == characterTemplate::smallestSize);
+static_assert(templateObject == characterTemplate::objectChunk && templateName == characterTemplate::nameChunk);
+static_assert(templateBodyStrings == characterTemplate::bodyStringsChunk);
+static_assert(smallestTemplateSize == characterTemplate::smallestSize);
 
 // Id and offset of each chunk of the type, and the offsets of free room.
 std::string placesIn(const IffWalk& walk, const std::string& type) {
@@ -128,8 +127,7 @@ TEST(TemplateTest, SimsSavedFromItAreReadAgainWithAMapAndWithoutOne) {
             EXPECT_EQ(sim.name(), expected.name);
             EXPECT_EQ(readU32Le(sim.guid().bytes()), expected.guid);
             ASSERT_TRUE(sim.bodyStrings() != nullptr && sim.characterTag());
-            for (std::size_t slot = 0; slot < expected.slots.size(); ++slot)
-                EXPECT_EQ(sim.bodyStrings()->slot(static_cast<bodySlot::Index>(slot)), expected.slots[slot]);
+            EXPECT_EQ(slotsOf(*sim.bodyStrings()), expected.slots);
         }
     }
 }

@@ -23,6 +23,14 @@ inline SampleNeighborhood householdOf(const std::vector<SampleCharacter>& charac
     return content;
 }
 
+// The slots as the sample has them, to compare the two.
+inline BodySlots slotsOf(const BodyStrings& body) {
+    BodySlots slots;
+    for (std::size_t i = 0; i < slots.size(); ++i)
+        slots[i] = body.slot(static_cast<bodySlot::Index>(i));
+    return slots;
+}
+
 class TestNeighborhood {
  public:
     // Writes the files, each character under its record name, and reads them.

@@ -1,6 +1,5 @@
 // What the readers find in a file from its stream's cursor on: a tag, and the text of body strings.
-#include "tests/support/body_slots.h"
-#include "tests/support/temp_directory.h"
+#include "tests/support/test_neighborhood.h"
 #include "world/tag_scan.h"
 
 namespace {
