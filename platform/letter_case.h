@@ -9,6 +9,7 @@
 constexpr char lowerCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
+static_assert(lowerCase('A') == 'a' && lowerCase('Z') == 'z' && lowerCase('[') == '[' && lowerCase('\xC4') == '\xC4');
 
 inline std::string lowered(std::string_view text) {
     std::string lower(text);
