@@ -10,7 +10,7 @@
 #undef GetClientRect
 #undef InvalidateRect
 
-HDC beginPaint(HWND window, PAINTSTRUCT* paint) {
+HDC ownBeginPaint(HWND window, PAINTSTRUCT* paint) {
     HDC const dc = BeginPaint(window, paint);
     if (dc == nullptr) return nullptr;
     if (messageFont() != nullptr) SelectObject(dc, messageFont());
@@ -22,32 +22,32 @@ HDC beginPaint(HWND window, PAINTSTRUCT* paint) {
     return dc;
 }
 
-BOOL endPaint(HWND window, const PAINTSTRUCT* paint) {
+BOOL ownEndPaint(HWND window, const PAINTSTRUCT* paint) {
     const BOOL ended = EndPaint(window, paint);
     endLines(window);
     return ended;
 }
 
-BOOL getClientRect(HWND window, RECT* rectangle) {
+BOOL ownGetClientRect(HWND window, RECT* rectangle) {
     if (GetClientRect(window, rectangle) == FALSE) return FALSE;
     *rectangle = toUnits(*rectangle);
     return TRUE;
 }
 
-BOOL invalidateRect(HWND window, const RECT* rectangle, BOOL erase) {
+BOOL ownInvalidateRect(HWND window, const RECT* rectangle, BOOL erase) {
     if (rectangle == nullptr) return InvalidateRect(window, nullptr, erase);
     const RECT place = toPixels(*rectangle);
     return InvalidateRect(window, &place, erase);
 }
 
-int drawText(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format) {
+int ownDrawTextA(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format) {
     RECT place = toPixels(*rectangle);
     if (HWND const window = WindowFromDC(dc); window != nullptr) addLine(window, dc, text, length, place, format);
     const LONG height = DrawTextA(dc, text, length, &place, format);
     return toUnits(RECT{0, 0, 0, height}).bottom;
 }
 
-BOOL bitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation) {
+BOOL ownBitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation) {
     if (GetObjectType(target) == OBJ_MEMDC) {
         return BitBlt(target, x, y, width, height, source, sourceX, sourceY, operation);
     }

@@ -68,7 +68,7 @@ void focusControlOf(HWND window) {
     if (control != nullptr) SetFocus(control);
 }
 
-BOOL translateMessage(MSG* message) {
+BOOL ownTranslateMessage(MSG* message) {
     // A message box may take the keyboard while the message is dispatched.
     if (HWND const focus = GetFocus(); focus != nullptr && GetAncestor(focus, GA_ROOT) != focus) lastFocus = focus;
     // Wine's combo boxes would keep them to themselves.

@@ -5,7 +5,7 @@
 
 #undef MessageBoxA
 
-int showMessageBox(HWND owner, LPCSTR text, LPCSTR title, UINT type) {
+int ownMessageBoxA(HWND owner, LPCSTR text, LPCSTR title, UINT type) {
     InitCommonControls();  // for XP, as with a window
     HWND const focus = GetFocus();
     HCURSOR const cursor = SetCursor(LoadCursorA(nullptr, IDC_ARROW));

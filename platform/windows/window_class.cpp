@@ -46,7 +46,7 @@ LRESULT CALLBACK commonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 }  // namespace
 
-ATOM registerClass(const WNDCLASSEXA* windowClass) {
+ATOM ownRegisterClassExA(const WNDCLASSEXA* windowClass) {
     WNDCLASSEXA common = *windowClass;
     common.lpfnWndProc = commonProcedure;
     const ATOM atom = RegisterClassExA(&common);

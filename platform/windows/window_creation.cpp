@@ -24,8 +24,8 @@ void moveIntoWorkArea(HWND window) {
 
 }  // namespace
 
-HWND createWindow(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
-                  int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) {
+HWND ownCreateWindowExA(DWORD extendedStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y, int width,
+                        int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) {
     // Does nothing itself, but makes Windows load the library. The manifest asks for its controls, and without it XP
     // creates no window and shows no box.
     InitCommonControls();
