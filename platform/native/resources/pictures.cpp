@@ -4,7 +4,6 @@
 #include "platform/native/api/resources.h"
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
-#include "platform/native/resources/dib.h"
 #include "platform/native/resources/resource_file.h"
 
 namespace {
@@ -13,19 +12,27 @@ HandleTable<QImage> bitmaps;
 HandleTable<std::vector<QImage>> icons;
 
 // A group has 2 unused bytes, kind 1 for icons and a count, each of 2 bytes, then 14 bytes for each picture, the last 2
-// of them its number.
+// of them its number. An icon file has the picture's offset there, in 4 bytes.
 constexpr WORD kindIcon = 1;
 constexpr std::size_t entryBeforeNumber = 12;
+constexpr char fileOfOnePicture[] = {0, 0, kindIcon, 0, 1, 0};
+constexpr char offsetInFile[] = {sizeof fileOfOnePicture + entryBeforeNumber + 4, 0, 0, 0};
+
+QByteArrayView viewOf(std::span<const std::uint8_t> bytes) {
+    return {bytes.data(), static_cast<qsizetype>(bytes.size())};
+}
 
 std::vector<QImage> readIconGroup(ResourceBytes group) {
     std::vector<QImage> pictures;
     group.u16();
     if (group.u16() != kindIcon) return {};
     for (WORD left = group.u16(); left > 0 && !group.failed(); --left) {
-        group.take(entryBeforeNumber);
+        const auto entry = group.take(entryBeforeNumber);
         const auto picture = programResources().find(resourceType::icon, group.u16());
         if (group.failed() || !picture.has_value()) continue;
-        const QImage image = readIconDib(ResourceBytes(*picture));
+        QByteArray file(fileOfOnePicture, sizeof fileOfOnePicture);
+        file.append(viewOf(entry)).append(offsetInFile, sizeof offsetInFile).append(viewOf(*picture));
+        const QImage image = QImage::fromData(file, "ico");
         if (!image.isNull()) pictures.push_back(image);
     }
     return pictures;
@@ -39,8 +46,9 @@ std::nullptr_t notFound() {
 HANDLE loadBitmap(LPCSTR name) {
     const auto resource = programResources().find(resourceType::bitmap, resourceId(name));
     if (!resource.has_value()) return notFound();
-    QImage image = readDib(ResourceBytes(*resource));
-    return image.isNull() ? notFound() : bitmaps.add(std::make_unique<QImage>(std::move(image)));
+    const QImage image = QImage::fromData(viewOf(*resource), "dib");
+    if (image.isNull()) return notFound();
+    return bitmaps.add(std::make_unique<QImage>(image.convertToFormat(QImage::Format_RGB32)));
 }
 
 }  // namespace

@@ -17,11 +17,6 @@ std::span<const std::uint8_t> ResourceBytes::take(std::size_t size) {
     return taken;
 }
 
-std::uint8_t ResourceBytes::u8() {
-    const auto b = take(1);
-    return b.empty() ? std::uint8_t{0} : b[0];
-}
-
 std::uint16_t ResourceBytes::u16() {
     const auto b = take(2);
     return b.empty() ? std::uint16_t{0} : readU16Le(b.first<2>());

@@ -19,11 +19,9 @@ class ResourceBytes {
  public:
     explicit ResourceBytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
-    std::uint8_t u8();
     std::uint16_t u16();
     std::int16_t i16() { return static_cast<std::int16_t>(u16()); }
     std::uint32_t u32();
-    std::int32_t i32() { return static_cast<std::int32_t>(u32()); }
 
     std::u16string text();  // up to and including its zero
     std::u16string text(std::size_t length);
@@ -34,7 +32,6 @@ class ResourceBytes {
     // Skips to the next multiple of 4, counted from the first byte. Reaching the end is no failure.
     void align4();
 
-    std::size_t position() const { return at_; }
     std::size_t left() const { return bytes_.size() - at_; }
     bool failed() const { return failed_; }
     void fail();
