@@ -111,6 +111,7 @@ TEST_F(WinePrefixNativeTest, TextsOfTheRegistryAreFoundUnderTheirKeyAndNames) {
         {"then the plain one", plain + "'b'='q'\n" + wow + "'a'='w'\n", "b", "q"},
         {"escapes", plain + "'a\\'b'='\\\\ \\' \\n\\r\\t\\e.'\n", "a\"b", "\\ \" \n\r\te."},
         {"code page", plain + "'a'='\\xe9\\x20ACf\\x00e9\\x65e5\\351\\xg'\n", "a", "\xE9\x80\x66\xE9?\xE9xg"},
+        {"byte order mark", plain + "'a'='\xEF\xBB\xBFx'\n", "a", "?x"},
         {"as long as the buffer", plain + "'a'='" + fits + "'\n", "a", fits},
         {"too long for the buffer", plain + "'a'='x" + fits + "'\n", "a", "-"},
         {"line ends of DOS", "[Software\\\\Maxis\\\\The Sims]\r\n'a'='1'\r\n", "a", "1"},

@@ -16,8 +16,7 @@ std::string text1252FromUtf8(std::string_view utf8);
 
 bool isUtf8(std::string_view text);
 
-// The Unicode number of a byte, and the byte of a Unicode number ("?" if it has none).
-char32_t unicodeFrom1252(std::uint8_t byte);
+// The byte of a Unicode number; "?" if it has none.
 std::uint8_t byte1252FromUnicode(char32_t unicode);
 
 #endif
