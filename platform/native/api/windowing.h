@@ -132,7 +132,8 @@ HWND FindWindowA(LPCSTR className, LPCSTR windowName);
 // the filters, which must be 0.
 BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last);
 
-// Puts a key message's character message, if it has one, in front of the queue.
+// TranslateMessage does nothing: the press of a key with a character comes as WM_CHAR or WM_SYSCHAR in place of
+// WM_KEYDOWN or WM_SYSKEYDOWN.
 BOOL TranslateMessage(const MSG* message);
 LRESULT DispatchMessageA(const MSG* message);
 

@@ -18,7 +18,6 @@ namespace {
 struct KeyEvent {
     QPointer<QWindow> window;
     std::unique_ptr<QEvent> event;
-    bool awaitsCharacter = false;  // a message with the character follows
 };
 
 // By the number in the messages' `lParam`. Keys that accelerators took stay until the next key.
@@ -34,12 +33,6 @@ HWND topLevelOf(const QWindow* window) {
     return nullptr;
 }
 
-UINT messageOf(const QKeyEvent& event) {
-    const bool system = (event.modifiers() & Qt::AltModifier) != 0;
-    if (event.type() == QEvent::KeyPress) return system ? WM_SYSKEYDOWN : WM_KEYDOWN;
-    return system ? WM_SYSKEYUP : WM_KEYUP;
-}
-
 // 0 if the key has no character. With Alt some systems leave the text empty; Qt's code of a printable ASCII key is its
 // character.
 unsigned char characterOf(const QKeyEvent& event) {
@@ -47,6 +40,13 @@ unsigned char characterOf(const QKeyEvent& event) {
     if (text.size() == 1) return static_cast<unsigned char>(text[0]);
     const bool printable = event.key() > Qt::Key_Space && event.key() <= Qt::Key_AsciiTilde;
     return text.empty() && printable ? static_cast<unsigned char>(event.key()) : '\0';
+}
+
+UINT messageOf(const QKeyEvent& event, unsigned char character) {
+    const bool system = (event.modifiers() & Qt::AltModifier) != 0;
+    if (event.type() == QEvent::KeyRelease) return system ? WM_SYSKEYUP : WM_KEYUP;
+    if (character != '\0') return system ? WM_SYSCHAR : WM_CHAR;
+    return system ? WM_SYSKEYDOWN : WM_KEYDOWN;
 }
 
 // Returning such a key to Qt would close a menu that has opened since.
@@ -77,8 +77,9 @@ class KeyWatcher : public QObject {
         if (topLevel == nullptr) return false;
         const auto& key = static_cast<const QKeyEvent&>(*event);
         if (isModifier(key)) return false;
-        keys[++lastKey] = {window, std::unique_ptr<QEvent>(event->clone()), false};
-        postMessage(topLevel, messageOf(key), 0, lastKey);
+        keys[++lastKey] = {window, std::unique_ptr<QEvent>(event->clone())};
+        const unsigned char character = characterOf(key);
+        postMessage(topLevel, messageOf(key, character), character, lastKey);
         return true;
     }
 };
@@ -100,22 +101,10 @@ void watchKeys() {
     qApp->installEventFilter(new KeyWatcher(qApp));
 }
 
-bool translateKey(const MSG& message) {
-    if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
-    const auto found = keys.find(message.lParam);
-    if (found == keys.end()) return false;
-    const unsigned char character = characterOf(static_cast<const QKeyEvent&>(*found->second.event));
-    if (character == '\0') return false;
-    found->second.awaitsCharacter = true;
-    postNextMessage(message.hwnd, message.message == WM_KEYDOWN ? WM_CHAR : WM_SYSCHAR, character, message.lParam);
-    return true;
-}
-
 bool deliverKey(const MSG& message) {
     if (!isKeyMessage(message.message)) return false;
     const auto found = keys.find(message.lParam);
     if (found == keys.end()) return true;
-    if (found->second.awaitsCharacter && message.message != WM_CHAR && message.message != WM_SYSCHAR) return true;
     const KeyEvent key = std::move(found->second);
     keys.erase(keys.begin(), std::next(found));
     returnToQt(key);

@@ -65,8 +65,9 @@ BOOL GetMessageA(MSG* message, HWND, UINT, UINT) {
     return message->message != WM_QUIT ? TRUE : FALSE;
 }
 
-BOOL TranslateMessage(const MSG* message) {
-    return translateKey(*message) ? TRUE : FALSE;
+// A key with a character has come as WM_CHAR already.
+BOOL TranslateMessage(const MSG*) {
+    return FALSE;
 }
 
 LRESULT DispatchMessageA(const MSG* message) {

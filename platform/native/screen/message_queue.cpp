@@ -28,10 +28,6 @@ void postMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     queue.push_back(makeMessage(window, message, wParam, lParam));
 }
 
-void postNextMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    queue.push_front(makeMessage(window, message, wParam, lParam));
-}
-
 bool takeMessage(MSG& message) {
     if (!queue.empty()) {
         message = queue.front();

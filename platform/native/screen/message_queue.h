@@ -9,9 +9,6 @@ MSG makeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 void postMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Puts a message in front of the queue, as the character of a key comes before the next key.
-void postNextMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-
 // Takes the oldest message out of the queue, or WM_QUIT if the queue is empty and PostQuitMessage was called. False if
 // there is neither.
 bool takeMessage(MSG& message);
