@@ -1,14 +1,15 @@
 #include "platform/native/drawing/device_context.h"
 
 #include <QPainter>
+#include <QWidget>
 
 #include "platform/native/api/gdi.h"
 #include "platform/native/api/system.h"
 #include "platform/native/base/handle_table.h"
+#include "platform/native/overlay/overlay.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
-#include "platform/native/windowing/screen_drawing.h"
 #include "platform/native/windowing/window.h"
 
 namespace {
@@ -38,6 +39,22 @@ bool drawOnBitmap(const DeviceContext& context, const QRect& place, const Draw& 
     painter.setClipRect(place);
     draw(painter);
     return true;
+}
+
+// Draws on the program's windows at that place of the screen, the newest on top. Nothing where there is no such window.
+void drawOnScreen(const QRect& place, const Draw& draw) {
+    QRegion left(place);
+    const std::vector<HWND> windows = allWindows();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        const Window* const found = findWindow(*window);
+        if (found->parent() != nullptr || !found->widget()->isVisible()) continue;
+        QWidget& widget = *found->widget();
+        const QPoint origin = -widget.mapToGlobal(QPoint(0, 0));
+        const QRegion there = left.translated(origin) & widget.rect();
+        if (there.isEmpty()) continue;
+        drawOver(widget, there, origin, draw);
+        left -= there.translated(-origin);
+    }
 }
 
 }  // namespace

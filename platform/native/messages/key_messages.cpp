@@ -9,8 +9,8 @@
 #include <memory>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/screen/event_pump.h"
-#include "platform/native/screen/message_queue.h"
+#include "platform/native/events/event_pump.h"
+#include "platform/native/events/message_queue.h"
 #include "platform/native/windowing/window.h"
 
 namespace {

@@ -5,11 +5,11 @@
 #include <QWidget>
 
 #include "platform/native/api/windowing.h"
+#include "platform/native/events/event_pump.h"
+#include "platform/native/events/message_queue.h"
 #include "platform/native/messages/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/display.h"
-#include "platform/native/screen/event_pump.h"
-#include "platform/native/screen/message_queue.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 

@@ -1,15 +1,15 @@
 // The process's entry. Prepares what Windows would have prepared, and calls WinMain.
 #include <string>
 
+#include "platform/native/accessibility/accessible_objects.h"
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/drawing/device_context.h"
+#include "platform/native/events/late_clicks.h"
 #include "platform/native/messages/key_messages.h"
 #include "platform/native/screen/cursor.h"
 #include "platform/native/screen/display.h"
-#include "platform/native/screen/late_clicks.h"
 #include "platform/native/screen/scale.h"
-#include "platform/native/windowing/accessible_objects.h"
 #include "platform/native/windowing/window.h"
 
 int __argc = 0;

@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <QtMath>
 
+#include "platform/native/overlay/overlay.h"
 #include "platform/native/screen/cursor.h"
-#include "platform/native/windowing/screen_drawing.h"
 
 ClientArea::ClientArea(const WindowClass& windowClass, QWidget* frame)
     : QWidget(frame), classStyle_(windowClass.style), hasBackground_(windowClass.background != nullptr) {
@@ -51,7 +51,7 @@ void ClientArea::fill(const QRegion& region) {
 
 void ClientArea::show(const QRegion& drawn) {
     if (drawn.isEmpty()) return;
-    uncoverScreenDrawing(*window(), drawn.translated(mapTo(window(), QPoint(0, 0))));
+    uncover(*window(), drawn.translated(mapTo(window(), QPoint(0, 0))));
     repaint(drawn);
 }
 

@@ -9,7 +9,7 @@
 #include <QRegion>
 #include <QWidget>
 
-#include "platform/native/windowing/spoken_lines.h"
+#include "platform/native/accessibility/spoken_lines.h"
 #include "platform/native/windowing/window_class.h"
 
 class ClientArea : public QWidget {

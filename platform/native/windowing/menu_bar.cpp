@@ -5,8 +5,8 @@
 #include <QShortcut>
 #include <optional>
 
+#include "platform/native/events/message_queue.h"
 #include "platform/native/resources/menu_template.h"
-#include "platform/native/screen/message_queue.h"
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <QWidget>
 
 #include "platform/native/base/qt_text.h"
+#include "platform/native/events/message_queue.h"
 #include "platform/native/resources/pictures.h"
-#include "platform/native/screen/message_queue.h"
 #include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/menu_bar.h"

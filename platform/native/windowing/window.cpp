@@ -6,7 +6,7 @@
 #include "platform/native/api/windowing.h"
 #include "platform/native/base/handle_table.h"
 #include "platform/native/base/qt_text.h"
-#include "platform/native/screen/message_queue.h"
+#include "platform/native/events/message_queue.h"
 
 namespace {
 

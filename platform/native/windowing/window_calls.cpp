@@ -5,10 +5,11 @@
 
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
-#include "platform/native/screen/event_pump.h"
+#include "platform/native/events/event_pump.h"
 #include "platform/native/screen/scale.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
+#include "platform/native/xserver/title_search.h"
 
 namespace {
 
@@ -93,4 +94,15 @@ HWND SetFocus(HWND window) {
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     Window* const found = findWindow(window);
     return found == nullptr ? 0 : found->receive(message, wParam, lParam);
+}
+
+HWND FindWindowA(LPCSTR className, LPCSTR windowName) {
+    if (className != nullptr || windowName == nullptr) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    if (HWND own = findOwnWindow(windowName)) return own;
+    // Callers only learn that another program's window exists, so one handle is enough for all of them.
+    static char foreignWindow;
+    return isTitleOnServer(windowName) ? reinterpret_cast<HWND>(&foreignWindow) : nullptr;
 }

@@ -17,7 +17,7 @@
 #include <algorithm>
 
 #include "platform/native/base/qt_text.h"
-#include "platform/native/screen/event_pump.h"
+#include "platform/native/events/event_pump.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/window.h"
 

@@ -1,4 +1,4 @@
-#include "platform/native/screen/message_queue.h"
+#include "platform/native/events/message_queue.h"
 
 #include <QCursor>
 #include <QElapsedTimer>

@@ -1,4 +1,5 @@
-// FindWindowA: searches the windows of this program, then those of the X server.
+#include "platform/native/xserver/title_search.h"
+
 #include <xcb/xcb.h>
 
 #include <algorithm>
@@ -12,10 +13,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/native/api/system.h"
-#include "platform/native/api/windowing.h"
 #include "platform/native/base/text1252.h"
-#include "platform/native/windowing/window.h"
 
 namespace {
 
@@ -156,26 +154,15 @@ bool hasServerWindow(const std::string& title) {
     return found;
 }
 
+}  // namespace
+
 // Runs on its own thread, because the protocol's library has no time limits. A thread that takes too long is left to
 // itself; it owns all that it uses.
-bool hasServerWindowInTime(const char* title) {
+bool isTitleOnServer(const char* title) {
     const char* display = std::getenv("DISPLAY");
     if (display == nullptr || *display == '\0') return false;
     std::packaged_task<bool()> search([text = std::string(title)] { return hasServerWindow(text); });
     std::future<bool> found = search.get_future();
     std::thread(std::move(search)).detach();
     return found.wait_for(patience) == std::future_status::ready && found.get();
-}
-
-}  // namespace
-
-HWND FindWindowA(LPCSTR className, LPCSTR windowName) {
-    if (className != nullptr || windowName == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
-    if (HWND own = findOwnWindow(windowName)) return own;
-    // Callers only learn that another program's window exists, so one handle is enough for all of them.
-    static char foreignWindow;
-    return hasServerWindowInTime(windowName) ? reinterpret_cast<HWND>(&foreignWindow) : nullptr;
 }

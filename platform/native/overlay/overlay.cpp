@@ -1,12 +1,10 @@
-#include "platform/native/windowing/screen_drawing.h"
+#include "platform/native/overlay/overlay.h"
 
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWidget>
 #include <QtMath>
-
-#include "platform/native/windowing/window.h"
 
 namespace {
 
@@ -18,7 +16,6 @@ class Overlay : public QWidget {
         setAttribute(Qt::WA_NoSystemBackground);
     }
 
-    // `area` is in the window's coordinates; `origin` is the screen's origin in them.
     void draw(const QRegion& area, QPoint origin, const std::function<void(QPainter&)>& draw) {
         coverWindow();
         QPainter painter(&picture_);
@@ -72,24 +69,13 @@ Overlay* overlayOf(const QWidget& window) {
 
 }  // namespace
 
-void drawOnScreen(const QRect& area, const std::function<void(QPainter&)>& draw) {
-    QRegion left(area);
-    const std::vector<HWND> windows = allWindows();
-    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-        const Window* const found = findWindow(*window);
-        if (found->parent() != nullptr || !found->widget()->isVisible()) continue;
-        QWidget& widget = *found->widget();
-        const QPoint origin = -widget.mapToGlobal(QPoint(0, 0));
-        const QRegion there = left.translated(origin) & widget.rect();
-        if (there.isEmpty()) continue;
-        Overlay* overlay = overlayOf(widget);
-        if (overlay == nullptr) overlay = new Overlay(&widget);
-        overlay->draw(there, origin, draw);
-        left -= there.translated(-origin);
-    }
+void drawOver(QWidget& window, const QRegion& area, QPoint origin, const std::function<void(QPainter&)>& draw) {
+    Overlay* overlay = overlayOf(window);
+    if (overlay == nullptr) overlay = new Overlay(&window);
+    overlay->draw(area, origin, draw);
 }
 
-void uncoverScreenDrawing(QWidget& window, const QRegion& drawn) {
+void uncover(QWidget& window, const QRegion& drawn) {
     Overlay* const overlay = overlayOf(window);
     if (overlay != nullptr && !overlay->uncover(drawn)) delete overlay;
 }

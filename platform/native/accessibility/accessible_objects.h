@@ -1,6 +1,6 @@
 // What screen readers are told about this layer's windows beyond what Qt tells them.
-#ifndef PLATFORM_NATIVE_WINDOWING_ACCESSIBLE_OBJECTS_H
-#define PLATFORM_NATIVE_WINDOWING_ACCESSIBLE_OBJECTS_H
+#ifndef PLATFORM_NATIVE_ACCESSIBILITY_ACCESSIBLE_OBJECTS_H
+#define PLATFORM_NATIVE_ACCESSIBILITY_ACCESSIBLE_OBJECTS_H
 
 class QString;
 class QWidget;

@@ -1,6 +1,6 @@
 // The messages that wait for the message loop: what was posted, and the request to quit.
-#ifndef PLATFORM_NATIVE_SCREEN_MESSAGE_QUEUE_H
-#define PLATFORM_NATIVE_SCREEN_MESSAGE_QUEUE_H
+#ifndef PLATFORM_NATIVE_EVENTS_MESSAGE_QUEUE_H
+#define PLATFORM_NATIVE_EVENTS_MESSAGE_QUEUE_H
 
 #include "platform/native/api/windowing.h"
 

@@ -1,4 +1,4 @@
-#include "platform/native/screen/event_pump.h"
+#include "platform/native/events/event_pump.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

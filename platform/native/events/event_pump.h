@@ -1,6 +1,6 @@
 // Runs Qt's events and knows for which purpose.
-#ifndef PLATFORM_NATIVE_SCREEN_EVENT_PUMP_H
-#define PLATFORM_NATIVE_SCREEN_EVENT_PUMP_H
+#ifndef PLATFORM_NATIVE_EVENTS_EVENT_PUMP_H
+#define PLATFORM_NATIVE_EVENTS_EVENT_PUMP_H
 
 #include <QEventLoop>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "platform/native/windowing/spoken_lines.h"
+#include "platform/native/accessibility/spoken_lines.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -7,7 +7,7 @@
 #include <tuple>
 #include <utility>
 
-#include "platform/native/windowing/accessible_objects.h"
+#include "platform/native/accessibility/accessible_objects.h"
 
 namespace {
 

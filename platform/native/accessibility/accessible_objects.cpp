@@ -1,4 +1,4 @@
-#include "platform/native/windowing/accessible_objects.h"
+#include "platform/native/accessibility/accessible_objects.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>

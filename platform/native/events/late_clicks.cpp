@@ -1,4 +1,4 @@
-#include "platform/native/screen/late_clicks.h"
+#include "platform/native/events/late_clicks.h"
 
 #include <QApplication>
 #include <QMouseEvent>
