@@ -1,3 +1,4 @@
+// Apart from the other calls, so that a program that only shows boxes needs nothing to draw with.
 #include "platform/windows/own_calls.h"
 
 // After windows.h, whose types it uses.

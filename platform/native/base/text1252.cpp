@@ -1,6 +1,5 @@
 #include "platform/native/base/text1252.h"
 
-#include <QString>
 #include <QStringDecoder>
 #include <QUtf8StringView>
 #include <algorithm>
@@ -38,11 +37,7 @@ char16_t decoded(std::string_view character) {
 }  // namespace
 
 std::string utf8From1252(std::string_view text) {
-    QString unicode;
-    for (const char c : text) {
-        unicode += QChar(unicodeFrom1252(static_cast<std::uint8_t>(c)));
-    }
-    return unicode.toStdString();
+    return qtText(text).toStdString();
 }
 
 std::string text1252FromUtf8(std::string_view utf8) {
@@ -64,4 +59,20 @@ std::uint8_t byte1252FromUnicode(char32_t unicode) {
     const auto* const found = std::find(highControls.begin(), highControls.end(), unicode);
     if (found == highControls.end()) return '?';
     return static_cast<std::uint8_t>(firstHighControl + (found - highControls.begin()));
+}
+
+QString qtText(std::string_view text) {
+    QString unicode;
+    for (const char c : text) {
+        unicode += QChar(unicodeFrom1252(static_cast<std::uint8_t>(c)));
+    }
+    return unicode;
+}
+
+QString qtText(const char* text) {
+    return text == nullptr ? QString() : qtText(std::string_view(text));
+}
+
+std::string programText(const QString& text) {
+    return text1252FromUtf8(text.toStdString());
 }

@@ -1,7 +1,8 @@
-// Conversion between Windows-1252, the program's encoding, and UTF-8, that of native file names and windows.
+// Conversion between Windows-1252, the program's encoding, and those of native file names, UTF-8, and of Qt.
 #ifndef PLATFORM_NATIVE_BASE_TEXT1252_H
 #define PLATFORM_NATIVE_BASE_TEXT1252_H
 
+#include <QString>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,5 +19,13 @@ bool isUtf8(std::string_view text);
 
 // The byte of a Unicode number; "?" if it has none.
 std::uint8_t byte1252FromUnicode(char32_t unicode);
+
+QString qtText(std::string_view text);
+
+// Null gives an empty text.
+QString qtText(const char* text);
+
+// A character outside the code page becomes "?".
+std::string programText(const QString& text);
 
 #endif

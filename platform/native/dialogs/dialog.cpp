@@ -15,8 +15,8 @@
 #include "platform/native/resources/resource_file.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/screen/scale.h"
-#include "platform/native/windowing/button.h"
 #include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/control.h"
 #include "platform/native/windowing/window.h"
 
 namespace {

@@ -4,7 +4,6 @@
 #include <cstdio>
 
 #include "platform/native/api/controls.h"
-#include "platform/native/base/qt_text.h"
 #include "platform/native/base/text1252.h"
 #include "platform/native/messages/message_loop.h"
 #include "platform/native/screen/display.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/native/api/gdi.h"
-#include "platform/native/base/qt_text.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/drawing/device_context.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/screen/scale.h"

@@ -8,7 +8,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/native/base/qt_text.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/events/event_pump.h"
 #include "platform/native/events/message_queue.h"
 #include "platform/native/windowing/window.h"

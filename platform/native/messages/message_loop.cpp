@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "platform/native/api/gdi.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/events/event_pump.h"
 #include "platform/native/events/message_queue.h"
@@ -74,4 +75,13 @@ LRESULT DispatchMessageA(const MSG* message) {
     if (deliverKey(*message)) return 0;
     return message->hwnd == nullptr ? 0
                                     : SendMessageA(message->hwnd, message->message, message->wParam, message->lParam);
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM, LPARAM) {
+    if (message == WM_CLOSE) DestroyWindow(window);
+    if (message == WM_PAINT) {
+        PAINTSTRUCT paint{};
+        if (BeginPaint(window, &paint) != nullptr) EndPaint(window, &paint);
+    }
+    return 0;
 }

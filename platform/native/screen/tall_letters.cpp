@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "platform/native/base/qt_text.h"
+#include "platform/native/base/text1252.h"
 
 // Measuring draws the letters, and each entry of a list asks, so the answer for the last font is kept.
 int riseOfTallLetters(const QFont& font) {

@@ -11,7 +11,7 @@
 #include <algorithm>
 
 #include "platform/native/api/controls.h"
-#include "platform/native/base/qt_text.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/screen/scale.h"
 #include "platform/native/screen/tall_letters.h"
 

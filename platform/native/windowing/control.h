@@ -1,4 +1,5 @@
-// The base of all controls: a widget in a parent window that is notified of the user's actions.
+// The base of all controls, a widget in a parent window that is notified of the user's actions; and the push button,
+// which needs little more.
 #ifndef PLATFORM_NATIVE_WINDOWING_CONTROL_H
 #define PLATFORM_NATIVE_WINDOWING_CONTROL_H
 
@@ -7,6 +8,8 @@
 #include <QWidget>
 
 #include "platform/native/windowing/window.h"
+
+class QPushButton;
 
 class Control : public Window {
  public:
@@ -23,6 +26,15 @@ class Control : public Window {
 
  private:
     QPointer<QWidget> widget_;
+};
+
+// The "Button" class: a push button.
+class Button : public Control {
+ public:
+    // The letter after "&" in `text` is underlined and presses the button.
+    Button(DWORD style, HWND parent, int id, LPCSTR text, QWidget* area);
+
+    QPushButton& button() const;
 };
 
 // Sends a control's WM_COMMAND to its parent. Takes handles, because the control itself may be gone by now.

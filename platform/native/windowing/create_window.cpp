@@ -6,7 +6,6 @@
 #include "platform/native/api/system.h"
 #include "platform/native/screen/display.h"
 #include "platform/native/screen/scale.h"
-#include "platform/native/windowing/button.h"
 #include "platform/native/windowing/client_area.h"
 #include "platform/native/windowing/combo_box.h"
 #include "platform/native/windowing/top_level_window.h"

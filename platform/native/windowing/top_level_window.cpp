@@ -10,7 +10,7 @@
 #include <QStyle>
 #include <QWidget>
 
-#include "platform/native/base/qt_text.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/events/message_queue.h"
 #include "platform/native/resources/pictures.h"
 #include "platform/native/screen/scale.h"

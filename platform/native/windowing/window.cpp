@@ -5,7 +5,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/api/windowing.h"
 #include "platform/native/base/handle_table.h"
-#include "platform/native/base/qt_text.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/events/message_queue.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Which control of a window has the keyboard. Windows leaves that to each program, except in dialogs.
-#ifndef PLATFORM_WINDOWS_KEYBOARD_H
-#define PLATFORM_WINDOWS_KEYBOARD_H
+#ifndef PLATFORM_WINDOWS_FOCUS_H
+#define PLATFORM_WINDOWS_FOCUS_H
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "platform/windows/keyboard.h"
+#include "platform/windows/focus.h"
 
 #include "platform/windows/own_calls.h"
 
