@@ -1,8 +1,7 @@
 // The part of Win32 that this program calls, under its own names. On Windows these are the system's calls, except for
 // those of own_calls.h. Elsewhere the headers below declare them, each with its contract, and `native/` implements
-// them. Constants have Windows' values and structures its fields, so the same code compiles for both.
-//
-// A message, style or flag that these headers do not list does nothing outside Windows.
+// them. Constants have Windows' values, and structures those of its fields that the program uses, so the same code
+// compiles for both. What these headers don't declare doesn't compile outside Windows.
 #ifndef PLATFORM_WIN32_H
 #define PLATFORM_WIN32_H
 

@@ -26,7 +26,7 @@ struct Controls {
 
 Controls& controls();
 
-// These replace the button's whole style. A button that is disabled passes the keyboard to the Sim combo box. Left
+// These replace the button's whole style. A button that is disabled passes the focus to the Sim combo box. Left
 // alone, Windows would leave it where no key does anything, and Qt would pass it to the neighborhood combo box, where
 // the next key undoes all picks.
 void enableButton(HWND button);

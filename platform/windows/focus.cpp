@@ -20,7 +20,7 @@ HWND neighborOf(HWND control, bool backward) {
     return next != nullptr ? next : GetWindow(control, backward ? GW_HWNDLAST : GW_HWNDFIRST);
 }
 
-// The next control that can have the keyboard: from `control`, or from the ends if that is null. Null if none can.
+// The next control that can have the focus: from `control`, or from the ends if that is null. Null if none can.
 HWND nextControl(HWND window, HWND control, bool backward) {
     HWND const first = GetWindow(window, GW_CHILD);
     HWND const end = backward ? first : neighborOf(first, true);
@@ -54,8 +54,8 @@ bool actOn(const MSG& message) {
         moveFocus(message.hwnd);
         return true;
     }
-    // A wheel that is turned over a control without the keyboard was meant for something else. A combo box would
-    // change its pick. Its open list, which is no control of the window, has no keyboard of its own.
+    // A wheel that is turned over a control without the focus was meant for something else. A combo box would change
+    // its pick. Its open list, which is no control of the window, never has the focus.
     const bool isControl = GetAncestor(message.hwnd, GA_ROOT) != message.hwnd;
     return message.message == WM_MOUSEWHEEL && isControl && message.hwnd != GetFocus();
 }
@@ -69,7 +69,7 @@ void focusControlOf(HWND window) {
 }
 
 BOOL ownTranslateMessage(MSG* message) {
-    // A message box may take the keyboard while the message is dispatched.
+    // A message box may take the focus while the message is dispatched.
     if (HWND const focus = GetFocus(); focus != nullptr && GetAncestor(focus, GA_ROOT) != focus) lastFocus = focus;
     // Wine's combo boxes would keep them to themselves.
     if (isWindowKey(*message)) message->hwnd = GetAncestor(message->hwnd, GA_ROOT);

@@ -1,11 +1,10 @@
-// Which control of a window has the keyboard. Windows leaves that to each program, except in dialogs.
+// Which control of a window has the focus. Windows leaves that to each program, except in dialogs.
 #ifndef PLATFORM_WINDOWS_FOCUS_H
 #define PLATFORM_WINDOWS_FOCUS_H
 
 #include <windows.h>
 
-// Hands the keyboard, which `window` itself has been given, on to the control that had it last, or else to the first
-// one that can have it.
+// For a window that has the focus itself: passes it to the control that last had it, or else to the first that can.
 void focusControlOf(HWND window);
 
 #endif

@@ -1,8 +1,8 @@
 // Our own versions of some of Windows' calls. platform/win32.h replaces the names of Windows with these, so that
 // callers are the same on every system.
 //
-// Places and sizes in windows are in units. A unit is a pixel unless the user has chosen a large message font: then it
-// is as much larger as keeps every text within the room that it has at the usual size, if the screen holds that.
+// Places and sizes in windows are in units. A unit is one pixel at the default message font. With a larger font it
+// grows in proportion, up to what fits the screen.
 #ifndef PLATFORM_WINDOWS_OWN_CALLS_H
 #define PLATFORM_WINDOWS_OWN_CALLS_H
 
@@ -13,9 +13,9 @@
 // administrators get full access below HKEY_LOCAL_MACHINE.
 LSTATUS ownRegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD options, REGSAM access, HKEY* result);
 
-// RegisterClassExA. Windows of the class hand the keyboard on to the control that had it last, at first to the first
-// one. A resizable one stays large enough for the program's controls. The lists of combo boxes in it open as wide as
-// their longest entry.
+// RegisterClassExA. When a window of the class is activated, focus returns to the control that last had it, initially
+// the first. A resizable window can't be made too small for the controls of the main window. The lists of combo boxes
+// open as wide as their longest entry.
 ATOM ownRegisterClassExA(const WNDCLASSEXA* windowClass);
 
 // CreateWindowExA, in units. Controls get the user's message font instead of the bitmap font that they start with.
@@ -41,7 +41,7 @@ int ownDrawTextA(HDC dc, LPCSTR text, int length, RECT* rectangle, UINT format);
 BOOL ownBitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY, DWORD operation);
 
 // TranslateMessage. Tab and Shift+Tab go from control to control, in the order of their creation. F10 and Alt+F4 go to
-// the window, which opens its menu or closes. The mouse wheel reaches a control only while that has the keyboard. A
+// the window, which opens its menu or closes. The mouse wheel reaches a control only while that has the focus. A
 // message that is used up becomes WM_NULL.
 BOOL ownTranslateMessage(MSG* message);
 

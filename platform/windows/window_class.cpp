@@ -27,7 +27,7 @@ WNDPROC procedureOf(HWND window) {
     return std::ranges::find(classes, atom, &OwnClass::atom)->procedure;
 }
 
-// The user can't make a window smaller than that, and Windows doesn't.
+// Limits how small a resizable window can be made, by the user or by Windows.
 void limitSize(HWND window, MINMAXINFO& sizes) {
     const auto style = static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
     if ((style & WS_THICKFRAME) == 0) return;

@@ -48,10 +48,10 @@ TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxI
     MessageBoxA(window_, "text", "title", MB_OK);
     runMessages();
     EXPECT_EQ(takeLog(), Log{});
-    EXPECT_EQ(QApplication::activeWindow(), findWindow(window_)->widget()) << "the box gives the keyboard back";
+    EXPECT_EQ(QApplication::activeWindow(), findWindow(window_)->widget()) << "the box gives the focus back";
 }
 
-TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheKeyboardIsAndF10OpensTheFirstMenu) {
+TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheFocusIsAndF10OpensTheFirstMenu) {
     HWND const combo = addCombo({"a", "b", "c"}), button = addButton(2010);
     QWidget& box = *findWindow(combo)->widget();
     const auto turnWheel = [&box] {
@@ -158,7 +158,7 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
             EXPECT_NE(control->visibleRegion(), QRegion(control->rect()));
             control->setFocus();
             runMessages();
-            EXPECT_EQ(control->visibleRegion(), QRegion(control->rect())) << "the keyboard brings it into view";
+            EXPECT_EQ(control->visibleRegion(), QRegion(control->rect())) << "the focus brings it into view";
         }
         QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Down, Qt::ControlModifier);
         EXPECT_TRUE(combo.visibleRegion().isEmpty()) << "and keys scroll";

@@ -172,7 +172,7 @@ TEST_F(MainWindowTest, TakesAChildToItsOwnHouseholdAndAsksBeforeThatIsLost) {
         pick(0, 0, 3);
         clickButton(all.childToTeenButton);
         EXPECT_EQ(enabled(), "Teen to Adult");
-        EXPECT_EQ(GetFocus(), all.simCombo) << "the keyboard stays near";
+        EXPECT_EQ(GetFocus(), all.simCombo) << "the focus stays near";
         clickButton(all.teenToAdultButton);
         EXPECT_EQ(enabled(), "Move Out");
         clickButton(all.moveOutButton);

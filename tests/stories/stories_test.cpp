@@ -182,7 +182,7 @@ class Stories : public testing::Test {
     std::string window_;
     int windowHeight_ = 0, clientTop_ = 0;
     bool byKeys_ = false;
-    enum Stop { firstList, lastList = 2, enabledButton } focus_ = firstList;  // of the keyboard
+    enum Stop { firstList, lastList = 2, enabledButton } focus_ = firstList;
 };
 
 TEST_F(Stories, AnEveningOfPlayByKeysAlone) {

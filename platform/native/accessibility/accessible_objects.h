@@ -5,11 +5,11 @@
 class QString;
 class QWidget;
 
-// From now on a top-level window has the role of one. A combo box keeps its name, and its pick is its value and text;
-// Qt's own would be called by the pick.
+// From now on top-level windows have the role of a window, and a combo box has its pick as value and text. With Qt's
+// own description, the pick would take the place of the combo box's name.
 void describeWindowsToScreenReaders();
 
-// Has `text` spoken once, wherever the keyboard is. Does nothing if it is empty.
+// Has `text` spoken once, wherever the focus is. Does nothing if it is empty.
 void announce(QWidget& window, const QString& text);
 
 #endif

@@ -104,7 +104,7 @@ void SpokenLines::nameComboBoxes(const QWidget& client) {
     }
 }
 
-// The new pick of the combo box that has the keyboard; empty if there is none.
+// The new pick of the combo box that has the focus; empty if there is none.
 QString SpokenLines::takePick(const QWidget& client) {
     QString picked;
     for (const QComboBox* const combo : comboBoxesIn(client)) {

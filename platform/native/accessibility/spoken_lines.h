@@ -1,5 +1,5 @@
 // The lines of text that the program draws into a window, as objects for screen readers. A line drawn to the left of a
-// combo box is that box's label. Changes of the others are announced, wherever the keyboard is, and so is a new pick,
+// combo box is that box's label. Changes of the others are announced, wherever the focus is, and so is a new pick,
 // which screen readers would notice in a list only.
 #ifndef PLATFORM_NATIVE_ACCESSIBILITY_SPOKEN_LINES_H
 #define PLATFORM_NATIVE_ACCESSIBILITY_SPOKEN_LINES_H

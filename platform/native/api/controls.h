@@ -1,6 +1,6 @@
 // The controls' styles and messages, message boxes and dialogs. A combo box is a QComboBox, a button a QPushButton, a
 // message box a QMessageBox, and what isn't said here is as Qt has it. The wheel changes a combo box only while that
-// has the keyboard. Screen readers call it by the label to its left.
+// has the focus. Screen readers call it by the label to its left.
 #ifndef PLATFORM_NATIVE_API_CONTROLS_H
 #define PLATFORM_NATIVE_API_CONTROLS_H
 

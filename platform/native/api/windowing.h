@@ -111,8 +111,8 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // out: every index but GWL_STYLE.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
-// The control that has the keyboard or, while another program has it, the newest window's that will have it then; null
-// for none. SetFocus passes the keyboard to a control and returns the one that had it.
+// GetFocus returns the control with the focus. While another program has it, that is the control that gets it back with
+// the newest window. Null if there is none. SetFocus passes the focus to a control and returns the one that had it.
 HWND GetFocus();
 HWND SetFocus(HWND window);
 

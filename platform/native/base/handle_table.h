@@ -1,4 +1,4 @@
-// Handles are numbers that no two objects ever share, so an old handle, or one of another kind, is recognised as
+// Handles are numbers that no two objects ever share, so an old handle, or one of another kind, is recognized as
 // invalid.
 #ifndef PLATFORM_NATIVE_BASE_HANDLE_TABLE_H
 #define PLATFORM_NATIVE_BASE_HANDLE_TABLE_H

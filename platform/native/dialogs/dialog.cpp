@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr DWORD alignment = 0x3;  // of a static text: left, centre, right, or an icon instead
+constexpr DWORD alignment = 0x3;  // of a static text: left, center, right, or an icon instead
 constexpr DWORD iconInPlace = 0x3;
 constexpr DWORD defaultButton = 0x1;  // of a button's style
 constexpr DWORD buttonKind = 0xF;

@@ -5,8 +5,8 @@
 #include <QEventLoop>
 #include <functional>
 
-// What Qt's events are run for at present: nothing (the program computes), GetMessageA, a box that waits for its
-// answer, or windows that come to the screen.
+// Who runs Qt's events: nobody while the program computes, GetMessageA, a box that waits for its answer, or a call that
+// brings windows to the screen.
 enum class Loop { none, messages, modal, screen };
 Loop innermostLoop();
 

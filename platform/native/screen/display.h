@@ -1,7 +1,9 @@
 // The screen that Qt draws on, or its absence.
 //
-// Qt ends the process if it can't open the screen that it should use. So each candidate is tried first: its plugin must
-// load and its server must answer.
+// Qt ends the process if it can open none of the platforms that it is given, so those that need a server are tried
+// first: the plugin must load and the server must answer. Platforms that draw directly on hardware can't be tried and
+// aren't used. Qt's own fallback to "offscreen" is no way out: it loads the desktop's theme all the same, and GTK's
+// ends the process if there is no screen.
 #ifndef PLATFORM_NATIVE_SCREEN_DISPLAY_H
 #define PLATFORM_NATIVE_SCREEN_DISPLAY_H
 

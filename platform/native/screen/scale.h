@@ -11,12 +11,12 @@
 // Takes the scale from the application's font: 1, or more for a large one. Windows that exist keep their places.
 void updateScale();
 
-// Rounded to the nearest pixel; neighbouring rectangles stay neighbours.
+// Rounded to the nearest pixel; neighboring rectangles stay neighbors.
 int toPixels(int units);
 QSize toPixels(const QSize& units);
 QRect toPixels(const QRect& units);
 
-// Counts a unit of which a part lies in these pixels.
+// Rounds up: a partly covered unit counts.
 int toUnits(int pixels);
 
 // The smallest rectangle of whole units around these pixels.

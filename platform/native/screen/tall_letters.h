@@ -4,8 +4,8 @@
 
 #include <QFont>
 
-// How many pixels the tallest letters of Windows-1252 rise above the font's ascent. Qt leaves them no room, so what
-// clips lines of text must.
+// Returns by how many pixels the tallest letters of Windows-1252 exceed the font's ascent. Qt's line heights don't
+// include them, so a line that is clipped needs that much more room at its top.
 int riseOfTallLetters(const QFont& font);
 
 #endif

@@ -40,7 +40,7 @@ class Entry : public QStyledItemDelegate {
     }
 };
 
-// The wheel changes the pick only where the keyboard is: elsewhere a player would lose his picks by scrolling over
+// The wheel changes the pick only where the focus is: elsewhere a player would lose his picks by scrolling over
 // them. The list opens as wide as its longest entry, if the screen is; Qt moves it to the left where that takes it.
 class Box : public QComboBox {
  public:
@@ -106,7 +106,7 @@ LRESULT ComboBox::addString(const char* text) {
 LRESULT ComboBox::deleteString(WPARAM index) {
     if (index >= static_cast<WPARAM>(box().count())) return CB_ERR;
     const int row = static_cast<int>(index);
-    // Qt would select a neighbour of a deleted entry.
+    // Qt would select a neighbor of a deleted entry.
     if (row == box().currentIndex()) box().setCurrentIndex(-1);
     box().removeItem(row);
     return box().count();

@@ -17,7 +17,7 @@ void show(Window& window) {
     QWidget& widget = *window.widget();
     widget.show();
     if (window.clientArea() == nullptr) return;
-    // Activates the window in case there is no window manager. A splash window takes no keyboard.
+    // Activates the window in case there is no window manager. A splash window takes no focus.
     if (widget.windowType() != Qt::SplashScreen) widget.activateWindow();
     waitForScreen([&widget] { return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed(); });
 }
