@@ -7,7 +7,7 @@
 
 namespace {
 
-// What the windows have room for at a scale of 1: a label of 21 letters is 150 pixels wide, a line 20 pixels high.
+// What the main window has room for at a scale of 1: its longest label, of 21 letters, has 150 pixels, a line 20.
 constexpr double widestLetters = 7;  // on average, in plain text
 constexpr double highestLine = 20;
 

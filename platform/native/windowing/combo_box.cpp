@@ -17,7 +17,7 @@
 
 namespace {
 
-// Windows' combo boxes are no higher, and programs place them 30 pixels apart.
+// Windows' combo boxes are no higher, and the main window has them 30 units apart.
 constexpr int greatestClosedHeight = 28;  // units
 
 // Shows a list with a scroll bar below the box, as high as the program asked for. Many styles would show a menu that

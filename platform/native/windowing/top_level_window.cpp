@@ -19,7 +19,7 @@
 
 namespace {
 
-// The size of the client area for CW_USEDEFAULT, in units, if the screen has room for it.
+// The main window's client area, in units: the size for CW_USEDEFAULT if the screen has room for it, and the smallest.
 constexpr QSize defaultClientSize(560, 430);
 constexpr QSize smallestDefaultClientSize(480, 400);
 
