@@ -61,6 +61,34 @@ on_display() (
     "$@"
 )
 
+# wait_until_drawn WINDOW: until its picture has several colors and stays the same, for 10 seconds at most.
+wait_until_drawn() {
+    local before='' now='' tries
+    for ((tries = 0; tries < 100; ++tries)); do
+        now=$(import -window "$1" -format '%k %#' info: 2>/dev/null || true)
+        [[ -z $now || $now = '1 '* || $now != "$before" ]] || return 0
+        before=$now
+        sleep 0.1
+    done
+    echo "The window should be drawn within 10 seconds and isn't"
+    return 1
+}
+
+count_windows() { xdotool search --maxdepth 1 --onlyvisible --name '' 2>/dev/null | wc -l; }
+
+# press_menu_key WINDOW KEY LETTER: opens the window's menu with the key, and presses the letter once the menu is there.
+press_menu_key() {
+    local before tries
+    before=$(count_windows)
+    xdotool windowfocus --sync "$1" key "$2"
+    for ((tries = 0; tries < 100; ++tries)); do
+        [ "$(count_windows)" -le "$before" ] || { xdotool key "$3" && return; }
+        sleep 0.1
+    done
+    echo "The menu should open within 10 seconds and doesn't"
+    return 1
+}
+
 # note_sum NAME PASSED FAILED: what .ci/run adds up.
 note_sum() {
     mkdir -p build/results
