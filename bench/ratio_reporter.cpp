@@ -15,7 +15,7 @@ const struct {
     {"a save with one changed Sim / copying the same bytes as often, as durably", "saveOneSim",
      "copySavedBytesDurably"},
     {"a save with one changed Sim / copying the same bytes as often", "saveOneSim", "copySavedBytes"},
-    {"from the start to the main window / to a bare Qt window", "startProgram/manual_time",
+    {"from the start to the main window / to a plain Qt program's with the same contents", "startProgram/manual_time",
      "startBareWindow/manual_time"},
     {"10 neighborhoods / 1", "loadNeighborhoods/10", "loadNeighborhoods/1"},
     {"100 neighborhoods / 1", "loadNeighborhoods/100", "loadNeighborhoods/1"},

@@ -1,5 +1,5 @@
 // The start of the program on the sample installation, from its execution to its main window on an X server of its own,
-// against the start of a program that has nothing but a window.
+// against the start of a plain Qt program with the same contents.
 #include <benchmark/benchmark.h>
 
 #include <signal.h>
