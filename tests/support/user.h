@@ -27,7 +27,7 @@ void closeWindow(HWND window);
 
 enum class Hold { nothing, alt, altShift };
 
-// Presses and releases the key of a printable ASCII character while `window` has the keyboard.
+// Presses and releases the key of a printable ASCII character while `window` has the focus.
 void pressKey(HWND window, char character, Hold hold = Hold::nothing);
 
 // Runs `action` once the program's message loop has nothing to do; several run in their order, one each time.
