@@ -2,6 +2,8 @@
 
 #include <io.h>
 
+#include <algorithm>
+
 #include "platform/win32.h"
 #include "platform/windows/file_held.h"
 
@@ -45,6 +47,19 @@ bool queryFileStatus(const char* path, FileStatus& status) {
     status.mode = writable ? writableFileMode : readOnlyFileMode;
     status.size = static_cast<std::int64_t>(found.nFileSizeHigh) << 32 | found.nFileSizeLow;
     return true;
+}
+
+std::vector<std::string> fileNamesIn(const char* directory) {
+    std::vector<std::string> names;
+    WIN32_FIND_DATAA found{};
+    const HANDLE search = FindFirstFileA((std::string(directory) + "\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
+    } while (FindNextFileA(search, &found));
+    FindClose(search);
+    std::ranges::sort(names);
+    return names;
 }
 
 bool isSameFile(const char* first, const char* second) {

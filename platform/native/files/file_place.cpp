@@ -10,7 +10,7 @@
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
 #include "platform/native/files/file_stream.h"
-#include "platform/native/files/permissions.h"
+#include "platform/native/files/path_status.h"
 
 namespace {
 

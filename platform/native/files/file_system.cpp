@@ -14,9 +14,8 @@
 #include "platform/native/api/system.h"
 #include "platform/native/base/last_error.h"
 #include "platform/native/base/text1252.h"
-#include "platform/native/files/path_error.h"
+#include "platform/native/files/path_status.h"
 #include "platform/native/files/paths.h"
-#include "platform/native/files/permissions.h"
 
 namespace {
 

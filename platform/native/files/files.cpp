@@ -1,5 +1,6 @@
 #include "platform/files.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,10 +12,10 @@
 
 #include "platform/native/api/file_system.h"
 #include "platform/native/api/system.h"
+#include "platform/native/base/text1252.h"
 #include "platform/native/files/file_stream.h"
-#include "platform/native/files/path_error.h"
+#include "platform/native/files/path_status.h"
 #include "platform/native/files/paths.h"
-#include "platform/native/files/permissions.h"
 
 namespace {
 
@@ -64,6 +65,18 @@ bool queryFileStatus(const char* path, FileStatus& status) {
         status = {writable ? writableFileMode : readOnlyFileMode, found.st_size};
     }
     return true;
+}
+
+std::vector<std::string> fileNamesIn(const char* directory) {
+    std::vector<std::string> names;
+    DIR* const entries = opendir(nativePath(directory).c_str());
+    if (entries == nullptr) return names;
+    while (const dirent* entry = readdir(entries)) {
+        if (entry->d_type != DT_DIR) names.push_back(text1252FromUtf8(entry->d_name));
+    }
+    closedir(entries);
+    std::ranges::sort(names);
+    return names;
 }
 
 bool isSameFile(const char* first, const char* second) {

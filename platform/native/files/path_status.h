@@ -1,10 +1,14 @@
-// Windows' attribute "read-only", derived from the system's permissions.
-#ifndef PLATFORM_NATIVE_FILES_PERMISSIONS_H
-#define PLATFORM_NATIVE_FILES_PERMISSIONS_H
+// What the system says of a path: why a call on it failed, and who may write there.
+#ifndef PLATFORM_NATIVE_FILES_PATH_STATUS_H
+#define PLATFORM_NATIVE_FILES_PATH_STATUS_H
 
 #include <sys/stat.h>
 
 struct NativePath;
+
+// Sets the last error from the `errno` of a call on `path`. Windows distinguishes a missing file from a missing
+// directory on the way to it, so ENOENT makes this look for the directory.
+void setPathError(int error, const NativePath& path);
 
 // Whether the file or directory has no write permission at all. Root may write it all the same; on Windows no user may,
 // so this layer refuses it.
