@@ -10,7 +10,7 @@
 class FilePlace {
  public:
     // Whether `rename` replaces a file in one step, as a rule.
-    static const bool renameReplaces;
+    static bool renameReplaces();
 
     explicit FilePlace(const char* path);
     FilePlace(const FilePlace&) = delete;

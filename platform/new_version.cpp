@@ -54,7 +54,7 @@ bool NewVersion::setAside() {
 bool NewVersion::giveName() {
     const FilePlace& place = state_->place;
     const bool wasAside = state_->hasAside;
-    bool isNamed = (wasAside || FilePlace::renameReplaces) && place.rename(state_->part, place.name());
+    bool isNamed = (wasAside || FilePlace::renameReplaces()) && place.rename(state_->part, place.name());
     if (!isNamed && !wasAside) isNamed = setAside() && place.rename(state_->part, place.name());
     if (!isNamed) {
         const DWORD error = GetLastError();

@@ -6,7 +6,7 @@
 #include <span>
 
 struct ContentSum {
-    std::int64_t size = 0;      // in bytes
+    std::int64_t size = 0;       // in bytes
     std::uint32_t checksum = 0;  // CRC-32, as in zip files
 
     void add(std::span<const std::uint8_t> bytes);

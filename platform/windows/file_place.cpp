@@ -8,7 +8,9 @@
 #include "platform/windows/file_held.h"
 
 // A file that anyone has open can't be replaced, only renamed.
-const bool FilePlace::renameReplaces = false;
+bool FilePlace::renameReplaces() {
+    return false;
+}
 
 // A name is a whole path here, so that the working directory doesn't matter.
 FilePlace::FilePlace(const char* path) {

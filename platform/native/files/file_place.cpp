@@ -31,7 +31,9 @@ void takeModeAndGroup(std::FILE* file, const char* model) {
 
 }  // namespace
 
-const bool FilePlace::renameReplaces = true;
+bool FilePlace::renameReplaces() {
+    return true;
+}
 
 FilePlace::FilePlace(const char* path) {
     const std::string file = nativePath(path);
