@@ -3,12 +3,7 @@
 
 #include <sddl.h>
 
-#include <algorithm>
-#include <array>
-
-#include "platform/files.h"
 #include "tests/platform/window_test.h"
-#include "tests/support/temp_directory.h"
 
 namespace {
 
@@ -37,16 +32,6 @@ class OwnCallsWindowsTest : public WindowTest {
     static inline Log heard_;
 };
 
-TEST_F(OwnCallsWindowsTest, AControlHasTheFontOfMessages) {
-    NONCLIENTMETRICSA metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    HWND const button = addButton(1);
-    LOGFONTA font{};
-    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(button, WM_GETFONT, 0, 0)), sizeof font, &font);
-    EXPECT_STREQ(font.lfFaceName, metrics.lfMessageFont.lfFaceName);
-}
-
 TEST_F(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
     constexpr const char* path = "Software\\Tidewright's test";
     HKEY key = nullptr;
@@ -60,27 +45,6 @@ TEST_F(OwnCallsWindowsTest, AKeyThatRefusesAllAccessIsRead) {
     EXPECT_EQ(RegOpenKeyExA(HKEY_LOCAL_MACHINE, path, 0, KEY_ALL_ACCESS, &key), ERROR_SUCCESS);
     EXPECT_EQ(RegSetValueExA(key, "x", 0, REG_SZ, nullptr, 0), ERROR_ACCESS_DENIED);
     RegCloseKey(key);
-}
-
-DWORD WINAPI closeInAMoment(void* handle) {
-    Sleep(200);
-    CloseHandle(handle);
-    return 0;
-}
-
-TEST_F(OwnCallsWindowsTest, AFileIsMadeAgainOnceNoProgramHoldsTheDeletedOne) {
-    const TempDirectory directory;
-    directory.write("live.iff", "old");
-    const std::string path = directory.path("live.iff");
-    HANDLE const scanner = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                                       OPEN_EXISTING, 0, nullptr);
-    EXPECT_TRUE(DeleteFileA(path.c_str()));
-    HANDLE const closing = CreateThread(nullptr, 0, closeInAMoment, scanner, 0, nullptr);
-    std::FILE* const file = openFile(path.c_str(), "wb");
-    EXPECT_NE(file, nullptr);
-    WaitForSingleObject(closing, INFINITE);
-    CloseHandle(closing);
-    if (file != nullptr) std::fclose(file);
 }
 
 TEST_F(OwnCallsWindowsTest, KeysReachEveryControlAndTheWheelOnlyTheOneThatHasThem) {
@@ -146,22 +110,6 @@ TEST_F(OwnCallsWindowsTest, ADrawnLineIsAStaticTextBeforeTheControlBehindItAndSa
     EXPECT_EQ(textsWith(""), "Pick:|a|One|");
 }
 
-TEST_F(OwnCallsWindowsTest, TextsHaveTheUsersColors) {
-    constexpr std::array elements{COLOR_WINDOW, COLOR_WINDOWTEXT};
-    const std::array usual{GetSysColor(COLOR_WINDOW), GetSysColor(COLOR_WINDOWTEXT)};
-    constexpr std::array chosen{RGB(0, 0, 64), RGB(255, 255, 64)};
-    SetSysColors(2, elements.data(), chosen.data());
-    paint_ = [](HDC dc) {
-        RECT place{10, 10, 400, 30};
-        DrawTextA(dc, "Name: IIII", -1, &place, 0);
-    };
-    InvalidateRect(window_, nullptr, TRUE);
-    const Picture seen = pictureOf(window_);
-    SetSysColors(2, elements.data(), usual.data());
-    EXPECT_GT(std::ranges::count(seen.pixels, 0xFFFF40U), 0);
-    EXPECT_EQ(std::ranges::count(seen.pixels, 0xFFFFFFU), 0) << "they lie on the window's color";
-}
-
 TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull) {
     NONCLIENTMETRICSA usual{};
     usual.cbSize = sizeof usual;
@@ -180,7 +128,11 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
         RECT whole{}, client{};
         GetWindowRect(window_, &whole);
         EXPECT_TRUE(whole.right <= GetSystemMetrics(SM_CXSCREEN) && whole.bottom <= GetSystemMetrics(SM_CYSCREEN));
-        const RECT place = placeOf(addButton(1));
+        HWND const control = addButton(1);
+        LOGFONTA font{};
+        GetObjectA(reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)), sizeof font, &font);
+        EXPECT_STREQ(font.lfFaceName, face);
+        const RECT place = placeOf(control);
         const double unit = place.bottom / 330.0;
         EXPECT_GE(unit, smallest);
         EXPECT_NEAR(place.left, 10 * unit, 1);

@@ -74,12 +74,26 @@ TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
     EXPECT_EQ(bare("\xC5\x8A"), bare("\n\xC5\x8A")) << "the first line has room for tall letters too";
 }
 
+TEST_F(WindowingTest, TextsHaveTheUsersColors) {
+    paint_ = [](HDC dc) {
+        RECT place{10, 10, 400, 30};
+        DrawTextA(dc, "Name: IIII", -1, &place, 0);
+    };
+    chooseColors(0x000040, 0xFFFF40);
+    runMessages();
+    const Picture seen = pictureOf(window_);
+    chooseColors(0xFFFFFF, 0x000000);
+    EXPECT_EQ(seen.at(0, 0), 0x000040U);
+    EXPECT_GT(std::ranges::count(seen.pixels, 0xFFFF40U), 0);
+    EXPECT_EQ(std::ranges::count(seen.pixels, 0xFFFFFFU), 0) << "they lie on the window's color";
+}
+
 TEST_F(WindowingTest, APickByMouseOrKeyIsReportedAndADeletionIsNot) {
     HWND const box = addCombo({"a", "Q&A", "/ caf\xE9 \x80"});
     pickEntry(box, 1);
     pickEntry(box, 1);
-    later([&] { pressKey(window_, '/'); });  // an accelerator's key too, but with Alt only
-    runMessages(nullptr, window_, LoadAcceleratorsA(nullptr, MAKEINTRESOURCEA(IDR_MAIN_ACCELERATORS)));
+    later([&] { pressKey(window_, '/'); });
+    runMessages();
     Log seen = takeLog();
     std::erase(seen, "paint");  // Windows asks for what the list covered
     EXPECT_EQ(seen, (Log{"create", "command 7 1", "command 7 1", "command 7 1"}));

@@ -46,12 +46,11 @@ void later(std::function<void()> action) {
     actions.push_back(std::move(action));
 }
 
-bool runMessages(int* exitCode, HWND window, HACCEL accelerators) {
+bool runMessages(int* exitCode) {
     constexpr int quiet = 0x51E7;  // no code of a test's own
     later([] { PostQuitMessage(quiet); });
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (accelerators != nullptr && TranslateAcceleratorA(window, accelerators, &message) != 0) continue;
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }

@@ -25,7 +25,10 @@ bool chooseMenu(HWND window, std::initializer_list<const char*> path);
 // Asks the window to close, as its close button does. A message loop delivers it.
 void closeWindow(HWND window);
 
-enum class Hold { nothing, alt, altShift };
+// Changes the colors of all windows and their texts, 0xRRGGBB, in the settings of the desktop.
+void chooseColors(std::uint32_t window, std::uint32_t letters);
+
+enum class Hold { nothing, altShift };
 
 // Presses and releases the key of a printable ASCII character while `window` has the focus.
 void pressKey(HWND window, char character, Hold hold = Hold::nothing);
@@ -33,9 +36,9 @@ void pressKey(HWND window, char character, Hold hold = Hold::nothing);
 // Runs `action` once the program's message loop has nothing to do; several run in their order, one each time.
 void later(std::function<void()> action);
 
-// Runs a message loop, as the program's own, until nothing waits in it, or until PostQuitMessage. Returns whether that
-// was called, and gives its code. With a window and a table it translates accelerators.
-bool runMessages(int* exitCode = nullptr, HWND window = nullptr, HACCEL accelerators = nullptr);
+// Runs a message loop until nothing waits in it, or until PostQuitMessage. Returns whether that was called, and gives
+// its code.
+bool runMessages(int* exitCode = nullptr);
 
 // A message box or dialog that the user answers, once it has shown.
 struct Box {
@@ -44,7 +47,7 @@ struct Box {
     bool shown = false;
     std::string title = {};
     std::string text = {};                  // of a dialog: its lines, with a line break between them
-    std::vector<std::string> buttons = {};  // from left to right, without the "&"
+    std::vector<std::string> buttons = {};  // without the "&"
 };
 using AnsweredBox = std::shared_ptr<const Box>;
 

@@ -36,13 +36,6 @@ QString withoutMarks(QString text) {
     return text.remove('&');
 }
 
-// From left to right.
-QList<QPushButton*> buttonsOf(const QWidget& box) {
-    QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
-    std::sort(buttons.begin(), buttons.end(), [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
-    return buttons;
-}
-
 bool boxIsOpen() {
     return innermostLoop() == Loop::modal && QApplication::activeModalWidget() != nullptr;
 }
@@ -70,14 +63,14 @@ void lookAtBox(Box& seen) {
     for (const QLabel* const label : box.findChildren<QLabel*>())
         if (label->textFormat() == Qt::PlainText) lines.append(label->text());  // others may not show what they hold
     seen.text = programText(lines.join('\n'));
-    for (const QPushButton* const button : buttonsOf(box))
+    for (const QPushButton* const button : box.findChildren<QPushButton*>())
         seen.buttons.push_back(programText(withoutMarks(button->text())));
 }
 
 void answerBox(int answer) {
     const QWidget& box = *QApplication::activeModalWidget();
     const QString wanted = answer == IDOK ? "OK" : "Cancel";
-    for (QPushButton* const button : buttonsOf(box))
+    for (QPushButton* const button : box.findChildren<QPushButton*>())
         if (answer != answerByEscape && withoutMarks(button->text()) == wanted)
             return click(*button, button->rect().center());
     QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
@@ -115,9 +108,15 @@ void closeWindow(HWND window) {
     widgetOf(window).windowHandle()->close();
 }
 
+void chooseColors(std::uint32_t window, std::uint32_t letters) {
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Base, window);
+    palette.setColor(QPalette::Text, letters);
+    QApplication::setPalette(palette);
+}
+
 void pressKey(HWND window, char character, Hold hold) {
-    Qt::KeyboardModifiers held = hold == Hold::nothing ? Qt::NoModifier : Qt::AltModifier;
-    held.setFlag(Qt::ShiftModifier, hold == Hold::altShift);
+    const Qt::KeyboardModifiers held = hold == Hold::nothing ? Qt::NoModifier : Qt::AltModifier | Qt::ShiftModifier;
     QTest::sendKeyEvent(QTest::Click, widgetOf(window).windowHandle(), QTest::asciiToKey(character), character, held);
 }
 

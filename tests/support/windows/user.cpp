@@ -116,11 +116,15 @@ void closeWindow(HWND window) {
     if (IsWindowEnabled(window)) PostMessageA(window, WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
+void chooseColors(std::uint32_t window, std::uint32_t letters) {
+    constexpr int elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT};
+    const COLORREF colors[] = {RGB(window >> 16, window >> 8, window), RGB(letters >> 16, letters >> 8, letters)};
+    SetSysColors(2, elements, colors);
+}
+
 void pressKey(HWND window, char character, Hold hold) {
     const int key = VkKeyScanA(character) & 0xFF;
-    if (hold == Hold::nothing) return press(window, {key});
-    if (hold == Hold::alt) return press(window, {VK_MENU, key});
-    press(window, {VK_MENU, VK_SHIFT, key});
+    press(window, hold == Hold::nothing ? std::vector{key} : std::vector<int>{VK_MENU, VK_SHIFT, key});
 }
 
 bool isEnabled(HWND window) {
