@@ -5,17 +5,22 @@
 #include "shell/main_window.h"
 #include "shell/splash.h"
 #include "tests/support/scoped_variable.h"
-#include "tests/support/test_neighborhood.h"
+#include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
 #include "ui/controls.h"
 #include "ui/status_line.h"
 
 namespace {
 
-TEST(MainWindowNativeTest, TheSplashPictureIsOnTheScreen) {
+TEST(MainWindowNativeTest, TheSplashPictureFillsTheWindowAboveTheLine) {
     ASSERT_TRUE(showSplashWindow());
     const Picture splash = pictureOf(splashWindow());
-    EXPECT_NE(splash.at(20, 20), splash.at(20, 200));
+    EXPECT_EQ(splash.at(0, 0), 0x0D1430U);
+    EXPECT_EQ(splash.at(597, 399), 0x0B1026U);
+    EXPECT_EQ(splash.at(0, 400), splash.at(0, splash.height - 1)) << "the line is below it";
+    InvalidateRect(splashWindow(), nullptr, TRUE);
+    UpdateWindow(splashWindow());
+    EXPECT_EQ(pictureOf(splashWindow()).at(0, 0), splash.at(0, 400)) << "only until the window is painted again";
 }
 
 TEST(MainWindowNativeTest, TheMenuOpensThePagesOfTheProgram) {

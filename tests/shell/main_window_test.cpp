@@ -39,7 +39,7 @@ class MainWindowTest : public testing::Test {
         EXPECT_TRUE(writeTemplates(files_.path()));
         files_.write("skinsets.cfg", "CHILD=c001fclgt_amanda01;\nTEENAGER=c008falgt_alt;t\nADULT=a;a\n");
         loadCursors();
-        loadNeighborhoods(installGame(files_.path("prefix")).c_str(), files_.path().c_str());
+        load();
         selection() = {};
     }
 
@@ -48,13 +48,19 @@ class MainWindowTest : public testing::Test {
         runMessages();
     }
 
-    // Runs the window and lets the user act in it.
-    static void run(const std::function<void()>& actions) {
+    void load() const { loadNeighborhoods(installGame(files_.path("prefix")).c_str(), files_.path().c_str()); }
+
+    // Runs the window, lets the user act in it and closes it, which asks this and gets an OK.
+    static void run(const std::function<void()>& actions, const std::string& asked = "") {
+        AnsweredBox question;
         later([&] {
             actions();
-            PostQuitMessage(7);
+            question = answerNextBox(IDOK);
+            closeWindow(all.mainWindow);
+            later([] { PostQuitMessage(7); });  // if it's still open
         });
-        EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 7);
+        EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 0);
+        EXPECT_EQ(question->title + question->text, asked);
     }
 
     static void pick(int neighborhood, int family, int sim) {
@@ -109,6 +115,9 @@ TEST_F(MainWindowTest, ItsControlsAreAtTheirPlaces) {
             const RECT place = placeOf(control);
             EXPECT_EQ(std::tuple(place.left, place.top, place.right), std::tuple(left, top, right));
         }
+        const Picture picture = pictureOf(all.mainWindow);
+        for (const int top : {10, 40, 70})
+            EXPECT_NEAR(inkBetween(picture, top, top + 20).left, 12, 3) << "a label";
         EXPECT_EQ(enabled(), "");
         // Every known command ends with a repaint, which brings the arrow back. Only a pick or a click does more.
         pick(0, 0, 3);
@@ -142,13 +151,14 @@ TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
         EXPECT_EQ(enabled(), "");
         EXPECT_EQ(entries(all.familyCombo), "Thistlewood|Q&A|Cr\xE8me|Pennyfarthing|Larkspur|");
         EXPECT_EQ(entries(all.simCombo), "Hazel|Rowan|Bramble|Clover|Fern|Moss|Biscuit|Marmalade|");
+        pickEntry(all.simCombo, 0);
         pickEntry(all.familyCombo, 1);
         EXPECT_EQ(enabled(), "");
         EXPECT_FALSE(showsSim());
         pick(0, 0, 0);
         pickEntry(all.neighborhoodCombo, 0);  // the entry that is selected already
         EXPECT_EQ(entries(all.simCombo) + enabled(), "");
-        EXPECT_FALSE(showsSim() || selection().currentSim);
+        EXPECT_FALSE(showsSim() || selection().currentSim || selection().currentFamily);
         pick(1, 2, 2);
         EXPECT_EQ(textOf(all.simCombo) + enabled(), "*Unreadable sim*");
         EXPECT_FALSE(showsSim());
@@ -162,13 +172,8 @@ TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
 }
 
 TEST_F(MainWindowTest, TakesAChildToItsOwnHouseholdAndAsksBeforeThatIsLost) {
-    run([] {
-        const auto close = [](int answer) {
-            const AnsweredBox box = answerNextBox(answer);
-            closeWindow(all.mainWindow);
-            runMessages();
-            EXPECT_EQ(box->title + ": " + box->text, "Exit?: You haven't saved your changes.  Exit without saving?");
-        };
+    const std::string asked = "Exit?You haven't saved your changes.  Exit without saving?";
+    const auto actions = [&] {
         pick(0, 0, 3);
         clickButton(all.childToTeenButton);
         EXPECT_EQ(enabled(), "Teen to Adult");
@@ -176,12 +181,15 @@ TEST_F(MainWindowTest, TakesAChildToItsOwnHouseholdAndAsksBeforeThatIsLost) {
         clickButton(all.teenToAdultButton);
         EXPECT_EQ(enabled(), "Move Out");
         clickButton(all.moveOutButton);
-        EXPECT_EQ(entries(all.familyCombo) + entries(all.simCombo) + enabled(), "");
+        EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
+        EXPECT_EQ(textOf(all.neighborhoodCombo) + entries(all.familyCombo) + entries(all.simCombo) + enabled(), "");
         EXPECT_TRUE(showsSim()) << "the lines stay until the next pick";
         pick(0, 0, 3);
         EXPECT_EQ(textOf(all.simCombo), "Fern") << "the members behind her moved up";
-        close(IDCANCEL);
-        EXPECT_TRUE(IsWindow(all.mainWindow));
+        const AnsweredBox question = answerNextBox(IDCANCEL);
+        closeWindow(all.mainWindow);
+        EXPECT_FALSE(runMessages()) << "it stays open";
+        EXPECT_EQ(question->title + question->text, asked);
         EXPECT_TRUE(chooseMenu(all.mainWindow, {"File", "Save"}));
         EXPECT_FALSE(runMessages());
         EXPECT_FALSE(neighborhoods[0]->isDirty());
@@ -193,9 +201,8 @@ TEST_F(MainWindowTest, TakesAChildToItsOwnHouseholdAndAsksBeforeThatIsLost) {
         EXPECT_FALSE(neighborhoods[1]->isDirty());
         pick(1, 0, 0);
         clickButton(all.moveOutButton);  // a Move Out alone is a change, and so in any neighborhood
-        close(IDOK);
-        EXPECT_FALSE(IsWindow(all.mainWindow));
-    });
+    };
+    run(actions, asked);
 }
 
 TEST_F(MainWindowTest, KeysAndMenuShowDialogsAndExitWithoutAQuestion) {
@@ -205,6 +212,7 @@ TEST_F(MainWindowTest, KeysAndMenuShowDialogsAndExitWithoutAQuestion) {
         clickButton(all.moveOutButton);
         pickEntry(all.neighborhoodCombo, 1);
         SendMessageA(all.neighborhoodCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("? is also a key"));
+        pressKey(all.mainWindow, '/');  // without Alt it opens nothing
         pressKey(all.mainWindow, '?', Hold::altShift);
     });
     later([&] {
@@ -219,21 +227,25 @@ TEST_F(MainWindowTest, KeysAndMenuShowDialogsAndExitWithoutAQuestion) {
     });
     EXPECT_EQ(runMainWindow(SW_SHOWNORMAL), 0);
     EXPECT_TRUE(IsWindow(all.mainWindow)) << "the loop ends directly";
+    EXPECT_TRUE(neighborhoods[1]->isDirty()) << "not saved";
 }
 
-TEST_F(MainWindowTest, FollowsTheSplashWindow) {
+TEST_F(MainWindowTest, FollowsTheSplashWindowWhichSaysWhatIsRead) {
     setStatusLine("Please wait while the data is loaded");
     ASSERT_TRUE(showSplashWindow());
     const HWND splash = splashWindow();
     EXPECT_EQ(textOf(splash), "Loading");
     const Picture before = pictureOf(splash);
-    setStatusLine("Loading Neighborhood 2");
-    showStatusLine();
+    load();
+    EXPECT_EQ(statusLine().view(), "Loading Neighborhood 3");
     const Picture after = pictureOf(splash);
     EXPECT_NE(after.pixels, before.pixels) << "the line is another";
+    const RECT longer = inkBetween(before, before.height - 30, before.height);
     const RECT line = inkBetween(after, after.height - 30, after.height);
+    EXPECT_GT(line.left, longer.left) << "the earlier line is gone";
+    EXPECT_NEAR(line.top, after.height - 26, 4);
     EXPECT_NEAR(line.left + line.right, after.width, 4) << "centred";
-    run([splash] { EXPECT_FALSE(IsWindow(splash)); });
+    run([splash] { EXPECT_FALSE(IsWindow(splash) || splashWindow()); });
 }
 
 }  // namespace
