@@ -30,7 +30,7 @@ class WinePrefixNativeTest : public testing::Test {
     static auto openDescriptors() { return std::distance(fs::directory_iterator("/proc/self/fd"), {}); }
 
     TempDirectory directory_;
-    ScopedVariable prefix_{"WINEPREFIX", directory_.path("Prefix")};
+    ScopedVariable prefix_{"WINEPREFIX", directory_.path("Prefix//")};
 };
 
 TEST_F(WinePrefixNativeTest, DrivesSeparatorsAndCaseAreMapped) {
@@ -63,6 +63,14 @@ TEST_F(WinePrefixNativeTest, ANameOutsideAsciiIsFoundRawThenAsUtf8AndMadeAsUtf8)
         directory_.write(better, "x");
         EXPECT_EQ(nativePath(raw), better);
     }
+    const std::string outside = directory_.path(
+        "narz\xC4\x99"
+        "dzia");  // not in Windows-1252
+    fs::create_directory(outside);
+    fs::current_path(outside);
+    char path[1000] = "";
+    GetCurrentDirectoryA(sizeof path, path);
+    EXPECT_EQ(nativePath(path), outside);
 }
 
 TEST_F(WinePrefixNativeTest, ASteadyDirectoryIsReadOnceAndLetGo) {
@@ -111,6 +119,7 @@ TEST_F(WinePrefixNativeTest, TextsOfTheRegistryAreFoundUnderTheirKeyAndNames) {
         {"then the plain one", plain + "'b'='q'\n" + wow + "'a'='w'\n", "b", "q"},
         {"escapes", plain + "'a\\'b'='\\\\ \\' \\n\\r\\t\\e.'\n", "a\"b", "\\ \" \n\r\te."},
         {"code page", plain + "'a'='\\xe9\\x20ACf\\x00e9\\x65e5\\351\\xg'\n", "a", "\xE9\x80\x66\xE9?\xE9xg"},
+        {"expandable", plain + "'a'=str(2):'%x%'\n", "a", "%x%"},
         {"byte order mark", plain + "'a'='\xEF\xBB\xBFx'\n", "a", "?x"},
         {"as long as the buffer", plain + "'a'='" + fits + "'\n", "a", fits},
         {"too long for the buffer", plain + "'a'='x" + fits + "'\n", "a", "-"},

@@ -10,7 +10,7 @@
 // with a separator at the end.
 std::string installGame(const std::filesystem::path& prefix);
 
-// Takes the registry's value of that game away again.
+// Takes the registry's value of that game away again; its key stays.
 void uninstallGame(const std::filesystem::path& prefix);
 
 #endif

@@ -21,5 +21,8 @@ std::string installGame(const std::filesystem::path& prefix) {
 }
 
 void uninstallGame(const std::filesystem::path&) {
-    EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, gameKey), ERROR_SUCCESS);
+    HKEY key = nullptr;
+    RegOpenKeyA(HKEY_LOCAL_MACHINE, gameKey, &key);
+    EXPECT_EQ(RegDeleteValueA(key, "SIMS_DATA"), ERROR_SUCCESS);
+    RegCloseKey(key);
 }
