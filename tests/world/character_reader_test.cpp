@@ -20,32 +20,27 @@ const std::string file = TestNeighborhood::characterFile("user00001");
 const SampleNeighborhood oneSim = {.neighbors = {{}}};
 
 TEST(CharacterReader, TheSamePartsAreFoundWithAMapAndWithoutOne) {
-    const struct {
-        const char* what;
-        SampleCharacter character;
-        int guidResult, bodyResult, bodyResultByMap;
-        std::string name = "Marigold";
-    } rows[] = {
-        {"a child", {.tag = "child"}, 1, 1, 1},
-        {"no name chunk", {.hasName = false}, 1, 1, 1, ""},
-        {"name longer than its room", {.name = std::string(120, 'n')}, 1, 1, 1, std::string(99, 'n')},
-        {"no object chunk", {.hasObject = false}, -4, 1, 1},
-        {"other label", {.bodyLabel = "bodystrinG"}, 1, -1, 1},
-        {"end of the second form", {.ending = BodyEnding::atEntry33, .bodyTextSize = 0}, 1, 1, 1},
+    const std::pair<const char*, SampleCharacter> rows[] = {
+        {"a child", {.tag = "child"}},
+        {"no name chunk", {.hasName = false}},
+        {"name longer than its room", {.name = std::string(120, 'n')}},
+        {"no object chunk", {.hasObject = false}},
+        {"other label", {.bodyLabel = "bodystrinG"}},
+        {"end of the second form", {.ending = BodyEnding::atEntry33, .bodyTextSize = 0}},
     };
     for (const bool map : {true, false}) {
-        for (auto row : rows) {
-            SCOPED_TRACE(row.what + (map ? ", with a map"s : ", without a map"s));
-            row.character.map = map;
-            const CharacterFile built = makeCharacterFile(row.character);
-            const TestNeighborhood read(oneSim, {row.character});
+        for (auto [what, character] : rows) {
+            SCOPED_TRACE(what + (map ? ", with a map"s : ", without a map"s));
+            character.map = map;
+            const CharacterFile built = makeCharacterFile(character);
+            const TestNeighborhood read(oneSim, {character});
             Sim& sim = read.sim(0);
-            const int bodyResult = map ? row.bodyResultByMap : row.bodyResult;
-            EXPECT_EQ(resultsOf(sim), (std::array{1, row.guidResult, bodyResult}));
-            EXPECT_EQ(sim.name(), row.name);
-            EXPECT_EQ(guidText(sim), row.guidResult == 1 ? "\x01\x11WT" : "");
-            EXPECT_EQ(sim.tagOffset(), bodyResult == 1 ? static_cast<int>(built.bodyStringsOffset + 81) : 0);
-            EXPECT_EQ(sim.characterTag(), row.character.tag != "child");
+            const bool hasBody = map || character.bodyLabel == "bodystring";
+            EXPECT_EQ(resultsOf(sim), (std::array{1, character.hasObject ? 1 : -4, hasBody ? 1 : -1}));
+            EXPECT_EQ(sim.name(), character.hasName ? character.name.substr(0, 99) : "");
+            EXPECT_EQ(guidText(sim), character.hasObject ? "\x01\x11WT" : "");
+            EXPECT_EQ(sim.tagOffset(), hasBody ? static_cast<int>(built.bodyStringsOffset + 81) : 0);
+            EXPECT_EQ(sim.characterTag(), character.tag != "child");
             read.files().remove(file);
             EXPECT_EQ(sim.loadName(), 1) << "read once";
         }
@@ -75,6 +70,8 @@ TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
         {"cut behind the end's pattern", cutAt(fill + 5), "Marigold", "\x01\x11WT", 1, 1},
         {"too short for the map's offset, so without a map", withMap("iff OBJD", "\1\1"), "", "", 1, -1},
         {"name chunk in the first place", withMap("CTSS", "\0\0\0"s), "", "", -3, -3},
+        {"name chunk that begins in the header", std::string(30, ' ') + "CTSS" + std::string(77, '\0') + "Ann", "Ann",
+         "", -4, -1},
         {"map says 0", withMap("", "\0\0\x40"s + "DJBO1234\0\0\0"s), "", "", 1, -3},
         {"an entry cut in its offset", withMap("", "\0\0\x40"s + std::string(64, 'x') + "DJBO1234\1\0"s), "", "", 1,
          -1},
@@ -98,29 +95,19 @@ TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
     }
 }
 
-TEST(CharacterReader, WithoutAMapTheFirstCallAlsoScansTheHeader) {
-    TestNeighborhood read(oneSim);
-    const std::string chunk = "STR#12345678bodystring" + std::string(59, '\0') + "adult\xA3\xA3\xA3\xA3\xA3";
-    read.files().write(file, std::string(30, ' ') + chunk);
-    read.load();
-    EXPECT_EQ(read.sim(0).loadBodyStrings(), 1);
-}
-
 TEST(Members, TheStageFollowsFromAgeKindAndBody) {
-    const struct {
-        const char* bodySkin;  // null without a character file
-        int age, kind, stage;
-    } rows[] = {{"b614maTNR", 27, 1, 5}, {"tnr", 27, 0, 5},  {"b614maTnr", 27, 1, 6},
-                {nullptr, 27, 1, 0},     {"tnr", 27, 5, -1}, {nullptr, 27, 2, -1},
-                {nullptr, 18, 2, 5},     {nullptr, 9, 1, 3}, {"tnr", 26, 1, 0}};
-    for (const auto& row : rows) {
+    // A Sim without a body's skin has no character file.
+    const std::tuple<const char*, int, int, int> rows[] = {
+        {"b614maTNR", 27, 1, 5}, {"tnr", 27, 0, 5},   {"b614maTnr", 27, 1, 6}, {nullptr, 27, 1, 0}, {"tnr", 27, 5, -1},
+        {nullptr, 27, 2, -1},    {nullptr, 18, 2, 5}, {nullptr, 9, 1, 3},      {"tnr", 26, 1, 0}};
+    for (const auto& [bodySkin, age, kind, stage] : rows) {
         SampleCharacter character;
-        if (row.bodySkin != nullptr) character.slots[sampleSlot::bodySkin] = row.bodySkin;
-        const TestNeighborhood read({.neighbors = {{.age = row.age, .kind = row.kind}}}, {character});
-        if (row.bodySkin == nullptr) read.files().remove("UserData/Characters");
-        EXPECT_EQ(read.sim(0).stage(), row.stage) << "age " << row.age << ", kind " << row.kind;
-        for (const auto& [stage, result] : {std::pair(1, -2), {4, -2}, {0, -3}, {7, -3}})
-            EXPECT_EQ(read.sim(0).setStage(stage, nullptr), result) << stage;
+        if (bodySkin != nullptr) character.slots[sampleSlot::bodySkin] = bodySkin;
+        const TestNeighborhood read({.neighbors = {{.age = age, .kind = kind}}}, {character});
+        if (bodySkin == nullptr) read.files().remove("UserData/Characters");
+        EXPECT_EQ(read.sim(0).stage(), stage) << "age " << age << ", kind " << kind;
+        for (const auto& [other, result] : {std::pair(1, -2), {4, -2}, {0, -3}, {7, -3}})
+            EXPECT_EQ(read.sim(0).setStage(other, nullptr), result) << other;
     }
 }
 

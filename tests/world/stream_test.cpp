@@ -27,20 +27,16 @@ struct TestStream {
 };
 
 TEST(TagScan, ATagIsFoundUpToTheNotedSize) {
-    const struct {
-        const char* what;
-        std::string bytes;
-        int size, result, cursor;
-    } rows[] = {
+    const std::tuple<const char*, std::string, int, int, int> rows[] = {
         {"over the edge of a page", std::string(126, '.') + "XXXX..", 132, 127, 0},
         {"begins behind the noted size", "....XXXX", 4, -4, 4},
         {"differs behind the noted size", "....XX..", 4, -4, 6},
         {"file shorter than noted", "....", 9, -4, 9},
     };
-    for (const auto& row : rows) {
-        TestStream file(bytesFrom(row.bytes));
-        EXPECT_EQ(findTag(file.view, "XXXX", row.size), row.result) << row.what;
-        EXPECT_EQ(file.view.tell(), row.cursor) << row.what;
+    for (const auto& [what, bytes, size, result, cursor] : rows) {
+        TestStream file(bytesFrom(bytes));
+        EXPECT_EQ(findTag(file.view, "XXXX", size), result) << what;
+        EXPECT_EQ(file.view.tell(), cursor) << what;
     }
 }
 
