@@ -26,15 +26,11 @@ std::string findIn(const std::string& file, std::int32_t stage, const std::strin
 
 TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
     const std::string x99(99, 'x'), y99(99, 'y'), x318(318, 'x');
-    const struct {
-        const char* what;
-        std::string file;
-        std::int32_t stage;
-        std::string head, found;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::int32_t, std::string, std::string> rows[] = {
         {"above, with spaces of the field", "[a]\nTEENAGER= t1 ; m1 \nCHILD=c1;\n[b]\n", teen, "c1", " t1 ; m1 "},
         {"no section line and no line end", "CHILD=c1;\nADULT=a1;m1\nTEENAGER=t1;a,B-C", teen, "c1", "t1;a,B-C"},
-        {"CR LF, but a CR of its own", "[a]\r\nCHILD=c1;\r\nTEENAGER=t1;m\r1\r", teen, "c1", "t1;m\r1\r"},
+        {"CR LF", "[a]\r\nCHILD=c1\r\nTEENAGER=t1;m1\r\n", teen, "c1", "t1;m1"},
+        {"a CR of its own", "CHILD=c1;\nTEENAGER=t1;m\r1\r", teen, "c1", "t1;m\r1\r"},
         {"case of the head", "CHILD=C1_aB;\nTEENAGER=T1;M1\n", teen, "c1_Ab", "T1;M1"},
         {"a teen's head", "CHILD=x;\nADULT=a0;\n[b]\nTEENAGER=x;\nADULT=a1;m1\n", adult, "x", "a1;m1"},
         {"the second set of that head isn't read", "CHILD=c1;\n[b]\nCHILD=c1;\nTEENAGER=t1;m1\n", teen, "c1", ";"},
@@ -43,9 +39,9 @@ TEST(SkinSetsTest, TheFirstSetThatHoldsTheHeadDecides) {
         {"fields of 99 bytes", "CHILD=" + x99 + "\nTEENAGER=" + y99 + "y;" + x99 + "x\n", teen, x99, y99 + ";" + x99},
         {"a line ends with its 319th character", "#" + x318 + "CHILD=c1;\nTEENAGER=t1;m=1;n\n", teen, "c1", "t1;m=1;n"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, file, stage, head, found] : rows) {
         randomGenerator().seed(0);  // its first draw, 38, picks the first candidate
-        EXPECT_EQ(findIn(row.file, row.stage, row.head), row.found) << row.what;
+        EXPECT_EQ(findIn(file, stage, head), found) << what;
     }
 }
 

@@ -84,12 +84,7 @@ TEST(StageTemplateTest, EverySlotOfEveryBody) {
 }
 
 TEST(ChildToTeenTest, DressesTheTeen) {
-    const struct {
-        std::int16_t sex;
-        int toneNumber;
-        const char* tone;
-        std::string names;
-    } rows[] = {
+    const std::tuple<std::int16_t, int, const char*, std::string> rows[] = {
         {female, 3, "med",
          "b609faTNR_01,BODY b609faTNRmed_gma1 teenMesh,HEAD-HEAD teenSkin 18 nuTNR_01,BODY nfTNRmed_01 nuTNR_01,BODY "
          "ufTNRmed_undies01 ffTNR_01,BODY ffTNRmed_01 " +
@@ -99,15 +94,15 @@ TEST(ChildToTeenTest, DressesTheTeen) {
          "umTNRdrk_briefs01 fmTNR_01,BODY fmTNRdrk_01 " +
              outfits("maTNR", "drk") + outfit("W100maTNR", "drk")},
     };
-    for (const auto& row : rows) {
-        OneSim sim({.age = 9, .skinTone = row.toneNumber, .kind = row.sex});
-        if (row.sex == female) {  // a file of the expansion's name is no expansion
+    for (const auto& [sex, toneNumber, tone, names] : rows) {
+        OneSim sim({.age = 9, .skinTone = toneNumber, .kind = sex});
+        if (sex == female) {  // a file of the expansion's name is no expansion
             std::filesystem::remove_all(sim.expansion);
             writeFile(sim.expansion, "");
         }
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything
         EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
-        EXPECT_EQ(grownSlots(sim.body(), row.sex, row.tone), row.names);
+        EXPECT_EQ(grownSlots(sim.body(), sex, tone), names);
         EXPECT_EQ(sim.sim(0).age(), 18);
         EXPECT_TRUE(sim.sim(0).characterTag() && sim.marked());
         EXPECT_EQ(childToTeen(&sim.sim(0)), -1) << "a teen stays one";
@@ -196,20 +191,19 @@ TestNeighborhood household(unsigned members, std::int32_t funds, int lastAge = 2
 }
 
 TEST(MoveOutTest, SharesTheMoneyIfThereIsEnough) {
-    const struct {
-        std::int32_t funds, stays, goes;
-    } rows[] = {{9'999, 9'999, 0}, {10'000, 0, 10'000}, {20'001, 1, 20'000}, {-1, -20'001, 20'000}};  // a debt is much
-    for (const auto& row : rows) {
-        const TestNeighborhood read = household(1, row.funds);  // the last adult may go: that rule is the window's
+    const std::tuple<int, int, int> rows[] = {
+        {9'999, 9'999, 0}, {10'000, 0, 10'000}, {20'001, 1, 20'000}, {-1, -20'001, 20'000}};  // a debt is much
+    for (const auto& [funds, stays, goes] : rows) {
+        const TestNeighborhood read = household(1, funds);  // the last adult may go: that rule is the window's
         EXPECT_EQ(read.family().memberCount(), 1);
         const AnsweredBox box = answerNextBox(IDOK);
-        EXPECT_EQ(moveOut(&read.sim(0)), row.goes > 0 ? 1 : -1) << row.funds;
-        EXPECT_EQ(read.family().funds(), row.stays);
-        EXPECT_EQ(read->hasNewFamilies() ? read->newFamily(0)->funds() : 0, row.goes);
+        EXPECT_EQ(moveOut(&read.sim(0)), goes > 0 ? 1 : -1) << funds;
+        EXPECT_EQ(read.family().funds(), stays);
+        EXPECT_EQ(read->hasNewFamilies() ? read->newFamily(0)->funds() : 0, goes);
         EXPECT_EQ(box->title + ": " + box->text,
-                  row.goes > 0 ? ": "
-                               : "Insufficient funds: Your newly independent sim will need some starting funds!  The "
-                                 "family must save up at least 10,000 before a member can move out.");
+                  goes > 0 ? ": "
+                           : "Insufficient funds: Your newly independent sim will need some starting funds!  The "
+                             "family must save up at least 10,000 before a member can move out.");
     }
 }
 
