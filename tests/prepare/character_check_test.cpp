@@ -20,12 +20,7 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
     EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::townie})),
               "has the chunk OBJf 128 of the game's own characters");
 
-    const struct {
-        const char* type;
-        int id;
-        std::function<void(IffChunk&)> change;
-        std::string refusal;
-    } rows[] = {
+    const std::tuple<std::string, int, std::function<void(IffChunk&)>, std::string> rows[] = {
         {"OBJD", 128, [](auto& c) { c.type = "OBJE"; }, "has 0 chunks OBJD instead of one"},
         {"XXXX", 4101, [](auto& c) { c.type = "CTSS"; }, "has 2 chunks CTSS instead of one"},
         {"STR#", 200, [](auto& c) { c.id = 201; }, "has 0 chunks STR# 200 instead of one"},
@@ -47,12 +42,13 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
         {"STR#", 200, [](auto& c) { c.content.resize(10); }, noAdult},
         {"BHAV", 4096, [](auto& c) { c.content.resize(23); }, asleep},
         {"BHAV", 4096, [](auto& c) { std::ranges::fill(c.content, 0x1F); }, asleep},
+        {"BHAV", 4096, [](auto& c) { c.content = ByteWriter().fillTo(25).u8(0x20).fillTo(36).written(); }, ""},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.type + " "s + std::to_string(row.id) + ": " + row.refusal);
+    for (const auto& [type, id, change, refusal] : rows) {
+        SCOPED_TRACE(type + " " + std::to_string(id) + ": " + refusal);
         Chunks chunks = chunksOf(newer);
-        row.change(chunkIn(chunks, row.type, row.id));
-        EXPECT_EQ(refusalOf(chunks), row.refusal);
+        change(chunkIn(chunks, type, id));
+        EXPECT_EQ(refusalOf(chunks), refusal);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "prepare/preparation.h"
 
-#include <set>
+#include <ctime>
 
 #include "gamefiles/skin_file.h"
 #include "gamefiles/templates.h"
@@ -9,6 +9,8 @@
 #include "tests/support/user.h"
 
 namespace {
+
+using namespace std::string_literals;
 
 TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
     Tree expected = treeOf(game_);
@@ -46,10 +48,12 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
         EXPECT_TRUE(isReady(old == own)) << report_;
         EXPECT_EQ(files_.bytesOf("tool/Template.iff"), expectedTemplate());
     }
-    std::multiset<Bytes> copies;
-    for (const auto& [name, bytes] : treeOf(files_.path("tool")))
-        if (name.starts_with("Template 2")) copies.insert(bytes);
-    EXPECT_EQ(copies, (std::multiset{own, makeFactTemplate()}));
+    const std::time_t now = std::time(nullptr);
+    char copy[32];
+    std::strftime(copy, sizeof copy, "tool/Template %Y-%m-%d", std::gmtime(&now));
+    EXPECT_EQ(files_.bytesOf(copy + ".iff"s), own);
+    EXPECT_EQ(files_.bytesOf(copy + " 2.iff"s), makeFactTemplate());
+    EXPECT_EQ(treeOf(files_.path("tool")).size(), players.size() + 2);
 }
 
 TEST_F(PreparationTest, AFileThatASaveCantUseStaysAndIsReported) {
@@ -126,25 +130,32 @@ TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
                 {"--if-needed", IDOK, 0, ""},
                 {"--new-template", IDOK, 0, "will be made.\n\n" + planned + "    (the present one is kept"}};
     const Tree unprepared = treeOf(files_.path());
+    const auto run = [](std::string option) {
+        std::string program = "tidewright-prepare";
+        char* arguments[] = {program.data(), option.data()};
+        return runProgram(option.empty() ? 1 : 2, arguments);
+    };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.said);
         fs::current_path(files_.path(row.directory));
-        std::string program = "tidewright-prepare", option = row.option;
-        char* arguments[] = {program.data(), option.data()};
         const AnsweredBox first = answerNextBox(row.answer), second = answerNextBox(IDOK);
-        EXPECT_EQ(runProgram(option.empty() ? 1 : 2, arguments), row.code);
+        EXPECT_EQ(run(row.option), row.code);
         EXPECT_TRUE(first->shown != row.said.empty() && first->text.find(row.said) != std::string::npos) << first->text;
-        EXPECT_EQ(second->shown, option == "--new-template");
+        EXPECT_EQ(second->shown, row.option == "--new-template");
         EXPECT_EQ(treeOf(files_.path()) == unprepared, row.code != 0);
         if (row.code != 0) continue;
-        const bool made = option == "--yes" || option == "--new-template";
+        const bool made = row.option == "--yes" || row.option == "--new-template";
         EXPECT_EQ(files_.bytesOf("tool/Template.iff"), made ? expectedTemplate() : playersTemplate(textLetter));
         files_.write("tool/Template.iff", playersTemplate(textLetter));
     }
+    files_.write("tool/famtemplate", "cut");
+    const AnsweredBox report = answerNextBox(IDOK);
+    EXPECT_EQ(run("--if-needed"), 1);
+    EXPECT_TRUE(report->text.ends_with("\nNot everything is ready.")) << report->text;
     files_.remove("tool/famtemplate");
     const AnsweredBox question = answerNextBox(IDOK, [this] { uninstallGame(files_.path("prefix")); });
     const AnsweredBox refusal = answerNextBox(IDOK);
-    EXPECT_EQ(runProgram(0, nullptr), -1);
+    EXPECT_EQ(run(""), -1);
     EXPECT_TRUE(refusal->title == "Cannot find The Sims" && !files_.exists("tool/famtemplate"));
 }
 

@@ -1,12 +1,10 @@
 #include "prepare/template_maker.h"
 
 #include "gamefiles/templates.h"
-#include "platform/byte_order.h"
 #include "prepare/neutral_picture.h"
 #include "save/template_layout.h"
 #include "tests/prepare/unprepared_game.h"
 #include "tests/support/iff_walk.h"
-#include "tests/support/test_neighborhood.h"
 #include "world/character_layout.h"
 
 namespace {
@@ -31,25 +29,21 @@ std::string placesIn(const IffWalk& walk, const std::string& type) {
 
 TEST(TemplateTest, ChunksFillTheRoomInFrontOfTheirPlacesOrFollowBehind) {
     // There are 3912 bytes in front of the definition, and 49596 for pictures.
-    const struct {
-        const char *what, *type;
-        std::vector<std::size_t> sizes;
-        const char* places;
-    } rows[] = {
+    const std::tuple<const char*, const char*, std::vector<std::size_t>, const char*> rows[] = {
         {"a gap of 75", "TREE", {3837, 80}, "1 at 64, free at 144, free at 4420, 0 at 55155, "},
         {"a gap of 76", "TREE", {3836}, "0 at 64, free at 3900, free at 4420, "},
         {"too much", "TREE", {2000, 2000, 1912}, "0 at 64, 2 at 2064, free at 4420, 1 at 55155, "},
         {"too many pictures", "BMP_", {45'000, 5'000}, "free at 64, 0 at 4420, free at 49420, 1 at 55155, "},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto& [what, type, sizes, places] : rows) {
+        SCOPED_TRACE(what);
         Chunks whole = chunksOf({});
         Chunks chunks = {chunkIn(whole, "OBJD", 128)};
-        for (const std::size_t size : row.sizes)
-            chunks.push_back({row.type, static_cast<std::uint16_t>(chunks.size() - 1), "", Bytes(size - 76)});
+        for (const std::size_t size : sizes)
+            chunks.push_back({type, static_cast<std::uint16_t>(chunks.size() - 1), "", Bytes(size - 76)});
         const IffWalk walk = walkIff(makeTemplate(chunks));
         EXPECT_EQ(walk.fault, "");
-        EXPECT_EQ(placesIn(walk, row.type), row.places);
+        EXPECT_EQ(placesIn(walk, type), places);
     }
 }
 
@@ -99,37 +93,6 @@ TEST(TemplateTest, HoldsTheBehaviourAndNothingOfTheSim) {
     const std::string body = "STR#\0\0\4\x73\0\xC8\0\20bodystring"s + std::string(54, '\0') + "\xFD\xFF\x21\0\1adult"s +
                              text + std::string(12, '\0') + "rsmp";
     EXPECT_EQ(textAt(file, 54016, body.size()), body);
-}
-
-TEST(TemplateTest, SimsSavedFromItAreReadAgainWithAMapAndWithoutOne) {
-    std::vector<SampleCharacter> sims = {{.name = "Ann", .guid = 0x04030201, .tag = "child", .slots = childSlots()},
-                                         {.recordName = "user00002", .name = "Bob", .guid = 2, .slots = teenSlots()},
-                                         {.recordName = "user00003", .name = "Cleo", .guid = 3}};
-    for (SampleCharacter& sim : sims)
-        sim.ending = BodyEnding::atEntry33;
-    TestNeighborhood test(householdOf(sims), sims);
-    const Bytes made = makeTemplate(chunksOf({.behaviour = BehaviourSet::newer}));
-    test.files().write("Template.iff", made);
-    for (const int i : {0, 1, 2}) {
-        EXPECT_TRUE(test.sim(i).loadName() == 1 && test.sim(i).loadGuid() == 1 && test.sim(i).loadBodyStrings() == 1);
-        test.sim(i).setStage(i == 0 ? stageNumber::teen : stageNumber::adult, nullptr);
-    }
-    test->save(test->toolDirectory());
-    for (const bool map : {true, false}) {
-        test.load();
-        for (int i = 0; const SampleCharacter& expected : sims) {
-            const std::string file = TestNeighborhood::characterFile(expected.recordName);
-            Bytes saved = test.files().bytesOf(file);
-            EXPECT_EQ(saved.size(), made.size());
-            if (!map) overwrite(saved, 60, Bytes(4));
-            test.files().write(file, saved);
-            Sim& sim = test.sim(i++);
-            EXPECT_EQ(sim.name(), expected.name);
-            EXPECT_EQ(readU32Le(sim.guid().bytes()), expected.guid);
-            ASSERT_TRUE(sim.bodyStrings() != nullptr && sim.characterTag());
-            EXPECT_EQ(slotsOf(*sim.bodyStrings()), expected.slots);
-        }
-    }
 }
 
 TEST(TemplateTest, IsNotMadeIfASearchOfItsMapWouldGoWrong) {

@@ -45,6 +45,7 @@ class PreparationTest : public testing::Test {
         directory_ = installGame(files_.path("prefix"));
         fs::remove_all(game_ / "GameData");
         fs::copy(characters_ / "User00011.iff", characters_ / "TMPUser00011.iff");  // as a save that broke off leaves
+        fs::copy(characters_ / "User00011.iff", characters_ / "User00011.bak");     // a player's own copy
         files_.write("tool/skinsets-original.cfg", "heads");
         fs::current_path(files_.path("tool"));
     }
