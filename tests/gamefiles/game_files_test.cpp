@@ -30,23 +30,20 @@ TEST(IffTest, AFileIsTakenApartAsItWasBuilt) {
               "\0\0\0\0\0\0\0\0pmsr\x70\0\0\0\2\0\0\0#RTS\2\0\0\0\x8E\0\0\0\xC8\0\x10\0\0\0"s +
                   "\x40\0\0\0\x2C\1\x78\x56\x61\x62\0\0BOLG\1\0\0\0\x2A\1\0\0\1\0\x10\0"s + last.label + "\0\0"s);
 
-    const struct {
-        std::size_t changed, length;
-        std::uint8_t byte;
-        const char *refused, *walked;
-    } rows[] = {{0, 582, 'i', "doesn't begin as the game's IFF files do", "not the game's header"},
-                {0, 63, 'I', "doesn't begin as the game's IFF files do", "not the game's header"},
-                {71, 582, 75, "has a chunk without room for its header at 64", "no chunk fits at 64"},
-                {68, 582, 0x80, "ends inside the chunk at 64", "no chunk fits at 64"},
-                {0, 217, 'I', "has bytes left over at 142", "no chunk fits at 142"},
-                {63, 582, 0, "", "no map where the header says"},
-                {73, 582, 0, "", "the map doesn't list STR# 256"}};
-    for (const auto& row : rows) {
+    const std::tuple<std::size_t, std::size_t, std::uint8_t, const char*, const char*> rows[] = {
+        {0, 582, 'i', "doesn't begin as the game's IFF files do", "not the game's header"},
+        {0, 63, 'I', "doesn't begin as the game's IFF files do", "not the game's header"},
+        {71, 582, 75, "has a chunk without room for its header at 64", "no chunk fits at 64"},
+        {68, 582, 0x80, "ends inside the chunk at 64", "no chunk fits at 64"},
+        {0, 217, 'I', "has bytes left over at 142", "no chunk fits at 142"},
+        {63, 582, 0, "", "no map where the header says"},
+        {73, 582, 0, "", "the map doesn't list STR# 256"}};
+    for (const auto& [changed, length, byte, refused, walked] : rows) {
         Bytes file = builder.bytes();
-        file[row.changed] = row.byte;
-        file.resize(row.length);
-        EXPECT_EQ(readIff(file).fault, row.refused);
-        EXPECT_EQ(walkIff(file).fault, row.walked);
+        file[changed] = byte;
+        file.resize(length);
+        EXPECT_EQ(readIff(file).fault, refused);
+        EXPECT_EQ(walkIff(file).fault, walked);
     }
 }
 

@@ -59,11 +59,7 @@ TEST_F(FilesTest, AModeDecidesWhatAnOpenedFileHolds) {
 TEST_F(FilesTest, EachRefusalHasItsReason) {
     const auto opens = [](const char* path, const char* mode) { return openFile(path, mode) != nullptr; };
     const auto replaces = [](const char* path) { return NewVersion(path).open(path) != nullptr; };
-    const struct {
-        const char* what;
-        std::function<bool()> works;
-        DWORD error;
-    } rows[] = {
+    const std::tuple<const char*, std::function<bool()>, DWORD> rows[] = {
         {"change a missing file", [&] { return opens("none.iff", "r+b"); }, ERROR_FILE_NOT_FOUND},
         {"read a directory", [&] { return opens("sub", "rb"); }, ERROR_ACCESS_DENIED},
         {"replace a directory", [&] { return replaces("sub"); }, ERROR_ACCESS_DENIED},
@@ -72,10 +68,10 @@ TEST_F(FilesTest, EachRefusalHasItsReason) {
         {"delete a protected file", [] { return DeleteFileA("protected.iff"); }, ERROR_ACCESS_DENIED},
         {"make one in none", [] { return CreateDirectoryA("none\\New", nullptr); }, ERROR_PATH_NOT_FOUND},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, works, error] : rows) {
         SetLastError(NO_ERROR);
-        EXPECT_FALSE(row.works()) << row.what;
-        EXPECT_EQ(GetLastError(), row.error) << row.what;
+        EXPECT_FALSE(works()) << what;
+        EXPECT_EQ(GetLastError(), error) << what;
     }
 }
 
@@ -92,16 +88,13 @@ TEST_F(FilesTest, AProtectedFileIsReadButNotWritten) {
 TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
     const std::string part = "User00042.iff.tidewright-new0", aside = "User00042.iff.tidewright-old0";
     enum Act { none, name, setAsideAndName, setAsideAndLoseThePart };
-    const struct {
-        const char* what;
-        Act act;
-        std::string live, asideAfterwards;
-    } rows[] = {{"discarded", none, "old", "no such file"},
-                {"named", name, "new", "no such file"},
-                {"not named, so that the older file comes back", setAsideAndLoseThePart, "old", "no such file"},
-                {"named where the older file had been", setAsideAndName, "new", "old"}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+    const std::tuple<const char*, Act, std::string, std::string> rows[] = {
+        {"discarded", none, "old", "no such file"},
+        {"named", name, "new", "no such file"},
+        {"not named, so that the older file comes back", setAsideAndLoseThePart, "old", "no such file"},
+        {"named where the older file had been", setAsideAndName, "new", "old"}};
+    for (const auto& [what, act, live, asideAfterwards] : rows) {
+        SCOPED_TRACE(what);
         directory_.write("User00042.iff", "old");
         fs::current_path(directory_.path());
         {
@@ -112,15 +105,15 @@ TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
             EXPECT_EQ(std::fwrite("new", 1, 3, file), 3U);
             EXPECT_TRUE(version.complete());
             EXPECT_EQ(contentOf("User00042.iff") + contentOf(part), "oldnew");
-            if (row.act >= setAsideAndName) {
+            if (act >= setAsideAndName) {
                 EXPECT_TRUE(version.setAside());
                 EXPECT_EQ(contentOf("User00042.iff") + contentOf(aside), "no such fileold");
             }
-            if (row.act == setAsideAndLoseThePart) directory_.remove(part);
-            EXPECT_EQ(row.act != none && version.giveName(), row.act == name || row.act == setAsideAndName);
+            if (act == setAsideAndLoseThePart) directory_.remove(part);
+            EXPECT_EQ(act != none && version.giveName(), act == name || act == setAsideAndName);
         }
-        EXPECT_EQ(contentOf("User00042.iff"), row.live);
-        EXPECT_EQ(contentOf(aside), row.asideAfterwards);
+        EXPECT_EQ(contentOf("User00042.iff"), live);
+        EXPECT_EQ(contentOf(aside), asideAfterwards);
         EXPECT_EQ(contentOf(part), "no such file");
     }
     EXPECT_EQ(fileNamesIn(directory_.path().c_str()).size(), 3U) << "the name is spelled as it was";
