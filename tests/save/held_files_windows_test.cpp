@@ -64,12 +64,7 @@ TEST_F(HeldFilesWindowsTest, AFileThatStaysHeldStaysWholeAndIsMarked) {
     const std::string allOld = "old, temporary other bytes; old; old, temporary other bytes, backup other bytes";
     const std::string newSims = "new, backup old; new, backup old; ";
     const std::string withoutAnn = "; new, backup old; new without Ann, backup old";
-    const struct {
-        std::string held;
-        std::vector<DWORD> shares;
-        std::string after;
-        bool isMarked;
-    } rows[] = {
+    const std::tuple<std::string, std::vector<DWORD>, std::string, bool> rows[] = {
         {neighborhood, withoutRead, allOld, true},
         {neighborhood, {read, read | write}, newSims + "old, temporary new, backup old", true},
         {neighborhood, {read | erase, read | write | erase}, allSaved, false},
@@ -91,16 +86,16 @@ TEST_F(HeldFilesWindowsTest, AFileThatStaysHeldStaysWholeAndIsMarked) {
         {body, withRead, allSaved, false},
         {family, withoutRead, allOld, true},
         {family, withRead, allSaved, false}};
-    for (const auto& row : rows) {
-        for (const DWORD share : row.shares) {
+    for (const auto& [name, itsShares, after, isMarked] : rows) {
+        for (const DWORD share : itsShares) {
             if (std::ranges::count(shares, share) == 0) continue;
-            SCOPED_TRACE(testing::Message() << row.held << ", sharing " << share);
-            HANDLE const held = startAndHold(row.held, share);
+            SCOPED_TRACE(testing::Message() << name << ", sharing " << share);
+            HANDLE const held = startAndHold(name, share);
             save();
             CloseHandle(held);
-            EXPECT_EQ(states(), row.after);
-            EXPECT_EQ(test()->isDirty(), row.isMarked);
-            EXPECT_EQ(test().sim(0).characterDirty(), !row.after.starts_with("new"));
+            EXPECT_EQ(states(), after);
+            EXPECT_EQ(test()->isDirty(), isMarked);
+            EXPECT_EQ(test().sim(0).characterDirty(), !after.starts_with("new"));
             save();
             EXPECT_TRUE(std::regex_match(states(), std::regex("new[^;]*; new[^;]*; new, [^;]*"))) << states();
             EXPECT_FALSE(test()->isDirty());

@@ -32,21 +32,19 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
 
 TEST_F(SaveNativeTest, AProtectedFileStays) {
     const std::string backup = "UserData/Backups/neighborhood.200235.147.iff";
-    const struct {
-        std::string name, after;
-        bool isMarked;
-    } rows[] = {{live, "new, backup old; new, backup old; old, temporary new", true},
-                {TestNeighborhood::characterFile("user00001"),
-                 "old, temporary new; new, backup old; new without Ann, backup old", true},
-                {backup, "new, backup old; new, backup old; new, backup other bytes, aside old", false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<std::string, std::string, bool> rows[] = {
+        {live, "new, backup old; new, backup old; old, temporary new", true},
+        {TestNeighborhood::characterFile("user00001"),
+         "old, temporary new; new, backup old; new without Ann, backup old", true},
+        {backup, "new, backup old; new, backup old; new, backup other bytes, aside old", false}};
+    for (const auto& [name, after, isMarked] : rows) {
+        SCOPED_TRACE(name);
         start();
-        if (row.name == backup) files().write(backup, "older");
-        std::filesystem::permissions(files().path(row.name), std::filesystem::perms::owner_read);
+        if (name == backup) files().write(backup, "older");
+        std::filesystem::permissions(files().path(name), std::filesystem::perms::owner_read);
         save();
-        EXPECT_EQ(states(), row.after);
-        EXPECT_EQ(test()->isDirty(), row.isMarked);
+        EXPECT_EQ(states(), after);
+        EXPECT_EQ(test()->isDirty(), isMarked);
     }
 }
 

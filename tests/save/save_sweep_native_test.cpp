@@ -145,64 +145,54 @@ TEST_F(SaveSweepTest, EachVersionIsOnTheDiskBeforeAnOlderOneGoes) {
 
 TEST_F(SaveSweepTest, ASyncThatFailsCostsNoVersion) {
     const std::string others = "; new, backup old; new without Ann, backup old";
-    const struct {
-        const char* what;  // of Ann's file isn't on the disk
-        int sync;
-        std::string after;
-        bool isMarked;
-    } rows[] = {{"the temporary file", 1, "old, temporary new" + others, true},
-                {"the backup, which is made again", 2, allSaved, false},
-                {"the new file", 3, "old, temporary new" + others, true},
-                {"the backup's name", 4, allSaved, false},
-                {"the new file's name beside the old one", 5, "old, temporary new, backup old" + others, true},
-                {"the new file's name", 6,
-                 "new, temporary new, backup old, aside old; new, backup old; new, backup old", false}};
-    for (const auto& row : rows) {
+    const std::tuple<const char*, int, std::string, bool> rows[] = {
+        {"the temporary file", 1, "old, temporary new" + others, true},
+        {"the backup, which is made again", 2, allSaved, false},
+        {"the new file", 3, "old, temporary new" + others, true},
+        {"the backup's name", 4, allSaved, false},
+        {"the new file's name beside the old one", 5, "old, temporary new, backup old" + others, true},
+        {"the new file's name", 6, "new, temporary new, backup old, aside old; new, backup old; new, backup old",
+         false}};
+    for (const auto& [notOnDisk, number, after, isMarked] : rows) {
         for (const int error : {EIO, EINVAL, ENOTSUP}) {
-            SCOPED_TRACE(testing::Message() << row.what << ", error " << error);
-            int syncs = 0;
+            SCOPED_TRACE(testing::Message() << notOnDisk << ", error " << error);
+            int left = number;
             saveTwice([&](const seccomp_data& call) {
-                return call.nr == SYS_fsync && ++syncs == row.sync ? error : heldCall::carryOut;
+                return call.nr == SYS_fsync && --left == 0 ? error : heldCall::carryOut;
             });
-            EXPECT_EQ(afterFirst_, error == EIO ? row.after : allSaved);
-            EXPECT_EQ(isMarkedAfterFirst_, error == EIO && row.isMarked);
+            EXPECT_EQ(afterFirst_, error == EIO ? after : allSaved);
+            EXPECT_EQ(isMarkedAfterFirst_, error == EIO && isMarked);
         }
     }
 }
 
-// The game saves between the reading for the temporary file and that for the backup, in front of the change of names of
-// Bob's file.
-TEST_F(SaveSweepTest, AFileThatIsSavedByTheGameMeanwhileStaysAndItsRecordsAreOwed) {
-    Bytes games = original().at(live);
-    games.back() ^= 1;
-    int renames = 0;
-    saveTwice([&](const seccomp_data& call) {
-        if (call.nr == SYS_renameat && ++renames == 4) files().write(live, games);
-        return heldCall::carryOut;
-    });
-    EXPECT_EQ(afterFirst_, "new, backup old; new, backup old; other bytes, temporary new");
-    EXPECT_TRUE(isMarkedAfterFirst_);
-    EXPECT_EQ(files().bytesOf(live), games) << "the second save leaves it alone, too";
-    EXPECT_TRUE(isMarked_);
-}
-
-// Between the comparison and the copy that the temporary file is made of.
-TEST_F(SaveSweepTest, AFileThatIsWrittenBeforeItIsCopiedChangesNothingElse) {
-    saveTwice([&](const seccomp_data& call) {
-        if (call.nr == SYS_ftruncate) files().write(live, "half of it");
-        return heldCall::carryOut;
-    });
-    EXPECT_EQ(afterFirst_, "old; old; other bytes, temporary other bytes");
-    EXPECT_TRUE(isMarkedAfterFirst_);
-}
-
-TEST_F(SaveSweepTest, WhereNothingCanBeLockedASaveGoesOnAndDeletesNoPart) {
-    saveTwice([&](const seccomp_data& call) {
-        if (call.nr != SYS_flock) return heldCall::carryOut;
-        files().write("UserData/lost.iff.tidewright-new0", "of another save");
-        return ENOLCK;
-    });
-    EXPECT_EQ(afterFirst_, std::string(allSaved) + "; UserData/lost.iff.tidewright-new0\n");
+TEST_F(SaveSweepTest, WhatOthersWriteMeanwhileStaysAndIsNotSavedOver) {
+    const std::string othersPart = "UserData/lost.iff.tidewright-new0";
+    const struct {
+        const char* what;
+        int call, number;  // of all calls with that number
+        std::string file;  // written in front of that call
+        int answer;
+        std::string after;
+        bool isMarked;
+    } rows[] = {{"Bob's file is in its place, and a backup of the neighborhood's isn't made yet", SYS_renameat, 4, live,
+                 heldCall::carryOut, "new, backup old; new, backup old; other bytes, temporary new", true},
+                {"the live file was compared, and isn't copied yet", SYS_ftruncate, 1, live, heldCall::carryOut,
+                 "old; old; other bytes, temporary other bytes", true},
+                {"nothing can be locked, so another save may be making it", SYS_flock, 1, othersPart, ENOLCK,
+                 std::string(allSaved) + "; " + othersPart + "\n", false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        int calls = 0;
+        saveTwice([&](const seccomp_data& call) {
+            if (call.nr != row.call || ++calls != row.number) return heldCall::carryOut;
+            files().write(row.file, "of another program");
+            return row.answer;
+        });
+        EXPECT_EQ(afterFirst_, row.after);
+        EXPECT_EQ(isMarkedAfterFirst_, row.isMarked);
+        EXPECT_EQ(isMarked_, row.isMarked) << "the second save leaves it alone, too";
+    }
 }
 
 }  // namespace

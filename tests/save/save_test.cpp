@@ -1,20 +1,19 @@
 // What a save writes, what is on the disk when a step of it fails, and what the next save makes of that.
 #include "tests/save/save_test.h"
 #include "save/save_attempt.h"
+#include "save/save_command.h"
+#include "world/neighborhoods.h"
 
 namespace {
 
 const SampleNeighborhood allBehindFreeRoom = {.before = {{.type = "XXXX"}}};
 
 TEST_F(SaveTest, NewFamiliesBeginWhereTheFileIsCutAndThoseOfTheNextSaveFollow) {
-    const struct {
-        const char* what;
-        SampleNeighborhood shape;
-        int bobsKind = 0;
-    } rows[] = {{"before the free room", {.freeRoom = true, .fileSize = 40'000}},
-                {"before the map, and Bob is a pet", {}, 5},
-                {"at the end", {.map = false}},
-                {"before all pieces, of which none is written then", allBehindFreeRoom}};
+    const std::tuple<const char*, SampleNeighborhood, int> rows[] = {
+        {"before the free room", {.freeRoom = true, .fileSize = 40'000}, 0},
+        {"before the map, and Bob is a pet", {}, 5},
+        {"at the end", {.map = false}, 0},
+        {"before all pieces, of which none is written then", allBehindFreeRoom, 0}};
     for (const auto& [what, shape, kind] : rows) {
         SCOPED_TRACE(what);
         bobsKind = kind;
@@ -93,18 +92,15 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
 
 // The game doesn't run when the program starts; it may have run by the time of the save.
 TEST_F(SaveTest, ALiveFileThatIsNotTheOneReadIsLeftAlone) {
-    const struct {
-        const char* what;
-        std::size_t fileSize;
-        bool isLonger;
-    } rows[] = {{"its last byte", 40'000, false},
-                {"a byte more", 40'000, true},
-                {"the last byte of a file that isn't read at once", 17'000'000, false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
-        start({.freeRoom = true, .fileSize = row.fileSize});
+    const std::tuple<const char*, std::size_t, bool> rows[] = {
+        {"its last byte", 40'000, false},
+        {"a byte more", 40'000, true},
+        {"the last byte of a file that isn't read at once", 17'000'000, false}};
+    for (const auto& [what, fileSize, isLonger] : rows) {
+        SCOPED_TRACE(what);
+        start({.freeRoom = true, .fileSize = fileSize});
         Bytes changed = original().at(live);
-        if (row.isLonger) changed.push_back(0);
+        if (isLonger) changed.push_back(0);
         changed.back() ^= 1;
         files().write(live, changed);
         save();
@@ -134,21 +130,40 @@ TEST_F(SaveTest, TheErrorOfACopyIsThatOfTheOpenThatFailedAndTheDestinationsIfBot
     const TempDirectory directory;
     directory.write("source", "bytes");
     directory.makeDirectory("taken");
-    const struct {
-        const char *source, *destination;
-        std::int32_t error;
-    } rows[] = {{"none", "new", ERROR_FILE_NOT_FOUND},
-                {"none", "taken", ERROR_ACCESS_DENIED},
-                {"none", "nowhere\\new", ERROR_PATH_NOT_FOUND},
-                {"source", "taken", ERROR_ACCESS_DENIED},
-                {"source", "nowhere\\new", ERROR_PATH_NOT_FOUND}};
+    const std::tuple<const char*, const char*, std::int32_t> rows[] = {
+        {"none", "new", ERROR_FILE_NOT_FOUND},
+        {"none", "taken", ERROR_ACCESS_DENIED},
+        {"none", "nowhere\\new", ERROR_PATH_NOT_FOUND},
+        {"source", "taken", ERROR_ACCESS_DENIED},
+        {"source", "nowhere\\new", ERROR_PATH_NOT_FOUND}};
     std::filesystem::current_path(directory.path());
-    for (const auto& row : rows) {
-        SCOPED_TRACE(std::string(row.source) + " to " + row.destination);
-        EXPECT_EQ(copyFileBytes(row.source, row.destination, 0, CopyMode::overwrite), row.error);
-        EXPECT_EQ(moveByCopy(row.source, row.destination), row.error);
+    for (const auto& [source, destination, error] : rows) {
+        EXPECT_EQ(copyFileBytes(source, destination, 0, CopyMode::overwrite), error) << source << " to " << destination;
+        EXPECT_EQ(moveByCopy(source, destination), error) << source << " to " << destination;
     }
     EXPECT_EQ(treeOf(directory.path()).size(), 1U);
+}
+
+TEST_F(SaveTest, SaveAllSavesEachListedNeighborhoodThatHasChanged) {
+    const TempDirectory files;
+    for (const std::string directory : {"UserData", "UserData2", "UserData3"}) {
+        files.write(directory + "/neighborhood.iff", makeNeighborhoodFile({.neighbors = {{}}}).bytes);
+        files.write(directory + "/Characters/user00001.iff", makeCharacterFile().bytes);
+    }
+    EXPECT_TRUE(writeTemplates(files.path()));
+    loadNeighborhoods((files.path() + "\\").c_str(), files.path().c_str());
+    change(*neighborhoods[0]->sim(0), stageNumber::teen);
+    change(*neighborhoods[2]->sim(0), stageNumber::teen);
+    files.remove("UserData");  // doesn't stop the next, and nothing of it may be written anywhere else
+
+    const Tree before = treeOf(files.path());
+    backupClock().stopAt({2002, 12, 0, 31, 0, 0, 0, 0});
+    saveAll();
+    EXPECT_EQ(differences(before, treeOf(files.path())),
+              "UserData3/Backups/neighborhood.20021231.00.iff\nUserData3/Characters/Backups/user00001.20021231.iff\n"
+              "UserData3/Characters/user00001.iff\nUserData3/neighborhood.iff\n");
+    EXPECT_EQ(std::filesystem::current_path(), files.path("UserData3"));
+    neighborhoods = {};
 }
 
 }  // namespace
