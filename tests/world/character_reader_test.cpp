@@ -1,10 +1,88 @@
-// Reading character files on demand, with a resource map and without one, and what damaged files give; and the stage.
+// Finding tags, reading character files on demand with a resource map and without one, and what damaged files give;
+// body strings as text; and the stage.
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
+#include "world/tag_scan.h"
 
 namespace {
 
 using namespace std::string_literals;
+using enum BodyEnding;
+
+// No two alike, and those from `end` on empty.
+BodySlots numberedSlots(std::size_t end = 50) {
+    BodySlots slots;
+    for (std::size_t i = 0; i < end; ++i)
+        slots[i] = "s" + std::to_string(i);
+    return slots;
+}
+
+struct TestStream {
+    // With a window of 64 bytes, the smallest, it takes few bytes to cross its edge.
+    explicit TestStream(const Bytes& bytes) {
+        files.write("file", bytes);
+        EXPECT_TRUE(file.open(files.path("file").c_str(), StreamFile::Access::read, 64));
+    }
+    TempDirectory files;
+    StreamFile file;
+    StreamView view{file};
+};
+
+TEST(TagScan, ATagIsFoundUpToTheNotedSize) {
+    const std::tuple<const char*, std::string, int, int, int> rows[] = {
+        {"over the edge of a page", std::string(126, '.') + "XXXX..", 132, 127, 0},
+        {"begins behind the noted size", "....XXXX", 4, -4, 4},
+        {"differs behind the noted size", "....XX..", 4, -4, 6},
+        {"file shorter than noted", "....", 9, -4, 9},
+    };
+    for (const auto& [what, bytes, size, result, cursor] : rows) {
+        TestStream file(bytesFrom(bytes));
+        EXPECT_EQ(findTag(file.view, "XXXX", size), result) << what;
+        EXPECT_EQ(file.view.tell(), cursor) << what;
+    }
+}
+
+TEST(BodyStrings, AnEntryIsReadByteByByteAndSplitAtItsFirstEqualsSign) {
+    const std::string x149(149, 'x');
+    const std::pair<std::string, std::string> rows[] = {
+        {"\1ab=c=d\0\0\1e"s, "read to 8: ab, c=d"},
+        {"\1\0\0\1c\0"s, "read to 1: , "},
+        {x149 + "\0c"s, "read to 150: " + x149 + ", "},
+        {x149 + "y\1\0"s, "read to 151: " + x149 + ", "},  // 150 characters that no zero byte had to close
+        {x149 + "=\0"s, "broken off at 151: 1, 2"},
+        {"a=b\xA3\0"s, "broken off at 4: 1, 2"},
+        {"a=b\1", "broken off at 4: 1, 2"},
+    };
+    for (const auto& [bytes, expected] : rows) {
+        TestStream file(bytesFrom(bytes));
+        StreamView stream = file.view;
+        BodyStrings::Slot first("1"), second("2");
+        const std::string result = readPair(first, second, stream) == 1 ? "read to " : "broken off at ";
+        EXPECT_EQ(result + std::to_string(stream.tell()) + ": " + first.c_str() + ", " + second.c_str(), expected);
+    }
+}
+
+TEST(BodyStrings, ATextIsReadAndWrittenBackByteByByte) {
+    BodySlots shortSkin = numberedSlots();
+    shortSkin[sampleSlot::w100Skin] = "x";
+    const std::tuple<const char*, BodySlots, BodyEnding, std::int16_t, std::int16_t, BodyEnding> rows[] = {
+        {"base game", numberedSlots(42), atEntry29, 4, 4, atEntry29},
+        {"base game's text under a later record", numberedSlots(42), atEntry29, 7, 6, atEntry32},
+        {"expansion, under an old record", numberedSlots(48), atEntry32, 6, 7, atEntry29},
+        {"later expansion", numberedSlots(), atEntry33, 8, 7, atEntry33},
+        {"entry 33 with a skin of one letter", shortSkin, atEntry33, 7, 7, atEntry32},
+    };
+    for (const auto& [what, slots, ending, simVersion, version, written] : rows) {
+        SCOPED_TRACE(what);
+        BodyStrings body;
+        body.parse(TestStream(filledBodyStringText(slots, ending, 1041)).view, simVersion);
+        EXPECT_EQ(slotsOf(body), slots);
+        EXPECT_EQ(body.version(), version);
+        Bytes buffer(3000);
+        buffer.resize(body.serialise(buffer, 1041, simVersion));
+        EXPECT_EQ(buffer, filledBodyStringText(slots, written, 1042));
+    }
+}
 
 std::string guidText(Sim& sim) {
     const auto bytes = sim.guid().bytes();
@@ -26,7 +104,7 @@ TEST(CharacterReader, TheSamePartsAreFoundWithAMapAndWithoutOne) {
         {"name longer than its room", {.name = std::string(120, 'n')}},
         {"no object chunk", {.hasObject = false}},
         {"other label", {.bodyLabel = "bodystrinG"}},
-        {"end of the second form", {.ending = BodyEnding::atEntry33, .bodyTextSize = 0}},
+        {"end of the second form", {.ending = atEntry33, .bodyTextSize = 0}},
     };
     for (const bool map : {true, false}) {
         for (auto [what, character] : rows) {
@@ -49,7 +127,7 @@ TEST(CharacterReader, TheSamePartsAreFoundWithAMapAndWithoutOne) {
 
 TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
     const CharacterFile built = makeCharacterFile({.hasPictures = false, .map = false});
-    const std::size_t fill = built.bodyStringsOffset + 86 + bodyStringText(adultSlots(), BodyEnding::atEntry32).size();
+    const std::size_t fill = built.bodyStringsOffset + 86 + bodyStringText(adultSlots(), atEntry32).size();
     const auto cutAt = [&](std::size_t size) {
         return std::string(built.bytes.begin(), built.bytes.end()).substr(0, size);
     };
