@@ -57,13 +57,15 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
 }
 
 TEST_F(PreparationTest, AFileThatASaveCantUseStaysAndIsReported) {
-    const Bytes own = playersTemplate();
-    std::vector<std::pair<std::string, Bytes>> rows = {{"famtemplate", Bytes(231)}};
-    rows.push_back({"Template.iff", Bytes(own.begin(), own.end() - 1)});
-    for (const std::size_t offset : {3976U, 4268U, 54016U, 54025U}) {
-        rows.push_back({"Template.iff", own});
-        rows.back().second[offset] ^= 1;
-    }
+    Bytes cut = playersTemplate();
+    cut.pop_back();
+    // The others have a wrong letter in a chunk's tag, or in the id of the body strings.
+    const std::pair<std::string, Bytes> rows[] = {{"famtemplate", Bytes(231)},
+                                                  {"Template.iff", cut},
+                                                  {"Template.iff", playersTemplate(3976)},
+                                                  {"Template.iff", playersTemplate(4268)},
+                                                  {"Template.iff", playersTemplate(54016)},
+                                                  {"Template.iff", playersTemplate(54025)}};
     for (const auto& [name, file] : rows) {
         files_.write("tool/" + name, file);
         EXPECT_TRUE(!isReady() && reports(name + " is there already, but a save can't use it")) << report_;
@@ -118,33 +120,30 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
 TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
     const std::string tool = fs::current_path().string();
     const std::string planned = "In " + tool + ":\n    Template.iff, out of one of your own Sims' files\n";
-    const struct {
-        std::string option;
-        int answer, code;
-        std::string said, directory = "tool";
-    } rows[] = {{"--no", IDOK, 1, "The options are"},
-                {"--yes", IDOK, 1, "in the directory that it was unpacked to", "prefix"},
-                {"--if-needed", IDCANCEL, 1, "-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"},
-                {"--yes", IDOK, 0, "Everything is ready"},
-                {"", IDOK, 0, "Everything is ready"},
-                {"--if-needed", IDOK, 0, ""},
-                {"--new-template", IDOK, 0, "will be made.\n\n" + planned + "    (the present one is kept"}};
+    const std::tuple<const char*, std::string, int, int, std::string> rows[] = {
+        {"tool", "--no", IDOK, 1, "The options are"},
+        {"prefix", "--yes", IDOK, 1, "in the directory that it was unpacked to"},
+        {"tool", "--if-needed", IDCANCEL, 1, "-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"},
+        {"tool", "--yes", IDOK, 0, "Everything is ready"},
+        {"tool", "", IDOK, 0, "Everything is ready"},
+        {"tool", "--if-needed", IDOK, 0, ""},
+        {"tool", "--new-template", IDOK, 0, "will be made.\n\n" + planned + "    (the present one is kept"}};
     const Tree unprepared = treeOf(files_.path());
     const auto run = [](std::string option) {
         std::string program = "tidewright-prepare";
         char* arguments[] = {program.data(), option.data()};
         return runProgram(option.empty() ? 1 : 2, arguments);
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.said);
-        fs::current_path(files_.path(row.directory));
-        const AnsweredBox first = answerNextBox(row.answer), second = answerNextBox(IDOK);
-        EXPECT_EQ(run(row.option), row.code);
-        EXPECT_TRUE(first->shown != row.said.empty() && first->text.find(row.said) != std::string::npos) << first->text;
-        EXPECT_EQ(second->shown, row.option == "--new-template");
-        EXPECT_EQ(treeOf(files_.path()) == unprepared, row.code != 0);
-        if (row.code != 0) continue;
-        const bool made = row.option == "--yes" || row.option == "--new-template";
+    for (const auto& [directory, option, answer, code, said] : rows) {
+        SCOPED_TRACE(said);
+        fs::current_path(files_.path(directory));
+        const AnsweredBox first = answerNextBox(answer), second = answerNextBox(IDOK);
+        EXPECT_EQ(run(option), code);
+        EXPECT_TRUE(first->shown != said.empty() && first->text.find(said) != std::string::npos) << first->text;
+        EXPECT_EQ(second->shown, option == "--new-template");
+        EXPECT_EQ(treeOf(files_.path()) == unprepared, code != 0);
+        if (code != 0) continue;
+        const bool made = option == "--yes" || option == "--new-template";
         EXPECT_EQ(files_.bytesOf("tool/Template.iff"), made ? expectedTemplate() : playersTemplate(textLetter));
         files_.write("tool/Template.iff", playersTemplate(textLetter));
     }

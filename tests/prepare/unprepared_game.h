@@ -2,10 +2,6 @@
 #ifndef TESTS_PREPARE_UNPREPARED_GAME_H
 #define TESTS_PREPARE_UNPREPARED_GAME_H
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
 #include "gamefiles/iff_reader.h"
 #include "prepare/preparation.h"
 #include "prepare/template_maker.h"
