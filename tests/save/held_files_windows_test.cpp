@@ -61,6 +61,7 @@ class HeldFilesWindowsTest : public SaveTest {
 TEST_F(HeldFilesWindowsTest, AFileThatStaysHeldStaysWholeAndIsMarked) {
     const std::vector<DWORD> withoutRead = {none, write, erase, write | erase};
     const std::vector<DWORD> withRead = {read, read | write, read | erase, read | write | erase};
+    const std::vector<DWORD> notReadWrite = {none, read, write, erase, read | erase, write | erase};
     const std::string allOld = "old, temporary other bytes; old; old, temporary other bytes, backup other bytes";
     const std::string newSims = "new, backup old; new, backup old; ";
     const std::string withoutAnn = "; new, backup old; new without Ann, backup old";
@@ -71,13 +72,10 @@ TEST_F(HeldFilesWindowsTest, AFileThatStaysHeldStaysWholeAndIsMarked) {
         {ann, withoutRead, "old, temporary new" + withoutAnn, true},
         {ann, {read, read | write}, "old, temporary new, backup old" + withoutAnn, true},
         {ann, {read | erase, read | write | erase}, allSaved, false},
-        {temporary, {none, read, write, erase, read | erase, write | erase}, allOld, true},
+        {temporary, notReadWrite, allOld, true},
         {temporary, {read | write}, newSims + "new, temporary new, backup old", false},
         {temporary, {read | write | erase}, allSaved, false},
-        {annsTemporary,
-         {none, read, write, erase, read | erase, write | erase},
-         "old, temporary other bytes" + withoutAnn,
-         true},
+        {annsTemporary, notReadWrite, "old, temporary other bytes" + withoutAnn, true},
         {annsTemporary, {read | write}, "new, temporary new, backup old; new, backup old; new, backup old", false},
         {annsTemporary, {read | write | erase}, allSaved, false},
         {backup, {none, read, write, read | write}, newSims + "old, temporary new, backup other bytes", true},

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <future>
 #include <optional>
 #include <thread>
 
@@ -15,17 +16,16 @@ using SaveNativeTest = SaveTest;
 
 TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile) {
     start();
-    const std::string characters = files().path("UserData/Characters/");
-    std::filesystem::rename(characters + "user00001.iff", characters + "User00001.IFF");
-    ASSERT_EQ(chown((characters + "User00001.IFF").c_str(), static_cast<uid_t>(-1), getgid() == 0 ? 5 : getgid()), 0);
-    ASSERT_EQ(chmod((characters + "User00001.IFF").c_str(), 0664), 0);
-    struct stat before = {}, after = {};
-    ASSERT_EQ(stat((characters + "User00001.IFF").c_str(), &before), 0);
+    const std::string characters = files().path("UserData/Characters/"), ann = characters + "User00001.IFF";
+    const gid_t group = getgid() == 0 ? 5 : getgid();
+    std::filesystem::rename(characters + "user00001.iff", ann);
+    ASSERT_EQ(chown(ann.c_str(), static_cast<uid_t>(-1), group), 0);
+    ASSERT_EQ(chmod(ann.c_str(), 0664), 0);
     save();
-    for (const char* const name : {"User00001.IFF", "Backups/user00001.200235.iff"}) {
-        ASSERT_EQ(stat((characters + name).c_str(), &after), 0) << name;
-        EXPECT_EQ(after.st_mode, before.st_mode) << name;
-        EXPECT_EQ(after.st_gid, before.st_gid) << name;
+    for (const std::string& name : {ann, characters + "Backups/user00001.200235.iff"}) {
+        struct stat status = {};
+        ASSERT_EQ(stat(name.c_str(), &status), 0) << name;
+        EXPECT_TRUE(status.st_mode == (S_IFREG | 0664) && status.st_gid == group) << name;
     }
     EXPECT_FALSE(std::filesystem::exists(characters + "user00001.iff"));
 }
@@ -63,12 +63,11 @@ TEST_F(SaveNativeTest, AnotherSaveIsWaitedForButOnlyForAWhile) {
     save();
     EXPECT_EQ(states(), "old; old; old");
     EXPECT_TRUE(test()->isDirty());
-    std::thread ending([&] {
+    const auto ending = std::async(std::launch::async, [&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(400));
         other.reset();
     });
     save();
-    ending.join();
     EXPECT_EQ(states(), allSaved);
 }
 

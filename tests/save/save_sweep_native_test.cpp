@@ -41,7 +41,7 @@ class SaveSweepTest : public SaveTest {
                 isMarked_ = descriptor == marked;
                 if (++saves == 1) noteFirst();
             }
-            return saves == 0 ? decide(call) : heldCall::carryOut;
+            return saves == 0 ? decide(call) : carryOut;
         });
         if (saves == 0) noteFirst();
     }
@@ -53,14 +53,14 @@ class SaveSweepTest : public SaveTest {
             int calls = 0;
             answeredCall_ = -1;
             saveTwice([&](const seccomp_data& call) {
-                if (++calls != point) return heldCall::carryOut;
+                if (++calls != point) return carryOut;
                 answeredCall_ = static_cast<int>(call.nr);
                 return answer;
             });
             SCOPED_TRACE(testing::Message()
                          << "answered " << answer << " at call " << point << ", number " << answeredCall_);
-            expectNothingLost(answer == heldCall::endProcess);
-            if (answer == heldCall::endProcess) {
+            expectNothingLost(answer == endProcess);
+            if (answer == endProcess) {
                 expectThatTheNextSaveClearsUp();
             } else {
                 expectHomeOrMarked();
@@ -95,7 +95,7 @@ class SaveSweepTest : public SaveTest {
     // The parts go, and what was set aside comes back.
     void expectThatTheNextSaveClearsUp() const {
         const auto next = [this] { save(8); };
-        runWithHeldCalls(next, [](const seccomp_data&) { return heldCall::carryOut; });
+        runWithHeldCalls(next, [](const seccomp_data&) { return carryOut; });
         const std::string whole = "(old|new)(, temporary (new|other bytes))?(, backup [a-z ]+)?";
         const std::string secondBackup = "(; UserData/Backups/neighborhood.200235.148.iff\n)?";
         const std::regex clear(whole + "; " + whole + "; " + whole + secondBackup);
@@ -119,7 +119,7 @@ class SaveSweepTest : public SaveTest {
 };
 
 TEST_F(SaveSweepTest, AKilledSaveLosesNothing) {
-    sweep(heldCall::endProcess, 1, 1);
+    sweep(endProcess, 1, 1);
 }
 
 TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
@@ -135,7 +135,7 @@ TEST_F(SaveSweepTest, EachVersionIsOnTheDiskBeforeAnOlderOneGoes) {
         if (call.nr == SYS_fsync) calls += "sync ";
         if (call.nr == SYS_renameat) calls += "name ";
         if (call.nr == SYS_unlinkat) calls += "delete ";
-        return heldCall::carryOut;
+        return carryOut;
     });
     // The temporary file and both copies; the backup's name, and its directory; the live file's directory, before the
     // old file is set aside and the new one takes its name; that directory again, before the older ones go.
@@ -157,9 +157,7 @@ TEST_F(SaveSweepTest, ASyncThatFailsCostsNoVersion) {
         for (const int error : {EIO, EINVAL, ENOTSUP}) {
             SCOPED_TRACE(testing::Message() << notOnDisk << ", error " << error);
             int left = number;
-            saveTwice([&](const seccomp_data& call) {
-                return call.nr == SYS_fsync && --left == 0 ? error : heldCall::carryOut;
-            });
+            saveTwice([&](const seccomp_data& call) { return call.nr == SYS_fsync && --left == 0 ? error : carryOut; });
             EXPECT_EQ(afterFirst_, error == EIO ? after : allSaved);
             EXPECT_EQ(isMarkedAfterFirst_, error == EIO && isMarked);
         }
@@ -176,8 +174,8 @@ TEST_F(SaveSweepTest, WhatOthersWriteMeanwhileStaysAndIsNotSavedOver) {
         std::string after;
         bool isMarked;
     } rows[] = {{"Bob's file is in its place, and a backup of the neighborhood's isn't made yet", SYS_renameat, 4, live,
-                 heldCall::carryOut, "new, backup old; new, backup old; other bytes, temporary new", true},
-                {"the live file was compared, and isn't copied yet", SYS_ftruncate, 1, live, heldCall::carryOut,
+                 carryOut, "new, backup old; new, backup old; other bytes, temporary new", true},
+                {"the live file was compared, and isn't copied yet", SYS_ftruncate, 1, live, carryOut,
                  "old; old; other bytes, temporary other bytes", true},
                 {"nothing can be locked, so another save may be making it", SYS_flock, 1, othersPart, ENOLCK,
                  std::string(allSaved) + "; " + othersPart + "\n", false}};
@@ -185,7 +183,7 @@ TEST_F(SaveSweepTest, WhatOthersWriteMeanwhileStaysAndIsNotSavedOver) {
         SCOPED_TRACE(row.what);
         int calls = 0;
         saveTwice([&](const seccomp_data& call) {
-            if (call.nr != row.call || ++calls != row.number) return heldCall::carryOut;
+            if (call.nr != row.call || ++calls != row.number) return carryOut;
             files().write(row.file, "of another program");
             return row.answer;
         });

@@ -4,11 +4,7 @@
 #ifndef TESTS_SAVE_SAVE_TEST_H
 #define TESTS_SAVE_SAVE_TEST_H
 
-#include <map>
-#include <memory>
 #include <numeric>
-#include <string>
-#include <vector>
 
 #include "gamefiles/templates.h"
 #include "sample/fact_template.h"
@@ -39,7 +35,16 @@ class SaveTest : public testing::Test {
         EXPECT_TRUE(writeTemplates(files().path()));
         original_ = treeOf(files().path());
         cut_ = !shape.before.empty() ? 64 : shape.freeRoom ? built().freeRoomOffset : built().mapOffset;
-        nameVersions();
+        versions_ = {{live, {{original_.at(live), "old"}}}};
+        for (const std::size_t sim : {0U, 1U}) {
+            const std::string file = TestNeighborhood::characterFile(characters_[sim].recordName);
+            versions_[file] = {{original_.at(file), "old"}, {savedCharacter(sim), "new"}};
+        }
+        for (const auto& [withAnn, withBob, what] : {std::tuple(true, true, "new"),
+                                                     {false, true, "new without Ann"},
+                                                     {true, false, "new without Bob"},
+                                                     {false, false, "new without both"}})
+            versions_[live].emplace(newNeighborhood(withAnn, withBob), what);
         change(test_->sim(0), stageNumber::teen);
         change(test_->sim(1), stageNumber::adult);
         moveOut(2, cleos, 40'000);
@@ -134,19 +139,6 @@ class SaveTest : public testing::Test {
     static constexpr std::uint32_t stranger = 0x44434241;  // a member without a record
 
  private:
-    void nameVersions() {
-        versions_.clear();
-        for (const std::size_t sim : {0U, 1U}) {
-            const std::string file = TestNeighborhood::characterFile(characters_[sim].recordName);
-            versions_[file] = {{original_.at(file), "old"}, {savedCharacter(sim), "new"}};
-        }
-        versions_[live] = {{original_.at(live), "old"}};
-        versions_[live].emplace(newNeighborhood(true, true), "new");
-        versions_[live].emplace(newNeighborhood(false, true), "new without Ann");
-        versions_[live].emplace(newNeighborhood(true, false), "new without Bob");
-        versions_[live].emplace(newNeighborhood(false, false), "new without both");
-    }
-
     Bytes savedCharacter(std::size_t index) const {
         const SampleCharacter& sim = characters_[index];
         const BodyEnding ending = sampleBodyEnding(sim.slots, neighbors_[index].version);

@@ -19,10 +19,8 @@
 #include <vector>
 
 // What becomes of a held call: one of these, or the `errno` of a call that fails without being carried out.
-namespace heldCall {
 constexpr int carryOut = 0;
 constexpr int endProcess = -1;  // instead of the call, as by `kill -9`
-}  // namespace heldCall
 
 using CallDecision = std::function<int(const seccomp_data& call)>;
 
@@ -52,11 +50,10 @@ inline void answerCalls(int listener, pid_t child, const CallDecision& decide) {
         if (ioctl(listener, SECCOMP_IOCTL_NOTIF_RECV, &held) != 0) continue;
         seccomp_notif_resp answer{held.id, 0, 0, 0};
         const int decision = decide(held.data);
-        if (decision == heldCall::endProcess) kill(child, SIGKILL);
+        if (decision == endProcess) kill(child, SIGKILL);
         if (decision > 0) answer.error = -decision;
         // Nothing here cuts the power, so a sync would only take time.
-        if (decision == heldCall::carryOut && held.data.nr != SYS_fsync)
-            answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
+        if (decision == carryOut && held.data.nr != SYS_fsync) answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
         ioctl(listener, SECCOMP_IOCTL_NOTIF_SEND, &answer);
     }
 }
