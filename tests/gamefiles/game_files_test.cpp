@@ -68,8 +68,7 @@ TEST(SkinTest, EndsAfterTheListsThatItCounts) {
     std::string mesh, texture, field;
     skin >> mesh >> texture;
     // Bones, triangles, bindings, texture coordinates, blended vertices, vertices.
-    for (const int fields : {1, 3, 5, 2, 2, 6}) {
-        int count = 0;
+    for (int count = 0; const int fields : {1, 3, 5, 2, 2, 6}) {
         skin >> count;
         for (int i = 0; i < count * fields; ++i)
             skin >> field;

@@ -1,9 +1,5 @@
 #include "lifestage/skin_sets.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-
 #include "lifestage/random_generator.h"
 #include "platform/letter_case.h"
 #include "tests/support/build_directory.h"

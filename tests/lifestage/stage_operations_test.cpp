@@ -1,6 +1,4 @@
 // The three operations on Sims whose files are on the disk, and the bodies that they dress Sims in.
-#include <gtest/gtest.h>
-
 #include "lifestage/child_to_teen.h"
 #include "lifestage/move_out.h"
 #include "lifestage/random_generator.h"
@@ -30,8 +28,8 @@ class OneSim : public TestNeighborhood {
     }
 
     static SampleCharacter characterOf(bool isChild, const char* head, BodyEnding ending) {
-        SampleCharacter character{.tag = isChild ? "child" : "adult", .ending = ending};
-        character.slots = isChild ? childSlots() : teenSlots();
+        SampleCharacter character{
+            .tag = isChild ? "child" : "adult", .slots = isChild ? childSlots() : teenSlots(), .ending = ending};
         setHead(character.slots, "oldMesh", head);
         return character;
     }

@@ -1,7 +1,5 @@
 #include "sample/installation.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 #include "sample/bitmap.h"
