@@ -10,8 +10,6 @@
 
 namespace {
 
-using namespace std::string_literals;
-
 TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
     Tree expected = treeOf(game_);
     expected[fs::relative(skin_, game_).generic_string()] = bytesFrom(packageSkin());
@@ -51,8 +49,8 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
     const std::time_t now = std::time(nullptr);
     char copy[32];
     std::strftime(copy, sizeof copy, "tool/Template %Y-%m-%d", std::gmtime(&now));
-    EXPECT_EQ(files_.bytesOf(copy + ".iff"s), own);
-    EXPECT_EQ(files_.bytesOf(copy + " 2.iff"s), makeFactTemplate());
+    EXPECT_EQ(files_.bytesOf(copy + std::string(".iff")), own);
+    EXPECT_EQ(files_.bytesOf(copy + std::string(" 2.iff")), makeFactTemplate());
     EXPECT_EQ(treeOf(files_.path("tool")).size(), players.size() + 2);
 }
 
@@ -118,8 +116,8 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
 }
 
 TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
-    const std::string tool = fs::current_path().string();
-    const std::string planned = "In " + tool + ":\n    Template.iff, out of one of your own Sims' files\n";
+    const std::string planned =
+        "In " + fs::current_path().string() + ":\n    Template.iff, out of one of your own Sims' files\n";
     const std::tuple<const char*, std::string, int, int, std::string> rows[] = {
         {"tool", "--no", IDOK, 1, "The options are"},
         {"prefix", "--yes", IDOK, 1, "in the directory that it was unpacked to"},

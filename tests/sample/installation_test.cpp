@@ -43,16 +43,12 @@ TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
 TEST(InstallationTest, ALargeOneHasARealNeighborhoodAndAFullOne) {
     const TempDirectory files;
     ASSERT_TRUE(writeLargeInstallation(files.path("prefix"), 2));
-    const Tree large = treeOf(gameDirectory(files.path("prefix")));
-    EXPECT_EQ(large.at("UserData/Neighborhood.iff").size(), 566000U);
-    for (const auto& [name, bytes] : large)
-        EXPECT_EQ(name.ends_with(".iff") ? walkIff(bytes).fault : "", "") << name;
-
+    EXPECT_EQ(std::filesystem::file_size(gameDirectory(files.path("prefix")) / "UserData/Neighborhood.iff"), 566000U);
     loadNeighborhoods(installGame(files.path("prefix")).c_str(), "");
     Neighborhood& full = *neighborhoods[1];
     EXPECT_EQ(full.simCount(), 820);
     EXPECT_EQ(full.familyCount(), 100);
-    EXPECT_EQ(full.family(0)->memberCount(), 8);
+    ASSERT_EQ(full.family(0)->memberCount(), 8);
     EXPECT_EQ(std::string(full.family(0)->member(7)->name()).size(), 99U);
 }
 
