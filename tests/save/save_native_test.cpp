@@ -30,30 +30,25 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
     EXPECT_FALSE(std::filesystem::exists(characters + "user00001.iff"));
 }
 
-TEST_F(SaveNativeTest, AProtectedFileStays) {
-    const std::string backup = "UserData/Backups/neighborhood.200235.147.iff";
+TEST_F(SaveNativeTest, AProtectedFileStaysAndOneThatATemporaryNameLinksTo) {
+    const std::string temporary = "UserData/TMPneighborhood.iff",
+                      backup = "UserData/Backups/neighborhood.200235.147.iff";
     const std::tuple<std::string, std::string, bool> rows[] = {
         {live, "new, backup old; new, backup old; old, temporary new", true},
         {TestNeighborhood::characterFile("user00001"),
          "old, temporary new; new, backup old; new without Ann, backup old", true},
-        {backup, "new, backup old; new, backup old; new, backup other bytes, aside old", false}};
+        {backup, "new, backup old; new, backup old; new, backup other bytes, aside old", false},
+        {temporary, "old; old; old, temporary old", true}};
     for (const auto& [name, after, isMarked] : rows) {
         SCOPED_TRACE(name);
         start();
         if (name == backup) files().write(backup, "older");
-        std::filesystem::permissions(files().path(name), std::filesystem::perms::owner_read);
+        if (name == temporary) std::filesystem::create_symlink(files().path(live), files().path(name));
+        if (name != temporary) std::filesystem::permissions(files().path(name), std::filesystem::perms::owner_read);
         save();
         EXPECT_EQ(states(), after);
         EXPECT_EQ(test()->isDirty(), isMarked);
     }
-}
-
-TEST_F(SaveNativeTest, ATemporaryNameThatLinksToTheLiveFileCostsItNothing) {
-    start();
-    std::filesystem::create_symlink(files().path(live), files().path("UserData/TMPneighborhood.iff"));
-    save();
-    EXPECT_EQ(states(), "old; old; old, temporary old");
-    EXPECT_TRUE(test()->isDirty());
 }
 
 TEST_F(SaveNativeTest, AnotherSaveIsWaitedForButOnlyForAWhile) {

@@ -114,10 +114,9 @@ TEST_F(SaveTest, ASaveAcrossMidnightHasTheDateOfItsBeginning) {
     backupClock().stopAt({2002, 3, 0, 5, 14, 7, 0, 0});
     const SaveAttempt attempt(*test());
     backupClock().stopAt({2002, 3, 0, 6, 0, 0, 0, 0});
-    const std::string temporary = files().path("UserData") + "\\TMPneighborhood.iff";
-    EXPECT_EQ(test()->writeTempFile(temporary.c_str()), 1);
+    EXPECT_EQ(test()->writeTempFile("TMPneighborhood.iff"), 1);
     test()->backupLiveFile();
-    test()->installTempFile(temporary.c_str());
+    test()->installTempFile("TMPneighborhood.iff");
     EXPECT_EQ(states(), allSaved);
 }
 

@@ -33,8 +33,11 @@ class SaveTest : public testing::Test {
         test_.reset();  // it takes the working directory back
         test_ = std::make_unique<TestNeighborhood>(shape, characters_);
         EXPECT_TRUE(writeTemplates(files().path()));
+        Bytes familyTemplate = makeFamilyTemplate();
+        overwrite(familyTemplate, 205, Bytes(24, 'x'));  // of a player's, whose name doesn't stay
+        files().write("famtemplate", familyTemplate);
         original_ = treeOf(files().path());
-        cut_ = !shape.before.empty() ? 64 : shape.freeRoom ? built().freeRoomOffset : built().mapOffset;
+        cut_ = !shape.before.empty() ? 64 : shape.freeRoom ? test_->built().freeRoomOffset : test_->built().mapOffset;
         versions_ = {{live, {{original_.at(live), "old"}}}};
         for (const std::size_t sim : {0U, 1U}) {
             const std::string file = TestNeighborhood::characterFile(characters_[sim].recordName);
@@ -79,12 +82,11 @@ class SaveTest : public testing::Test {
 
     const TestNeighborhood& test() const { return *test_; }
     const TempDirectory& files() const { return test_->files(); }
-    const NeighborhoodFile& built() const { return test_->built(); }
     const Tree& original() const { return original_; }
 
     // Money and members of the family that was left, in a table that keeps its size.
     void overwriteFamily(Bytes& file, int funds, const std::vector<std::uint32_t>& members) const {
-        const std::size_t table = built().families[0].memberTable;
+        const std::size_t table = test_->built().families[0].memberTable;
         ByteWriter guids;
         for (const std::uint32_t member : members)
             guids.u32Le(member);
@@ -171,9 +173,9 @@ class SaveTest : public testing::Test {
     }
 
     Bytes newNeighborhood(bool withAnn, bool withBob) const {
-        Bytes file = built().bytes;
-        if (withAnn) overwrite(file, built().neighborOffsets[0], savedRecord(0));
-        if (withBob) overwrite(file, built().neighborOffsets[1], savedRecord(1));
+        Bytes file = test_->built().bytes;
+        if (withAnn) overwrite(file, test_->built().neighborOffsets[0], savedRecord(0));
+        if (withBob) overwrite(file, test_->built().neighborOffsets[1], savedRecord(1));
         overwriteFamily(file, 70'000, {1, stranger});
         overwrite(file, 61, Bytes(3));
         if (cut_ > 0) file.resize(cut_);
