@@ -98,6 +98,8 @@ TEST_F(FilesTest, ANewVersionTakesItsNameWhenItIsComplete) {
         EXPECT_EQ(contentOf(part), "no such file");
     }
     EXPECT_EQ(fileNamesIn(directory_.path().c_str()).size(), 3U) << "the name is spelled as it was";
+    NewVersion next("..\\User00042.iff");
+    EXPECT_TRUE(next.open("") && next.complete() && next.setAside() && contentOf(aside) == "old") << "by another name";
 }
 
 TEST_F(FilesTest, OfEndedProcessesPartsGoAndAFileThatHasNoNewVersionComesBack) {
