@@ -1,8 +1,5 @@
 #include "sample/installation.h"
 
-#include <set>
-
-#include "sample/bitmap.h"
 #include "tests/support/iff_walk.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
@@ -11,12 +8,6 @@
 namespace {
 
 using namespace std::string_literals;
-
-TEST(BitmapTest, HasPaddedRowsFromTheBottomUp) {
-    EXPECT_EQ(textAt(portraitBitmap(2, 2, {.background = 0x010203, .skin = 0x040506})),
-              "BM\x46\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x10\0\0\0"s
-              "\x13\x0B\0\0\x13\x0B\0\0\0\0\0\0\0\0\0\0\3\2\1\6\5\4\0\0\3\2\1\3\2\1\0\0"s);
-}
 
 TEST(NeighborhoodFileTest, ARecordGoesOnBehindThePersonData) {
     const Bytes record = sampleNeighborRecord({.neighborId = 0x0102, .relationships = {{7, {-1}}}});
@@ -50,28 +41,6 @@ TEST(InstallationTest, ALargeOneHasARealNeighborhoodAndAFullOne) {
     EXPECT_EQ(full.familyCount(), 100);
     ASSERT_EQ(full.family(0)->memberCount(), 8);
     EXPECT_EQ(std::string(full.family(0)->member(7)->name()).size(), 99U);
-}
-
-TEST(InstallationTest, HasSimsOfEveryKind) {
-    const TempDirectory files;
-    ASSERT_TRUE(writeInstallation(files.path("prefix")));
-    loadNeighborhoods(installGame(files.path("prefix")).c_str(), "");
-    std::set<std::string> kinds;  // stage, age, letters from the body's mesh and its version
-    for (std::size_t i = 0; i < 3; ++i) {
-        for (std::int32_t k = 0; k < neighborhoods[i]->simCount(); ++k) {
-            Sim& sim = *neighborhoods[i]->sim(k);
-            std::string kind = std::to_string(sim.stage()) + " " + std::to_string(sim.age());
-            if (const BodyStrings* body = sim.bodyStrings()) {
-                const std::string mesh = body->slot(bodySlot::bodyMesh);
-                kind += " " + mesh.substr(6, 3) + " " + std::to_string(body->version());
-                const char* tones[] = {"", "lgt", "drk", "med"};
-                EXPECT_STREQ(body->slot(bodySlot::skinTone), tones[sim.skinTone()]) << sim.name();
-            }
-            kinds.insert(kind);
-        }
-    }
-    EXPECT_EQ(kinds, (std::set<std::string>{"-1 27 _sm 7", "0 27", "3 9 chd 6", "3 9 chd 7", "5 18 TNR 7", "5 27 TNR 7",
-                                            "6 27 fit 5", "6 27 fit 7"}));
 }
 
 }  // namespace

@@ -200,20 +200,6 @@ TEST_F(SaveSweepTest, AFailedCallLosesNothingAndLeavesTheRestMarked) {
         sweep(error, isWhole ? 1 : begin++, isWhole ? 1 : 4);
 }
 
-TEST_F(SaveSweepTest, EachVersionIsOnTheDiskBeforeAnOlderOneGoes) {
-    std::string calls;
-    saveTwice([&](const seccomp_data& call) {
-        if (call.nr == SYS_fsync) calls += "sync ";
-        if (call.nr == SYS_renameat) calls += "name ";
-        if (call.nr == SYS_unlinkat) calls += "delete ";
-        return carryOut;
-    });
-    // The temporary file and both copies; the backup's name, and its directory; the live file's directory, before the
-    // old file is set aside and the new one takes its name; that directory again, before the older ones go.
-    const std::string ofEach = "sync sync sync name sync sync name name sync delete delete ";
-    EXPECT_EQ(calls, ofEach + ofEach + ofEach);
-}
-
 TEST_F(SaveSweepTest, ASyncThatFailsCostsNoVersion) {
     const std::string others = "; new, backup old; new without Ann, backup old";
     const std::tuple<const char*, int, std::string, bool> rows[] = {
