@@ -2,7 +2,7 @@
 
 #include "lifestage/random_generator.h"
 #include "platform/letter_case.h"
-#include "tests/support/build_directory.h"
+#include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 
 namespace {

@@ -1,9 +1,7 @@
 #include "sample/installation.h"
 
 #include "tests/support/iff_walk.h"
-#include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
-#include "world/neighborhoods.h"
 
 namespace {
 
@@ -29,18 +27,6 @@ TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
     files.write("others/system.reg", "a player's own");
     EXPECT_FALSE(writeInstallation(files.path("others")));
     EXPECT_EQ(treeOf(files.path("others")), (Tree{{"system.reg", bytesFrom("a player's own")}}));
-}
-
-TEST(InstallationTest, ALargeOneHasARealNeighborhoodAndAFullOne) {
-    const TempDirectory files;
-    ASSERT_TRUE(writeLargeInstallation(files.path("prefix"), 2));
-    EXPECT_EQ(std::filesystem::file_size(gameDirectory(files.path("prefix")) / "UserData/Neighborhood.iff"), 566000U);
-    loadNeighborhoods(installGame(files.path("prefix")).c_str(), "");
-    Neighborhood& full = *neighborhoods[1];
-    EXPECT_EQ(full.simCount(), 820);
-    EXPECT_EQ(full.familyCount(), 100);
-    ASSERT_EQ(full.family(0)->memberCount(), 8);
-    EXPECT_EQ(std::string(full.family(0)->member(7)->name()).size(), 99U);
 }
 
 }  // namespace

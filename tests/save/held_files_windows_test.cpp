@@ -47,7 +47,6 @@ class HeldFilesWindowsTest : public SaveTest {
                       annsTemporary = TestNeighborhood::characterFile("TMPuser00001"),
                       backup = "UserData/Backups/neighborhood.200235.147.iff", body = "Template.iff",
                       family = "famtemplate";
-    // All modes take two minutes.
     const bool isWhole = std::getenv("TIDEWRIGHT_ALL_POINTS") != nullptr;
     const std::vector<DWORD> shares = isWhole ? std::vector<DWORD>{0, 1, 2, 3, 4, 5, 6, 7}
                                               : std::vector<DWORD>{none, read, read | write, read | write | erase};
@@ -103,7 +102,6 @@ TEST_F(HeldFilesWindowsTest, AFileThatComesFreeIsWaitedFor) {
             HANDLE const thread = CreateThread(nullptr, 0, closeSoon, startAndHold(name, share), 0, nullptr);
             save();
             WaitForSingleObject(thread, INFINITE);
-            CloseHandle(thread);
             EXPECT_EQ(states(), allSaved);
             EXPECT_FALSE(test()->isDirty());
         }

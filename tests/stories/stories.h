@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "sample/installation.h"
-#include "tests/support/build_directory.h"
+#include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/x_server.h"
 

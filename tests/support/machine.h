@@ -6,6 +6,9 @@
 #include <filesystem>
 #include <string>
 
+// Where the programs and data files of the build lie: where the test program was started.
+inline const std::filesystem::path buildDirectory = std::filesystem::current_path();
+
 // Makes the game of this sample prefix the one that is installed, and returns its directory as the registry has it,
 // with a separator at the end.
 std::string installGame(const std::filesystem::path& prefix);
