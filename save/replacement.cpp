@@ -7,7 +7,25 @@ namespace {
 
 constexpr std::int32_t notAsSeen = -1;
 
+// The path with the file's name as the directory spells it. To find a name that is spelled in another way takes a look
+// at all the others each time.
+std::string spelled(const char* path) {
+    std::string found = path;
+    WIN32_FIND_DATAA file{};
+    const HANDLE search = FindFirstFileA(path, &file);
+    if (search == INVALID_HANDLE_VALUE) return found;
+    FindClose(search);
+    return found.replace(found.find_last_of('\\') + 1, std::string::npos, file.cFileName);
+}
+
 }  // namespace
+
+Replacement::Replacement(const char* live, const char* target, const char* backup, const char* temporary,
+                         const std::optional<ContentSum>& expected)
+    : live_(spelled(live)),
+      backup_(backup),
+      install_(temporary, spelled(target).c_str(), live_.c_str()),
+      seen_(expected) {}
 
 void Replacement::backUp() {
     for (int tries = 0; tries < 2 && !hasBackup_ && error_ == copyError::none; ++tries) {

@@ -17,8 +17,7 @@ class Replacement {
     // `live` may be relative to the current directory, in which the backups' directory is. `target` is its path for the
     // new file. If `expected` is given, a live file of another sum stays.
     Replacement(const char* live, const char* target, const char* backup, const char* temporary,
-                const std::optional<ContentSum>& expected)
-        : live_(live), backup_(backup), install_(temporary, target, live), seen_(expected) {}
+                const std::optional<ContentSum>& expected);
 
     // Makes the backup, and the copy that will be installed. A backup that fails is tried once more, and then done
     // without, unless another program has the file open.
