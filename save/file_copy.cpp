@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr std::size_t bufferSize = 16'000;
+constexpr std::size_t copyBlock = 16'000;
+constexpr std::size_t sumBlock = 256'000;
 constexpr std::size_t noLimit = std::numeric_limits<std::size_t>::max();
 
 std::int32_t openFailure(std::int32_t withoutCode) {
@@ -32,12 +33,13 @@ std::int32_t sourceFailure(const char* destination) {
     return error;
 }
 
-// Hands at most `limit` bytes to `take`, a block at a time. False if it returns false, or if they can't be read.
+// Hands at most `limit` bytes to `take`, a block of `blockSize` at a time. False if it returns false, or if they can't
+// be read.
 template <typename Take>
-bool readBlocks(std::FILE* file, std::size_t limit, Take take) {
-    const auto buffer = std::make_unique_for_overwrite<std::uint8_t[]>(bufferSize);
+bool readBlocks(std::FILE* file, std::size_t blockSize, std::size_t limit, Take take) {
+    const auto buffer = std::make_unique_for_overwrite<std::uint8_t[]>(blockSize);
     while (limit > 0) {
-        const std::size_t wanted = std::min(bufferSize, limit);
+        const std::size_t wanted = std::min(blockSize, limit);
         const std::size_t got = std::fread(buffer.get(), 1, wanted, file);
         if (!take(std::span<const std::uint8_t>(buffer.get(), got))) return false;
         limit -= got;
@@ -47,7 +49,7 @@ bool readBlocks(std::FILE* file, std::size_t limit, Take take) {
 }
 
 bool addTo(ContentSum& sum, std::FILE* file) {
-    return readBlocks(file, noLimit, [&](std::span<const std::uint8_t> block) {
+    return readBlocks(file, sumBlock, noLimit, [&](std::span<const std::uint8_t> block) {
         sum.add(block);
         return true;
     });
@@ -55,7 +57,7 @@ bool addTo(ContentSum& sum, std::FILE* file) {
 
 bool copyBytes(std::FILE* source, std::FILE* destination, std::int32_t limit, ContentSum& sum) {
     const std::size_t most = limit == 0 ? noLimit : static_cast<std::size_t>(limit);
-    return readBlocks(source, most, [&](std::span<const std::uint8_t> block) {
+    return readBlocks(source, copyBlock, most, [&](std::span<const std::uint8_t> block) {
         sum.add(block);
         return std::fwrite(block.data(), 1, block.size(), destination) == block.size();
     });
