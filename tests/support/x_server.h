@@ -14,8 +14,9 @@ class XServer {
  public:
     // Starts Xvfb and connects to it; a failure fails the test.
     XServer() {
-        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_))
+        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_)) {
             display_.push_back(static_cast<char>(byte));
+        }
         connection_ = xcb_connect(display_.c_str(), nullptr);
         EXPECT_EQ(xcb_connection_has_error(connection_), 0) << "Xvfb doesn't start";
     }
