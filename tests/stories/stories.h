@@ -38,7 +38,7 @@ class Stories : public testing::Test {
     Stories() {
         writeInstallation(prefix_);
         files_.makeDirectory("tool");
-        std::filesystem::copy(buildDirectory / "skinsets-original.cfg", files_.path("tool"));
+        std::filesystem::copy(buildDirectory() / "skinsets-original.cfg", files_.path("tool"));
         // Wine's server keeps the display of its first program, and waits between programs.
         if (windowsPrograms != nullptr) run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
     }
@@ -76,7 +76,7 @@ class Stories : public testing::Test {
 
     // Starts a program of the build in the tool directory. It is killed after two minutes.
     void launch(const std::string& name, bool onWindows) {
-        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory / name).string() + "'";
+        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory() / name).string() + "'";
         if (onWindows) {
             run("wine reg add 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32 /d \"$(winepath -w '" +
                 game_.string() + "' 2>/dev/null)\" >/dev/null 2>&1");

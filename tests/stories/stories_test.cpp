@@ -98,7 +98,7 @@ TEST_F(Stories, TwoProgramsSaveOneTree) {
 using Wayland = Stories;
 TEST_F(Wayland, ServesWhereThereIsNoXServer) {
     const ScopedVariable prefix("WINEPREFIX", prefix_), runtime("XDG_RUNTIME_DIR", files_.path());
-    const ScopedVariable programs("PROGRAMS", buildDirectory.string());
+    const ScopedVariable programs("PROGRAMS", buildDirectory().string());
     run(R"(
         unset DISPLAY QT_QPA_PLATFORM
         cd "$XDG_RUNTIME_DIR" && chmod 700 . || exit
