@@ -2,21 +2,50 @@
 
 #include <sys/statvfs.h>
 
+#include <utility>
+
 #include "platform/letter_case.h"
 #include "platform/native/base/text1252.h"
 
-std::string nameToCreate(std::string_view written) {
-    return isUtf8(written) ? std::string(written) : utf8From1252(written);
+SpellingSearch::SpellingSearch(std::string_view written)
+    : written_{std::string(written), ""}, utf8_{utf8From1252(written), ""} {}
+
+void SpellingSearch::offer(std::string_view name) {
+    offerTo(written_, name);
+    offerTo(utf8_, name);
+}
+
+void SpellingSearch::offerTo(Form& form, std::string_view name) {
+    if (!equalInAnyCase(name, form.name) || form.best == form.name) return;
+    if (form.best.empty() || name == form.name || name < form.best) form.best = name;
+}
+
+std::string SpellingSearch::result() const {
+    if (written_.best == written_.name) return written_.best;
+    const bool isUtf8There = !utf8_.best.empty() && (written_.best.empty() || utf8_.best == utf8_.name);
+    if (isUtf8There) return utf8_.best;
+    if (!written_.best.empty()) return written_.best;
+    return isUtf8(written_.name) ? written_.name : utf8_.name;
+}
+
+std::string spellIn(const std::string& path, const std::string& written) {
+    const OpenDirectory directory(opendir(path.c_str()));
+    if (directory == nullptr) return written;
+    SpellingSearch search(written);
+    while (const dirent* entry = readdir(directory.get())) {
+        search.offer(entry->d_name);
+    }
+    return search.result();
 }
 
 std::optional<DirectoryListing> DirectoryListing::read(const std::string& path) {
-    DIR* const directory = opendir(path.c_str());
+    OpenDirectory directory(opendir(path.c_str()));
     if (directory == nullptr) return std::nullopt;
-    return DirectoryListing(directory);
+    return DirectoryListing(std::move(directory));
 }
 
-DirectoryListing::DirectoryListing(DIR* directory) : directory_(directory) {
-    while (const dirent* entry = readdir(directory)) {
+DirectoryListing::DirectoryListing(OpenDirectory directory) : directory_(std::move(directory)) {
+    while (const dirent* entry = readdir(directory_.get())) {
         names_.emplace(lowered(entry->d_name), entry->d_name);
     }
     struct statvfs mount = {};
@@ -24,21 +53,12 @@ DirectoryListing::DirectoryListing(DIR* directory) : directory_(directory) {
 }
 
 std::string DirectoryListing::spell(std::string_view written) const {
-    const std::string* const name = find(written);
-    if (name != nullptr && *name == written) return *name;
-    const std::string utf8 = utf8From1252(written);
-    const std::string* const utf8Name = utf8 == written ? name : find(utf8);
-    if (utf8Name != nullptr && (name == nullptr || *utf8Name == utf8)) return *utf8Name;
-    return name != nullptr ? *name : nameToCreate(written);
-}
-
-// The exact match, else the first in byte order that differs in case only.
-const std::string* DirectoryListing::find(std::string_view name) const {
-    const std::string* best = nullptr;
-    const auto [begin, end] = names_.equal_range(lowered(name));
-    for (auto entry = begin; entry != end; ++entry) {
-        if (entry->second == name) return &entry->second;
-        if (best == nullptr || entry->second < *best) best = &entry->second;
+    SpellingSearch search(written);
+    for (const std::string& form : {search.written(), search.utf8()}) {
+        const auto [begin, end] = names_.equal_range(lowered(form));
+        for (auto entry = begin; entry != end; ++entry) {
+            search.offer(entry->second);
+        }
     }
-    return best;
+    return search.result();
 }

@@ -74,8 +74,7 @@ std::string spelled(const std::string& written) {
     std::string name = written.substr(nameAt);
     if (directory.size() > 1) directory = spelled(directory.substr(0, nameAt - 1)) + '/';
     if (isSpecial(name)) return directory + name;
-    const auto listing = DirectoryListing::read(directory.empty() ? "." : directory);
-    return directory + (listing.has_value() ? listing->spell(name) : name);
+    return directory + spellIn(directory.empty() ? "." : directory, name);
 }
 
 // The listing of the directory that the program calls `spelling`. Null if no SteadyDirectories exists or the directory

@@ -2,7 +2,7 @@
 //
 // "C:\x\y" is below `dosdevices/c:` of the Wine prefix (`$WINEPREFIX`, else `~/.wine`); so is any other drive, its
 // letter in either case. Native paths, absolute and relative, stay as they are. Slashes and backslashes both separate
-// components, and several count as one. Each component is looked up as in DirectoryListing::spell; "." and ".." are
+// components, and several count as one. Each component is looked up by a SpellingSearch; "." and ".." are
 // left to the system.
 //
 // Nothing is kept between calls except while a SteadyDirectories (platform/files.h) exists. Use from one thread only.
