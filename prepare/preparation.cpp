@@ -22,8 +22,6 @@ constexpr const char* skins = "GameData\\Skins";
 static_assert(std::string_view(installedSkin).starts_with(skins) &&
               std::string_view(installedSkin).ends_with(packageSkinName));
 
-constexpr const char* originalSkinSets = "skinsets-original.cfg";
-
 void report(Preparation& preparation, const std::string& line) {
     preparation.report += line + "\n";
 }
@@ -173,12 +171,12 @@ void bringTemplate(Preparation& preparation, const char* simsDirectory, bool new
     }
 }
 
-void bringSkinSets(Preparation& preparation) {
-    const std::optional<Bytes> original = readWholeFile(originalSkinSets);
+void bringSkinSets(Preparation& preparation, const std::string& originalSkinSets) {
+    const std::optional<Bytes> original = readWholeFile(originalSkinSets.c_str());
     const Present present = presentFile(skinSetsName);
     if (present == Present::nothing && (!original || original->empty())) {
         reportMissing(preparation, std::string(skinSetsName) + " is missing, and " + originalSkinSets +
-                                       " can't be read. Please unpack the program again.");
+                                       " can't be read. Please install or unpack the program again.");
     } else {
         bring(preparation, skinSetsName, present, original.value_or(Bytes()));
     }
@@ -193,14 +191,14 @@ std::string plannedTemplate(bool newTemplate) {
 
 }  // namespace
 
-Preparation prepareGame(const char* simsDirectory, bool newTemplate) {
+Preparation prepareGame(const char* simsDirectory, const std::string& originalSkinSets, bool newTemplate) {
     Preparation preparation;
     const DirectoryLock lock(".");
     if (lock.isHeld()) clearLeftOverParts(".");
     bringSkin(preparation, simsDirectory);
     bringTemplate(preparation, simsDirectory, newTemplate);
     bring(preparation, familyTemplateName, presentFamilyTemplate(familyTemplateName), makeFamilyTemplate());
-    if (preparation.ready) bringSkinSets(preparation);
+    if (preparation.ready) bringSkinSets(preparation, originalSkinSets);
     return preparation;
 }
 
@@ -217,5 +215,5 @@ std::string plannedFiles(const std::string& simsDirectory, const std::string& to
 }
 
 bool isToolDirectory() {
-    return hasBytes(skinSetsName) || hasBytes(originalSkinSets);
+    return hasBytes(skinSetsName) || hasBytes("skinsets-original.cfg");
 }

@@ -10,13 +10,14 @@ struct Preparation {
 };
 
 // In this order, each unless it is there already: the skin in the game's directory, "Template.iff" out of one of the
-// player's character files, "famtemplate", and "skinsets.cfg" as a copy of "skinsets-original.cfg". The last one comes
-// only if nothing is missing, because the program starts wherever it is. `simsDirectory` has a trailing backslash.
+// player's character files, "famtemplate", and "skinsets.cfg" as a copy of the file `originalSkinSets`. The last one
+// comes only if nothing is missing, because the program starts wherever it is. `simsDirectory` has a trailing
+// backslash.
 //
 // A Template.iff of the player's is kept, and so is a file that a save can't use; the report then says what to do. With
 // `newTemplate`, and for a Template.iff of an earlier version of this program, a new one is made, and the old one is
 // kept under a dated name. Nothing else of the player's is changed.
-Preparation prepareGame(const char* simsDirectory, bool newTemplate);
+Preparation prepareGame(const char* simsDirectory, const std::string& originalSkinSets, bool newTemplate);
 
 // What prepareGame would make now, with the directories, a line for each file; empty if nothing. Nothing is changed.
 std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate);

@@ -78,7 +78,7 @@ int runProgram(int argumentCount, char** arguments) {
         DirectoryText directoryNow;
         if (const int refusal = checkGame(directoryNow); refusal != 0) return refusal;
     }
-    const Preparation preparation = prepareGame(simsDirectory.c_str(), options.newTemplate);
+    const Preparation preparation = prepareGame(simsDirectory.c_str(), "skinsets-original.cfg", options.newTemplate);
     if (options.ifNeeded && files.empty() && preparation.ready) return 0;
     const char* const end =
         preparation.ready ? "\nEverything is ready: Tidewright can start." : "\nNot everything is ready.";

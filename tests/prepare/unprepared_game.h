@@ -47,7 +47,7 @@ class PreparationTest : public testing::Test {
     }
 
     bool isReady(bool newTemplate = false) {
-        const Preparation preparation = prepareGame(directory_.c_str(), newTemplate);
+        const Preparation preparation = prepareGame(directory_.c_str(), "skinsets-original.cfg", newTemplate);
         report_ = preparation.report;
         return preparation.ready;
     }
