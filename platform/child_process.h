@@ -7,9 +7,9 @@
 // The path of the program `name` (without ".exe") in the directory of the running one. Empty on failure.
 std::string programBeside(const std::string& name);
 
-// Runs `program`, without arguments, in `directory`, and waits. It inherits the environment, standard output and
-// standard error. Returns whether it could be started, with the reason in GetLastError if not. `exitCode` is as the
-// system has it: natively 0 to 255, and 128 plus its number for a signal.
+// Runs `program`, without arguments, in `directory`, and waits. It inherits the environment. Returns whether it could
+// be started, with the reason in GetLastError if not. `exitCode` is as the system has it: natively 0 to 255, and 128
+// plus the signal's number if a signal ended it.
 bool runAndWait(const std::string& program, const std::string& directory, int& exitCode);
 
 #endif

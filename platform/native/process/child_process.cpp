@@ -1,0 +1,42 @@
+#include "platform/child_process.h"
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+
+#include "platform/native/api/system.h"
+#include "platform/native/files/path_status.h"
+#include "platform/native/files/paths.h"
+
+std::string programBeside(const std::string& name) {
+    std::array<char, PATH_MAX> running{};
+    const ssize_t length = readlink("/proc/self/exe", running.data(), running.size());
+    if (length <= 0 || static_cast<std::size_t>(length) == running.size()) return "";
+    const std::string path(running.data(), static_cast<std::size_t>(length));
+    return path.substr(0, path.rfind('/') + 1) + name;
+}
+
+bool runAndWait(const std::string& program, const std::string& directory, int& exitCode) {
+    std::string argument = program;
+    std::array<char*, 2> arguments{argument.data(), nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addchdir_np(&actions, nativePath(directory.c_str()).c_str());
+    pid_t child = -1;
+    const int error = posix_spawn(&child, program.c_str(), &actions, nullptr, arguments.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0) {
+        setPathError(error, locate(program.c_str()));
+        return false;
+    }
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) return false;
+    }
+    exitCode = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+    return true;
+}

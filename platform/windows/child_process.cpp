@@ -1,0 +1,31 @@
+#include "platform/child_process.h"
+
+#include <windows.h>
+
+#include <array>
+
+std::string programBeside(const std::string& name) {
+    std::array<char, MAX_PATH> running{};
+    const DWORD length = GetModuleFileNameA(nullptr, running.data(), running.size());
+    if (length == 0 || length == running.size()) return "";
+    const std::string path(running.data(), length);
+    return path.substr(0, path.rfind('\\') + 1) + name + ".exe";
+}
+
+bool runAndWait(const std::string& program, const std::string& directory, int& exitCode) {
+    std::string commandLine = '"' + program + '"';
+    STARTUPINFOA start = {};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION child = {};
+    if (CreateProcessA(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, directory.c_str(),
+                       &start, &child) == FALSE) {
+        return false;
+    }
+    CloseHandle(child.hThread);
+    DWORD code = 0;
+    const bool ended = WaitForSingleObject(child.hProcess, INFINITE) == WAIT_OBJECT_0 &&
+                       GetExitCodeProcess(child.hProcess, &code) != 0;
+    CloseHandle(child.hProcess);
+    if (ended) exitCode = static_cast<int>(code);
+    return ended;
+}
