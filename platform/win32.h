@@ -21,6 +21,7 @@
 #include "platform/native/api/controls.h"
 #include "platform/native/api/file_system.h"
 #include "platform/native/api/gdi.h"
+#include "platform/native/api/profile.h"
 #include "platform/native/api/registry.h"
 #include "platform/native/api/resources.h"
 #include "platform/native/api/system.h"
