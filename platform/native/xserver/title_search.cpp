@@ -7,13 +7,16 @@
 #include <cstdlib>
 #include <cstring>
 #include <future>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <thread>
 #include <vector>
 
+#include "platform/letter_case.h"
 #include "platform/native/base/text1252.h"
+#include "platform/titled_windows.h"
 
 namespace {
 
@@ -46,17 +49,18 @@ class TitleSearch {
         utf8_ = answeredAtom(utf8);
     }
 
-    bool run() {
+    // The kinds of the windows of that title: of all, or of the first ones that are found.
+    std::vector<std::string> run(bool all) {
         std::vector<xcb_window_t> level;
         for (auto at = xcb_setup_roots_iterator(xcb_get_setup(connection_)); at.rem > 0; xcb_screen_next(&at)) {
             level.push_back(at.data->root);
         }
-        if (hasTitled(clientsOf(level))) return true;
-        for (int depth = 0; depth < searchDepth && !level.empty(); ++depth) {
+        std::vector<std::string> kinds = kindsOfTitled(clientsOf(level));
+        for (int depth = 0; depth < searchDepth && !level.empty() && (all || kinds.empty()); ++depth) {
             level = childrenOf(level);
-            if (hasTitled(level)) return true;
+            std::ranges::move(kindsOfTitled(level), std::back_inserter(kinds));
         }
-        return false;
+        return kinds;
     }
 
  private:
@@ -107,7 +111,7 @@ class TitleSearch {
         return children;
     }
 
-    bool hasTitled(const std::vector<xcb_window_t>& windows) {
+    std::vector<std::string> kindsOfTitled(const std::vector<xcb_window_t>& windows) {
         struct Names {
             xcb_get_property_cookie_t net, old;
         };
@@ -117,15 +121,27 @@ class TitleSearch {
             asked.push_back(
                 {askProperty(window, netName_, longestTitle), askProperty(window, XCB_ATOM_WM_NAME, longestTitle)});
         }
-        bool found = false;
+        std::vector<xcb_window_t> titled;
         // Takes every reply, so that none is left over.
-        for (const Names& names : asked) {
-            const auto net = answeredProperty(names.net);
-            const auto old = answeredProperty(names.old);
+        for (std::size_t i = 0; i < asked.size(); ++i) {
+            const auto net = answeredProperty(asked[i].net);
+            const auto old = answeredProperty(asked[i].old);
             const bool hasNet = net && xcb_get_property_value_length(net.get()) > 0;
-            found = isTitle(hasNet ? net.get() : old.get()) || found;
+            if (isTitle(hasNet ? net.get() : old.get())) titled.push_back(windows[i]);
         }
-        return found;
+        std::vector<std::string> kinds;
+        std::ranges::transform(titled, std::back_inserter(kinds), [&](xcb_window_t window) { return kindOf(window); });
+        return kinds;
+    }
+
+    // WM_CLASS is two texts, each with a terminator: the program's instance and its class.
+    std::string kindOf(xcb_window_t window) {
+        const auto value = answeredProperty(askProperty(window, XCB_ATOM_WM_CLASS, longestTitle));
+        if (!value || value->format != 8) return "";
+        const auto size = static_cast<std::size_t>(xcb_get_property_value_length(value.get()));
+        std::string_view texts(static_cast<const char*>(xcb_get_property_value(value.get())), size);
+        texts.remove_prefix(std::min(texts.find('\0') + 1, texts.size()));
+        return lowered(texts.substr(0, texts.find('\0')));
     }
 
     // Names of the type UTF8_STRING are UTF-8, all others Latin-1, which Windows-1252 covers.
@@ -147,22 +163,37 @@ class TitleSearch {
     xcb_atom_t utf8_ = XCB_ATOM_NONE;
 };
 
-bool hasServerWindow(const std::string& title) {
+std::vector<std::string> kindsOnServer(const std::string& title, bool all) {
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
-    const bool found = xcb_connection_has_error(connection) == 0 && TitleSearch(connection, title).run();
+    std::vector<std::string> kinds;
+    if (xcb_connection_has_error(connection) == 0) kinds = TitleSearch(connection, title).run(all);
     xcb_disconnect(connection);
-    return found;
+    return kinds;
+}
+
+// Runs on its own thread, because the protocol's library has no time limits. A thread that takes too long is left to
+// itself; it owns all that it uses.
+std::vector<std::string> kindsWithinPatience(const char* title, bool all) {
+    const char* display = std::getenv("DISPLAY");
+    if (display == nullptr || *display == '\0') return {};
+    std::packaged_task<std::vector<std::string>()> search(
+        [text = std::string(title), all] { return kindsOnServer(text, all); });
+    auto found = search.get_future();
+    std::thread(std::move(search)).detach();
+    return found.wait_for(patience) == std::future_status::ready ? found.get() : std::vector<std::string>{};
 }
 
 }  // namespace
 
-// Runs on its own thread, because the protocol's library has no time limits. A thread that takes too long is left to
-// itself; it owns all that it uses.
 bool isTitleOnServer(const char* title) {
-    const char* display = std::getenv("DISPLAY");
-    if (display == nullptr || *display == '\0') return false;
-    std::packaged_task<bool()> search([text = std::string(title)] { return hasServerWindow(text); });
-    std::future<bool> found = search.get_future();
-    std::thread(std::move(search)).detach();
-    return found.wait_for(patience) == std::future_status::ready && found.get();
+    return !kindsWithinPatience(title, false).empty();
+}
+
+std::vector<std::string> kindsOfWindowsTitled(const char* title) {
+    std::vector<std::string> kinds = kindsWithinPatience(title, true);
+    // Some window managers give the frame of a window its title, and no class.
+    if (std::ranges::any_of(kinds, [](const std::string& kind) { return !kind.empty(); })) {
+        std::erase(kinds, "");
+    }
+    return kinds;
 }
