@@ -1,9 +1,5 @@
 #include "platform/native/api/registry.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstring>
 #include <memory>
@@ -32,26 +28,6 @@ auto openKey(HKEY key) {
     return std::find_if(openKeys.begin(), openKeys.end(), [&](const auto& open) { return open.get() == key; });
 }
 
-// The file's bytes. Empty if it can't be read or is too large for a registry; real ones take a few megabytes. Reads no
-// more than the size at first, because Wine may be rewriting the file.
-std::string readWhole(const std::string& path) {
-    constexpr off_t largest = 256 << 20;
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (file < 0) return {};
-    struct stat status = {};
-    const bool readable = fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= largest;
-    std::string content(readable ? static_cast<std::size_t>(status.st_size) : 0, '\0');
-    std::size_t filled = 0;
-    ssize_t count = 1;
-    while (count > 0 && filled < content.size()) {
-        count = read(file, &content[filled], content.size() - filled);
-        if (count > 0) filled += static_cast<std::size_t>(count);
-    }
-    close(file);
-    content.resize(filled);
-    return content;
-}
-
 const RegistryValue* findValue(const HKEY__& key, std::string_view name) {
     const auto found = std::find_if(key.values.rbegin(), key.values.rend(),
                                     [&](const RegistryValue& value) { return equalInAnyCase(value.name, name); });
@@ -63,7 +39,7 @@ const RegistryValue* findValue(const HKEY__& key, std::string_view name) {
 LSTATUS RegOpenKeyExA(HKEY key, LPCSTR subKey, DWORD, REGSAM, HKEY* result) {
     if (key != HKEY_LOCAL_MACHINE) return ERROR_INVALID_HANDLE;
     const std::string_view path = subKey != nullptr ? subKey : "";
-    const std::string file = readWhole(winePrefix() + "/system.reg");
+    const std::string file = readRegistryFile(winePrefix() + "/system.reg");
     auto opened = std::make_unique<HKEY__>();
     bool found = readRegistryKey(file, path, opened->values);
     if (equalInAnyCase(path.substr(0, software.size()), software)) {

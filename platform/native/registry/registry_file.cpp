@@ -1,5 +1,9 @@
 #include "platform/native/registry/registry_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
 
 #include "platform/letter_case.h"
@@ -27,15 +31,13 @@ class LineReader {
         return true;
     }
 
-    // Reads a text up to the first `end` that isn't escaped. False if there is none, because the line is cut off.
-    bool takeText(char end, std::string& text) {
-        std::string utf8;
+    // Reads a text up to the first `end` that isn't escaped, as UTF-8. False if there is none, because the line is cut
+    // off.
+    bool takeText(char end, std::string& utf8) {
+        utf8.clear();
         while (!rest_.empty()) {
             const char c = next();
-            if (c == end) {
-                text = text1252FromUtf8(utf8);
-                return true;
-            }
+            if (c == end) return true;
             if (c != '\\') {
                 utf8 += c;
             } else if (!rest_.empty()) {
@@ -61,7 +63,7 @@ class LineReader {
     }
 
     // Reads what follows a backslash: a letter for a control character, an octal number, "x" and a number of UTF-16, or
-    // a plain character. Appends it as UTF-8, so that the whole text is converted to Windows-1252 at once.
+    // a plain character. Appends it as UTF-8.
     void appendEscaped(std::string& utf8) {
         constexpr std::string_view letters = "abtnvfr";  // for 7 to 13
         constexpr int octalDigits = 3;
@@ -81,7 +83,7 @@ class LineReader {
                 return;
             }
         }
-        utf8 += utf8From1252(std::string(1, static_cast<char>(byte1252FromUnicode(unit))));
+        utf8 += QString(QChar(unit)).toStdString();
     }
 
     std::string_view rest_;
@@ -97,13 +99,36 @@ std::string_view takeLine(std::string_view& file) {
 
 bool readValue(std::string_view line, RegistryValue& value) {
     LineReader reader(line);
-    const bool named = reader.take("\"") ? reader.takeText('"', value.name) : reader.take("@");
+    std::string name;
+    const bool named = reader.take("\"") ? reader.takeText('"', name) : reader.take("@");
     if (!named || !reader.take("=")) return false;
+    value.name = text1252FromUtf8(name);
     value.type = reader.take("str(2):") ? REG_EXPAND_SZ : REG_SZ;
-    return reader.take("\"") && reader.takeText('"', value.text);
+    if (!reader.take("\"") || !reader.takeText('"', value.utf8)) return false;
+    value.text = text1252FromUtf8(value.utf8);
+    return true;
 }
 
 }  // namespace
+
+// Reads no more than the size at first, because Wine may be rewriting the file.
+std::string readRegistryFile(const std::string& path) {
+    constexpr off_t largest = 256 << 20;
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (file < 0) return {};
+    struct stat status = {};
+    const bool readable = fstat(file, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= largest;
+    std::string content(readable ? static_cast<std::size_t>(status.st_size) : 0, '\0');
+    std::size_t filled = 0;
+    ssize_t count = 1;
+    while (count > 0 && filled < content.size()) {
+        count = read(file, &content[filled], content.size() - filled);
+        if (count > 0) filled += static_cast<std::size_t>(count);
+    }
+    close(file);
+    content.resize(filled);
+    return content;
+}
 
 bool readRegistryKey(std::string_view file, std::string_view key, std::vector<RegistryValue>& values) {
     bool found = false;
@@ -113,7 +138,7 @@ bool readRegistryKey(std::string_view file, std::string_view key, std::vector<Re
         LineReader reader(line);
         if (reader.take("[")) {
             std::string section;
-            inKey = reader.takeText(']', section) && equalInAnyCase(section, key);
+            inKey = reader.takeText(']', section) && equalInAnyCase(text1252FromUtf8(section), key);
             found = found || inKey;
         } else if (inKey) {
             RegistryValue value = {};

@@ -15,7 +15,11 @@ struct RegistryValue {
     std::string name;
     DWORD type;  // REG_SZ or REG_EXPAND_SZ
     std::string text;
+    std::string utf8;  // the same text, with what Windows-1252 doesn't have
 };
+
+// The file's bytes. Empty if it can't be read or is too large for a registry; real ones take a few megabytes.
+std::string readRegistryFile(const std::string& path);
 
 // Appends the text values of all sections of the key `key` ("Software\Maxis", in any case) to `values`, in file order.
 // False if there is no such section.
