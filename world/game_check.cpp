@@ -5,7 +5,7 @@
 namespace {
 
 bool gameRuns() {
-    for (const char* title : {"The Sims Hot Date", "The Sims House Party", "The Sims Livin' Large", "The Sims"}) {
+    for (const char* const title : gameTitles) {
         if (FindWindowA(nullptr, title) != nullptr) return true;
     }
     return false;

@@ -10,6 +10,9 @@ constexpr int gameNotFound = -1;
 constexpr int gameRunning = -2;
 }  // namespace exitCode
 
+// What the game's window may be called.
+constexpr const char* gameTitles[] = {"The Sims Hot Date", "The Sims House Party", "The Sims Livin' Large", "The Sims"};
+
 // Shows the box, posts the code as the process's, and returns it.
 int refuseStart(const char* text, const char* title, int code);
 
