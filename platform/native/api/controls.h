@@ -13,11 +13,13 @@ constexpr int CBN_SELCHANGE = 1;
 
 // CB_ADDSTRING appends the text `lParam` and returns its index; it never selects. CB_DELETESTRING deletes the entry
 // `wParam` and returns the number of entries left, or CB_ERR if there is no such entry; deleting the selected entry
-// leaves no selection. CB_GETCURSEL returns CB_ERR without a selection.
+// leaves no selection. CB_GETCURSEL returns CB_ERR without a selection; CB_SETCURSEL selects the entry `wParam` and
+// returns it, or CB_ERR if there is no such entry.
 constexpr UINT CB_ADDSTRING = 0x0143;
 constexpr UINT CB_DELETESTRING = 0x0144;
 constexpr UINT CB_GETCOUNT = 0x0146;
 constexpr UINT CB_GETCURSEL = 0x0147;
+constexpr UINT CB_SETCURSEL = 0x014E;
 constexpr LRESULT CB_ERR = -1;
 
 // A button sends WM_COMMAND with its id and BN_CLICKED.

@@ -91,6 +91,10 @@ LRESULT ComboBox::receive(UINT message, WPARAM wParam, LPARAM lParam) {
             return box().count();
         case CB_GETCURSEL:
             return box().currentIndex();  // -1 for none, as on Windows
+        case CB_SETCURSEL:
+            if (wParam >= static_cast<WPARAM>(box().count())) return CB_ERR;
+            box().setCurrentIndex(static_cast<int>(wParam));
+            return static_cast<LRESULT>(wParam);
         default:
             return Control::receive(message, wParam, lParam);
     }
