@@ -1,0 +1,168 @@
+#include "world/game_question.h"
+
+#include <algorithm>
+
+#include "platform/win32.h"
+#include "ui/words.h"
+
+namespace {
+
+constexpr const char* className = "TIDEWRIGHT GAMES";
+
+namespace id {
+constexpr int list = 1001;
+constexpr int open = 2001;
+constexpr int elsewhere = 2002;
+constexpr int cancel = 2003;
+}  // namespace id
+
+constexpr LONG width = 620;
+constexpr LONG margin = 10;
+constexpr LONG lineHeight = 20;
+constexpr LONG buttonWidth = 100;
+constexpr LONG rowHeight = 30;
+constexpr LONG captionHeight = 40;  // with the borders, on any system
+
+// The one question that is open.
+struct Question {
+    std::vector<std::string> lines;
+    std::vector<std::string> entries;
+    HWND list = nullptr;
+    bool answered = false;
+    GameAnswer answer = {};
+};
+
+Question* question = nullptr;
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    for (std::size_t at = 0; at <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', at), text.size());
+        lines.push_back(text.substr(at, end - at));
+        at = end + 1;
+    }
+    return lines;
+}
+
+LONG textBottom() {
+    return margin + static_cast<LONG>(question->lines.size()) * lineHeight;
+}
+
+HWND createControl(HWND window, LPCSTR name, LPCSTR text, DWORD style, RECT place, int controlId) {
+    return CreateWindowExA(0, name, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
+                           place.right - place.left, place.bottom - place.top, window,
+                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(controlId)), GetModuleHandleA(nullptr),
+                           nullptr);
+}
+
+void createButton(HWND window, LPCSTR text, LONG& x, LONG y, int controlId) {
+    createControl(window, "Button", text, 0, {x, y, x + buttonWidth, y + rowHeight}, controlId);
+    x += buttonWidth + margin;
+}
+
+void createControls(HWND window) {
+    LONG y = textBottom() + margin;
+    LONG x = margin;
+    if (!question->entries.empty()) {
+        question->list = createControl(window, "ComboBox", "", CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL,
+                                       {x, y, width - 2 * margin, y + 200}, id::list);
+        for (const std::string& entry : question->entries) {
+            SendMessageA(question->list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+        }
+        SendMessageA(question->list, CB_SETCURSEL, 0, 0);
+        y += rowHeight + margin;
+        createButton(window, "Open", x, y, id::open);
+    }
+    createButton(window, "Choose...", x, y, id::elsewhere);
+    createButton(window, "Cancel", x, y, id::cancel);
+}
+
+void paint(HWND window) {
+    PAINTSTRUCT painting{};
+    const HDC dc = BeginPaint(window, &painting);
+    LONG y = margin;
+    for (const std::string& line : question->lines) {
+        RECT place{margin, y, width - margin, y + lineHeight};
+        if (!line.empty()) DrawTextA(dc, line.c_str(), -1, &place, 0);
+        y += lineHeight;
+    }
+    EndPaint(window, &painting);
+}
+
+void answer(GameAnswer::Kind kind) {
+    const LRESULT picked =
+        question->list != nullptr ? SendMessageA(question->list, CB_GETCURSEL, 0, 0) : LRESULT{CB_ERR};
+    if (kind == GameAnswer::Kind::game && picked == CB_ERR) return;
+    question->answer = {kind, static_cast<std::size_t>(std::max<LRESULT>(picked, 0))};
+    question->answered = true;
+}
+
+void onCommand(int controlId) {
+    if (controlId == id::open) answer(GameAnswer::Kind::game);
+    if (controlId == id::elsewhere) answer(GameAnswer::Kind::elsewhere);
+    if (controlId == id::cancel) answer(GameAnswer::Kind::cancelled);
+}
+
+LRESULT CALLBACK questionProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            createControls(window);
+            return 0;
+        case WM_PAINT:
+            paint(window);
+            return 0;
+        case WM_COMMAND:
+            if (HIWORD(wParam) == BN_CLICKED) onCommand(LOWORD(wParam));
+            return 0;
+        case WM_CLOSE:
+            answer(GameAnswer::Kind::cancelled);
+            return 0;
+        default:
+            return DefWindowProcA(window, message, wParam, lParam);
+    }
+}
+
+HWND createWindow() {
+    const HINSTANCE instance = GetModuleHandleA(nullptr);
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = questionProc;
+    windowClass.hInstance = instance;
+    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
+    windowClass.lpszClassName = className;
+    RegisterClassExA(&windowClass);  // fails the second time, which is no matter
+    const LONG rows = question->entries.empty() ? 1 : 2;
+    const LONG height = textBottom() + margin + rows * (rowHeight + margin) + captionHeight;
+    return CreateWindowExA(0, className, programTitle, WS_CAPTION | WS_SYSMENU, 60, 60, width, height, nullptr, nullptr,
+                           instance, nullptr);
+}
+
+void waitForAnswer() {
+    MSG message{};
+    constexpr WPARAM escape = 27;
+    while (!question->answered && GetMessageA(&message, nullptr, 0, 0) > 0) {
+        if (message.message == WM_CHAR && message.wParam == escape) answer(GameAnswer::Kind::cancelled);
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+}
+
+}  // namespace
+
+GameAnswer askForGame(const std::string& text, const std::vector<std::string>& entries) {
+    Question asked{linesOf(text), entries};
+    question = &asked;
+    HWND const window = createWindow();
+    if (window == nullptr) {
+        asked.answer.kind = GameAnswer::Kind::noDisplay;
+    } else {
+        ShowWindow(window, SW_SHOW);
+        UpdateWindow(window);
+        waitForAnswer();
+        DestroyWindow(window);
+    }
+    question = nullptr;
+    return asked.answer;
+}
