@@ -16,8 +16,9 @@ constexpr std::uint32_t writableFileMode = 0x81B6;
 constexpr std::uint32_t readOnlyFileMode = 0x8124;
 
 struct FileStatus {
-    std::uint32_t mode;  // one of the modes above
-    std::int64_t size;   // in bytes; 0 for a directory
+    std::uint32_t mode;    // one of the modes above
+    std::int64_t size;     // in bytes; 0 for a directory
+    std::int64_t written;  // when it was last written, in seconds since 1970, UTC
 };
 
 // Opens `path` for raw bytes, with a mode of `fopen`. The stream has no buffer: each read and write is a call of the
@@ -32,6 +33,9 @@ bool deleteWhenFree(const char* path);
 
 // False, with `status` unchanged, if nothing of that name exists or the system refuses the query.
 bool queryFileStatus(const char* path, FileStatus& status);
+
+// How many bytes the user can still write on the disk of an existing directory; -1 if the system doesn't say.
+std::int64_t freeRoomIn(const char* directory);
 
 // The names of the files in a directory, without its subdirectories, sorted by their bytes. Empty if it can't be read.
 std::vector<std::string> fileNamesIn(const char* directory);

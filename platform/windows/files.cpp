@@ -7,6 +7,18 @@
 #include "platform/win32.h"
 #include "platform/windows/file_held.h"
 
+namespace {
+
+// Windows counts steps of 100 ns since 1601.
+std::int64_t secondsOf(const FILETIME& time) {
+    constexpr std::int64_t stepsPerSecond = 10'000'000;
+    constexpr std::int64_t from1601To1970 = 11'644'473'600;
+    const std::int64_t steps = static_cast<std::int64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
+    return steps / stepsPerSecond - from1601To1970;
+}
+
+}  // namespace
+
 // Windows reports a file that is open elsewhere as "access denied", too, if it is to be replaced, or was deleted while
 // it was open. A file whose access rights exclude the user looks the same, and is waited for in vain.
 bool isHeldByAnother(const char* path) {
@@ -41,12 +53,19 @@ bool queryFileStatus(const char* path, FileStatus& status) {
     if (GetFileAttributesExA(path, GetFileExInfoStandard, &found) == FALSE) return false;
     const bool writable = (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) == 0;
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        status = {writable ? writableDirectoryMode : readOnlyDirectoryMode, 0};
+        status = {writable ? writableDirectoryMode : readOnlyDirectoryMode, 0, secondsOf(found.ftLastWriteTime)};
         return true;
     }
     status.mode = writable ? writableFileMode : readOnlyFileMode;
     status.size = static_cast<std::int64_t>(found.nFileSizeHigh) << 32 | found.nFileSizeLow;
+    status.written = secondsOf(found.ftLastWriteTime);
     return true;
+}
+
+std::int64_t freeRoomIn(const char* directory) {
+    ULARGE_INTEGER room = {};
+    if (GetDiskFreeSpaceExA(directory, &room, nullptr, nullptr) == FALSE) return -1;
+    return static_cast<std::int64_t>(room.QuadPart);
 }
 
 std::vector<std::string> fileNamesIn(const char* directory) {

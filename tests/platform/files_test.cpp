@@ -1,5 +1,7 @@
 #include "platform/files.h"
 
+#include <chrono>
+#include <ctime>
 #include <functional>
 #include <tuple>
 
@@ -58,6 +60,17 @@ TEST_F(FilesTest, EachRefusalHasItsReason) {
         EXPECT_FALSE(works()) << what;
         EXPECT_EQ(GetLastError(), error) << what;
     }
+}
+
+TEST_F(FilesTest, AStatusHasTheTimeOfTheLastWriteAndADiskHasRoom) {
+    const auto day = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    fs::last_write_time("User00042.iff", day);
+    FileStatus status{}, present{};
+    EXPECT_TRUE(queryFileStatus("user00042.iff", status) && queryFileStatus("sub", present));
+    EXPECT_NEAR(static_cast<double>(status.written), static_cast<double>(std::time(nullptr) - 86'400), 60);
+    EXPECT_NEAR(static_cast<double>(present.written), static_cast<double>(std::time(nullptr)), 60);
+    EXPECT_NEAR(static_cast<double>(freeRoomIn("sub")), static_cast<double>(fs::space("Sub").available), 1e9);
+    EXPECT_EQ(freeRoomIn("none"), -1);
 }
 
 TEST_F(FilesTest, AProtectedFileIsNotWritten) {

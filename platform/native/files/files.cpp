@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -60,11 +61,17 @@ bool queryFileStatus(const char* path, FileStatus& status) {
     }
     const bool writable = mayWrite(file, found);
     if (S_ISDIR(found.st_mode)) {
-        status = {writable ? writableDirectoryMode : readOnlyDirectoryMode, 0};
+        status = {writable ? writableDirectoryMode : readOnlyDirectoryMode, 0, found.st_mtime};
     } else {
-        status = {writable ? writableFileMode : readOnlyFileMode, found.st_size};
+        status = {writable ? writableFileMode : readOnlyFileMode, found.st_size, found.st_mtime};
     }
     return true;
+}
+
+std::int64_t freeRoomIn(const char* directory) {
+    struct statvfs disk = {};
+    if (statvfs(nativePath(directory).c_str(), &disk) != 0) return -1;
+    return static_cast<std::int64_t>(disk.f_bavail) * static_cast<std::int64_t>(disk.f_frsize);
 }
 
 std::vector<std::string> fileNamesIn(const char* directory) {
