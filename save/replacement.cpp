@@ -1,7 +1,7 @@
 #include "save/replacement.h"
 
 #include "platform/win32.h"
-#include "save/save_paths.h"
+#include "world/paths.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-// The names of a save's files. Temporary files are beside the live ones, backups in a directory below them.
+// The paths of a save's temporary files, which are beside the live ones.
 #ifndef SAVE_SAVE_PATHS_H
 #define SAVE_SAVE_PATHS_H
 
@@ -8,15 +8,13 @@
 #include "world/paths.h"
 #include "world/program_files.h"
 
-constexpr const char* backupsDirectory = "Backups";
-
 // `directory` is the neighborhood's.
 inline PathText tempNeighborhoodPath(std::string_view directory) {
-    return joined<PathText>(directory, "\\TMPneighborhood.iff");
+    return joined<PathText>(directory, '\\', temporaryPrefix, neighborhoodFileName);
 }
 
 inline PathText tempCharacterPath(std::string_view directory, std::string_view fileName) {
-    return joined<PathText>(directory, '\\', charactersDirectory, "\\TMP", fileName);
+    return joined<PathText>(directory, '\\', charactersDirectory, '\\', temporaryPrefix, fileName);
 }
 
 #endif

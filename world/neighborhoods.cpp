@@ -11,8 +11,6 @@ NeighborhoodTable& neighborhoods = *new NeighborhoodTable;
 
 namespace {
 
-constexpr const char* neighborhoodFileName = "neighborhood.iff";
-
 bool exists(const char* path) {
     WIN32_FIND_DATAA found{};
     const HANDLE search = FindFirstFileA(path, &found);
