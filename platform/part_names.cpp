@@ -43,10 +43,18 @@ std::string asideName(std::string_view file, int number) {
     return numbered(file, asideSuffix, number);
 }
 
+std::string fileOfPart(std::string_view name) {
+    return fileOf(name, partSuffix);
+}
+
+std::string fileOfAside(std::string_view name) {
+    return fileOf(name, asideSuffix);
+}
+
 void clearLeftOverParts(const char* directory) {
     const std::string prefix = std::string(directory) + '\\';
     for (const std::string& name : fileNamesIn(directory)) {
-        const std::string replaced = fileOf(name, asideSuffix), unfinished = fileOf(name, partSuffix);
+        const std::string replaced = fileOfAside(name), unfinished = fileOfPart(name);
         const int number = name.back() - '0';
         if (!replaced.empty()) clearAside(FilePlace((prefix + replaced).c_str()), number);
         if (unfinished.empty()) continue;

@@ -14,6 +14,10 @@ constexpr int partNumbers = 10;
 std::string partName(std::string_view file, int number);
 std::string asideName(std::string_view file, int number);
 
+// The file's name in the name of its part, or of its older version that was set aside; empty for any other name.
+std::string fileOfPart(std::string_view name);
+std::string fileOfAside(std::string_view name);
+
 // Clears away what processes that ended half-way left in `directory`: deletes the parts, and the files that were set
 // aside, but one without a new version gets its name back. The caller holds the lock under which all those files are
 // written.
