@@ -25,14 +25,6 @@ bool isCharacterName(const std::string& name) {
     return lowered(name).starts_with("user") && lowered(name).ends_with(".iff");
 }
 
-// A save may write a name in another case than the game.
-std::vector<std::string> characterNamesIn(const char* directory) {
-    std::vector<std::string> names = fileNamesIn(directory);
-    std::erase_if(names, [](const std::string& name) { return !isCharacterName(name); });
-    std::ranges::stable_sort(names, {}, lowered);
-    return names;
-}
-
 struct Candidate {
     std::vector<IffChunk> chunks;
     Bytes madeTemplate;  // empty if the file doesn't serve
@@ -54,6 +46,14 @@ void addIfServes(const std::string& path, TemplateSource& source, SourceChoice& 
 }
 
 }  // namespace
+
+// A save may write a name in another case than the game.
+std::vector<std::string> characterNamesIn(const char* directory) {
+    std::vector<std::string> names = fileNamesIn(directory);
+    std::erase_if(names, [](const std::string& name) { return !isCharacterName(name); });
+    std::ranges::stable_sort(names, {}, lowered);
+    return names;
+}
 
 TemplateSource findTemplateSource(const char* simsDirectory) {
     TemplateSource source;

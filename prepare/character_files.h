@@ -3,6 +3,7 @@
 #define PREPARE_CHARACTER_FILES_H
 
 #include <string>
+#include <vector>
 
 #include "gamefiles/byte_writer.h"
 
@@ -12,6 +13,9 @@ struct TemplateSource {
     int found = 0;       // character files, in all neighborhoods
     int unreadable = 0;  // of these
 };
+
+// The names of the character files in a directory, in any case and sorted without it: "User00042.iff".
+std::vector<std::string> characterNamesIn(const char* directory);
 
 // Chooses among the files of all neighborhoods, in the order of their numbers and then of the names, in any case
 // (prepare/source_choice.h). A file that can't be read or doesn't serve is left out. `simsDirectory` has a trailing

@@ -31,23 +31,9 @@ void reportMissing(Preparation& preparation, const std::string& line) {
     report(preparation, line);
 }
 
-std::string reason() {
-    switch (GetLastError()) {
-        case ERROR_DISK_FULL:
-            return "the disk is full or reports an error";
-        case ERROR_ACCESS_DENIED:
-        case ERROR_WRITE_PROTECT:
-            return "writing there isn't allowed";
-        case ERROR_FILE_NOT_FOUND:
-        case ERROR_PATH_NOT_FOUND:
-            return "its directory is missing";
-        default:
-            return "the system's error is " + std::to_string(GetLastError());
-    }
-}
-
 void reportUnwritten(Preparation& preparation, const std::string& path) {
-    reportMissing(preparation, path + " can't be written: " + reason() + ". Please mend that, and prepare again.");
+    reportMissing(preparation,
+                  path + " can't be written: " + writeFailure() + ". Please mend that, and prepare again.");
 }
 
 bool writeNew(Preparation& preparation, const std::string& path, const Bytes& bytes) {

@@ -38,3 +38,20 @@ bool writeWholeFile(const char* path, const Bytes& bytes) {
     SetLastError(ERROR_DISK_FULL);  // the usual reason; a write and a close don't say theirs
     return false;
 }
+
+std::string writeFailure() {
+    switch (GetLastError()) {
+        case ERROR_DISK_FULL:
+            return "the disk is full or reports an error";
+        case ERROR_ACCESS_DENIED:
+        case ERROR_WRITE_PROTECT:
+            return "writing there isn't allowed";
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_PATH_NOT_FOUND:
+            return "its directory is missing";
+        case ERROR_SHARING_VIOLATION:
+            return "another program has it open";
+        default:
+            return "the system's error is " + std::to_string(GetLastError());
+    }
+}

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 
 #include "gamefiles/byte_writer.h"
 
@@ -17,5 +18,8 @@ std::optional<Bytes> readWholeFile(const char* path);
 // Writes the file and syncs it. It takes its name, in place of an older file, when it is complete. False on failure,
 // with the reason in GetLastError: ERROR_DISK_FULL for each failed write.
 bool writeWholeFile(const char* path, const Bytes& bytes);
+
+// Why a file couldn't be written, from GetLastError, as the end of a sentence about it.
+std::string writeFailure();
 
 #endif
