@@ -1,0 +1,27 @@
+// Files that a save leaves if it is cut off: the new version under a temporary name, parts, and old versions that were
+// set aside. Mostly they do no harm, but a live file may be missing or broken beside them.
+#ifndef START_LEFT_OVERS_H
+#define START_LEFT_OVERS_H
+
+#include <string>
+#include <vector>
+
+struct LeftOver {
+    std::string sentence;        // what was found, and what it means
+    std::string question = {};   // the offer: what putInPlace does; empty if there is nothing to do
+    std::string directory = {};  // of the neighborhood; this and the next two are for putInPlace
+    std::string live = {};       // the path of the file that is missing or broken
+    std::string version = {};    // the path of the whole version of it that takes its place
+
+    bool isOffer() const { return !question.empty(); }
+};
+
+// In the order of the neighborhoods. `simsDirectory` has a trailing backslash.
+std::vector<LeftOver> findLeftOvers(const std::string& simsDirectory);
+
+// Takes the offer: puts the whole version in the live file's place, in one step. A version that is a backup stays; any
+// other is deleted once the live file is on the disk. False, with nothing changed, if that can't be done, or if what
+// was found isn't so any more.
+bool putInPlace(const LeftOver& leftOver);
+
+#endif

@@ -1,0 +1,19 @@
+// Pieces of the sentences that players read.
+#ifndef START_WORDS_H
+#define START_WORDS_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// "3 Sims", "1 Sim".
+std::string counted(std::size_t count, const std::string& one, const std::string& many);
+
+// "Clover", "Clover and Bramble", "Clover, Bramble and 3 more": at most 30 by name.
+std::string listed(const std::vector<std::string>& names);
+
+// "20,000".
+std::string withCommas(std::int64_t amount);
+
+#endif
