@@ -1,0 +1,75 @@
+#include "start/readiness.h"
+
+#include <memory>
+#include <optional>
+
+#include "prepare/whole_file.h"
+#include "start/move_out_forecast.h"
+#include "start/neighbor_records.h"
+#include "start/neighborhood_files.h"
+#include "start/save_trial.h"
+#include "start/words.h"
+#include "world/neighborhood.h"
+#include "world/sims_directory.h"
+
+namespace {
+
+void lookAtRecords(const NeighborhoodPlace& place, Readiness& readiness) {
+    const std::optional<Bytes> file = readWholeFile(place.liveFile().c_str());
+    const auto neighborhood = std::make_unique<Neighborhood>();
+    if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName) != 0) return;
+    const std::size_t later = countSims(*file, Edition::later);
+    readiness.laterSims += later;
+    if (later > 0) {
+        readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
+                                     " of a later edition of the game, which Tidewright can't read.");
+    }
+    const std::string loss = moveOutLoss(*file, *neighborhood);
+    if (loss.empty()) return;
+    readiness.warnings.push_back(place.name() + ": a save of one Move Out would " + loss +
+                                 ". Child to Teen and Teen to Adult drop nothing.");
+}
+
+// The editor cuts a longer path, and finds nothing there.
+bool isTooLong(const NeighborhoodPlace& place) {
+    return place.directory.size() > NeighborhoodPath::capacity();
+}
+
+void lookAt(const NeighborhoodPlace& place, Readiness& readiness) {
+    if (isTooLong(place)) {
+        readiness.obstacles.push_back("The path " + place.directory + " is too long: Tidewright can use " +
+                                      std::to_string(NeighborhoodPath::capacity()) + " characters.");
+        return;
+    }
+    trySave(place, readiness);
+    lookAtRecords(place, readiness);
+}
+
+}  // namespace
+
+std::string Readiness::text() const {
+    std::vector<std::string> lines = obstacles;
+    lines.insert(lines.end(), warnings.begin(), warnings.end());
+    for (const LeftOver& leftOver : leftOvers) {
+        lines.push_back(leftOver.sentence);
+    }
+    std::string text;
+    for (const std::string& line : lines) {
+        text += (text.empty() ? "" : "\n\n") + line;
+    }
+    return text;
+}
+
+Readiness checkReadiness(const std::string& simsDirectory) {
+    Readiness readiness;
+    const std::vector<NeighborhoodPlace> places = neighborhoodsIn(simsDirectory);
+    if (places.empty()) {
+        readiness.obstacles.push_back(simsDirectory +
+                                      " has no directory UserData: please play the game once, and save there.");
+    }
+    for (const NeighborhoodPlace& place : places) {
+        lookAt(place, readiness);
+    }
+    readiness.leftOvers = findLeftOvers(simsDirectory);
+    return readiness;
+}

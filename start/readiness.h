@@ -1,0 +1,29 @@
+// Whether the editor can save what a player does to this game, and what the player should know before.
+#ifndef START_READINESS_H
+#define START_READINESS_H
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "start/left_overs.h"
+
+// Each line is one or more sentences for the player, in Windows-1252, without a line break.
+struct Readiness {
+    std::vector<std::string> obstacles = {};  // each prevents a save, or keeps a neighborhood from being read
+    std::vector<std::string> warnings = {};   // what can't be read, and what a save would drop or go without
+    std::vector<LeftOver> leftOvers = {};     // of saves that were cut off; a file that is missing is an obstacle, too
+    std::size_t laterSims = 0;                // that the warnings count as of a later edition of the game
+
+    // Whether nothing is known that prevents a save.
+    bool isReady() const { return obstacles.empty(); }
+
+    // All of it, a line each, with an empty line in between; empty if there is nothing to say.
+    std::string text() const;
+};
+
+// Looks at all neighborhoods below `simsDirectory` (with a trailing backslash), as far as the editor lists them. In
+// each directory that a save writes to, a file is made and deleted. Nothing else is changed, and no box opens.
+Readiness checkReadiness(const std::string& simsDirectory);
+
+#endif
