@@ -7,12 +7,13 @@
 #include "start/evening.h"
 
 struct CutOffEvening {
-    bool isAsBefore = true;       // no file differs from the copy: nothing needs to be said
+    bool isAsBefore = true;       // nothing was written since the copy was made: nothing needs to be said
     bool wasPlayedSince = false;  // the game has saved since: going back would undo that, too
     std::string text = {};        // "The last evening was cut off. Neighborhood 1 is as follows: ..."
 };
 
-// Live files that are missing or broken come into the text, too; left_overs.h mends them. No box opens.
+// Compares the game's neighborhoods with the copy; those that are as before aren't mentioned. What left_overs.h can
+// mend is mentioned, and offered there. No box opens.
 CutOffEvening describeCutOff(const Evening& evening);
 
 #endif

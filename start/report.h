@@ -3,17 +3,20 @@
 #define START_REPORT_H
 
 #include <string>
+#include <vector>
 
 #include "start/evening.h"
+#include "start/left_overs.h"
 
 struct EveningReport {
     bool hasSaved = false;  // the editor has saved something
-    bool hasLoss = false;   // something is lost or broken: going back to the copy is worth a question
+    bool hasLoss = false;   // something is lost or broken, or a save was cut off: going back is worth a question
     std::string text = {};  // for the player, in Windows-1252; empty if there is nothing to say
 };
 
-// Compares the game's neighborhoods with the copy. Where nothing was saved, the text says so only if something prevents
-// a save, or if another program has saved meanwhile. No box opens.
-EveningReport reportOn(const Evening& evening);
+// Compares the game's neighborhoods with the copy. `known` is what findLeftOvers found before the evening. Where
+// nothing was saved, the text says so only if something prevents a save, or if another program has saved meanwhile. No
+// box opens.
+EveningReport reportOn(const Evening& evening, const std::vector<LeftOver>& known);
 
 #endif

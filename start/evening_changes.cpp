@@ -1,0 +1,96 @@
+#include "start/evening_changes.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+
+#include "platform/files.h"
+#include "platform/letter_case.h"
+#include "platform/part_names.h"
+#include "prepare/character_files.h"
+#include "prepare/whole_file.h"
+#include "world/paths.h"
+
+namespace {
+
+constexpr const char* housesDirectory = "Houses";
+
+// Some file systems store times in steps of two seconds.
+constexpr std::int64_t coarsestTime = 2;
+
+bool isThere(const std::string& path) {
+    FileStatus status{};
+    return queryFileStatus(path.c_str(), status);
+}
+
+bool isChanged(const std::string& before, const std::string& now) {
+    FileStatus old{}, present{};
+    const bool wasThere = queryFileStatus(before.c_str(), old);
+    if (wasThere != queryFileStatus(now.c_str(), present)) return true;
+    if (!wasThere || (old.size == present.size && old.written == present.written)) return false;
+    return old.size != present.size || readWholeFile(before.c_str()) != readWholeFile(now.c_str());
+}
+
+// In small letters, of both directories.
+std::set<std::string> namesInEither(const std::string& before, const std::string& now) {
+    std::set<std::string> names;
+    for (const std::string& directory : {before, now}) {
+        for (const std::string& name : fileNamesIn(directory.c_str())) {
+            names.insert(lowered(name));
+        }
+    }
+    return names;
+}
+
+// Whether a save of the file, "neighborhood.iff" or "user00013.iff", has left its old version since `begin`.
+bool hasOldVersion(const std::string& directory, const std::string& file, std::int64_t begin) {
+    const auto isAside = [&](const std::string& name) { return equalInAnyCase(fileOfAside(name), file); };
+    if (std::ranges::any_of(fileNamesIn(directory.c_str()), isAside)) return true;
+    const std::string backups = directory + '\\' + backupsDirectory;
+    const std::string stem = lowered(file.substr(0, file.rfind('.') + 1));
+    const auto isNewBackup = [&](const std::string& name) {
+        FileStatus status{};
+        return lowered(name).starts_with(stem) && queryFileStatus((backups + '\\' + name).c_str(), status) &&
+               status.written >= begin - coarsestTime;
+    };
+    return std::ranges::any_of(fileNamesIn(backups.c_str()), isNewBackup);
+}
+
+// A save writes no file with one of these names, and a copy has none of them but the live ones.
+bool isOfSave(const std::string& name) {
+    const bool isPart = !(fileOfPart(name) + fileOfAside(name)).empty() || name.starts_with("~part");
+    return isPart || name.starts_with(lowered(temporaryPrefix)) || name == neighborhoodFileName;
+}
+
+bool hasChangedFile(const std::string& before, const std::string& now) {
+    return std::ranges::any_of(namesInEither(before, now), [&](const std::string& name) {
+        return !isOfSave(name) && isChanged(before + '\\' + name, now + '\\' + name);
+    });
+}
+
+void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin,
+                      EveningChanges& changes) {
+    for (const std::string& name : namesInEither(before.characters(), now.characters())) {
+        if (isOfSave(name) || !isChanged(before.character(name), now.character(name))) continue;
+        if (!hasOldVersion(now.characters(), name, begin)) {
+            changes.isPlayed = true;
+        } else if (isThere(now.character(name))) {
+            changes.characters.push_back(name);
+        }
+    }
+}
+
+}  // namespace
+
+EveningChanges changesOf(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {
+    EveningChanges changes;
+    if (isChanged(before.liveFile(), now.liveFile())) {
+        const bool hasOld = hasOldVersion(now.directory, neighborhoodFileName, begin);
+        changes.isSaved = hasOld && isThere(now.liveFile());
+        changes.isPlayed = !hasOld;
+    }
+    lookAtCharacters(before, now, begin, changes);
+    changes.isPlayed |= hasChangedFile(before.directory, now.directory) ||
+                        hasChangedFile(before.path(housesDirectory), now.path(housesDirectory));
+    return changes;
+}
