@@ -28,7 +28,6 @@ struct Question {
     std::vector<std::string> lines;
     std::vector<std::string> entries;
     HWND list = nullptr;
-    bool answered = false;
     GameAnswer answer = {};
 };
 
@@ -94,7 +93,7 @@ void answer(GameAnswer::Kind kind) {
         question->list != nullptr ? SendMessageA(question->list, CB_GETCURSEL, 0, 0) : LRESULT{CB_ERR};
     if (kind == GameAnswer::Kind::game && picked == CB_ERR) return;
     question->answer = {kind, static_cast<std::size_t>(std::max<LRESULT>(picked, 0))};
-    question->answered = true;
+    PostQuitMessage(0);  // ends this window's own loop
 }
 
 void onCommand(int controlId) {
@@ -142,7 +141,7 @@ HWND createWindow() {
 void waitForAnswer() {
     MSG message{};
     constexpr WPARAM escape = 27;
-    while (!question->answered && GetMessageA(&message, nullptr, 0, 0) > 0) {
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         if (message.message == WM_CHAR && message.wParam == escape) answer(GameAnswer::Kind::cancelled);
         TranslateMessage(&message);
         DispatchMessageA(&message);

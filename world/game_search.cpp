@@ -175,15 +175,23 @@ class GameSearch {
     int findIn(const std::string& prefix) {
         const Games games = gamesIn(prefix);
         if (!games.empty()) return take(games.front());
+        const std::string missing = missingIn(prefix);
+        if (prefix.empty()) {
+            return refuse(missing +
+                          "\n\nIf it is on a disk that isn't there now, bring that back; else install the game "
+                          "again.");
+        }
+        return refuse(
+            (missing.empty() ? "The registry of " + shownPath(prefix) + " has no entry of The Sims." : missing) +
+            "\n\nSet WINEPREFIX to the game's prefix, or leave it out and let Tidewright search.");
+    }
+
+    // A sentence about an entry that leads nowhere.
+    static std::string missingIn(const std::string& prefix) {
         const std::string text = registeredDirectory(prefix, gameKey, gameValue).text;
-        const std::string where = prefix.empty() ? "The registry" : "The registry of " + shownPath(prefix);
-        const std::string found = text.empty() ? where + " has no entry of The Sims."
-                                               : where + " says that The Sims is in " + text + ", and it isn't there.";
-        return refuse(found + (prefix.empty()
-                                   ? "\n\nIf it is on a disk that isn't there now, bring that back; else install the "
-                                     "game again."
-                                   : "\n\nSet WINEPREFIX to the game's prefix, or leave it out and let Tidewright "
-                                     "search."));
+        if (text.empty()) return "";
+        const std::string registry = prefix.empty() ? "The registry" : "The registry of " + shownPath(prefix);
+        return registry + " says that The Sims is in " + text + ", and it isn't there.";
     }
 
     int findAnywhere() {
@@ -253,6 +261,10 @@ class GameSearch {
         text += " Tidewright looked for Wine prefixes with the game in";
         for (const std::string& place : winePrefixPlaces()) {
             text += "\n    " + place;
+        }
+        for (const std::string& prefix : foundWinePrefixes()) {
+            const std::string missing = missingIn(prefix);
+            if (!missing.empty()) text += "\n\n" + missing;
         }
         return text;
     }

@@ -18,6 +18,7 @@ bool chooseDirectory(HWND owner, const char* title, std::string& directory) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setFileMode(QFileDialog::Directory);
+    dialog.setLabelText(QFileDialog::Accept, "&OK");
     dialog.setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Hidden);
     runModal(dialog, [&dialog] { return dialog.isVisible(); });
     if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;

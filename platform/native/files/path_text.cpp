@@ -1,5 +1,6 @@
 #include "platform/path_text.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -7,7 +8,9 @@
 #include "platform/native/files/paths.h"
 
 std::string shownPath(const std::string& path) {
-    return text1252FromUtf8(path);
+    std::string text = text1252FromUtf8(path);
+    std::ranges::replace(text, '\\', '/');
+    return text;
 }
 
 std::string absolutePath(const std::string& path) {

@@ -88,10 +88,10 @@ std::string homeDirectory() {
     return absolutePath("~");
 }
 
-// Wine's link to a drive. Without links, drive C is where Wine makes it.
+// What Wine's link to a drive leads to. Without links, drive C is where Wine makes it.
 std::string driveDirectory(const std::string& prefix, char letter) {
     const std::string link = prefix + "/dosdevices/" + lowerCase(letter) + ':';
-    return lowerCase(letter) == 'c' && !isDirectory(link) ? prefix + "/drive_c" : link;
+    return lowerCase(letter) == 'c' && !isDirectory(link) ? prefix + "/drive_c" : realPath(link);
 }
 
 // Whether a system may have made the short name of it: the letters in front of "~", without spaces and dots or with

@@ -1,0 +1,206 @@
+// Where the game is found under Wine, and what is said where it isn't.
+#include "world/game_search.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest/qtestmouse.h>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "platform/files.h"
+#include "platform/path_text.h"
+#include "sample/wine_prefix.h"
+#include "tests/support/scoped_variable.h"
+#include "tests/support/temp_directory.h"
+#include "tests/support/user.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* gamePath = "drive_c/Program Files (x86)/Maxis/The Sims";
+constexpr const char* gameAsRegistered = "C:\\Program Files (x86)\\Maxis\\The Sims\\";
+
+// The home directory is empty, and the player's own directory is "own".
+class GameSearchNativeTest : public testing::Test {
+ protected:
+    GameSearchNativeTest() {
+        files_.makeDirectory("own");
+        files_.makeDirectory("home");
+        fs::current_path(files_.path("home"));
+    }
+
+    // A prefix whose game's directory is `directory`, and the registry's path of it `registered`.
+    void makePrefix(const std::string& prefix, const std::string& directory, const std::string& registered) const {
+        files_.makeDirectory(prefix + '/' + directory + "/UserData");
+        files_.makeDirectory(prefix + "/dosdevices");
+        fs::create_directory_symlink("../drive_c", files_.path(prefix + "/dosdevices/c:"));
+        files_.write(prefix + "/system.reg", "[Software\\\\Maxis\\\\The Sims]\n\"SIMS_DATA\"=\"" + registered + "\"\n");
+    }
+
+    int find(const std::string& wished = "", bool askNothing = true) {
+        return findGame({wished, askNothing}, files_.path("own"), found_);
+    }
+
+    // Whether what was found is this directory, by the paths that the editor makes.
+    bool leadsTo(const std::string& directory) const {
+        files_.write(directory + "/UserData/Mark.iff", "x");
+        FileStatus status{};
+        const bool leads = queryFileStatus((std::string(found_.view()) + "UserData\\MARK.IFF").c_str(), status);
+        files_.remove(directory + "/UserData/Mark.iff");
+        return leads;
+    }
+
+    // What goes to standard output while nothing is found.
+    std::string wordsOf(const std::string& wished) {
+        testing::internal::CaptureStdout();
+        EXPECT_EQ(find(wished), -1);
+        return testing::internal::GetCapturedStdout();
+    }
+    void expectWords(const std::string& wished, const std::string& part) {
+        const std::string words = wordsOf(wished);
+        prefix_.set("");
+        EXPECT_NE(words.find(part), std::string::npos) << words << "\ndoesn't have\n" << part;
+    }
+
+    static void click(const char* text) {
+        for (QWidget* const widget : QApplication::allWidgets()) {
+            auto* const button = qobject_cast<QPushButton*>(widget);
+            if (button == nullptr || !button->isVisible() || button->text() != text) continue;
+            QTest::mouseClick(button->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              button->mapTo(button->window(), button->rect().center()));
+        }
+    }
+
+    TempDirectory files_;
+    ScopedVariable home_{"HOME", files_.path("home")};
+    ScopedVariable prefix_{"WINEPREFIX", ""};
+    DirectoryText found_;
+};
+
+TEST_F(GameSearchNativeTest, EachPlaceOfPrefixesIsSearched) {
+    for (const char* const place :
+         {".wine", "Games/x", "Games/Heroic/Prefixes/x", "Games/Heroic/Prefixes/default/x",
+          ".steam/steam/steamapps/compatdata/3314070/pfx", ".local/share/Steam/steamapps/compatdata/1/pfx",
+          ".var/app/com.valvesoftware.Steam/.local/share/Steam/steamapps/compatdata/1/pfx",
+          ".var/app/com.valvesoftware.Steam/.steam/steam/steamapps/compatdata/1/pfx", ".local/share/bottles/bottles/x",
+          ".var/app/com.usebottles.bottles/data/bottles/bottles/x", ".PlayOnLinux/wineprefix/x",
+          ".local/share/wineprefixes/x", ".cxoffice/x"}) {
+        SCOPED_TRACE(place);
+        const std::string prefix = files_.path(std::string("home/") + place);
+        fs::create_directories(prefix);
+        EXPECT_TRUE(makeWinePrefix(prefix));
+        EXPECT_EQ(find(), 0);
+        EXPECT_EQ(found_.view(), gameAsRegistered);
+        EXPECT_EQ(std::getenv("WINEPREFIX"), prefix);
+        files_.remove(std::string("home/") + place);
+        prefix_.set("");
+    }
+}
+
+TEST_F(GameSearchNativeTest, WhatThePathsOfTheEditorDontReachGetsAPrefixOfItsOwn) {
+    const std::string deep = "drive_c/" + std::string(60, 'a') + '/' + std::string(60, 'b');
+    const struct {
+        const char* what;
+        std::string directory, registered;
+        bool hasDrives;
+    } rows[] = {
+        {"a long path", deep, "C:\\\\" + std::string(60, 'a') + "\\\\" + std::string(60, 'b'), true},
+        {"outside Windows-1252", "drive_c/Gry/Łódź", R"(C:\\Gry\\\x141\x00f3d\x17a)", true},
+        {"no links to drives", "drive_c/Maxis/The Sims", R"(C:\\maxis\\The Sims)", false},
+        {"short names", "drive_c/Program Files/The Sims", R"(C:\\PROGRA~1\\THE_~K4X)", true},
+        {"no entry", "drive_c/users/steamuser/Saved Games/Electronic Arts/The Sims 25", "", true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        makePrefix("home/.wine", row.directory, row.registered);
+        if (!row.hasDrives) files_.remove("home/.wine/dosdevices");
+        for (int start = 1; start <= 2; ++start) {
+            prefix_.set("");
+            EXPECT_EQ(find(), 0);
+            EXPECT_EQ(found_.view(), "G:\\");
+            EXPECT_TRUE(leadsTo("home/.wine/" + row.directory));
+        }
+        EXPECT_EQ(realPath("G:\\"), files_.path("home/.wine/" + row.directory));
+        files_.remove("home/.wine");
+    }
+    EXPECT_TRUE(files_.exists("own/games/5"));
+    EXPECT_FALSE(files_.exists("own/games/6")) << "one for each game, which never changes";
+}
+
+TEST_F(GameSearchNativeTest, APrefixOfTheEnvironmentMayHaveAnyForm) {
+    EXPECT_TRUE(makeWinePrefix(files_.path("home/a b")));
+    EXPECT_TRUE(makeWinePrefix(files_.path("home/.wine")));
+    for (const char* const form : {"a b", "./a b/", "~/a b"}) {
+        prefix_.set(form);
+        EXPECT_EQ(find(), 0) << form;
+        EXPECT_EQ(fs::canonical(std::getenv("WINEPREFIX")), files_.path("home/a b"));
+    }
+    prefix_.set("nowhere");
+    EXPECT_EQ(wordsOf(""), "The registry of " + files_.path("home/nowhere") +
+                               " has no entry of The Sims.\n\nSet WINEPREFIX to the game's prefix, or leave it out "
+                               "and let Tidewright search.\n");
+}
+
+TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
+    makePrefix("home/.wine", "drive_c/a", "C:\\\\a");
+    makePrefix("elsewhere/pfx", "drive_c/b", "C:\\\\b");
+    for (const char* const wish : {"../elsewhere", "../elsewhere/pfx", "../elsewhere/pfx/drive_c/b/",
+                                   "../elsewhere/pfx/drive_c/b/UserData", "../elsewhere/pfx/drive_c"}) {
+        EXPECT_EQ(find(wish), 0) << wish;
+        EXPECT_EQ(found_.view(), "C:\\b\\");
+        prefix_.set("");
+    }
+    EXPECT_EQ(find(), 0);
+    EXPECT_EQ(found_.view(), "C:\\b\\");
+    prefix_.set("");
+
+    files_.remove("elsewhere");
+    expectWords("", "isn't there any more: " + files_.path());
+    for (const char* const bad : {"\xFF\0\x01garbage", "[Game]\nDirectory=relative\n"}) {
+        files_.write("own/tidewright.ini", bad);
+        expectWords("", "This game was found.\n\n" + files_.path("home/.wine/drive_c/a"));
+    }
+    expectWords("nowhere", "The Sims isn't in " + files_.path("home/nowhere"));
+}
+
+TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
+    makePrefix("home/.wine", "drive_c/a", "C:\\\\a");
+    makePrefix("home/Games/b", "drive_c/b", "C:\\\\b");
+    files_.write("home/.wine/drive_c/a/UserData/neighborhood.iff", "x");
+    expectWords("", files_.path("home/.wine/drive_c/a") + " - 1 neighborhood, last played 20");
+    expectWords("", files_.path("home/Games/b/drive_c/b") + " - 0 neighborhoods\n");
+
+    later([] { click("Cancel"); });
+    EXPECT_EQ(find("", false), 1);
+    later([] {
+        for (QWidget* const widget : QApplication::allWidgets())
+            if (auto* const list = qobject_cast<QComboBox*>(widget); list != nullptr && list->isVisible())
+                list->setCurrentIndex(1);  // the first is the one that was played
+        click("Open");
+    });
+    EXPECT_EQ(find("", false), 0);
+    EXPECT_EQ(found_.view(), "C:\\b\\");
+    prefix_.set("");
+    EXPECT_EQ(find("", false), 0) << "asks again";
+    EXPECT_EQ(found_.view(), "C:\\b\\");
+}
+
+TEST_F(GameSearchNativeTest, WithoutAGameTheUserChoosesADirectory) {
+    makePrefix("home/.hidden/pfx", "drive_c/a", "");
+    later([] { click("Choose..."); });
+    const AnsweredBox chosen = answerNextBox(IDOK, [] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_TRUE(dialog->filter().testFlag(QDir::Hidden));
+        dialog->setDirectory(".hidden/pfx/drive_c");
+        dialog->findChild<QLineEdit*>()->setText("a");
+    });
+    EXPECT_EQ(find("", false), 0);
+    EXPECT_TRUE(leadsTo("home/.hidden/pfx/drive_c/a"));
+}
+
+}  // namespace
