@@ -330,7 +330,10 @@ class GameSearch {
     }
 
     void remember() const {
-        WritePrivateProfileStringA(settingsSection, settingsDirectory, game_.directory.c_str(), settings_.c_str());
+        if (WritePrivateProfileStringA(settingsSection, settingsDirectory, game_.directory.c_str(),
+                                       settings_.c_str()) == FALSE) {
+            say("The choice can't be kept: " + shownPath(settings_) + " can't be written.", wish_.askNothing);
+        }
     }
 
     GameWish wish_;

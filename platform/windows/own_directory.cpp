@@ -10,6 +10,9 @@
 
 namespace {
 
+// No working directory of the programs may have a longer path.
+constexpr std::size_t longestPath = 199;
+
 // A probe is the only sure way: rights, quotas and redirections decide together.
 bool mayWriteInto(const std::string& directory) {
     HANDLE const probe = CreateFileA((directory + "\\write test").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
@@ -20,6 +23,9 @@ bool mayWriteInto(const std::string& directory) {
 }
 
 std::string faultOf(const std::string& path) {
+    if (path.size() > longestPath) {
+        return "The path " + path + " has 200 characters or more, which is too long.";
+    }
     const std::string code = " (error " + std::to_string(GetLastError()) + ").";
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) return "The directory " + path + " can't be made" + code;

@@ -12,6 +12,9 @@
 
 namespace {
 
+// No working directory of the programs may have a longer path.
+constexpr std::size_t longestPath = 199;
+
 std::string variable(const char* name) {
     const char* const value = std::getenv(name);
     return value != nullptr ? value : "";
@@ -26,6 +29,9 @@ int makeDirectories(const std::string& path) {
 }
 
 std::string faultOf(const std::string& path) {
+    if (path.size() > longestPath) {
+        return "The path " + shownPath(path) + " has 200 characters or more, which is too long.";
+    }
     const int error = makeDirectories(path);
     if (error != 0) return "The directory " + shownPath(path) + " can't be made: " + std::strerror(error) + ".";
     struct stat status = {};

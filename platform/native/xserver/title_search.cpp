@@ -140,8 +140,9 @@ class TitleSearch {
         if (!value || value->format != 8) return "";
         const auto size = static_cast<std::size_t>(xcb_get_property_value_length(value.get()));
         std::string_view texts(static_cast<const char*>(xcb_get_property_value(value.get())), size);
-        texts.remove_prefix(std::min(texts.find('\0') + 1, texts.size()));
-        return lowered(texts.substr(0, texts.find('\0')));
+        const std::string_view instance = texts.substr(0, texts.find('\0'));
+        texts.remove_prefix(std::min(instance.size() + 1, texts.size()));
+        return lowered(texts.empty() ? instance : texts.substr(0, texts.find('\0')));
     }
 
     // Names of the type UTF8_STRING are UTF-8, all others Latin-1, which Windows-1252 covers.

@@ -1,0 +1,120 @@
+// What a program asks of the system around it: directories, settings, other programs and their windows.
+#include <gtest/gtest.h>
+#include <xcb/xcb.h>
+
+#include "platform/child_process.h"
+#include "platform/console.h"
+#include "platform/own_directory.h"
+#include "platform/path_text.h"
+#include "platform/titled_windows.h"
+#include "platform/win32.h"
+#include "tests/support/scoped_variable.h"
+#include "tests/support/temp_directory.h"
+#include "tests/support/x_server.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+TEST(SurroundingsNativeTest, TheOwnDirectoryIsMadeOrTheReasonNamed) {
+    const TempDirectory files;
+    files.write("file", "x");
+    const std::string home = files.path("home"), longest = files.path(std::string(150, 'x'));
+    const struct {
+        const char* what;
+        std::string home, data, path, fault;
+    } rows[] = {
+        {"the usual place", home, "", home + "/.local/share/tidewright", ""},
+        {"a relative variable", home, "data", home + "/.local/share/tidewright", ""},
+        {"the variable", "", files.path("data//"), files.path("data/tidewright"), ""},
+        {"no home", "", "", "", "HOME has no value, so there is no place for this program's files."},
+        {"a file in the way", files.path("file"), "", files.path("file/.local/share/tidewright"),
+         "The directory " + files.path("file/.local/share/tidewright") + " can't be made: Not a directory."},
+        {"too long", longest, "", longest + "/.local/share/tidewright",
+         "The path " + longest + "/.local/share/tidewright has 200 characters or more, which is too long."},
+    };
+    for (const auto& row : rows) {
+        const ScopedVariable homeVariable("HOME", row.home), dataVariable("XDG_DATA_HOME", row.data);
+        const OwnDirectory own = ownDirectory("Tidewright");
+        EXPECT_EQ(own.path, row.path) << row.what;
+        EXPECT_EQ(own.fault, row.fault) << row.what;
+        EXPECT_TRUE(!row.fault.empty() || fs::is_directory(own.path)) << row.what;
+    }
+}
+
+TEST(SurroundingsNativeTest, SettingsKeepTheBytesOfPathsAndWithstandAnyFile) {
+    const TempDirectory files;
+    const std::string file = files.path("settings.ini");
+    const auto read = [&](const char* name, DWORD size) {
+        char text[100] = "untouched";
+        const DWORD length = GetPrivateProfileStringA("Game", name, "none", text, size, file.c_str());
+        EXPECT_EQ(length, std::string(text).size());
+        return std::string(text);
+    };
+    EXPECT_EQ(read("Directory", 100), "none");
+    for (const char* const value : {"/home/j\xC3\xBCrgen/\xC5\x81\xC3\xB3", "a=b;c,d \"e\" \\f%20", "plain"}) {
+        EXPECT_NE(WritePrivateProfileStringA("Game", "Directory", value, file.c_str()), FALSE);
+        EXPECT_NE(WritePrivateProfileStringA("Game", "Other", "kept", file.c_str()), FALSE);
+        EXPECT_EQ(read("Directory", 100), value);
+    }
+    EXPECT_EQ(read("Directory", 3), "pl");
+    WritePrivateProfileStringA("Game", "Directory", nullptr, file.c_str());
+    EXPECT_EQ(read("Directory", 100) + read("Other", 100), "nonekept");
+    for (const char* const bad : {"\xFF\xFE\x01[\n==]", "[Game", "[Game]\nDirectory", "[Game]\n\"=1"}) {
+        files.write("settings.ini", bad);
+        const std::string value = read("Directory", 100);
+        EXPECT_TRUE(value == "none" || value.empty()) << bad << ": " << value;
+    }
+    EXPECT_EQ(WritePrivateProfileStringA("Game", "x", "y", files.path("settings.ini/x.ini").c_str()), FALSE);
+}
+
+TEST(SurroundingsNativeTest, AProgramIsRunInItsDirectoryAndItsEndReported) {
+    const TempDirectory files;
+    const auto run = [&](const char* script) {
+        files.write("script", std::string("#!/bin/sh\n") + script);
+        fs::permissions(files.path("script"), fs::perms::owner_all);
+        int code = -1;
+        EXPECT_TRUE(runAndWait(files.path("script"), files.path(), code)) << script;
+        return code;
+    };
+    EXPECT_EQ(run("echo \"$0\" >here"), 0);
+    EXPECT_TRUE(files.exists("here"));
+    EXPECT_EQ(run("exit 254"), 254);
+    EXPECT_EQ(run("kill -SEGV $$"), 139);
+    int code = 5;
+    EXPECT_FALSE(runAndWait(files.path("missing"), files.path(), code));
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(code, 5);
+    EXPECT_TRUE(fs::exists(programBeside("platform_tests")));
+}
+
+TEST(SurroundingsNativeTest, WindowsOfATitleTellTheirKind) {
+    const XServer server;
+    const ScopedVariable display("DISPLAY", server.display());
+    const auto add = [&](std::string_view classes) {
+        xcb_connection_t* const connection = server.connection();
+        const xcb_window_t window = xcb_generate_id(connection);
+        xcb_create_window(connection, 0, window, xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root, 0, 0,
+                          8, 8, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, 0, 0, nullptr);
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 8,
+                            "The Sims");
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                            static_cast<std::uint32_t>(classes.size()), classes.data());
+        server.atom("done");
+    };
+    EXPECT_EQ(kindsOfWindowsTitled("The Sims"), std::vector<std::string>{});
+    add("");
+    EXPECT_EQ(kindsOfWindowsTitled("The Sims"), std::vector<std::string>{""});
+    add(std::string_view("nautilus\0org.gnome.Nautilus\0", 28));
+    add("sims.exe");
+    EXPECT_EQ(kindsOfWindowsTitled("The Sims"), (std::vector<std::string>{"org.gnome.nautilus", "sims.exe"}));
+    EXPECT_EQ(kindsOfWindowsTitled("The Sim"), std::vector<std::string>{});
+}
+
+TEST(SurroundingsNativeTest, WordsAreWrittenAndPathsShownInTheTerminalsForm) {
+    testing::internal::CaptureStdout();
+    EXPECT_TRUE(writeToOutput("Caf\xE9\n" + shownPath("/home/j\xC3\xBCrgen\\UserData") + "\n"));
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Caf\xC3\xA9\n/home/j\xC3\xBCrgen/UserData\n");
+}
+
+}  // namespace
