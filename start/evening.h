@@ -4,11 +4,13 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 struct Evening {
     std::string before;  // a copy of the game's neighborhoods from before, laid out like its directory; without backups
     std::string game;    // the game's directory; both with a trailing backslash
     std::int64_t begin;  // when the copy was complete, in seconds since 1970, UTC
+    std::vector<std::string> known = {};  // what was said of left-over files (start/left_overs.h) before the evening
 };
 
 #endif

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "start/evening_check.h"
+#include "start/left_overs.h"
 #include "start/readiness.h"
 #include "start/words.h"
 
@@ -60,10 +61,9 @@ void lookAt(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::
     findings.say(played + (changes.isSaved ? ", too." : "; what you changed in it was not saved."));
 }
 
-void sayLeftOvers(const std::string& game, const std::vector<LeftOver>& known, Findings& findings) {
-    for (const LeftOver& leftOver : findLeftOvers(game)) {
-        const bool isKnown = std::ranges::find(known, leftOver.sentence, &LeftOver::sentence) != known.end();
-        if (isKnown) continue;
+void sayLeftOvers(const Evening& evening, Findings& findings) {
+    for (const LeftOver& leftOver : findLeftOvers(evening.game)) {
+        if (std::ranges::find(evening.known, leftOver.sentence) != evening.known.end()) continue;
         findings.report.hasLoss |= !leftOver.isOldVersion;
         findings.say(leftOver.sentence);
     }
@@ -81,14 +81,14 @@ void sayEnd(const std::string& game, Findings& findings) {
 
 }  // namespace
 
-EveningReport reportOn(const Evening& evening, const std::vector<LeftOver>& known) {
+EveningReport reportOn(const Evening& evening) {
     Findings findings;
     for (NeighborhoodPlace before : neighborhoodsIn(evening.before)) {
         NeighborhoodPlace now = before;
         now.directory = evening.game + before.directory.substr(evening.before.size());
         lookAt(before, now, evening.begin, findings);
     }
-    sayLeftOvers(evening.game, known, findings);
+    sayLeftOvers(evening, findings);
     sayEnd(evening.game, findings);
     return findings.report;
 }

@@ -3,10 +3,8 @@
 #define START_REPORT_H
 
 #include <string>
-#include <vector>
 
 #include "start/evening.h"
-#include "start/left_overs.h"
 
 struct EveningReport {
     bool hasSaved = false;  // the editor has saved something
@@ -14,9 +12,8 @@ struct EveningReport {
     std::string text = {};  // for the player, in Windows-1252; empty if there is nothing to say
 };
 
-// Compares the game's neighborhoods with the copy. `known` is what findLeftOvers found before the evening. Where
-// nothing was saved, the text says so only if something prevents a save, or if another program has saved meanwhile. No
-// box opens.
-EveningReport reportOn(const Evening& evening, const std::vector<LeftOver>& known);
+// Compares the game's neighborhoods with the copy. Where nothing was saved, the text says so only if something prevents
+// a save, or if another program has saved meanwhile. No box opens.
+EveningReport reportOn(const Evening& evening);
 
 #endif
