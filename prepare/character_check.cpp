@@ -11,6 +11,7 @@
 #include "gamefiles/object_definition.h"
 #include "gamefiles/text_chunk.h"
 #include "platform/byte_order.h"
+#include "prepare/tree_calls.h"
 
 namespace {
 
@@ -101,22 +102,11 @@ bool beginsWithAdult(std::span<const std::uint8_t> content) {
                               [](std::uint8_t byte, char letter) { return byte == static_cast<std::uint8_t>(letter); });
 }
 
-// Whether a tree has an instruction that calls one of the trees that all Sims share.
-bool callsSharedTree(std::span<const std::uint8_t> tree) {
-    constexpr std::size_t instructionSize = 12;  // the header takes as much
-    constexpr std::uint16_t firstSharedTree = 8192;
-    for (std::size_t at = instructionSize; at < tree.size() && tree.size() - at >= instructionSize;
-         at += instructionSize) {
-        if (readU16Le(tree.subspan(at).first<2>()) >= firstSharedTree) return true;
-    }
-    return false;
-}
-
 // Whether the main tree calls none of the trees that all Sims share, so that the Sim would stand still. This is so in
 // Sims that were saved from the template of this program's earlier packages.
 bool standsStill(const std::vector<IffChunk>& chunks) {
     return std::ranges::any_of(chunks, [](const IffChunk& chunk) {
-        return matches(chunk, {"BHAV", mainTreeId}) && !callsSharedTree(chunk.content);
+        return matches(chunk, {"BHAV", mainTreeId}) && !callsTree(chunk.content, firstSharedTree, endOfTrees);
     });
 }
 

@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <utility>
 
+#include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
 #include "prepare/template_maker.h"
+#include "prepare/tree_calls.h"
 
 namespace {
 
@@ -38,16 +40,25 @@ std::vector<Bytes> behaviourOf(const std::vector<IffChunk>& chunks) {
     return behaviour;
 }
 
+// The load tree of a shipped family's file calls one of its own, which was for an older edition of the game.
+bool callsOwnTreeOnLoad(const std::vector<IffChunk>& chunks) {
+    return std::ranges::any_of(chunks, [](const IffChunk& chunk) {
+        return chunk.type == "BHAV" && chunk.id == loadTreeId &&
+               callsTree(chunk.content, firstOwnTree, firstSharedTree);
+    });
+}
+
 }  // namespace
 
 void SourceChoice::add(const std::string& path, const std::vector<IffChunk>& chunks) {
     std::vector<Bytes> behaviour = behaviourOf(chunks);
     auto group = std::ranges::find(groups_, behaviour, &Group::behaviour);
-    if (group == groups_.end()) group = groups_.insert(group, {std::move(behaviour), path});
+    if (group == groups_.end()) group = groups_.insert(group, {std::move(behaviour), path, callsOwnTreeOnLoad(chunks)});
     ++group->count;
 }
 
 std::string SourceChoice::best() const {
-    const auto most = std::ranges::max_element(groups_, {}, &Group::count);
+    const auto rank = [](const Group& group) { return std::pair(!group.callsOwnTreeOnLoad, group.count); };
+    const auto most = std::ranges::max_element(groups_, {}, rank);
     return most == groups_.end() ? "" : most->path;
 }

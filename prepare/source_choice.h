@@ -13,14 +13,15 @@ class SourceChoice {
  public:
     void add(const std::string& path, const std::vector<IffChunk>& chunks);
 
-    // The path of the first file of the largest group. Of groups that are equally large, the one that began first is
-    // chosen. Empty if nothing was added.
+    // The path of the first file of the best group: one whose load tree calls no tree of the file's own, and of these
+    // the largest. Of groups that are equally large, the one that began first is chosen. Empty if nothing was added.
     std::string best() const;
 
  private:
     struct Group {
         std::vector<Bytes> behaviour;  // the bytes of each chunk, sorted
         std::string path;
+        bool callsOwnTreeOnLoad = false;
         int count = 0;
     };
     std::vector<Group> groups_;

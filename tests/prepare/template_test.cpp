@@ -86,6 +86,12 @@ TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviourIsChosen) {
         change(chunkIn(other, type, 128));
         EXPECT_EQ(chosen(other), "old") << type << " makes three behaviours of one file each";
     }
+    SourceChoice choice;
+    Chunks shipped = chunks;
+    overwrite(chunkIn(shipped, "BHAV", 4098).content, 12, ByteWriter().u16Le(4100).written());
+    for (const Chunks& each : {shipped, shipped, chunksOf({})})
+        choice.add(each == shipped ? "shipped" : "own", each);
+    EXPECT_EQ(choice.best(), "own") << "as its load tree calls no tree of the file's own";
 }
 
 // Id and offset of each chunk of the type, and the offsets of free room.
