@@ -117,6 +117,10 @@ std::string whyNoSource(const TemplateSource& source, const std::string& simsDir
         return "No character file can be seen in " + simsDirectory +
                "UserData\\Characters. Please allow reading it, or " + create;
     }
+    if (source.unreadable == source.found) {
+        return "None of the " + std::to_string(source.found) +
+               " character files of your game can be read. Please allow reading them, and prepare again.";
+    }
     const std::string unreadable =
         source.unreadable == 0 ? "" : "; " + std::to_string(source.unreadable) + " of them can't be read";
     return "None of the " + std::to_string(source.found) + " character files of your game is that of an adult whom a " +
@@ -132,7 +136,8 @@ void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool i
                                        std::string(isThere ? " stays as it is. " : " is missing. ") +
                                        whyNoSource(source, simsDirectory));
     } else if (old == source.madeTemplate) {
-        reportPresent(preparation, characterTemplateName, Present::usable);
+        report(preparation, std::string(characterTemplateName) + " stays as it is: a new one, made of " + source.path +
+                                ", would be the same.");
     } else if ((!old || keepCopy(preparation, *old)) &&
                writeNew(preparation, characterTemplateName, source.madeTemplate)) {
         report(preparation, "It is made of " + source.path + ".");
