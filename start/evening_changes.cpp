@@ -23,11 +23,14 @@ bool isThere(const std::string& path) {
     return queryFileStatus(path.c_str(), status);
 }
 
-bool isChanged(const std::string& before, const std::string& now) {
+// Reads the files only if the times leave it open.
+bool isChanged(const std::string& before, const std::string& now, std::int64_t begin) {
     FileStatus old{}, present{};
     const bool wasThere = queryFileStatus(before.c_str(), old);
     if (wasThere != queryFileStatus(now.c_str(), present)) return true;
-    if (!wasThere || (old.size == present.size && old.written == present.written)) return false;
+    if (!wasThere) return false;
+    const bool isOlder = present.written == old.written && present.written < begin - coarsestTime;
+    if (old.size == present.size && isOlder) return false;
     return old.size != present.size || readWholeFile(before.c_str()) != readWholeFile(now.c_str());
 }
 
@@ -62,16 +65,16 @@ bool isOfSave(const std::string& name) {
     return isPart || name.starts_with(lowered(temporaryPrefix)) || name == neighborhoodFileName;
 }
 
-bool hasChangedFile(const std::string& before, const std::string& now) {
+bool hasChangedFile(const std::string& before, const std::string& now, std::int64_t begin) {
     return std::ranges::any_of(namesInEither(before, now), [&](const std::string& name) {
-        return !isOfSave(name) && isChanged(before + '\\' + name, now + '\\' + name);
+        return !isOfSave(name) && isChanged(before + '\\' + name, now + '\\' + name, begin);
     });
 }
 
 void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin,
                       EveningChanges& changes) {
     for (const std::string& name : namesInEither(before.characters(), now.characters())) {
-        if (isOfSave(name) || !isChanged(before.character(name), now.character(name))) continue;
+        if (isOfSave(name) || !isChanged(before.character(name), now.character(name), begin)) continue;
         if (!hasOldVersion(now.characters(), name, begin)) {
             changes.isPlayed = true;
         } else if (isThere(now.character(name))) {
@@ -84,13 +87,13 @@ void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& 
 
 EveningChanges changesOf(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {
     EveningChanges changes;
-    if (isChanged(before.liveFile(), now.liveFile())) {
+    if (isChanged(before.liveFile(), now.liveFile(), begin)) {
         const bool hasOld = hasOldVersion(now.directory, neighborhoodFileName, begin);
         changes.isSaved = hasOld && isThere(now.liveFile());
         changes.isPlayed = !hasOld;
     }
     lookAtCharacters(before, now, begin, changes);
-    changes.isPlayed |= hasChangedFile(before.directory, now.directory) ||
-                        hasChangedFile(before.path(housesDirectory), now.path(housesDirectory));
+    changes.isPlayed |= hasChangedFile(before.directory, now.directory, begin) ||
+                        hasChangedFile(before.path(housesDirectory), now.path(housesDirectory), begin);
     return changes;
 }

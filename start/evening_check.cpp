@@ -83,7 +83,7 @@ void checkCharacter(Work& work, const std::string& file) {
     Sim* const oldSim = work.before.simOfRecord(recordOf(file));
     if (!look.fault.empty()) return work.lose(file + " " + look.fault + ".");
     if (sim == nullptr || oldSim == nullptr) return;  // said of the Sims, if a record is gone
-    const std::string name = work.now.nameOf(*sim);
+    const std::string name = work.before.nameOf(*oldSim);
     const std::size_t losses = work.check.losses.size();
     if (old.fault.empty() && look.name != old.name.substr(0, longestName)) {
         work.lose(file + " has the name " + look.name + " instead of " + old.name + ".");

@@ -1,0 +1,61 @@
+// A game with one neighborhood, and an evening in which a child becomes a teenager and an adult moves out.
+#ifndef TESTS_START_EVENING_GAME_H
+#define TESTS_START_EVENING_GAME_H
+
+#include <ctime>
+
+#include "sample/fact_template.h"
+#include "start/evening.h"
+#include "tests/support/test_neighborhood.h"
+#include "tests/support/user.h"
+
+namespace fs = std::filesystem;
+
+class EveningTest : public testing::Test {
+ protected:
+    // The neighborhood has the chunks and the map of `shape`, and its families behind the Thistlewoods. The copy from
+    // before the evening is in "before".
+    void start(SampleNeighborhood shape = {.freeRoom = true}) {
+        shape.neighbors = {{.age = 9, .guid = 1}, {.recordName = "user00002", .guid = 2}};
+        shape.neighbors.push_back({.recordName = "user00003", .kind = 0, .guid = 3});
+        shape.families.insert(shape.families.begin(),
+                              {.name = "Thistlewood", .funds = 62'500, .members = {1, 2, 3, 0x44434241}});
+        test_.reset();  // it takes the working directory back
+        test_ = std::make_unique<TestNeighborhood>(shape, characters_);
+        EXPECT_TRUE(writeTemplates(files().path()));
+        copyToBefore();
+    }
+
+    void copyToBefore() const {
+        fs::create_directory(files().path("before"));
+        fs::copy(files().path("UserData"), files().path("before/UserData"), fs::copy_options::recursive);
+    }
+
+    void save(bool childGrows = true, bool adultMovesOut = true) const {
+        test_->load();
+        Sim &clover = test_->sim(0), &bramble = test_->sim(1);
+        clover.name(), clover.guid(), clover.bodyStrings();
+        auto teen = std::make_unique<BodyStrings>(genderNumber::female, 1, 1, 7, 0);
+        if (childGrows) clover.setStage(stageNumber::teen, std::move(teen));
+        EXPECT_GT(test_->family().memberCount(), 0);
+        if (adultMovesOut) bramble.splitToNewFamily("Thistlewood", 20'000);
+        (*test_)->save((*test_)->toolDirectory());
+    }
+
+    const TempDirectory& files() const { return test_->files(); }
+    std::string game() const { return files().path() + "\\"; }
+    Evening evening() const { return {files().path("before") + "\\", game(), begin_}; }
+    void write(const std::string& name, const Bytes& bytes) const { files().write("UserData/" + name, bytes); }
+    Bytes bytesOf(const std::string& name) const { return files().bytesOf("UserData/" + name); }
+
+    std::vector<SampleCharacter> characters_ = {
+        {.name = "Clover", .guid = 1, .tag = "child", .slots = childSlots(), .ending = BodyEnding::atEntry33},
+        {.recordName = "user00002", .name = "Bramble", .guid = 2},
+        {.recordName = "user00003", .name = "Rowan", .guid = 3, .slots = adultSlots(BodySex::male)}};
+    std::unique_ptr<TestNeighborhood> test_;
+    const std::time_t begin_ = std::time(nullptr);
+    const AnsweredBox box_ = answerNextBox(IDOK);
+    ~EveningTest() override { EXPECT_FALSE(box_->shown) << box_->text; }
+};
+
+#endif

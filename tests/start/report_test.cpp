@@ -1,0 +1,135 @@
+#include "start/report.h"
+
+#include "start/cut_off.h"
+#include "tests/start/evening_game.h"
+
+namespace {
+
+constexpr char news[] =
+    "Neighborhood 1: Clover Thistlewood is a teenager now. Bramble Thistlewood moved into a household of her own, with "
+    "20,000.";
+constexpr char checkedTwo[] =
+    "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and no family and no Sim is "
+    "missing.";
+
+TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
+    start();
+    save();
+    const EveningReport report = reportOn(evening());
+    EXPECT_EQ(report.text, std::string(news) + checkedTwo);
+    EXPECT_TRUE(report.hasSaved && !report.hasLoss);
+}
+
+TEST_F(EveningTest, WhatIsLostIsReported) {
+    const std::string wrong = "Neighborhood 1: something is wrong. ";
+    const std::tuple<const char*, std::function<void()>, std::string> rows[] = {
+        {"a file of a Sim is cut", [&] { fs::resize_file(files().path("UserData/Characters/user00001.iff"), 54'500); },
+         wrong + "user00001.iff ends inside the chunk at 54016."},
+        {"the neighborhood file is cut", [&] { fs::resize_file(files().path("UserData/neighborhood.iff"), 300); },
+         "neighborhood.iff ends inside the chunk at 64."},
+        {"the old file of a Sim is back",
+         [&] {
+             Bytes file = bytesOf("Characters/user00001.iff");
+             overwrite(file, 4349, bytesFrom("Hemlock"));
+             overwrite(file, 4080, bytesFrom("????"));
+             write("Characters/user00001.iff", file);
+         },
+         wrong +
+             "user00001.iff has the name Hemlock instead of Clover. Clover Thistlewood has another GUID than before."},
+        {"the record is the old one",
+         [&] { write("neighborhood.iff", files().bytesOf("before/UserData/neighborhood.iff")); },
+         "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age."},
+        {"a temporary file is left", [&] { write("TMPneighborhood.iff", bytesFrom("cut")); },
+         "Neighborhood 1: TMPneighborhood.iff is left over from a save that was cut off."},
+    };
+    for (const auto& [what, damage, said] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        save();
+        damage();
+        const EveningReport report = reportOn(evening());
+        EXPECT_TRUE(report.hasLoss && report.hasSaved);
+        EXPECT_NE(report.text.find(said), std::string::npos) << report.text;
+        EXPECT_EQ(report.text.find("Checked"), std::string::npos);
+    }
+}
+
+TEST_F(EveningTest, AMoveOutThatDropsFamiliesIsReported) {
+    start({.families = {{.number = 2, .name = "XXXX Lane", .members = {}},
+                        {.number = 3, .name = "Moss", .members = {}}}});
+    save(false);
+    EveningReport report = reportOn(evening());
+    EXPECT_NE(report.text.find("The families XXXX Lane and Moss are gone."), std::string::npos) << report.text;
+    EXPECT_TRUE(report.hasLoss);
+
+    start({.before = {{.type = "XXXX"}}});
+    save(false);
+    report = reportOn(evening());
+    EXPECT_NE(report.text.find("The family Thistlewood is gone. 3 Sims are gone: Clover Thistlewood, Bramble "),
+              std::string::npos)
+        << report.text;
+}
+
+TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
+    start();
+    EXPECT_EQ(reportOn(evening()).text, "");
+    files().link("UserData/TMPneighborhood.iff", "UserData/neighborhood.iff");
+    Evening known = evening();
+    known.known = {
+        "Neighborhood 1: TMPneighborhood.iff is left over from a save that was cut off. That does no harm: "
+        "the next save clears it away."};
+    EveningReport report = reportOn(known);
+    EXPECT_TRUE(report.text.starts_with("Nothing was saved. ") && !report.hasSaved && !report.hasLoss) << report.text;
+
+    start();
+    Bytes file = bytesOf("neighborhood.iff");
+    file.back() ^= 1;
+    write("neighborhood.iff", file);
+    report = reportOn(evening());
+    EXPECT_EQ(report.text,
+              "The game saved Neighborhood 1 while Tidewright was open; what you changed in it was not saved.");
+    EXPECT_FALSE(report.hasSaved || report.hasLoss);
+}
+
+TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
+    const std::string begin = "The last evening was cut off. Neighborhood 1 is as follows: ";
+    const std::string between = begin +
+                                "a save was cut off between the Sims and the neighborhood file, so these Sims "
+                                "must not grow up now. Clover Thistlewood has a new body, but the record in "
+                                "neighborhood.iff is of another age.";
+    const auto putOldNeighborhoodBack = [&] {
+        write("neighborhood.iff", files().bytesOf("before/UserData/neighborhood.iff"));
+    };
+    const std::tuple<const char*, std::function<void()>, std::string, bool> rows[] = {
+        {"nothing was saved", [] {}, "", false},
+        {"killed after the save", [&] { save(); },
+         begin + "it was saved as a whole. Clover Thistlewood is a teenager now. Bramble Thistlewood moved into a "
+                 "household of her own, with 20,000.",
+         false},
+        {"killed behind the Sims", [&] { save(true, false), putOldNeighborhoodBack(); }, between, false},
+        {"played afterwards",
+         [&] { save(true, false), putOldNeighborhoodBack(), write("Houses/House01.iff", bytesFrom("played")); },
+         between + " The game has saved since, and going back would undo that, too.", true},
+        {"killed between the renames",
+         [&] {
+             save();
+             const std::string live = files().path("UserData/neighborhood.iff");
+             fs::rename(live, files().path("UserData/TMPneighborhood.iff"));
+             write("neighborhood.iff.tidewright-old0", files().bytesOf("before/UserData/neighborhood.iff"));
+         },
+         begin + "a save was cut off between its last two steps. neighborhood.iff is missing. TMPneighborhood.iff is "
+                 "the new version, and whole.",
+         false},
+    };
+    for (const auto& [what, leave, said, played] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        leave();
+        const CutOffEvening cutOff = describeCutOff(evening());
+        EXPECT_EQ(cutOff.text, said);
+        EXPECT_EQ(cutOff.isAsBefore, said.empty());
+        EXPECT_EQ(cutOff.wasPlayedSince, played);
+    }
+}
+
+}  // namespace
