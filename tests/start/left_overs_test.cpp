@@ -1,0 +1,106 @@
+#include "start/left_overs.h"
+
+#include "tests/start/evening_game.h"
+
+namespace {
+
+class LeftOversTest : public EveningTest {
+ protected:
+    // Files of "UserData" by name, with their bytes; nothing is for none.
+    using Files = std::vector<std::pair<std::string, std::optional<Bytes>>>;
+
+    void change(const Files& all) const {
+        for (const auto& [name, bytes] : all) {
+            if (bytes) {
+                write(name, *bytes);
+            } else {
+                files().remove("UserData/" + name);
+            }
+        }
+    }
+};
+
+TEST_F(LeftOversTest, AMissingOrBrokenFileIsReplacedByTheWholeVersionThatFits) {
+    const std::string live = "neighborhood.iff", sim = "Characters/user00001.iff", aside = ".tidewright-old0";
+    const std::string backup = "Backups/neighborhood.20261124.2154.iff";
+    const std::string simsBackup = "Characters/Backups/user00001.20261124.iff";
+    const std::string simsTemporary = "Characters/TMPuser00001.iff";
+    const Bytes old = makeNeighborhoodFile({.freeRoom = true}).bytes, now = makeNeighborhoodFile({.map = false}).bytes;
+    const Bytes cut(old.begin(), old.begin() + 80), none, hers = makeCharacterFile({.guid = 1}).bytes;
+    const Bytes newSim = makeFactTemplate(), cutSim(newSim.begin(), newSim.begin() + 54'500);
+    const std::tuple<const char*, Files, std::string, std::string> rows[] = {
+        {"a save ended between two renames",
+         {{live, {}}, {live + aside, old}, {"TMPneighborhood.iff", now}},
+         live,
+         "TMPneighborhood.iff"},
+        {"the new version is a part of a file, and so is its copy",
+         {{live, {}}, {live + aside, old}, {"TMPneighborhood.iff", cut}, {live + ".tidewright-new0", cut}},
+         live,
+         live + aside},
+        {"the same of a Sim", {{sim, {}}, {sim + aside, hers}, {simsTemporary, newSim}}, sim, sim + aside},
+        {"an older version had deleted the Sim's file",
+         {{sim, {}}, {simsBackup, hers}, {simsTemporary, newSim}},
+         sim,
+         simsBackup},
+        {"an older version ended in the copy",
+         {{live, none}, {"TMPneighborhood.iff", now}},
+         live,
+         "TMPneighborhood.iff"},
+        {"it had written a part", {{live, cut}, {"TMPneighborhood.iff", now}}, live, "TMPneighborhood.iff"},
+        {"both are empty", {{live, none}, {"TMPneighborhood.iff", none}, {backup, old}}, live, backup},
+        {"a Sim's file is a part", {{sim, cutSim}, {simsTemporary, newSim}, {simsBackup, hers}}, sim, simsBackup},
+        {"it has no backup", {{sim, cutSim}, {simsTemporary, newSim}}, sim, simsTemporary},
+    };
+    for (const auto& [what, state, file, version] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        change(state);
+        const Bytes expected = bytesOf(version);
+        const std::vector<LeftOver> found = findLeftOvers(game());
+        ASSERT_TRUE(!found.empty() && found[0].isOffer());
+        EXPECT_TRUE(putInPlace(found[0]));
+        EXPECT_EQ(bytesOf(file), expected);
+        EXPECT_EQ(files().exists("UserData/" + version), version.find("Backups") != std::string::npos);
+        for (const LeftOver& later : findLeftOvers(game()))
+            EXPECT_FALSE(later.isOffer()) << later.sentence;
+        EXPECT_FALSE(putInPlace(found[0])) << "the file is whole now";
+    }
+}
+
+TEST_F(LeftOversTest, WhatDoesNoHarmIsNamedWithoutAnOffer) {
+    const std::string begin = "Neighborhood 1: ", end =
+                                                      " left over from a save that was cut off. That does no harm: the "
+                                                      "next save clears it away.";
+    const Bytes some = bytesFrom("some");
+    const std::tuple<const char*, Files, std::string> rows[] = {
+        {"nothing", {{"TMPhouse.iff", some}, {"Characters/user00001.bak", some}}, ""},
+        {"temporary files and parts",
+         {{"TMPneighborhood.iff", some},
+          {"Characters/TMPuser00001.iff", some},
+          {"Backups/x.iff.tidewright-new0", some}},
+         begin + "TMPneighborhood.iff, x.iff.tidewright-new0 and TMPuser00001.iff are" + end},
+        {"a copy of version 1.1.0", {{"~part1234.tmp", some}}, begin + "~part1234.tmp is" + end},
+        {"a Sim who is gone",
+         {{"Characters/TMPuser00099.iff", makeFactTemplate()}},
+         begin + "TMPuser00099.iff is" + end},
+        {"an old version without a backup",
+         {{"neighborhood.iff.tidewright-old0", some}},
+         begin +
+             "neighborhood.iff.tidewright-old0 is an old version of neighborhood.iff that isn't in Backups. The next "
+             "save of this neighborhood deletes it: if you want to keep it, copy it somewhere else."},
+        {"no version at all",
+         {{"neighborhood.iff", {}}},
+         begin + "neighborhood.iff is missing. There is no whole version of it beside it or in Backups."},
+    };
+    for (const auto& [what, state, said] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        change(state);
+        std::string sentences;
+        for (const LeftOver& each : findLeftOvers(game()))
+            sentences += each.sentence + each.question;
+        EXPECT_EQ(sentences, said);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,103 @@
+#include "start/readiness.h"
+
+#include "sample/installation.h"
+#include "start/report.h"
+#include "tests/start/evening_game.h"
+
+namespace {
+
+TEST_F(EveningTest, TheSampleIsReadyAndTheCheckLeavesNoTrace) {
+    const TempDirectory prefix;
+    EXPECT_TRUE(writeInstallation(prefix.path("game")));
+    const std::string game = gameDirectory(prefix.path("game")).string() + "\\";
+    const Tree before = treeOf(prefix.path());
+    const Readiness readiness = checkReadiness(game);
+    EXPECT_EQ(readiness.text(), "");
+    EXPECT_TRUE(readiness.isReady());
+    EXPECT_EQ(differences(before, treeOf(prefix.path())), "");
+    EXPECT_TRUE(checkReadiness(prefix.path() + "\\").text().ends_with("please play the game once, and save there."));
+}
+
+TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
+    const std::string data = "UserData/", characters = "UserData/Characters";
+    const std::tuple<const char*, std::function<void()>, bool, std::string> rows[] = {
+        {"no neighborhood file", [&] { files().remove(data + "neighborhood.iff"); }, false,
+         "neighborhood.iff is missing or can't be read. The window will list only the neighborhoods before"},
+        {"a directory has the temporary name", [&] { files().makeDirectory(data + "TMPneighborhood.iff"); }, false,
+         "neighborhood.iff can't be saved: "},
+        {"a Sim's temporary name is a link to the file",
+         [&] { files().link(characters + "/TMPuser00002.iff", characters + "/user00002.iff"); }, false,
+         "user00002.iff in "},
+        {"a file in the place of the directory",
+         [&] {
+             files().remove(characters);
+             files().write(characters, "file");
+         },
+         false, "can be saved: "},
+        {"a file in the place of the backups", [&] { files().write(data + "Backups", "file"); }, true,
+         "A save goes without backups in "},
+        {"another one in the place of the Sims' backups", [&] { files().write(characters + "/Backups", "file"); }, true,
+         "A save goes without backups in "},
+        {"a path that the editor cuts",
+         [&] {
+             const std::string deep = "before/" + std::string(60, 'd') + "/" + std::string(60, 'd');
+             files().makeDirectory(deep);
+             fs::rename(files().path("UserData"), files().path(deep + "/UserData"));
+         },
+         false, " is too long: "},
+    };
+    for (const auto& [what, damage, ready, said] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        damage();
+        const bool isDeep = !files().exists("UserData");
+        const std::string deep = files().path("before") + "\\" + std::string(60, 'd') + "\\" + std::string(60, 'd');
+        const Readiness readiness = checkReadiness(isDeep ? deep + "\\" : game());
+        EXPECT_EQ(readiness.isReady(), ready);
+        EXPECT_NE(readiness.text().find(said), std::string::npos) << readiness.text();
+    }
+}
+
+TEST_F(EveningTest, RecordsOfLaterEditionsAreCounted) {
+    const Bytes record = ByteWriter().u32Le(1).u32Le(10).u32Le(9).text("user00042").fillTo(700).written();
+    start({.before = {{.type = "NBRS", .content = ByteWriter().bytes(record).bytes(record).written()}}});
+    const Readiness readiness = checkReadiness(game());
+    EXPECT_EQ(readiness.laterSims, 2U);
+    EXPECT_TRUE(readiness.isReady() &&
+                readiness.text().starts_with("Neighborhood 1: 2 Sims of a later edition of the"));
+}
+
+TEST_F(EveningTest, AMoveOutThatWouldDropSomethingIsForetold) {
+    const SampleFamily moss{.number = 2, .name = "Moss"}, lane{.number = 3, .name = "XXXX Lane"};
+    const std::tuple<const char*, SampleNeighborhood, int, std::string> rows[] = {
+        {"free room behind all", {.families = {moss}, .freeRoom = true}, 0, ""},
+        {"no free room and no map", {.families = {moss}, .map = false}, 0, ""},
+        {"the map behind all", {.families = {moss}}, 0, ""},
+        {"free room in front of all",
+         {.families = {moss}, .before = {{.type = "XXXX"}}},
+         0,
+         "drop 3 Sims and the families Thistlewood and Moss"},
+        {"a family's name looks like free room", {.families = {lane, moss}}, 0, "drop the families XXXX Lane and Moss"},
+        {"the map is said to be in the last name", {.families = {moss}}, -1, "drop the family Moss"},
+        {"a family that isn't listed is behind",
+         {.families = {moss, {.number = 4, .name = "Default"}}},
+         -1,
+         "drop the end of the game's own neighbors and families"},
+    };
+    for (const auto& [what, shape, mapMoves, loss] : rows) {
+        SCOPED_TRACE(what);
+        start(shape);
+        Bytes file = bytesOf("neighborhood.iff");
+        const std::size_t map = test_->built().mapOffset;
+        if (mapMoves != 0) overwrite(file, 60, ByteWriter().u32Be(static_cast<std::int64_t>(map) + mapMoves).written());
+        write("neighborhood.iff", file);
+        const std::string text = checkReadiness(game()).text();
+        EXPECT_EQ(text, loss.empty() ? ""
+                                     : "Neighborhood 1: a save of one Move Out would " + loss +
+                                           ". Child to Teen and Teen to Adult drop nothing.");
+        save(false);
+        EXPECT_EQ(reportOn(evening()).hasLoss, !loss.empty()) << "as it comes";
+    }
+}
+
+}  // namespace
