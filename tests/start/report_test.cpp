@@ -1,6 +1,7 @@
 #include "start/report.h"
 
 #include "start/cut_off.h"
+#include "start/readiness.h"
 #include "tests/start/evening_game.h"
 
 namespace {
@@ -18,6 +19,17 @@ TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
     const EveningReport report = reportOn(evening());
     EXPECT_EQ(report.text, std::string(news) + checkedTwo);
     EXPECT_TRUE(report.hasSaved && !report.hasLoss);
+}
+
+TEST_F(EveningTest, AFileOfAnUnknownFormOpensNoBox) {
+    start();
+    save(true, false);
+    Bytes file = bytesOf("Characters/user00003.iff");
+    std::ranges::replace(file, 0xA3, 0xA4);  // no pattern ends the body strings any more
+    write("Characters/user00003.iff", file);
+    files().write("before/UserData/Characters/user00003.iff", file);
+    EXPECT_TRUE(reportOn(evening()).text.starts_with("Neighborhood 1: Clover Thistlewood is a teenager now.\n"));
+    EXPECT_TRUE(checkReadiness(game()).isReady());
 }
 
 TEST_F(EveningTest, WhatIsLostIsReported) {
