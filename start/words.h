@@ -10,7 +10,7 @@
 // "3 Sims", "1 Sim".
 std::string counted(std::size_t count, const std::string& one, const std::string& many);
 
-// "Clover", "Clover and Bramble", "Clover, Bramble and 3 more": at most 30 by name.
+// "Clover", "Clover and Bramble", "Clover, Bramble and 3 more": of more than 31, the first 30 by name.
 std::string listed(const std::vector<std::string>& names);
 
 // "20,000".

@@ -2,6 +2,7 @@
 
 #include "start/cut_off.h"
 #include "start/readiness.h"
+#include "start/words.h"
 #include "tests/start/evening_game.h"
 
 namespace {
@@ -12,6 +13,15 @@ constexpr char news[] =
 constexpr char checkedTwo[] =
     "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and no family and no Sim is "
     "missing.";
+
+TEST(WordsTest, LongNumbersAndListsAreReadable) {
+    EXPECT_EQ(withCommas(999) + withCommas(1000) + withCommas(-123'456) + withCommas(1'234'567),
+              "9991,000-123,4561,234,567");
+    EXPECT_EQ(listed({"Ann"}) + listed({"Ann", "Bob"}) + listed({"Ann", "Bob", "Cleo"}),
+              "AnnAnn and BobAnn, Bob and Cleo");
+    EXPECT_TRUE(listed(std::vector<std::string>(31, "Ann")).ends_with("Ann and Ann"));
+    EXPECT_TRUE(listed(std::vector<std::string>(32, "Ann")).ends_with("Ann, Ann and 2 more"));
+}
 
 TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
     start();
@@ -48,6 +58,15 @@ TEST_F(EveningTest, WhatIsLostIsReported) {
          },
          wrong +
              "user00001.iff has the name Hemlock instead of Clover. Clover Thistlewood has another GUID than before."},
+        {"the new body is no teenager's",
+         [&] {
+             Bytes file = bytesOf("Characters/user00001.iff");
+             const auto skin = std::ranges::search(file, std::string_view("TNR"));
+             const auto next = std::ranges::search(skin.end(), file.end(), "TNR", "TNR" + 3);
+             std::ranges::fill(next, 'x');
+             write("Characters/user00001.iff", file);
+         },
+         "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age."},
         {"the record is the old one",
          [&] { write("neighborhood.iff", files().bytesOf("before/UserData/neighborhood.iff")); },
          "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age."},
