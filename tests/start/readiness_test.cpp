@@ -69,27 +69,34 @@ TEST_F(EveningTest, RecordsOfLaterEditionsAreCounted) {
 
 TEST_F(EveningTest, AMoveOutThatWouldDropSomethingIsForetold) {
     const SampleFamily moss{.number = 2, .name = "Moss"}, lane{.number = 3, .name = "XXXX Lane"};
-    const std::tuple<const char*, SampleNeighborhood, int, std::string> rows[] = {
-        {"free room behind all", {.families = {moss}, .freeRoom = true}, 0, ""},
-        {"no free room and no map", {.families = {moss}, .map = false}, 0, ""},
-        {"the map behind all", {.families = {moss}}, 0, ""},
+    using Built = NeighborhoodFile;
+    constexpr auto asBuilt = [](const Built& built) { return built.mapOffset; };
+    constexpr auto inLastName = [](const Built& built) { return built.mapOffset - 1; };
+    constexpr auto inLastRecord = [](const Built& built) { return built.neighborOffsets[2] + 185; };
+    const std::tuple<const char*, SampleNeighborhood, std::size_t (*)(const Built&), std::string> rows[] = {
+        {"free room behind all", {.families = {moss}, .freeRoom = true}, asBuilt, ""},
+        {"no free room and no map", {.families = {moss}, .map = false}, asBuilt, ""},
+        {"the map behind all", {.families = {moss}}, asBuilt, ""},
         {"free room in front of all",
          {.families = {moss}, .before = {{.type = "XXXX"}}},
-         0,
+         asBuilt,
          "drop 3 Sims and the families Thistlewood and Moss"},
-        {"a family's name looks like free room", {.families = {lane, moss}}, 0, "drop the families XXXX Lane and Moss"},
-        {"the map is said to be in the last name", {.families = {moss}}, -1, "drop the family Moss"},
+        {"a family's name looks like free room",
+         {.families = {lane, moss}},
+         asBuilt,
+         "drop the families XXXX Lane and Moss"},
+        {"the map is said to be in a name", {.families = {moss}}, inLastName, "drop the family Moss"},
+        {"the map is said to be in a record", {}, inLastRecord, "drop 1 Sim and the family Thistlewood"},
         {"a family that isn't listed is behind",
          {.families = {moss, {.number = 4, .name = "Default"}}},
-         -1,
+         inLastName,
          "drop the end of the game's own neighbors and families"},
     };
-    for (const auto& [what, shape, mapMoves, loss] : rows) {
+    for (const auto& [what, shape, mapOffset, loss] : rows) {
         SCOPED_TRACE(what);
         start(shape);
         Bytes file = bytesOf("neighborhood.iff");
-        const std::size_t map = test_->built().mapOffset;
-        if (mapMoves != 0) overwrite(file, 60, ByteWriter().u32Be(static_cast<std::int64_t>(map) + mapMoves).written());
+        overwrite(file, 60, ByteWriter().u32Be(static_cast<std::int64_t>(mapOffset(test_->built()))).written());
         write("neighborhood.iff", file);
         const std::string text = checkReadiness(game()).text();
         EXPECT_EQ(text, loss.empty() ? ""

@@ -1,5 +1,7 @@
 #include "start/report.h"
 
+#include <chrono>
+
 #include "start/cut_off.h"
 #include "start/readiness.h"
 #include "start/words.h"
@@ -58,6 +60,13 @@ TEST_F(EveningTest, WhatIsLostIsReported) {
          },
          wrong +
              "user00001.iff has the name Hemlock instead of Clover. Clover Thistlewood has another GUID than before."},
+        {"a member is no Sim's",
+         [&] {
+             Bytes file = bytesOf("neighborhood.iff");
+             overwrite(file, test_->built().families[0].memberTable + 4, bytesFrom("????"));
+             write("neighborhood.iff", file);
+         },
+         wrong + "Rowan Thistlewood belongs to no family any more."},
         {"the new body is no teenager's",
          [&] {
              Bytes file = bytesOf("Characters/user00001.iff");
@@ -113,6 +122,9 @@ TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
     EXPECT_TRUE(report.text.starts_with("Nothing was saved. ") && !report.hasSaved && !report.hasLoss) << report.text;
 
     start();
+    write("Backups/neighborhood.20261124.2154.iff", {});  // of an earlier evening
+    fs::last_write_time(files().path("UserData/Backups/neighborhood.20261124.2154.iff"),
+                        fs::file_time_type::clock::now() - std::chrono::hours(24));
     Bytes file = bytesOf("neighborhood.iff");
     file.back() ^= 1;
     write("neighborhood.iff", file);
