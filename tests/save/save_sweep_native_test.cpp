@@ -1,85 +1,13 @@
 // Kills a save at each of its system calls in turn, then makes each call fail in turn.
-#include <linux/filter.h>
-#include <linux/seccomp.h>
-#include <poll.h>
-#include <sched.h>
-#include <sys/ioctl.h>
-#include <sys/prctl.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <csignal>
-#include <cstddef>
 #include <cstdlib>
-#include <functional>
 #include <regex>
 
 #include "tests/save/save_test.h"
+#include "tests/support/native/held_calls.h"
 
 namespace {
-
-// What becomes of a held call: one of these, or the `errno` of a call that fails without being carried out.
-constexpr int carryOut = 0;
-constexpr int endProcess = -1;  // instead of the call, as by `kill -9`
-
-using CallDecision = std::function<int(const seccomp_data& call)>;
-
-[[noreturn]] void runChild(const std::function<void()>& act) {
-    std::vector<sock_filter> filter{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
-    for (const long call :
-         {SYS_openat, SYS_close,    SYS_newfstatat, SYS_fstat,     SYS_statx,      SYS_faccessat, SYS_faccessat2,
-          SYS_lseek,  SYS_read,     SYS_write,      SYS_ftruncate, SYS_getdents64, SYS_fcntl,     SYS_fsync,
-          SYS_rename, SYS_renameat, SYS_renameat2,  SYS_unlinkat,  SYS_mkdirat,    SYS_chdir,     SYS_getcwd,
-          SYS_fchmod, SYS_fchown,   SYS_flock,      SYS_dup,       SYS_dup3,       SYS_fstatfs}) {
-        filter.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call), 0, 1));
-        filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_USER_NOTIF));
-    }
-    filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
-    const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
-    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    if (syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &program) < 0) _exit(1);
-    act();
-    _exit(0);
-}
-
-// Answers the calls until the child has ended.
-void answerCalls(int listener, pid_t child, const CallDecision& decide) {
-    pollfd waiting{listener, POLLIN, 0};
-    while (poll(&waiting, 1, -1) == 1 && (waiting.revents & POLLIN) != 0) {
-        seccomp_notif held{};
-        if (ioctl(listener, SECCOMP_IOCTL_NOTIF_RECV, &held) != 0) continue;
-        seccomp_notif_resp answer{held.id, 0, 0, 0};
-        const int decision = decide(held.data);
-        if (decision == endProcess) kill(child, SIGKILL);
-        if (decision > 0) answer.error = -decision;
-        // Nothing here cuts the power, so a sync would only take time.
-        if (decision == carryOut && held.data.nr != SYS_fsync) answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
-        ioctl(listener, SECCOMP_IOCTL_NOTIF_SEND, &answer);
-    }
-}
-
-// Runs `act` in a child, a copy of this process, which ends with it. Nothing is loaded into the child: the kernel stops
-// each of its calls that opens, asks about, reads, writes, names or deletes a file, and `decide` answers by the call's
-// number (SYS_openat and so on) and arguments. A sync succeeds without reaching the disk.
-void runWithHeldCalls(const std::function<void()>& act, const CallDecision& decide) {
-    const int childsListener = dup(STDERR_FILENO);  // the lowest free descriptor, which the child's listener will get
-    close(childsListener);
-    const pid_t child = fork();
-    if (child == 0) runChild(act);
-    const long process = syscall(SYS_pidfd_open, child, 0);
-    long listener = -1;
-    while (listener < 0 && waitpid(child, nullptr, WNOHANG) == 0) {
-        sched_yield();
-        listener = syscall(SYS_pidfd_getfd, process, childsListener, 0);
-    }
-    close(static_cast<int>(process));
-    ASSERT_GE(listener, 0) << "the kernel doesn't hand over a process's calls";
-    answerCalls(static_cast<int>(listener), child, decide);
-    close(static_cast<int>(listener));
-    waitpid(child, nullptr, 0);
-}
 
 // The saving child reports the end of each save by duplicating one of these descriptors. It says whether closing the
 // window would ask now.
