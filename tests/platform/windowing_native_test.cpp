@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
 #include <QWheelEvent>
@@ -146,6 +147,9 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
             control->setFocus();
             runMessages();
             EXPECT_EQ(control->visibleRegion(), QRegion(control->rect())) << "the focus brings it into view";
+            const auto& area = *button.window()->findChild<QScrollArea*>();
+            const int right = control->mapTo(area.viewport(), control->rect().topRight()).x() + 1;
+            EXPECT_TRUE(area.horizontalScrollBar()->value() == 0 || right == area.viewport()->width()) << "and no more";
         }
         QTest::keyClick(combo.window()->windowHandle(), Qt::Key_Down, Qt::ControlModifier);
         EXPECT_TRUE(combo.visibleRegion().isEmpty()) << "and keys scroll";

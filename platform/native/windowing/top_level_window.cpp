@@ -39,7 +39,8 @@ class Frame : public QWidget {
         scroll_->setFocusPolicy(Qt::NoFocus);
         scroll_->setWidget(client);
         QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* control) {
-            if (client_->isAncestorOf(control)) scroll_->ensureWidgetVisible(control);
+            // No further than needed: what stands beside the control says what it is.
+            if (client_->isAncestorOf(control)) scroll_->ensureWidgetVisible(control, 0, 0);
         });
         // For lines without a control nearby.
         addScrollKey(Qt::CTRL | Qt::Key_Up, scroll_->verticalScrollBar(), QAbstractSlider::SliderPageStepSub);
