@@ -32,6 +32,12 @@ constexpr DWORD ERROR_RESOURCE_NAME_NOT_FOUND = 1814;
 // The system clock, in UTC.
 void GetSystemTime(SYSTEMTIME* time);
 
+struct TIME_ZONE_INFORMATION;
+
+// The user's local time at the time `utc`; to the second, and FALSE for no time of a calendar. Left out: other time
+// zones (`zone` must be null).
+BOOL SystemTimeToTzSpecificLocalTime(const TIME_ZONE_INFORMATION* zone, const SYSTEMTIME* utc, SYSTEMTIME* local);
+
 // The calling thread's last error. An operation that fails sets it; one that succeeds leaves it unchanged, unless it
 // says otherwise.
 DWORD GetLastError();
