@@ -80,8 +80,7 @@ class FileTree {
     bool link(const std::string& file, const std::string& name) const;
 
     // Gives a file the name of another one, which it replaces in one step, or a free name. A write-protected file is
-    // replaced, too. The new one keeps the
-    // old one's group, as far as the system allows it.
+    // replaced, too. The new one keeps the old one's group, as far as the system allows it.
     bool replace(const std::string& from, const std::string& to) const;
 
     // Gives a directory another name, which must be free.
@@ -97,9 +96,6 @@ class FileTree {
     // Writes a directory's entries through to the disk, or all that was written and renamed below the root.
     bool sync(const std::string& directory) const;
     bool syncAll() const;
-
-    // How many bytes more the user may write to the root's disk. No value if it can't be told.
-    std::optional<std::int64_t> room() const;
 
     // Whether it can be the name of an entry, and leads nowhere else: it is neither ".." nor made of several
     // components.

@@ -328,13 +328,6 @@ bool FileTree::syncAll() const {
     return true;
 }
 
-std::optional<std::int64_t> FileTree::room() const {
-    ULARGE_INTEGER available = {};
-    const std::wstring path = state_->root + L'\\';
-    if (GetDiskFreeSpaceExW(path.c_str(), &available, nullptr, nullptr) == FALSE) return std::nullopt;
-    return static_cast<std::int64_t>(available.QuadPart);
-}
-
 // A colon would lead to another stream of a file.
 bool FileTree::isName(std::string_view name) {
     constexpr std::string_view excluded("/\\:*?\"<>|\0", 10);

@@ -3,7 +3,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -282,12 +281,6 @@ bool FileTree::sync(const std::string& directory) const {
 // One call for all files: each alone would wait for the disk.
 bool FileTree::syncAll() const {
     return done(syncfs(state_->root));
-}
-
-std::optional<std::int64_t> FileTree::room() const {
-    struct statvfs disk = {};
-    if (state_->root < 0 || fstatvfs(state_->root, &disk) != 0) return std::nullopt;
-    return static_cast<std::int64_t>(disk.f_bavail) * static_cast<std::int64_t>(disk.f_frsize);
 }
 
 bool FileTree::isName(std::string_view name) {

@@ -1,0 +1,381 @@
+#include "restore/going_back.h"
+
+#include <algorithm>
+#include <memory>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "platform/files.h"
+#include "platform/letter_case.h"
+#include "platform/part_names.h"
+#include "restore/going_note.h"
+#include "restore/point_files.h"
+#include "restore/point_store.h"
+
+namespace {
+
+constexpr std::string_view neighborhoodFile = "neighborhood.iff";
+
+// What must happen to one live file to make it the point's.
+struct Step {
+    enum class Kind { replace, stamp, come, go };
+
+    Kind kind;
+    std::string path;
+    const PointFile* file = nullptr;  // the point's; null for one that goes
+};
+using Steps = std::vector<Step>;
+
+bool isIn(int neighborhood, std::string_view path) {
+    return neighborhood == allNeighborhoods || neighborhoodOf(path) == neighborhood;
+}
+
+// Walks over two lists sorted by path at once, and hands on each path with what the lists have for it.
+template <typename First, typename Second, typename Take>
+void merge(const std::vector<First>& first, const std::vector<Second>& second, Take take) {
+    auto one = first.begin();
+    auto other = second.begin();
+    while (one != first.end() || other != second.end()) {
+        const bool hasOne = one != first.end() && (other == second.end() || one->path <= other->path);
+        const bool hasOther = other != second.end() && (one == first.end() || other->path <= one->path);
+        take(hasOne ? &*one : nullptr, hasOther ? &*other : nullptr);
+        if (hasOne) ++one;
+        if (hasOther) ++other;
+    }
+}
+
+// What makes `live`, which may be null, the point's `file`; no value if it is that already.
+template <typename Now, typename AreSame>
+std::optional<Step::Kind> stepFrom(const Now* live, const PointFile& file, AreSame areSame) {
+    if (live == nullptr) return Step::Kind::come;
+    if (live->stamp.size != file.stamp.size || !areSame(*live, file)) return Step::Kind::replace;
+    if (live->stamp != file.stamp) return Step::Kind::stamp;
+    return std::nullopt;
+}
+
+// The way from the files of `now` to those of the point. `areSame` compares the bytes of two files of one size.
+template <typename Now, typename AreSame>
+Steps stepsBetween(const std::vector<Now>& now, const std::vector<PointFile>& point, int neighborhood,
+                   AreSame areSame) {
+    Steps steps;
+    merge(now, point, [&](const Now* live, const PointFile* file) {
+        if (file != nullptr && isIn(neighborhood, file->path)) {
+            if (const auto kind = stepFrom(live, *file, areSame)) steps.push_back({*kind, file->path, file});
+        } else if (file == nullptr && live != nullptr && isIn(neighborhood, live->path)) {
+            steps.push_back({Step::Kind::go, live->path});
+        }
+    });
+    return steps;
+}
+
+// Where the disk ignores case, a file can be there in another spelling. It is replaced, and must not go then.
+void joinSpellings(const FileTree& live, Steps& steps) {
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        if (steps[i].kind != Step::Kind::come) continue;
+        const auto id = live.idOf(steps[i].path);
+        if (!id) continue;
+        const auto other = std::ranges::find_if(
+            steps, [&](const Step& step) { return step.kind == Step::Kind::go && live.idOf(step.path) == id; });
+        if (other == steps.end()) continue;
+        steps[i].kind = Step::Kind::replace;
+        if (static_cast<std::size_t>(other - steps.begin()) < i) --i;
+        steps.erase(other);
+    }
+}
+
+bool isNeighborhoodFile(const Step& step) {
+    return equalInAnyCase(step.path.substr(step.path.find('/') + 1), neighborhoodFile);
+}
+
+// The steps to the files of one point, in the order in which they are taken.
+class Way {
+ public:
+    Way(const FileTree& points, const FileTree& live, const RestorePoint& target, Steps steps)
+        : points_(points), live_(live), target_(target), steps_(std::move(steps)) {
+        joinSpellings(live_, steps_);
+        std::stable_partition(steps_.begin(), steps_.end(),
+                              [](const Step& step) { return step.kind != Step::Kind::go; });
+        const auto goes = std::ranges::find(steps_, Step::Kind::go, &Step::kind);
+        std::stable_partition(steps_.begin(), goes, [](const Step& step) { return !isNeighborhoodFile(step); });
+        parts_.resize(steps_.size());
+    }
+    Way(const Way&) = delete;
+    Way& operator=(const Way&) = delete;
+
+    ~Way() {
+        for (const std::string& part : parts_) {
+            if (!part.empty()) live_.removeFile(part);
+        }
+    }
+
+    // Makes all new versions, complete and on the disk, without their names.
+    bool prepare(std::string& error) {
+        for (std::size_t i = 0; i < steps_.size(); ++i) {
+            const Step& step = steps_[i];
+            const bool needsPart = step.kind == Step::Kind::replace || step.kind == Step::Kind::come;
+            if (needsPart && !makePart(*step.file, parts_[i], error)) return false;
+        }
+        if (live_.syncAll()) return true;
+        error = failureOf("The disk doesn't take the files of", target_.name);
+        return false;
+    }
+
+    // After a failure some files may be those of the point already.
+    bool take(std::string& error) {
+        for (std::size_t i = 0; i < steps_.size(); ++i) {
+            if (take(steps_[i], parts_[i])) continue;
+            error = failureOf("The file can't be replaced or deleted", steps_[i].path);
+            return false;
+        }
+        if (live_.syncAll()) return true;
+        error = failureOf("The disk doesn't take the files of", target_.name);
+        return false;
+    }
+
+ private:
+    bool makePart(const PointFile& file, std::string& part, std::string& error) {
+        const std::size_t slash = file.path.rfind('/');
+        if (!live_.makeDirectories(file.path.substr(0, slash))) {
+            error = failureOf("The directory can't be made", file.path.substr(0, slash));
+            return false;
+        }
+        std::optional<std::uint32_t> checksum;
+        const std::string from = target_.name + '/' + file.path;
+        // A part may be there that couldn't be cleared away.
+        for (int number = 0; number < partNumbers && !checksum; ++number) {
+            const std::string name = partName(file.path, number);
+            if (live_.stampOf(name)) continue;
+            checksum = copyFile(points_, from, live_, name, file.stamp, FileTree::Sync::later, error);
+            if (!checksum) return false;
+            part = name;
+        }
+        if (checksum == file.checksum) return true;
+        error = "The restore point isn't whole: " + FileTree::shown(file.path);
+        return false;
+    }
+
+    bool take(const Step& step, std::string& part) const {
+        switch (step.kind) {
+            case Step::Kind::stamp:
+                return live_.setTimeAndMode(step.path, step.file->stamp);
+            case Step::Kind::go:
+                return live_.removeFile(step.path);
+            default:
+                break;
+        }
+        if (!live_.replace(part, step.path)) return false;
+        part.clear();
+        return true;
+    }
+
+    const FileTree& points_;
+    const FileTree& live_;
+    const RestorePoint& target_;
+    Steps steps_;
+    std::vector<std::string> parts_;  // by step; empty without one
+};
+
+// The locks of a save on each neighborhood's directory.
+class NeighborhoodLocks {
+ public:
+    NeighborhoodLocks(const FileTree& live, const std::string& simsDirectory, int neighborhood) {
+        const auto entries = live.entriesOf("");
+        if (!entries) return;
+        for (const TreeEntry& entry : *entries) {
+            const int number = neighborhoodOf(entry.name + '/');
+            const bool isMeant = entry.kind == TreeEntry::Kind::directory && number != 0;
+            if (!isMeant || !isIn(neighborhood, entry.name + '/')) continue;
+            locks_.push_back(std::make_unique<DirectoryLock>((simsDirectory + entry.name).c_str()));
+            if (locks_.back()->isHeldByAnother()) {
+                refusal_ = "Another program is saving " + FileTree::shown(entry.name) + '.';
+                return;
+            }
+            if (locks_.back()->isHeld()) held_.push_back(entry.name);
+        }
+    }
+
+    const std::string& refusal() const { return refusal_; }
+
+    // Only where no other program can be writing them.
+    void clearParts(const FileTree& live, const std::string& simsDirectory) const {
+        std::string ignored;
+        const auto found = filesOfNeighborhoods(live, ignored);
+        if (!found) return;
+        for (std::string directory : found->directories) {
+            if (std::ranges::find(held_, directory.substr(0, directory.find('/'))) == held_.end()) continue;
+            std::ranges::replace(directory, '/', '\\');
+            clearLeftOverParts((simsDirectory + directory).c_str());
+        }
+    }
+
+ private:
+    std::vector<std::unique_ptr<DirectoryLock>> locks_;
+    std::vector<std::string> held_;
+    std::string refusal_;
+};
+
+bool isSameGame(const std::string& one, const std::string& other) {
+    return equalInAnyCase(one, other) || isSameFile(one.c_str(), other.c_str());
+}
+
+GoneBack refused(const std::string& error) {
+    return {error, false, {}};
+}
+
+// Compares the game's files themselves. No value if they can't be read.
+std::optional<Steps> stepsFromLive(const FileTree& points, const FileTree& live, const RestorePoint& target,
+                                   int neighborhood, std::string& error) {
+    const auto found = filesOfNeighborhoods(live, error);
+    if (!found) return std::nullopt;
+    return stepsBetween(found->files, target.files, neighborhood, [&](const LiveFile& one, const PointFile& file) {
+        return haveSameBytes(live, one.path, points, target.name + '/' + file.path);
+    });
+}
+
+// Compares the point of the present, which has the same bytes as the game's files, with the target. Where both have
+// one and the same file, nothing needs to be read.
+Steps stepsFromPresent(const FileTree& points, const RestorePoint& present, const RestorePoint& target,
+                       int neighborhood) {
+    return stepsBetween(present.files, target.files, neighborhood, [&](const PointFile& one, const PointFile& file) {
+        const std::string path = present.name + '/' + one.path, targetPath = target.name + '/' + file.path;
+        if (one.checksum != file.checksum) return false;
+        return points.idOf(path) == points.idOf(targetPath) || haveSameBytes(points, path, points, targetPath);
+    });
+}
+
+const RestorePoint* named(const std::vector<RestorePoint>& points, const std::string& name) {
+    const auto found = std::ranges::find(points, name, &RestorePoint::name);
+    return found != points.end() ? &*found : nullptr;
+}
+
+// Makes the live files those of the target. The note is there before the first one changes and until all have.
+GoneBack follow(const std::string& pointsDirectory, const PointStore& store, Way& way, const GoingNote& note,
+                bool isNoted) {
+    GoneBack result;
+    result.isBetween = isNoted;
+    if (!way.prepare(result.error)) return result;
+    if (!isNoted && !writeNote(pointsDirectory, note)) {
+        return refused(failureOf("The note can't be written", note.target));
+    }
+    result.isBetween = true;
+    if (!way.take(result.error)) return result;
+    if (deleteNote(store.tree())) {
+        result.isBetween = false;
+    } else {
+        result.error = failureOf("The note can't be deleted", note.target);
+    }
+    return result;
+}
+
+std::string notWhole(const RestorePoint& point) {
+    return "The restore point isn't whole. " + point.damage;
+}
+
+// Why the way must not begin; empty if it may.
+std::string refusalOf(const PointStore& store, const std::string& simsDirectory, const RestorePoint& point) {
+    const auto note = readNote(store.tree());
+    FileStatus status{};
+    // A note on a game that is gone has nothing to finish.
+    if (note && queryFileStatus(note->simsDirectory.c_str(), status)) {
+        return "An earlier going back was cut off, and must be finished first.";
+    }
+    if (!isSameGame(point.simsDirectory, simsDirectory)) {
+        return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + simsDirectory;
+    }
+    return {};
+}
+
+// Whether some file is neither the target's nor that of before: another program has changed it meanwhile.
+bool haveOthersChanged(const Steps& toTarget, const Steps& toBefore) {
+    std::set<std::string_view> paths;
+    for (const Step& step : toBefore) {
+        paths.insert(step.path);
+    }
+    return std::ranges::any_of(toTarget, [&](const Step& step) { return paths.contains(step.path); });
+}
+
+}  // namespace
+
+std::optional<PointComparison> compareWithPoint(const std::string& pointsDirectory, const RestorePoint& point,
+                                                const std::string& simsDirectory, int neighborhood,
+                                                std::string& error) {
+    const FileTree points(pointsDirectory, FileTree::Links::refused);
+    const FileTree live(simsDirectory, FileTree::Links::followed);
+    auto steps = stepsFromLive(points, live, point, neighborhood, error);
+    if (!steps) return std::nullopt;
+    joinSpellings(live, *steps);
+    PointComparison comparison;
+    for (const Step& step : *steps) {
+        if (step.kind == Step::Kind::come) {
+            comparison.toCome.push_back(step.path);
+        } else if (step.kind == Step::Kind::go) {
+            comparison.toGo.push_back(step.path);
+        } else {
+            comparison.changed.push_back(step.path);
+        }
+    }
+    return comparison;
+}
+
+GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, const std::string& simsDirectory,
+                int neighborhood, const SYSTEMTIME& time) {
+    const PointStore store(pointsDirectory);
+    if (store.isUnavailable()) return refused(store.refusal());
+    const std::string refusal = refusalOf(store, simsDirectory, point);
+    if (!refusal.empty()) return refused(refusal);
+    RestorePoint target = point;
+    if (!isWhole(pointsDirectory, target)) return refused(notWhole(target));
+    const FileTree live(simsDirectory, FileTree::Links::followed);
+    const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
+    if (!locks.refusal().empty()) return refused(locks.refusal());
+    locks.clearParts(live, simsDirectory);
+
+    const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time);
+    if (made.name.empty()) return {made.error, false, made};
+    const std::vector<RestorePoint> all = readPoints(store.tree());
+    const RestorePoint* const present = named(all, made.name);
+    if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
+    Way way(store.tree(), live, target, stepsFromPresent(store.tree(), *present, target, neighborhood));
+    GoneBack result = follow(pointsDirectory, store, way, {target.name, made.name, simsDirectory, neighborhood}, false);
+    result.present = made;
+    store.deleteOldest({target.name, made.name});
+    return result;
+}
+
+std::optional<GoingNote> unfinishedGoingBack(const std::string& pointsDirectory) {
+    return readNote(FileTree(pointsDirectory, FileTree::Links::refused));
+}
+
+GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const SYSTEMTIME& time) {
+    const PointStore store(pointsDirectory);
+    if (store.isUnavailable()) return {store.refusal(), true, {}};
+    const auto note = readNote(store.tree());
+    if (!note) return {};
+    const std::vector<RestorePoint> all = readPoints(store.tree());
+    const RestorePoint* const target = named(all, how == Finish::complete ? note->target : note->before);
+    const RestorePoint* const other = named(all, how == Finish::complete ? note->before : note->target);
+    if (target == nullptr && other == nullptr) deleteNote(store.tree());
+    if (target == nullptr) return {"The restore point is gone. The files stay as they are.", other != nullptr, {}};
+    RestorePoint checked = *target;
+    if (!isWhole(pointsDirectory, checked)) return {notWhole(checked), true, {}};
+    const FileTree live(note->simsDirectory, FileTree::Links::followed);
+    const NeighborhoodLocks locks(live, note->simsDirectory, note->neighborhood);
+    if (!locks.refusal().empty()) return {locks.refusal(), true, {}};
+    locks.clearParts(live, note->simsDirectory);
+
+    std::string error;
+    const auto steps = stepsFromLive(store.tree(), live, checked, note->neighborhood, error);
+    if (!steps) return {error, true, {}};
+    const auto toOther =
+        other != nullptr ? stepsFromLive(store.tree(), live, *other, note->neighborhood, error) : steps;
+    MadePoint made;
+    if (!toOther || haveOthersChanged(*steps, *toOther)) {
+        made = store.make(note->simsDirectory, PointReason::goingBack, time);
+        if (made.name.empty()) return {made.error, true, made};
+    }
+    Way way(store.tree(), live, checked, *steps);
+    GoneBack result = follow(pointsDirectory, store, way, *note, true);
+    result.present = made;
+    return result;
+}

@@ -1,0 +1,48 @@
+#include "restore/going_note.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <string_view>
+
+#include "platform/files.h"
+#include "restore/point_files.h"
+
+namespace {
+
+constexpr const char* noteName = "going-back.txt";
+
+constexpr std::array<std::string_view, 4> words = {"target ", "before ", "neighborhood ", "game "};
+
+}  // namespace
+
+std::optional<GoingNote> readNote(const FileTree& points) {
+    const auto text = textOfFile(points, noteName);
+    if (!text) return std::nullopt;
+    std::string_view left = *text;
+    std::array<std::string, words.size()> values;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::size_t end = left.find('\n');
+        if (!left.starts_with(words[i]) || end == std::string_view::npos) return std::nullopt;
+        values[i] = left.substr(words[i].size(), end - words[i].size());
+        left.remove_prefix(end + 1);
+    }
+    GoingNote note{values[0], values[1], values[3]};
+    const std::string& number = values[2];
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), note.neighborhood);
+    return result.ec == std::errc() ? std::optional(note) : std::nullopt;
+}
+
+bool writeNote(const std::string& pointsDirectory, const GoingNote& note) {
+    const std::array<std::string, words.size()> values = {note.target, note.before, std::to_string(note.neighborhood),
+                                                          note.simsDirectory};
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        text.append(words[i]).append(values[i]).append(1, '\n');
+    }
+    return writeText(pointsDirectory, noteName, text);
+}
+
+bool deleteNote(const FileTree& points) {
+    return points.removeFile(noteName) && points.sync("");
+}

@@ -1,0 +1,87 @@
+#include "tests/restore/restore_test.h"
+
+namespace {
+
+class GoingBackTest : public RestoreTest {};
+
+TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
+    const std::string before = make().name;
+    files_.write(live, "played");
+    files_.write("game/UserData/Houses/House02.iff", "built");
+    files_.remove(ann);
+    files_.write("game/UserData2/neighborhood.iff", "played, too");
+    files_.write("game/UserData/Backups/a.iff", "a backup");
+    files_.write("game/UserData/TMPa.iff", "left over");
+    std::string error;
+    const auto comparison = compareWithPoint(points(), point(before), game(), 1, error);
+    ASSERT_TRUE(comparison);
+    EXPECT_EQ(comparison->changed, std::vector<std::string>{"UserData/neighborhood.iff"});
+    EXPECT_EQ(comparison->toCome, std::vector<std::string>{"UserData/Characters/User00001.iff"});
+    EXPECT_EQ(comparison->toGo, std::vector<std::string>{"UserData/Houses/House02.iff"});
+
+    const GoneBack gone = goBackTo(before, 1);
+    EXPECT_EQ(gone.error, "");
+    EXPECT_EQ(treeOf(files_.path("game")), (Tree{{"UserData/neighborhood.iff", bytesFrom("the neighborhood")},
+                                                 {"UserData/Characters/User00001.iff", bytesFrom("123456789")},
+                                                 {"UserData/Houses/House01.iff", bytesFrom("a house")},
+                                                 {"UserData2/neighborhood.iff", bytesFrom("played, too")},
+                                                 {"UserData/Backups/a.iff", bytesFrom("a backup")},
+                                                 {"UserData/TMPa.iff", bytesFrom("left over")},
+                                                 {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
+    EXPECT_EQ(point(gone.present.name).reason, PointReason::goingBack);
+    EXPECT_FALSE(unfinishedGoingBack(points()));
+}
+
+// Sessions at random: a file comes, goes, or changes its bytes, its time or its mode.
+TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
+    std::mt19937 random(20261125);
+    const auto below = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+    const auto play = [&] {
+        for (int changes = below(6); changes >= 0; --changes) {
+            const std::string number = std::to_string(below(9)), directory = below(2) == 0 ? "UserData" : "UserData2";
+            const std::string file =
+                "game/" + directory + (below(2) == 0 ? "/Characters/User" : "/Houses/House") + number;
+            const fs::path path = files_.path(file);
+            if (fs::exists(path)) fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+            if (!fs::exists(path) || below(3) == 0) {
+                files_.write(file, std::string(static_cast<std::size_t>(below(40)), static_cast<char>('a' + below(3))));
+            }
+            if (below(3) == 0) fs::last_write_time(path, fs::last_write_time(path) - std::chrono::hours(below(99)));
+            if (below(4) == 0)
+                fs::remove(path);
+            else if (below(4) == 0)
+                fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                                fs::perm_options::remove);
+        }
+        files_.write("game/UserData/Neighborhood.iff", std::to_string(random()));
+    };
+    files_.remove(live);
+    std::map<std::string, std::map<std::string, Whole>> states;
+    std::vector<std::string> names;
+    for (int sessions = 0; sessions < 8; ++sessions) {
+        play();
+        names.push_back(make().name);
+        states[names.back()] = whole();
+    }
+    for (int turn = 0; turn < 12; ++turn) {
+        play();
+        const auto before = whole();
+        const std::string& name = names[static_cast<std::size_t>(below(8))];
+        const GoneBack there = goBackTo(name);
+        ASSERT_EQ(there.error, "");
+        EXPECT_EQ(whole(), states[name]) << name;
+        ASSERT_EQ(goBackTo(there.present.name).error, "");
+        EXPECT_EQ(whole(), before);
+    }
+}
+
+TEST_F(GoingBackTest, AnotherGameIsRefusedByBothNames) {
+    const std::string made = make().name;
+    files_.write("other/UserData/neighborhood.iff", "of another game");
+    const GoneBack refused = goBack(points(), point(made), files_.path("other") + "\\", allNeighborhoods);
+    EXPECT_NE(refused.error.find(game()), std::string::npos) << refused.error;
+    EXPECT_NE(refused.error.find(files_.path("other") + "\\"), std::string::npos);
+    EXPECT_EQ(files_.bytesOf("other/UserData/neighborhood.iff"), bytesFrom("of another game"));
+}
+
+}  // namespace

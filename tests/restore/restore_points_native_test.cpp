@@ -1,0 +1,63 @@
+// Names that only native file systems have, links, and files of a size that takes no room.
+#include <unistd.h>
+
+#include "tests/restore/restore_test.h"
+
+namespace {
+
+class RestorePointsNativeTest : public RestoreTest {};
+
+TEST_F(RestorePointsNativeTest, EachNameComesBackByteForByte) {
+    for (const char* name : {"\xC5\x81\xC3\xB3"
+                             "d\xC5\xBA.iff",
+                             "f\xFC"
+                             "r.iff",
+                             "two\nlines.iff", "100%.iff", "a\\b:c.iff", "Neighborhood.iff"})
+        files_.write(std::string("game/UserData/Houses/") + name, name);
+    files_.write("game/UserData/NEIGHBORHOOD.IFF", "of another spelling");
+    const auto then = whole();
+    const std::string made = make().name;
+    fs::remove_all(files_.path("game/UserData/Houses"));
+    fs::rename(files_.path(live), files_.path("game/UserData/Neighborhood.iff"));
+    const auto since = whole();
+    const GoneBack gone = goBackTo(made);
+    EXPECT_EQ(gone.error, "");
+    EXPECT_EQ(whole(), then);
+    EXPECT_EQ(goBackTo(gone.present.name).error, "");
+    EXPECT_EQ(whole(), since);
+}
+
+TEST_F(RestorePointsNativeTest, ALinkInTheGameIsReadAndOneInAPointIsNot) {
+    fs::rename(files_.path("game/UserData2"), files_.path("elsewhere"));
+    ASSERT_EQ(symlink("../elsewhere", files_.path("game/UserData2").c_str()), 0);
+    ASSERT_EQ(symlink("..", files_.path("game/UserData/Houses/round").c_str()), 0);
+    ASSERT_EQ(symlink("nowhere", files_.path("game/UserData/dangling.iff").c_str()), 0);
+    const std::string made = make().name;
+    EXPECT_EQ(treeOf(files_.path("points/" + made)).size(), 4U);
+    files_.write("elsewhere/neighborhood.iff", "played");
+    EXPECT_EQ(goBackTo(made).error, "");
+    EXPECT_EQ(files_.bytesOf("elsewhere/neighborhood.iff"), bytesFrom("another neighborhood"));
+
+    files_.write("elsewhere/House01.iff", "a house");
+    const std::string houses = "points/" + made + "/UserData/Houses";
+    for (const std::string& link : {houses + "/House01.iff", houses}) {
+        files_.remove(link);
+        const std::string target = link == houses ? "elsewhere" : "elsewhere/House01.iff";
+        ASSERT_EQ(symlink(files_.path(target).c_str(), files_.path(link).c_str()), 0);
+        EXPECT_NE(point(made).damage, "") << link;
+        EXPECT_NE(goBackTo(made).error, "") << link;
+    }
+    EXPECT_TRUE(deleteRestorePoint(points(), made));
+    EXPECT_TRUE(files_.exists("elsewhere/House01.iff"));
+}
+
+TEST_F(RestorePointsNativeTest, WithoutRoomNothingIsMadeAndTheRoomIsSaid) {
+    fs::resize_file(files_.path(ann), 8LL << 40);  // of zeros, which take no room
+    const MadePoint made = make();
+    EXPECT_TRUE(made.needsRoom);
+    EXPECT_GT(made.neededBytes, 8LL << 40);
+    EXPECT_LT(made.availableBytes, made.neededBytes);
+    EXPECT_EQ(treeOf(files_.path("points")), Tree());
+}
+
+}  // namespace

@@ -1,0 +1,113 @@
+// Kills a going back, and the making of a point, at each of their system calls, then makes each call fail.
+#include "tests/restore/restore_test.h"
+#include "tests/support/native/held_calls.h"
+
+namespace {
+
+class RestoreSweepTest : public RestoreTest {
+ public:
+    // The game and its points as they are now are what each try begins with.
+    void keep() {
+        game_ = whole();
+        fs::copy(files_.path(), kept_.path("all"), copyAll);
+    }
+
+    // Does `act` in a child for each of its calls that is killed, or for every fourth that fails, and then has `expect`
+    // look at what it left.
+    void sweep(const std::function<void()>& act, const std::function<void()>& expect) {
+        int begin = 0;
+        for (const int answer : {endProcess, ENOSPC, EIO, EPERM, EMFILE})
+            sweep(answer, answer == endProcess ? 1 : ++begin, answer == endProcess ? 1 : 4, act, expect);
+    }
+
+    // Without waiting for the disk.
+    static void inChild(const std::function<void()>& act) {
+        runWithHeldCalls(act, [](const seccomp_data&) { return carryOut; });
+    }
+
+ protected:
+    std::map<std::string, Whole> game_;
+    static constexpr SYSTEMTIME later{2026, 11, 0, 26, 1, 0, 0, 0}, latest{2026, 11, 0, 26, 2, 0, 0, 0};
+
+ private:
+    void sweep(int answer, int begin, int step, const std::function<void()>& act, const std::function<void()>& expect) {
+        int point = begin, answered = 0;
+        do {
+            for (const char* directory : {"game", "points"}) {
+                fs::remove_all(files_.path(directory));
+                fs::copy(kept_.path("all/" + std::string(directory)), files_.path(directory), copyAll);
+            }
+            setTimes();
+            answered = -1;
+            int calls = 0;
+            runWithHeldCalls(act, [&](const seccomp_data& call) {
+                if (++calls != point) return carryOut;
+                answered = call.nr;
+                return answer;
+            });
+            SCOPED_TRACE(testing::Message()
+                         << "answered " << answer << " at call " << point << ", number " << answered);
+            expect();
+            point += step;
+        } while (answered >= 0 && !HasFailure());
+        EXPECT_GT(point, 50);
+    }
+
+    void setTimes() const {
+        for (const auto& [name, file] : game_)
+            fs::last_write_time(files_.path("game/" + name), file.time);
+    }
+
+    static constexpr auto copyAll = fs::copy_options::recursive;
+    TempDirectory kept_;
+};
+
+TEST_F(RestoreSweepTest, APointThatIsListedIsWhole) {
+    make();
+    files_.write(live, "played");
+    keep();
+    const auto act = [this] { makeRestorePoint(points(), game(), PointReason::byHand, later); };
+    sweep(act, [this] {
+        EXPECT_EQ(whole(), game_);
+        inChild([this] { makeRestorePoint(points(), game(), PointReason::byHand, latest); });
+        auto all = listRestorePoints(points());
+        checkPoints(points(), all);
+        EXPECT_GE(all.size(), 2U);
+        for (const RestorePoint& one : all)
+            EXPECT_EQ(one.damage, "") << one.name;
+        for (const auto& entry : fs::directory_iterator(files_.path("points")))
+            EXPECT_EQ(entry.path().string().find(".tidewright-"), std::string::npos) << entry.path();
+    });
+}
+
+TEST_F(RestoreSweepTest, AGoingBackThatIsStoppedIsCompletedOrUndone) {
+    const RestorePoint target = point(make().name);
+    const auto then = whole();
+    files_.write(live, "played");
+    files_.write("game/UserData/Houses/House02.iff", "built");
+    files_.remove(ann);
+    keep();
+    const auto act = [&] { goBack(points(), target, game(), allNeighborhoods, later); };
+    const auto withoutParts = [this] {
+        auto files = whole();
+        std::erase_if(files, [](const auto& file) { return file.first.find(".tidewright-") != std::string::npos; });
+        return files;
+    };
+    bool undoes = false;
+    sweep(act, [&] {
+        for (const auto& [name, file] : withoutParts())
+            EXPECT_TRUE((game_.contains(name) && file == game_[name]) || file == then.at(name)) << name;
+        if (unfinishedGoingBack(points())) {
+            undoes = !undoes;
+            inChild([&] { finishGoingBack(points(), undoes ? Finish::undo : Finish::complete, latest); });
+            EXPECT_EQ(whole(), undoes ? game_ : then);
+        } else {
+            EXPECT_TRUE(withoutParts() == game_ || withoutParts() == then);
+        }
+        EXPECT_FALSE(unfinishedGoingBack(points()));
+        inChild([&] { goBack(points(), target, game(), allNeighborhoods, latest); });
+        EXPECT_EQ(whole(), then);
+    });
+}
+
+}  // namespace
