@@ -11,6 +11,12 @@ void say(const std::string& text, bool onConsole) {
     }
 }
 
-bool confirm(const std::string& question, bool onConsole) {
-    return onConsole || MessageBoxA(nullptr, question.c_str(), programTitle, MB_OKCANCEL) == IDOK;
+bool confirm(const std::string& question, bool onConsole, bool unasked) {
+    if (onConsole) {
+        writeToOutput(question + (unasked ? "\n[OK]\n" : "\n[Cancel]\n"));
+        return unasked;
+    }
+    const int answer = MessageBoxA(nullptr, question.c_str(), programTitle, MB_OKCANCEL);
+    if (answer == 0) say("Without a display this needs the option --yes.", false);
+    return answer == IDOK;
 }

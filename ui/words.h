@@ -4,14 +4,14 @@
 
 #include <string>
 
-// The title of all boxes but the editor's.
-constexpr const char* programTitle = "Tidewright";
+// The title of all boxes but the editor's. Other programs tell the editor's window by its title, so it isn't that.
+constexpr const char* programTitle = "Tidewright Start";
 
 // Without a display the box's text goes to standard error.
 void say(const std::string& text, bool onConsole);
 
-// Asks in a box with OK and Cancel; with `onConsole` the answer is true and nothing is shown. Without a display the
-// question goes to standard error and the answer is false.
-bool confirm(const std::string& question, bool onConsole);
+// Asks in a box with OK and Cancel. With `onConsole` the question is written, and `unasked` is the answer. Without a
+// display the question goes to standard error, with a word about "--yes", and the answer is false.
+bool confirm(const std::string& question, bool onConsole, bool unasked = true);
 
 #endif
