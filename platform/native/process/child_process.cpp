@@ -4,13 +4,28 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <array>
 #include <cerrno>
 #include <climits>
 
 #include "platform/native/api/system.h"
+#include "platform/native/events/event_pump.h"
 #include "platform/native/files/path_status.h"
 #include "platform/native/files/paths.h"
+#include "platform/native/screen/display.h"
+
+namespace {
+
+// Nothing runs Qt's events while the other program does, so what was closed must be gone from the screen before.
+void finishWithScreen() {
+    if (!hasDisplay()) return;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    bringToScreen();
+}
+
+}  // namespace
 
 std::string programBeside(const std::string& name) {
     std::array<char, PATH_MAX> running{};
@@ -21,6 +36,7 @@ std::string programBeside(const std::string& name) {
 }
 
 bool runAndWait(const std::string& program, const std::string& directory, int& exitCode) {
+    finishWithScreen();
     std::string argument = program;
     std::array<char*, 2> arguments{argument.data(), nullptr};
     posix_spawn_file_actions_t actions;
