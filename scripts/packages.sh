@@ -49,34 +49,26 @@ expect_same() { cmp "$2" "$3" || { say "$1 should be the same byte for byte" && 
 
 # The functions from here to `display_functions` are for a shell of its own on a virtual display.
 
-# The preparing program asks, and says afterwards what it did: Enter answers both boxes.
-answer_boxes() {
-    local box window
-    for box in question report; do
-        if ! window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Prepare The Sims for Tidewright$'); then
-            echo "The box with the $box should come up within 60 seconds and didn't"
-            return 1
-        fi
-        wait_until_drawn "$window" || return 1
-        xdotool windowfocus --sync "$window" key Return
-        timeout 30 sh -c "while xdotool getwindowname $window; do sleep 0.1; done" >/dev/null 2>&1 ||
-            { echo "The box with the $box should close within 30 seconds and didn't" && return 1; }
-    done
-}
-
-# prepare PROGRAM...: must end with 0 behind its two boxes.
-prepare() {
-    "$@" &
-    answer_boxes && wait $!
+# The start asks before it makes files: Enter answers.
+answer_question() {
+    local window
+    if ! window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Tidewright Start$'); then
+        echo "The question should come up within 60 seconds and didn't"
+        return 1
+    fi
+    wait_until_drawn "$window" || return 1
+    xdotool windowfocus --sync "$window" key Return
+    timeout 30 sh -c "while xdotool getwindowname $window; do sleep 0.1; done" >/dev/null 2>&1 ||
+        { echo "The question should close within 30 seconds and didn't" && return 1; }
 }
 
 # open_and_close PROGRAM...: the main window must come up, and "Exit Without Saving" in its menu must end the program
-# with 0.
+# with 0, without another word.
 open_and_close() {
     local program window status=0
     "$@" &
     program=$!
-    [ -z "${boxes_first:-}" ] || answer_boxes || return 1
+    [ -z "${asks_first:-}" ] || answer_question || return 1
     if ! window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Tidewright$'); then
         kill "$program" 2>/dev/null
         echo "The window \"Tidewright\" should come up within 60 seconds and didn't"
@@ -89,4 +81,4 @@ open_and_close() {
     [ "$status" -eq 0 ] || echo "The program should end with 0 and ended with $status"
     return "$status"
 }
-display_functions=$(declare -f wait_until_drawn count_windows press_menu_key answer_boxes prepare open_and_close)
+display_functions=$(declare -f wait_until_drawn count_windows press_menu_key answer_question open_and_close)

@@ -1,16 +1,15 @@
-# The tests of the zip for Windows: its files, and its programs started in a game's directory under Wine.
+# The tests of the zip for Windows: its files, and its programs started under Wine.
 # shellcheck shell=bash disable=SC2154,SC2164  # test-packages has the rest, and `check` ends at a failed cd
 
 zip_files() {
+    local folder=Tidewright-$version program text
     expect "the list of files" \
-        "GameData/Skins/$skin famtemplate skinsets-original.cfg tidewright-guide.html tidewright-prepare.exe \
-tidewright-readme.txt tidewright.exe" \
-        "$(unzip -Z1 "$zip" | LC_ALL=C sort | xargs)"
+        "$(printf "$folder/%s " skinsets-original.cfg tidewright-{guide.html,readme.txt,start.exe} tidewright.exe)" \
+        "$(unzip -Z1 "$zip" | LC_ALL=C sort | tr '\n' ' ')"
     unzip -q "$zip" -d "$work/unzipped"
-    cd "$work/unzipped"
-    local program text
-    for program in tidewright.exe tidewright-prepare.exe; do
-        expect_same "$program and the 32-bit one that was built" $program "$root/build/windows-x86/$program"
+    cd "$work/unzipped/$folder"
+    for program in *.exe; do
+        expect_same "$program and the 32-bit one that was built" "$program" "$root/build/windows-x86/$program"
         "$root/scripts/check-exe" x86 "$PWD/$program"
     done
     tr -d '\r' <skinsets-original.cfg | cmp - "$root/data/skinsets.cfg"
@@ -32,21 +31,30 @@ make_windows() {
     cp -r "$windows/sample/drive_c/." "$WINEPREFIX/drive_c/"
 }
 
+# Of the package only the skin goes into the game's directory.
 zip_starts() {
-    cd "$WINEPREFIX/drive_c/Program Files (x86)/Maxis/The Sims"
+    local drive=$WINEPREFIX/drive_c own
+    find "$drive/Program Files (x86)" -type f | sort >"$work/before"
+    mkdir "$drive/Games"
+    cd "$drive/Games"
     unzip -q "$zip"
-    on_display bash -uc "$display_functions
-        prepare wine tidewright-prepare.exe && open_and_close wine tidewright.exe; status=\$?; wineserver -k; exit \$status"
-    expect_same "skinsets.cfg and the shipped one" skinsets.cfg skinsets-original.cfg
+    cd Tidewright-*
+    asks_first=yes on_display bash -uc "$display_functions
+        open_and_close wine tidewright-start.exe; status=\$?; wineserver -k; exit \$status"
+    own=$(echo "$drive"/users/*/AppData/Local/Tidewright)
+    expect_same "skinsets.cfg and the shipped one" "$own/skinsets.cfg" skinsets-original.cfg
+    expect "the count of new files beside the programs" "$(unzip -Z1 "$zip" | wc -l)" "$(find . -type f | wc -l)"
+    expect "what is new in the game's directory" "$skin" \
+        "$(find "$drive/Program Files (x86)" -type f | sort | comm -13 "$work/before" - | sed 's,.*/GameData/Skins/,,')"
 }
 
 test_zip() {
-    check "zip: the seven files, texts with Windows' line ends, programs that start on XP by their headers" zip_files
+    check "zip: one folder with five files, texts with Windows' line ends, programs that start on XP by their headers" zip_files
     if ! choose_kinds x86; then
         failed=$((failed + 1))
     elif [ ${#kinds[@]} -gt 0 ]; then
         use_wine x86
         make_windows
-        check "zip: unpacked into a game's directory, its 32-bit programs prepare the game, start under Wine and end" zip_starts
+        check "zip: unpacked anywhere, its 32-bit programs prepare the game, start under Wine and end" zip_starts
     fi
 }

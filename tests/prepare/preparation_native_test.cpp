@@ -2,9 +2,7 @@
 
 #include <csignal>
 
-#include "prepare/program.h"
 #include "tests/prepare/unprepared_game.h"
-#include "tests/support/user.h"
 
 namespace {
 
@@ -33,13 +31,6 @@ TEST_F(PreparationTest, ADeadLinkStaysAndIsReported) {
         EXPECT_EQ(reports("Template.iff is there, but leads"), fs::is_symlink("Template.iff")) << report_;
         fs::remove(link);
     }
-}
-
-TEST_F(PreparationTest, TheQuestionShowsTheLettersOfTheDirectory) {
-    fs::rename(files_.path("tool"), files_.path("t\xC3\xB6\xC3\xB6l"));
-    const AnsweredBox question = answerNextBox(IDOK), end = answerNextBox(IDOK);
-    EXPECT_EQ(runProgram(0, nullptr), 0);
-    EXPECT_NE(question->text.find("t\xF6\xF6l:\n"), std::string::npos) << question->text;
 }
 
 }  // namespace

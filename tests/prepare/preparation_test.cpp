@@ -4,9 +4,7 @@
 
 #include "gamefiles/skin_file.h"
 #include "gamefiles/templates.h"
-#include "prepare/program.h"
 #include "tests/prepare/unprepared_game.h"
-#include "tests/support/user.h"
 
 namespace {
 
@@ -117,47 +115,6 @@ TEST_F(PreparationTest, WithoutAnyPartTheSkinSetsDontCome) {
     expectMissing("Template.iff is missing. No character file can be seen");
     fs::remove_all(game_);
     expectMissing("can't be found");
-}
-
-TEST_F(PreparationTest, TheProgramAsksAndActsOnTheAnswer) {
-    const std::string planned =
-        "In " + fs::current_path().string() + ":\n    Template.iff, out of one of your own Sims' files\n";
-    const std::tuple<const char*, std::string, int, int, std::string> rows[] = {
-        {"tool", "--no", IDOK, 1, "The options are"},
-        {"prefix", "--yes", IDOK, 1, "in the directory that it was unpacked to"},
-        {"tool", "--if-needed", IDCANCEL, 1, "-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"},
-        {"tool", "--yes", IDOK, 0, "Everything is ready"},
-        {"tool", "", IDOK, 0, "Everything is ready"},
-        {"tool", "--if-needed", IDOK, 0, ""},
-        {"tool", "--new-template", IDOK, 0, "will be made.\n\n" + planned + "    (the present one is kept"}};
-    const Tree unprepared = treeOf(files_.path());
-    const auto run = [](std::string option) {
-        std::string program = "tidewright-prepare";
-        char* arguments[] = {program.data(), option.data()};
-        return runProgram(option.empty() ? 1 : 2, arguments);
-    };
-    for (const auto& [directory, option, answer, code, said] : rows) {
-        SCOPED_TRACE(said);
-        fs::current_path(files_.path(directory));
-        const AnsweredBox first = answerNextBox(answer), second = answerNextBox(IDOK);
-        EXPECT_EQ(run(option), code);
-        EXPECT_TRUE(first->shown != said.empty() && first->text.find(said) != std::string::npos) << first->text;
-        EXPECT_EQ(second->shown, option == "--new-template");
-        EXPECT_EQ(treeOf(files_.path()) == unprepared, code != 0);
-        if (code != 0) continue;
-        const bool made = option == "--yes" || option == "--new-template";
-        EXPECT_EQ(files_.bytesOf("tool/Template.iff"), made ? expectedTemplate() : playersTemplate(textLetter));
-        files_.write("tool/Template.iff", playersTemplate(textLetter));
-    }
-    files_.write("tool/famtemplate", "cut");
-    const AnsweredBox report = answerNextBox(IDOK);
-    EXPECT_EQ(run("--if-needed"), 1);
-    EXPECT_TRUE(report->text.ends_with("\nNot everything is ready.")) << report->text;
-    files_.remove("tool/famtemplate");
-    const AnsweredBox question = answerNextBox(IDOK, [this] { uninstallGame(files_.path("prefix")); });
-    const AnsweredBox refusal = answerNextBox(IDOK);
-    EXPECT_EQ(run(""), -1);
-    EXPECT_TRUE(refusal->title == "Cannot find The Sims" && !files_.exists("tool/famtemplate"));
 }
 
 }  // namespace

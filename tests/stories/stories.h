@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <functional>
+#include <regex>
 
 #include "sample/installation.h"
 #include "tests/support/machine.h"
@@ -32,15 +33,21 @@ inline void waitUntil(const std::string& step, const std::function<bool()>& done
     ADD_FAILURE() << "never happened: " << step;
 }
 
-// Each begins with an unprepared game, and a tool directory as it is unpacked.
+// Each begins with an unprepared game, and a player who has no files of this program yet.
 class Stories : public testing::Test {
  protected:
     Stories() {
         writeInstallation(prefix_);
-        files_.makeDirectory("tool");
-        std::filesystem::copy(buildDirectory() / "skinsets-original.cfg", files_.path("tool"));
+        if (windowsPrograms == nullptr) return;
         // Wine's server keeps the display of its first program, and waits between programs.
-        if (windowsPrograms != nullptr) run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
+        run("wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1");
+        std::filesystem::remove_all(ownDirectory(true));
+    }
+
+    // Where the player's own files of this program are.
+    std::string ownDirectory(bool onWindows = windowsPrograms != nullptr) const {
+        if (!onWindows) return files_.path("home/.local/share/tidewright");
+        return run("ls -d \"$WINEPREFIX\"/drive_c/users/*/AppData/Local | grep -v /Public/") + "/Tidewright";
     }
 
     // The first word that this command prints; a failure fails the test.
@@ -74,30 +81,56 @@ class Stories : public testing::Test {
         return std::stoi(count);
     }
 
-    // Starts a program of the build in the tool directory. It is killed after two minutes.
-    void launch(const std::string& name, bool onWindows) {
-        std::string program = "env WINEPREFIX=" + prefix_ + " '" + (buildDirectory() / name).string() + "'";
+    // Starts a program of the build, with what it says in the file "said". It is killed after two minutes. Natively the
+    // game is where the start finds it by itself; only the editor has to be told.
+    void launch(const std::string& command, bool onWindows = windowsPrograms != nullptr) {
+        const std::size_t nameEnd = command.find(' ');
+        const std::string name = command.substr(0, nameEnd);
+        std::string program = "env -u WINEPREFIX HOME='" + files_.path("home") + "' " +
+                              (name == "tidewright" ? "WINEPREFIX='" + prefix_ + "' '" : "'") +
+                              (buildDirectory() / name).string() + "'";
         if (onWindows) {
             run("wine reg add 'HKLM\\Software\\Maxis\\The Sims' /v SIMS_DATA /f /reg:32 /d \"$(winepath -w '" +
                 game_.string() + "' 2>/dev/null)\" >/dev/null 2>&1");
             program = "wine '" + std::string(windowsPrograms) + "/" + name + ".exe'";
         }
+        if (nameEnd != std::string::npos) program += command.substr(nameEnd);
         const std::string environment = "env -u QT_QPA_PLATFORM -u WAYLAND_DISPLAY DISPLAY=" + screen_.display();
-        program = environment + " timeout -s KILL 120 " + program + " >/dev/null 2>&1";
-        process_ = popen(("cd '" + files_.path("tool") + "' && exec " + program).c_str(), "r");
+        program = environment + " timeout -s KILL 120 " + program + " >'" + files_.path("said") + "' 2>&1";
+        std::filesystem::create_directories(ownDirectory(onWindows));
+        process_ = popen(("cd '" + ownDirectory(onWindows) + "' && exec " + program).c_str(), "r");
+    }
+
+    bool isSaid(const std::string& words) const {
+        return run("grep -q -a -F -e \"" + words + "\" '" + files_.path("said") + "' && echo yes || echo no") == "yes";
     }
 
     void prepareGame(bool onWindows = windowsPrograms != nullptr) {
-        launch("tidewright-prepare", onWindows);
-        for ([[maybe_unused]] const char* box : {"the question", "the report"})
-            answerBox("Prepare The Sims for Tidewright", "Return");
+        launch("tidewright-start --prepare --yes", onWindows);
         EXPECT_EQ(waitForExit(), 0);
     }
 
-    // The menu is above the window's controls: natively in the part of the window outside the client area, 430 rows
-    // high, and under Wine below the caption.
+    // Answers the start's question or report.
+    void answerStart() const { answerBox("Tidewright Start", "Return"); }
+
+    // Answers all that the start asks and says before the editor's window.
+    void answerUntilEditor() {
+        waitUntil("the editor's window opens", [this] {
+            if (!act("search --onlyvisible --name '^Tidewright$' 2>/dev/null | tail -n 1").empty()) return true;
+            if (!act("search --onlyvisible --name '^Tidewright Start$' 2>/dev/null | tail -n 1").empty()) answerStart();
+            return false;
+        });
+        useWindow();
+    }
+
     void start(bool onWindows = windowsPrograms != nullptr) {
         launch("tidewright", onWindows);
+        useWindow(onWindows);
+    }
+
+    // Waits for the editor's window. The menu is above the window's controls: natively in the part of the window
+    // outside the client area, 430 rows high, and under Wine below the caption.
+    void useWindow(bool onWindows = windowsPrograms != nullptr) {
         window_ = findWindow("(Tidewright|Installation Problem)");
         windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window_ + " | sed -n s/HEIGHT=//p"));
         clientTop_ = onWindows ? 42 : windowHeight_ - 430;
@@ -165,6 +198,21 @@ class Stories : public testing::Test {
         waitUntil(title + " closes", [&] { return act("getwindowname " + box + " >/dev/null 2>&1; echo $?") != "0"; });
     }
 
+    void killStartAndEditor() {
+        run(windowsPrograms != nullptr
+                ? "wineserver -k; wineserver -w; wineserver -p >/dev/null 2>&1"
+                : "editor=$(xdotool getwindowpid " + window_ + ") && kill -9 $(ps -o ppid= \"$editor\") \"$editor\"");
+        pclose(process_);
+    }
+
+    // What the game reads: neither backups nor what a save leaves that was cut off.
+    Tree playedFiles() const {
+        Tree tree = treeOf(game_);
+        const std::regex leftOver("Backups/|/TMP|[.]tidewright-");
+        std::erase_if(tree, [&](const auto& file) { return std::regex_search(file.first, leftOver); });
+        return tree;
+    }
+
     // The exit code as a signed byte.
     int waitForExit() const {
         const int status = pclose(process_);
@@ -172,7 +220,7 @@ class Stories : public testing::Test {
     }
 
     const TempDirectory files_;
-    const std::string prefix_ = files_.path("prefix");
+    const std::string prefix_ = files_.path("home/Games/sims");
     const std::filesystem::path game_ = gameDirectory(prefix_);
     const XServer screen_;
     std::FILE* process_ = nullptr;

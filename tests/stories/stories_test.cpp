@@ -2,7 +2,8 @@
 // keyboard alone.
 #include "tests/stories/stories.h"
 
-#include <regex>
+#include <fstream>
+#include <utility>
 
 #include "tests/support/iff_walk.h"
 #include "tests/support/scoped_variable.h"
@@ -16,10 +17,10 @@ TEST_F(Stories, AnEveningOfPlayByKeysAlone) {
     start();
     answerBox("Installation Problem", "Return");
     EXPECT_EQ(waitForExit(), -3);
-    prepareGame();
+    launch("tidewright-start");
+    answerUntilEditor();  // files will be made
     const Tree before = treeOf(game_);
     EXPECT_EQ(differences(unprepared, before), "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn\n");
-    start();
     press(childToTeen, 0, 0, 3);  // Clover, whose head leads to a teen's
     press(childToTeen, 0, 0, 4);  // Fern, whose head is in no set
     answerBox("Proceed[?]", "Return");
@@ -38,16 +39,18 @@ TEST_F(Stories, AnEveningOfPlayByKeysAlone) {
     focus_ = enabledButton;
     press(moveOut, 0, 2, 0);  // Zoe
     chooseFileItem("v");      // save and exit
+    answerStart();            // the report
     EXPECT_EQ(waitForExit(), 0);
 
     const Tree after = treeOf(game_);
-    start();
+    launch("tidewright-start");
+    useWindow();
     press(moveOut, 0, 0, 1);  // Bramble
-    chooseFileItem("x");      // without saving
+    chooseFileItem("x");      // without saving, of which nothing is said
     EXPECT_EQ(waitForExit(), 0);
     EXPECT_EQ(differences(after, treeOf(game_)), "");
 
-    loadNeighborhoods((game_.string() + "/").c_str(), files_.path("tool").c_str());
+    loadNeighborhoods((game_.string() + "/").c_str(), ownDirectory().c_str());
     std::string families;
     for (int i = 0; i < neighborhoods[0]->familyCount(); ++i) {
         Family& family = *neighborhoods[0]->family(i);
@@ -91,6 +94,42 @@ TEST_F(Stories, TwoProgramsSaveOneTree) {
     const Tree native = savedBy(false);
     EXPECT_TRUE(native.contains("UserData/Backups/neighborhood")) << "not saved";
     EXPECT_EQ(differences(native, savedBy(true)), "");
+}
+
+TEST_F(Stories, TheStartSaysWhatBecameOfAnEveningAndUndoesIt) {
+    prepareGame();
+    const Tree before = playedFiles();
+    launch("tidewright-start --yes");
+    useWindow();
+    std::FILE* const first = std::exchange(process_, nullptr);
+    launch("tidewright-start --yes");
+    EXPECT_TRUE(waitForExit() != 0 && isSaid("Tidewright is open already"));
+    process_ = first;
+    press(teenToAdult, 0, 0, 2);  // Bramble
+    chooseFileItem("s");
+    waitUntil("the save has begun to replace files", [&] { return playedFiles() != before; });
+    killStartAndEditor();
+    launch("tidewright-start");
+    answerUntilEditor();  // the last evening was cut off: OK goes back
+    EXPECT_EQ(differences(before, playedFiles()), "");
+    press(teenToAdult, 0, 0, 2);
+    chooseFileItem("v");
+    answerStart();
+    EXPECT_EQ(waitForExit(), 0);
+    EXPECT_EQ(differences(before, playedFiles()), "UserData/Characters/User00013.iff\nUserData/Neighborhood.iff\n");
+
+    // A free chunk in the file's header: a Move Out cuts off all that follows.
+    const std::filesystem::path neighborhood = game_ / "UserData/Neighborhood.iff";
+    std::fstream(neighborhood, std::ios::in | std::ios::out | std::ios::binary).seekp(20) << "XXXX";
+    const Tree marked = playedFiles();
+    launch("tidewright-start");
+    answerUntilEditor();  // a warning
+    press(moveOut, 0, 0, 0);
+    chooseFileItem("v");
+    answerStart();  // what is lost: OK goes back
+    answerStart();
+    EXPECT_EQ(waitForExit(), 0);
+    EXPECT_EQ(differences(marked, playedFiles()), "");
 }
 
 // A Wayland session without an X server. The server's protocol has the titles of windows; the first one is that of the

@@ -1,6 +1,6 @@
 #include "platform/win32.h"
-#include "prepare/program.h"
+#include "start/program.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-    return runProgram(__argc, __argv);
+    return runStart(__argc, __argv);
 }

@@ -1,0 +1,137 @@
+#include "start/evening_steps.h"
+
+#include <chrono>
+#include <ctime>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "platform/child_process.h"
+#include "platform/letter_case.h"
+#include "restore/going_back.h"
+#include "restore/restore_points.h"
+#include "start/cut_off.h"
+#include "start/left_overs.h"
+#include "start/report.h"
+#include "ui/words.h"
+
+namespace {
+
+constexpr int failed = 1;
+
+std::string toGoBack(const std::string& point) {
+    return "To go back: \"Go Back\" in the menu, or the program tidewright-restore. The restore point is called " +
+           point + ".";
+}
+
+std::string inMegabytes(std::int64_t bytes) {
+    constexpr std::int64_t megabyte = 1'000'000;
+    return std::to_string((bytes + megabyte - 1) / megabyte) + " MB";
+}
+
+constexpr const char* goOnWithoutPoint =
+    "\n\nWithout one you can't go back to before this evening, and nothing will be said of what was saved. Shall "
+    "Tidewright start all the same?";
+
+std::string whyNoPoint(const MadePoint& made) {
+    if (!made.needsRoom) return made.error;
+    return "There isn't room for a restore point: it takes " + inMegabytes(made.neededBytes) + ", and " +
+           inMegabytes(made.availableBytes) + " are free.";
+}
+
+Evening eveningSince(const std::string& point, const std::string& simsDirectory, std::int64_t begin) {
+    return {.before = restorePointsDirectory + ("\\" + point) + "\\", .game = simsDirectory, .begin = begin};
+}
+
+std::vector<std::string> sentencesOnLeftOvers(const std::string& simsDirectory) {
+    std::vector<std::string> sentences;
+    for (const LeftOver& leftOver : findLeftOvers(simsDirectory)) {
+        sentences.push_back(leftOver.sentence);
+    }
+    return sentences;
+}
+
+std::optional<RestorePoint> pointOfLastEvening(const std::string& simsDirectory) {
+    for (RestorePoint& point : listRestorePoints(restorePointsDirectory)) {
+        if (point.reason == PointReason::evening && equalInAnyCase(point.simsDirectory, simsDirectory)) {
+            return std::move(point);
+        }
+    }
+    return std::nullopt;
+}
+
+// Since 1970, UTC.
+std::int64_t secondsOf(const SYSTEMTIME& time) {
+    using namespace std::chrono;
+    const sys_days day = year(time.wYear) / month(time.wMonth) / std::chrono::day(time.wDay);
+    return seconds(day.time_since_epoch() + hours(time.wHour) + minutes(time.wMinute) + seconds(time.wSecond)).count();
+}
+
+// False if the editor couldn't be started, which is said.
+bool runEditor(bool askNothing, int& exitCode) {
+    const std::string editor = programBeside("tidewright");
+    if (runAndWait(editor, ".", exitCode)) return true;
+    say(editor + " can't be started. Please install Tidewright again.", askNothing);
+    return false;
+}
+
+bool sayGoneBack(const GoneBack& result, bool askNothing) {
+    say(result.error.empty() ? "Your neighborhoods are as they were before." : result.error, askNothing);
+    return result.error.empty();
+}
+
+bool goBackTo(const RestorePoint& point, const std::string& simsDirectory, bool askNothing) {
+    return sayGoneBack(goBack(restorePointsDirectory, point, simsDirectory, allNeighborhoods), askNothing);
+}
+
+void report(const RestorePoint& point, const EveningReport& result, bool askNothing) {
+    if (result.hasLoss) {
+        const std::string text = result.text + "\n\n[OK] goes back to before this evening. [Cancel] keeps it as it is.";
+        if (confirm(text, askNothing, false)) goBackTo(point, point.simsDirectory, askNothing);
+    } else if (!result.text.empty()) {
+        say(result.text + (result.hasSaved ? "\n\n" + toGoBack(point.name) : ""), askNothing);
+    }
+}
+
+// Completes or undoes a going back that was stopped. False if that failed.
+bool finishLastGoingBack(bool askNothing) {
+    const auto unfinished = unfinishedGoingBack(restorePointsDirectory);
+    if (!unfinished) return true;
+    const std::string text = "Going back to the restore point " + unfinished->target +
+                             " was cut off.\n\n[OK] completes it. [Cancel] undoes it.";
+    const Finish how = confirm(text, askNothing) ? Finish::complete : Finish::undo;
+    return sayGoneBack(finishGoingBack(restorePointsDirectory, how), askNothing);
+}
+
+}  // namespace
+
+bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
+    if (!finishLastGoingBack(askNothing)) return false;
+    const std::optional<RestorePoint> point = pointOfLastEvening(simsDirectory);
+    if (!point || point->sessionEnded) return true;
+    const CutOffEvening cutOff = describeCutOff(eveningSince(point->name, simsDirectory, secondsOf(point->time)));
+    if (cutOff.wasPlayedSince) {
+        say(cutOff.text, askNothing);
+    } else if (!cutOff.isAsBefore &&
+               confirm(cutOff.text + "\n\n[OK] goes back to before it. [Cancel] keeps it.", askNothing, false) &&
+               !goBackTo(*point, simsDirectory, askNothing)) {
+        return false;
+    }
+    noteSessionEnded(restorePointsDirectory, point->name);
+    return true;
+}
+
+int runEvening(const std::string& simsDirectory, bool askNothing) {
+    const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::evening);
+    if (made.name.empty() && !confirm(whyNoPoint(made) + goOnWithoutPoint, askNothing)) return failed;
+    Evening evening = eveningSince(made.name, simsDirectory, std::time(nullptr));
+    evening.known = sentencesOnLeftOvers(simsDirectory);
+    int exitCode = failed;
+    const bool ran = runEditor(askNothing, exitCode);
+    const std::optional<RestorePoint> point = pointOfLastEvening(simsDirectory);
+    if (!made.name.empty() && point && point->name == made.name) {
+        if (ran) report(*point, reportOn(evening), askNothing);
+        noteSessionEnded(restorePointsDirectory, made.name);
+    }
+    return ran ? exitCode : failed;
+}

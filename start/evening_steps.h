@@ -1,0 +1,19 @@
+// An evening with the editor, from the restore point before it to the words after it. With `askNothing` these go to
+// standard output, and nothing is asked (ui/words.h).
+#ifndef START_EVENING_STEPS_H
+#define START_EVENING_STEPS_H
+
+#include <string>
+
+// In the working directory.
+constexpr const char* restorePointsDirectory = "restore-points";
+
+// Says what became of the last evening if that was cut off, and offers to go back to before it. False if that was begun
+// and failed, so that nothing else may begin.
+bool settleLastEvening(const std::string& simsDirectory, bool askNothing);
+
+// Makes a restore point, runs the editor, waits for its end, and says what it has saved. Returns the editor's exit
+// code, or 1 if it wasn't started.
+int runEvening(const std::string& simsDirectory, bool askNothing);
+
+#endif

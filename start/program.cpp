@@ -1,0 +1,66 @@
+#include "start/program.h"
+
+#include <string>
+
+#include "platform/console.h"
+#include "platform/files.h"
+#include "platform/own_directory.h"
+#include "platform/win32.h"
+#include "start/evening_steps.h"
+#include "start/options.h"
+#include "start/preparing.h"
+#include "ui/words.h"
+#include "version.h"
+#include "world/game_search.h"
+#include "world/running_game.h"
+
+namespace {
+
+constexpr int failed = 1;
+
+int refuse(bool askNothing, const std::string& text) {
+    say(text, askNothing);
+    return failed;
+}
+
+int refuseOption(const std::string& fault) {
+    writeToErrors(fault + "\n\nThe options are\n" + optionList());
+    return failed;
+}
+
+int write(const std::string& text) {
+    return writeToOutput(text) ? 0 : failed;
+}
+
+// With the player's own directory as the working directory.
+int startOn(const std::string& simsDirectory, const Options& options, bool askNothing) {
+    const bool isPrepared = prepare(simsDirectory, options.newTemplate, askNothing);
+    if (options.prepareOnly || options.newTemplate) {
+        return isPrepared && sayWhetherReady(simsDirectory, askNothing) ? 0 : failed;
+    }
+    if (!isPrepared || !settleLastEvening(simsDirectory, askNothing)) return failed;
+    mend(simsDirectory, askNothing);
+    if (!isGoodToGo(simsDirectory, askNothing)) return failed;
+    return runEvening(simsDirectory, askNothing);
+}
+
+}  // namespace
+
+int runStart(int argumentCount, char** arguments) {
+    const Options options = optionsOf(argumentCount, arguments);
+    if (!options.fault.empty()) return refuseOption(options.fault);
+    if (options.help) return write("tidewright [OPTION...]\n\n" + optionList());
+    if (options.version) return write("Tidewright " TIDEWRIGHT_VERSION "\n");
+    const bool askNothing = options.askNothing;
+    const OwnDirectory own = ownDirectory("Tidewright");
+    if (!own.fault.empty()) return refuse(askNothing, own.fault);
+    DirectoryText simsDirectory;
+    const GameWish wish{.directory = options.game, .askNothing = askNothing};
+    if (const int refusal = findGame(wish, own.path, simsDirectory); refusal != 0) return refusal;
+    if (SetCurrentDirectoryA(own.path.c_str()) == FALSE) return refuse(askNothing, own.path + " can't be entered.");
+    const DirectoryLock lock(lockedDirectory(simsDirectory).c_str());
+    if (const int refusal = refuseSecondStart(lock, askNothing); refusal != 0) return refusal;
+    if (isEditorOpen()) return refuse(askNothing, "Tidewright's window is open already. Please close it first.");
+    if (const int refusal = refuseBesideGame(askNothing); refusal != 0) return refusal;
+    return startOn(simsDirectory.c_str(), options, askNothing);
+}

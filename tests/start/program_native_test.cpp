@@ -1,0 +1,64 @@
+#include "start/program.h"
+
+#include "platform/own_directory.h"
+#include "platform/path_text.h"
+#include "tests/prepare/unprepared_game.h"
+#include "tests/support/scoped_variable.h"
+#include "tests/support/user.h"
+
+namespace {
+
+// What comes before the evening; the stories have the evening itself.
+class StartTest : public PreparationTest {
+ protected:
+    static int start(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), "tidewright-start");
+        std::vector<char*> pointers;
+        for (std::string& argument : arguments)
+            pointers.push_back(argument.data());
+        return runStart(static_cast<int>(pointers.size()), pointers.data());
+    }
+
+    const ScopedVariable data_{"XDG_DATA_HOME", files_.path("d\xC3\xA4ta")};
+    const std::string own_ = ownDirectory("Tidewright").path;
+};
+
+TEST_F(StartTest, AsksPreparesAndSaysWhetherAllIsReady) {
+    const std::string planned = "In " + shownPath(own_) + ":\n    Template.iff, out of one of your own Sims' files\n";
+    const struct {
+        std::vector<std::string> options;
+        int answer, code;
+        std::vector<std::string> said;  // in the boxes, in their order
+    } rows[] = {
+        {{"--no"}, IDOK, 1, {}},
+        {{"--help"}, IDOK, 0, {}},
+        {{"--prepare"}, IDCANCEL, 1, {"-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"}},
+        {{"--prepare", "--yes"}, IDOK, 0, {}},
+        {{"--prepare"}, IDOK, 0, {"Everything is ready"}},
+        {{"--new-template"},
+         IDOK,
+         0,
+         {"will be made.\n\n" + planned + "    (the present one is kept", "would be the same", "Everything is ready"}}};
+    for (const auto& [options, answer, code, said] : rows) {
+        SCOPED_TRACE(options.back() + std::to_string(answer));
+        std::vector<AnsweredBox> boxes;
+        for (std::size_t i = 0; i <= said.size(); ++i)
+            boxes.push_back(answerNextBox(answer));
+        EXPECT_EQ(start(options), code);
+        for (std::size_t i = 0; i < said.size(); ++i)
+            EXPECT_TRUE(boxes[i]->text.find(said[i]) != std::string::npos) << said[i] << boxes[i]->text;
+        EXPECT_FALSE(boxes.back()->shown) << boxes.back()->text;
+    }
+}
+
+TEST_F(StartTest, TakesOverTheFilesOfVersion110) {
+    EXPECT_TRUE(writeFile(game_ / "skinsets.cfg", "mine") && writeFile(game_ / "Template.iff", playersTemplate()));
+    const AnsweredBox question = answerNextBox(IDOK), files = answerNextBox(IDOK), end = answerNextBox(IDOK);
+    EXPECT_EQ(start({"--prepare"}), 0);
+    EXPECT_NE(question->text.find("    skinsets.cfg\n    Template.iff\n"), std::string::npos) << question->text;
+    EXPECT_EQ(treeOf(own_).at("skinsets.cfg"), bytesFrom("mine"));
+    EXPECT_EQ(treeOf(own_).at("Template.iff"), playersTemplate());
+    EXPECT_TRUE(fs::exists(game_ / "skinsets.cfg")) << "those stay";
+}
+
+}  // namespace
