@@ -3,6 +3,8 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/path_text.h"
+
 namespace {
 
 // Goes through the arguments.
@@ -82,7 +84,7 @@ Options optionsOf(int count, const char* const* arguments) {
         } else if (rest.names("--editions")) {
             readEditions(rest, options);
         } else {
-            options.fault = "There is no option " + std::string(rest.current()) + ".";
+            options.fault = "There is no option " + shownPath(std::string(rest.current())) + ".";
         }
     }
     return options;

@@ -17,6 +17,7 @@ constexpr int cancel = 2003;
 }  // namespace id
 
 constexpr LONG width = 620;
+constexpr std::size_t longestLine = 80;  // characters
 constexpr LONG margin = 10;
 constexpr LONG lineHeight = 20;
 constexpr LONG buttonWidth = 100;
@@ -33,12 +34,17 @@ struct Question {
 
 Question* question = nullptr;
 
+// Lines that fit into the window. A longer one is broken at a space, or anywhere in a path that has none.
 std::vector<std::string> linesOf(const std::string& text) {
     std::vector<std::string> lines;
     for (std::size_t at = 0; at <= text.size();) {
-        const std::size_t end = std::min(text.find('\n', at), text.size());
+        std::size_t end = std::min(text.find('\n', at), text.size());
+        if (end - at > longestLine) {
+            const std::size_t space = text.rfind(' ', at + longestLine);
+            end = space != std::string::npos && space > at ? space : at + longestLine;
+        }
         lines.push_back(text.substr(at, end - at));
-        at = end + 1;
+        at = end + (end == text.size() || text[end] == '\n' || text[end] == ' ' ? 1 : 0);
     }
     return lines;
 }

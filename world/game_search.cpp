@@ -259,9 +259,12 @@ class GameSearch {
         std::string text = "The Sims wasn't found.";
         if (!hasWinePrefixes()) return text + " The registry has no entry of it.";
         text += " Tidewright looked for Wine prefixes with the game in";
+        const char* separator = " ";
         for (const std::string& place : winePrefixPlaces()) {
-            text += "\n    " + place;
+            text += separator + place;
+            separator = ", ";
         }
+        text += '.';
         for (const std::string& prefix : foundWinePrefixes()) {
             const std::string missing = missingIn(prefix);
             if (!missing.empty()) text += "\n\n" + missing;

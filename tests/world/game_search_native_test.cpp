@@ -191,6 +191,7 @@ TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
 
 TEST_F(GameSearchNativeTest, WithoutAGameTheUserChoosesADirectory) {
     makePrefix("home/.hidden/pfx", "drive_c/a", "");
+    expectWords("", "The Sims wasn't found. Tidewright looked for Wine prefixes with the game in ~/.wine, ~/Games/*, ");
     later([] { click("Choose..."); });
     const AnsweredBox chosen = answerNextBox(IDOK, [] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());

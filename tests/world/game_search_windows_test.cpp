@@ -1,6 +1,7 @@
 // How a game without an entry in the registry gets one, and what is said beside windows of its name.
 #include <gtest/gtest.h>
 
+#include "platform/wine_prefixes.h"
 #include "sample/wine_prefix.h"
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
@@ -40,6 +41,7 @@ TEST(GameSearchWindowsTest, AnEntryIsMadeAfterAQuestionAndNeverChanged) {
     const AnsweredBox refused = answerNextBox(IDOK);
     EXPECT_EQ(find(other), -1);
     EXPECT_EQ(refused->text.find("The registry says that The Sims is in " + game.substr(0, game.size() - 1)), 0U);
+    EXPECT_FALSE(registerDirectory(other, "", "Software\\Maxis\\The Sims", "SIMS_DATA"));
     EXPECT_EQ(findSimsDirectory(found), 0);
     EXPECT_EQ(std::string(found.view()) + "\\", game);
     files.remove("prefix");
