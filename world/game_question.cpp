@@ -22,6 +22,7 @@ constexpr LONG margin = 10;
 constexpr LONG lineHeight = 20;
 constexpr LONG buttonWidth = 100;
 constexpr LONG rowHeight = 30;
+constexpr LONG detailLines = 3;     // of the picked entry, which may be wider than the list
 constexpr LONG captionHeight = 40;  // with the borders, on any system
 
 // The one question that is open.
@@ -53,6 +54,10 @@ LONG textBottom() {
     return margin + static_cast<LONG>(question->lines.size()) * lineHeight;
 }
 
+LONG detailTop() {
+    return textBottom() + margin + rowHeight;
+}
+
 HWND createControl(HWND window, LPCSTR name, LPCSTR text, DWORD style, RECT place, int controlId) {
     return CreateWindowExA(0, name, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
                            place.right - place.left, place.bottom - place.top, window,
@@ -75,28 +80,47 @@ void createControls(HWND window) {
             SendMessageA(question->list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
         }
         SendMessageA(question->list, CB_SETCURSEL, 0, 0);
-        y += rowHeight + margin;
+        y = detailTop() + detailLines * lineHeight + margin;
         createButton(window, "Open", x, y, id::open);
     }
     createButton(window, "Choose...", x, y, id::elsewhere);
     createButton(window, "Cancel", x, y, id::cancel);
 }
 
+// CB_ERR without a list.
+LRESULT pickedEntry() {
+    return question->list != nullptr ? SendMessageA(question->list, CB_GETCURSEL, 0, 0) : LRESULT{CB_ERR};
+}
+
+// An "&" in a path would underline the next letter.
+std::string withoutMarks(const std::string& line) {
+    std::string doubled;
+    for (const char c : line) {
+        doubled.append(c == '&' ? 2 : 1, c);
+    }
+    return doubled;
+}
+
+void drawLines(HDC dc, const std::vector<std::string>& lines, LONG y) {
+    for (const std::string& line : lines) {
+        RECT place{margin, y, width - margin, y + lineHeight};
+        if (!line.empty()) DrawTextA(dc, withoutMarks(line).c_str(), -1, &place, 0);
+        y += lineHeight;
+    }
+}
+
 void paint(HWND window) {
     PAINTSTRUCT painting{};
     const HDC dc = BeginPaint(window, &painting);
-    LONG y = margin;
-    for (const std::string& line : question->lines) {
-        RECT place{margin, y, width - margin, y + lineHeight};
-        if (!line.empty()) DrawTextA(dc, line.c_str(), -1, &place, 0);
-        y += lineHeight;
+    drawLines(dc, question->lines, margin);
+    if (const LRESULT picked = pickedEntry(); picked != CB_ERR) {
+        drawLines(dc, linesOf(question->entries[static_cast<std::size_t>(picked)]), detailTop());
     }
     EndPaint(window, &painting);
 }
 
 void answer(GameAnswer::Kind kind) {
-    const LRESULT picked =
-        question->list != nullptr ? SendMessageA(question->list, CB_GETCURSEL, 0, 0) : LRESULT{CB_ERR};
+    const LRESULT picked = pickedEntry();
     if (kind == GameAnswer::Kind::game && picked == CB_ERR) return;
     question->answer = {kind, static_cast<std::size_t>(std::max<LRESULT>(picked, 0))};
     PostQuitMessage(0);  // ends this window's own loop
@@ -117,7 +141,8 @@ LRESULT CALLBACK questionProc(HWND window, UINT message, WPARAM wParam, LPARAM l
             paint(window);
             return 0;
         case WM_COMMAND:
-            if (HIWORD(wParam) == BN_CLICKED) onCommand(LOWORD(wParam));
+            if (LOWORD(wParam) == id::list) InvalidateRect(window, nullptr, TRUE);
+            if (LOWORD(wParam) != id::list && HIWORD(wParam) == BN_CLICKED) onCommand(LOWORD(wParam));
             return 0;
         case WM_CLOSE:
             answer(GameAnswer::Kind::cancelled);
@@ -138,8 +163,8 @@ HWND createWindow() {
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
     windowClass.lpszClassName = className;
     RegisterClassExA(&windowClass);  // fails the second time, which is no matter
-    const LONG rows = question->entries.empty() ? 1 : 2;
-    const LONG height = textBottom() + margin + rows * (rowHeight + margin) + captionHeight;
+    const LONG listHeight = question->entries.empty() ? 0 : rowHeight + detailLines * lineHeight;
+    const LONG height = textBottom() + margin + listHeight + margin + rowHeight + margin + captionHeight;
     return CreateWindowExA(0, className, programTitle, WS_CAPTION | WS_SYSMENU, 60, 60, width, height, nullptr, nullptr,
                            instance, nullptr);
 }
