@@ -8,7 +8,7 @@ namespace {
 
 // Empty if a character has no place in the code page: a similar one would lead elsewhere.
 std::string converted(const wchar_t* path) {
-    std::array<char, 2 * MAX_PATH> text{};
+    std::array<char, std::size_t{2} * MAX_PATH> text{};  // some code pages take two bytes
     BOOL replaced = FALSE;
     const int size = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, path, -1, text.data(),
                                          static_cast<int>(text.size()), nullptr, &replaced);
@@ -18,7 +18,7 @@ std::string converted(const wchar_t* path) {
 }  // namespace
 
 std::string ansiPath(const wchar_t* path) {
-    const std::string text = converted(path);
+    std::string text = converted(path);
     if (!text.empty()) return text;
     std::array<wchar_t, MAX_PATH> shortPath{};
     const DWORD length = GetShortPathNameW(path, shortPath.data(), shortPath.size());
