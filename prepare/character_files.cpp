@@ -19,12 +19,6 @@
 
 namespace {
 
-// Whether the name is like "User00042.iff", in any case. A save that broke off leaves files of other names, which start
-// with "TMP".
-bool isCharacterName(const std::string& name) {
-    return lowered(name).starts_with("user") && lowered(name).ends_with(".iff");
-}
-
 struct Candidate {
     std::vector<IffChunk> chunks;
     Bytes madeTemplate;  // empty if the file doesn't serve
@@ -46,6 +40,11 @@ void addIfServes(const std::string& path, TemplateSource& source, SourceChoice& 
 }
 
 }  // namespace
+
+// A save that broke off leaves files of other names, which start with "TMP".
+bool isCharacterName(const std::string& name) {
+    return lowered(name).starts_with("user") && lowered(name).ends_with(".iff");
+}
 
 // A save may write a name in another case than the game.
 std::vector<std::string> characterNamesIn(const char* directory) {

@@ -14,6 +14,9 @@ struct TemplateSource {
     int unreadable = 0;  // of these
 };
 
+// Whether the name is like "User00042.iff", in any case.
+bool isCharacterName(const std::string& name);
+
 // The names of the character files in a directory, in any case and sorted without it: "User00042.iff".
 std::vector<std::string> characterNamesIn(const char* directory);
 

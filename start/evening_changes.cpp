@@ -14,6 +14,7 @@
 namespace {
 
 constexpr const char* housesDirectory = "Houses";
+constexpr const char* extension = ".iff";
 
 // Some file systems store times in steps of two seconds.
 constexpr std::int64_t coarsestTime = 2;
@@ -59,22 +60,18 @@ bool hasOldVersion(const std::string& directory, const std::string& file, std::i
     return std::ranges::any_of(fileNamesIn(backups.c_str()), isNewBackup);
 }
 
-// A save writes no file with one of these names, and a copy has none of them but the live ones.
-bool isOfSave(const std::string& name) {
-    const bool isPart = !(fileOfPart(name) + fileOfAside(name)).empty() || name.starts_with("~part");
-    return isPart || name.starts_with(lowered(temporaryPrefix)) || name == neighborhoodFileName;
-}
-
-bool hasChangedFile(const std::string& before, const std::string& now, std::int64_t begin) {
-    return std::ranges::any_of(namesInEither(before, now), [&](const std::string& name) {
-        return !isOfSave(name) && isChanged(before + '\\' + name, now + '\\' + name, begin);
+bool hasChangedHouse(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {
+    const std::string directories[] = {before.path(housesDirectory), now.path(housesDirectory)};
+    return std::ranges::any_of(namesInEither(directories[0], directories[1]), [&](const std::string& name) {
+        return name.ends_with(extension) &&
+               isChanged(directories[0] + '\\' + name, directories[1] + '\\' + name, begin);
     });
 }
 
 void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin,
                       EveningChanges& changes) {
     for (const std::string& name : namesInEither(before.characters(), now.characters())) {
-        if (isOfSave(name) || !isChanged(before.character(name), now.character(name), begin)) continue;
+        if (!isCharacterName(name) || !isChanged(before.character(name), now.character(name), begin)) continue;
         if (!hasOldVersion(now.characters(), name, begin)) {
             changes.isPlayed = true;
         } else if (isThere(now.character(name))) {
@@ -86,14 +83,14 @@ void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& 
 }  // namespace
 
 EveningChanges changesOf(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {
+    const SteadyDirectories steady;
     EveningChanges changes;
     if (isChanged(before.liveFile(), now.liveFile(), begin)) {
         const bool hasOld = hasOldVersion(now.directory, neighborhoodFileName, begin);
         changes.isSaved = hasOld && isThere(now.liveFile());
-        changes.isPlayed = !hasOld;
+        changes.isReplaced = changes.isPlayed = !hasOld;
     }
     lookAtCharacters(before, now, begin, changes);
-    changes.isPlayed |= hasChangedFile(before.directory, now.directory, begin) ||
-                        hasChangedFile(before.path(housesDirectory), now.path(housesDirectory), begin);
+    changes.isPlayed |= hasChangedHouse(before, now, begin);
     return changes;
 }

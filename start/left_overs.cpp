@@ -11,6 +11,7 @@
 #include "platform/files.h"
 #include "platform/letter_case.h"
 #include "platform/part_names.h"
+#include "prepare/character_files.h"
 #include "prepare/whole_file.h"
 #include "start/neighborhood_files.h"
 #include "start/words.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr std::string_view characterPrefix = "user";
 constexpr std::string_view extension = ".iff";
 
 // What lies beside a live file, or in its place. All are names in its directory.
@@ -41,8 +41,7 @@ struct Place {
 };
 
 bool isSavedName(const std::string& name, const Place& place) {
-    if (!place.isOfCharacters) return equalInAnyCase(name, neighborhoodFileName);
-    return lowered(name).starts_with(characterPrefix) && lowered(name).ends_with(extension);
+    return place.isOfCharacters ? isCharacterName(name) : equalInAnyCase(name, neighborhoodFileName);
 }
 
 // The live file that a name belongs to; empty if it belongs to none.
@@ -201,6 +200,7 @@ void lookIn(const NeighborhoodPlace& neighborhood, std::vector<LeftOver>& found)
 }  // namespace
 
 std::vector<LeftOver> findLeftOvers(const std::string& simsDirectory) {
+    const SteadyDirectories steady;
     std::vector<LeftOver> found;
     for (const NeighborhoodPlace& neighborhood : neighborhoodsIn(simsDirectory)) {
         lookIn(neighborhood, found);

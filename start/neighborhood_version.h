@@ -29,6 +29,9 @@ class NeighborhoodVersion {
     const NeighborhoodPlace& place() const { return place_; }
     const Bytes& file() const { return file_; }
     const std::vector<FamilyEntry>& families() const { return families_; }
+    // False if there may be more families than these.
+    bool hasAllFamilies() const { return families_.size() < Neighborhood::highestFamilyCount; }
+
     std::int32_t simCount() const { return neighborhood_->simCount(); }
     Sim& sim(std::int32_t index) const { return *neighborhood_->sim(index); }
 

@@ -56,9 +56,9 @@ void lookAt(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::
     const EveningChanges changes = changesOf(before, now, begin);
     findings.report.hasSaved |= changes.isByEditor();
     if (changes.isByEditor()) sayWhatWasSaved(before, now, changes, findings);
-    if (!changes.isPlayed) return;
     const std::string played = "The game saved " + now.name() + " while Tidewright was open";
-    findings.say(played + (changes.isSaved ? ", too." : "; what you changed in it was not saved."));
+    if (changes.isReplaced) findings.say(played + "; what you changed in it was not saved.");
+    if (changes.isSaved && changes.isPlayed) findings.say(played + ", too.");
 }
 
 void sayLeftOvers(const Evening& evening, Findings& findings) {
