@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstdio>
 
-#include "platform/file_place.h"
 #include "platform/files.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
@@ -35,9 +34,11 @@ bool canReplace(const std::string& path) {
     return version.open(path.c_str()) != nullptr;
 }
 
-// Neither is there as a rule. A link to the live file is refused by a save, which would destroy the only old version.
+// A link to the live file is refused by a save, which would destroy the only old version.
 bool canBeTemporary(const std::string& path, const std::string& live) {
-    return FilePlace(path.c_str()).isReplaceable() && !isSameFile(path.c_str(), live.c_str());
+    FileStatus status{};
+    if (!queryFileStatus(path.c_str(), status)) return true;  // as a rule
+    return status.mode == writableFileMode && !isSameFile(path.c_str(), live.c_str());
 }
 
 void tryNeighborhoodFile(const NeighborhoodPlace& place, Readiness& readiness) {
@@ -66,11 +67,12 @@ CharacterFaults faultsOf(const NeighborhoodPlace& place) {
     CharacterFaults faults;
     for (const std::string& name : characterNamesIn(place.characters().c_str())) {
         const std::string live = place.character(name);
-        faults.largest = std::max(faults.largest, sizeOf(live));
+        FileStatus status{};
+        queryFileStatus(live.c_str(), status);
+        faults.largest = std::max(faults.largest, status.size);
         if (!canRead(live)) {
             faults.unreadable.push_back(name);
-        } else if (!FilePlace(live.c_str()).isReplaceable() ||
-                   !canBeTemporary(place.character(temporaryPrefix + name), live)) {
+        } else if (status.mode != writableFileMode || !canBeTemporary(place.character(temporaryPrefix + name), live)) {
             faults.writeProtected.push_back(name);
         }
     }
