@@ -13,6 +13,7 @@
 #include "platform/part_names.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
+#include "start/neighbor_records.h"
 #include "start/neighborhood_files.h"
 #include "start/words.h"
 #include "world/paths.h"
@@ -99,7 +100,8 @@ std::string newestBackupOf(const Remains& remains, const Place& place) {
     for (const std::string& name : fileNamesIn(directory.c_str())) {
         FileStatus status{};
         if (!lowered(name).starts_with(stem) || !lowered(name).ends_with(extension)) continue;
-        if (!queryFileStatus((directory + '\\' + name).c_str(), status)) continue;
+        const std::string path = directory + '\\' + name;
+        if (!queryFileStatus(path.c_str(), status)) continue;
         if (!newest.empty() && status.written < time) continue;
         newest = name;
         time = status.written;
@@ -125,7 +127,7 @@ bool isExpected(const Remains& remains, const Place& place) {
     const std::optional<Bytes> file = readWholeFile(place.neighborhood.liveFile().c_str());
     if (!file) return true;
     const std::string record = lowered(remains.live.substr(0, remains.live.size() - extension.size()));
-    return !std::ranges::search(*file, record).empty();
+    return nextTag(*file, record, 0) < file->size();
 }
 
 // An older version of this program copied the new version over the live file, and could be cut off there. Other tools

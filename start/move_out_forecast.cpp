@@ -46,8 +46,7 @@ std::size_t endOfLast(const Bytes& file, std::string_view tag) {
 
 // A family whose name is cut off is gone, too: the editor would take the next one's.
 bool isCutOff(const Bytes& file, const Family& family, std::size_t cut) {
-    const auto table = static_cast<std::size_t>(family.memberTableOffset() + family.tableSize());
-    const std::size_t name = nextTag(file, familyName::chunkTag, table);
+    const std::size_t name = nextTag(file, familyName::chunkTag, static_cast<std::size_t>(family.memberTableOffset()));
     return name == file.size() || endOfChunk(file, name, familyName::chunkTag) > cut;
 }
 

@@ -1,7 +1,6 @@
 #include "start/neighbor_records.h"
 
 #include <algorithm>
-#include <span>
 
 #include "world/neighborhood_layout.h"
 
@@ -18,10 +17,8 @@ static_assert(baseBegin.starts_with(neighborRecord::marker) && baseBegin.ends_wi
 }  // namespace
 
 std::size_t nextTag(const Bytes& file, std::string_view tag, std::size_t from) {
-    const std::size_t begin = std::min(from, file.size());
-    const auto rest = std::span(file).subspan(begin);
-    const auto hit = std::ranges::search(rest, tag);
-    return hit.empty() ? file.size() : begin + static_cast<std::size_t>(hit.begin() - rest.begin());
+    const auto begin = file.begin() + static_cast<std::ptrdiff_t>(std::min(from, file.size()));
+    return static_cast<std::size_t>(std::search(begin, file.end(), tag.begin(), tag.end()) - file.begin());
 }
 
 std::size_t countSims(const Bytes& file, Edition edition, std::size_t offset) {

@@ -83,7 +83,7 @@ void sayEnd(const std::string& game, Findings& findings) {
 
 EveningReport reportOn(const Evening& evening) {
     Findings findings;
-    for (NeighborhoodPlace before : neighborhoodsIn(evening.before)) {
+    for (const NeighborhoodPlace& before : neighborhoodsIn(evening.before)) {
         NeighborhoodPlace now = before;
         now.directory = evening.game + before.directory.substr(evening.before.size());
         lookAt(before, now, evening.begin, findings);

@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "start/cut_off.h"
+#include "start/neighbor_records.h"
 #include "start/readiness.h"
 #include "start/words.h"
 #include "tests/start/evening_game.h"
@@ -70,9 +71,8 @@ TEST_F(EveningTest, WhatIsLostIsReported) {
         {"the new body is no teenager's",
          [&] {
              Bytes file = bytesOf("Characters/user00001.iff");
-             const auto skin = std::ranges::search(file, std::string_view("TNR"));
-             const auto next = std::ranges::search(skin.end(), file.end(), "TNR", "TNR" + 3);
-             std::ranges::fill(next, 'x');
+             const std::size_t mesh = nextTag(file, "TNR", 0);
+             overwrite(file, nextTag(file, "TNR", mesh + 1), bytesFrom("fit"));
              write("Characters/user00001.iff", file);
          },
          "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age."},
