@@ -6,7 +6,7 @@
 #include "gamefiles/iff_reader.h"
 #include "platform/files.h"
 #include "start/stage_check.h"
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "prepare/whole_file.h"
 #include "start/neighbor_records.h"
 #include "start/neighborhood_files.h"
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 #include "world/paths.h"
 
 namespace {

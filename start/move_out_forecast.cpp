@@ -9,7 +9,7 @@
 
 #include "gamefiles/iff_builder.h"
 #include "start/neighbor_records.h"
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 #include "world/neighborhood_layout.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "start/neighbor_records.h"
 #include "start/neighborhood_files.h"
 #include "start/save_trial.h"
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 #include "world/neighborhood.h"
 #include "world/sims_directory.h"
 

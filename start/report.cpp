@@ -5,7 +5,7 @@
 #include "start/evening_check.h"
 #include "start/left_overs.h"
 #include "start/readiness.h"
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 
 namespace {
 

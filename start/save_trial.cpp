@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 #include "world/paths.h"
 #include "world/program_files.h"
 

@@ -5,8 +5,8 @@
 #include "start/cut_off.h"
 #include "start/neighbor_records.h"
 #include "start/readiness.h"
-#include "start/words.h"
 #include "tests/start/evening_game.h"
+#include "ui/sentence_parts.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "start/words.h"
+#include "ui/sentence_parts.h"
 
 std::string counted(std::size_t count, const std::string& one, const std::string& many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);

@@ -1,6 +1,6 @@
 // Pieces of the sentences that players read.
-#ifndef START_WORDS_H
-#define START_WORDS_H
+#ifndef UI_SENTENCE_PARTS_H
+#define UI_SENTENCE_PARTS_H
 
 #include <cstddef>
 #include <cstdint>
