@@ -1,0 +1,90 @@
+#include "restore/actions.h"
+
+#include "platform/files.h"
+#include "platform/letter_case.h"
+#include "restore/going_back.h"
+#include "restore/point_words.h"
+#include "ui/sentence_parts.h"
+#include "ui/words.h"
+#include "world/running_game.h"
+
+namespace {
+
+std::string wordsFor(const RestorePoint& point) {
+    return whenWords(point.time, presentTime());
+}
+
+std::string megabytes(std::int64_t bytes) {
+    constexpr std::int64_t megabyte = 1'000'000;
+    return withCommas((bytes + megabyte - 1) / megabyte) + " MB";
+}
+
+std::string sentenceOf(const MadePoint& made) {
+    if (!made.needsRoom) return made.error;
+    return made.error + " It needs " + megabytes(made.neededBytes) + ", and there are " +
+           megabytes(made.availableBytes) + '.';
+}
+
+// The game may have been started since the window opened.
+bool isRefused(const PointsOfGame& game) {
+    if (refuseBesideGame(game.onConsole) != 0) return true;
+    if (!isEditorOpen()) return false;
+    say("Tidewright is open. Please close it first.", game.onConsole);
+    return true;
+}
+
+}  // namespace
+
+bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
+    if (isRefused(game)) return false;
+    std::string question = "Go back to " + wordsFor(point) + "?\n";
+    for (const std::string& line : comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood)) {
+        question += '\n' + line;
+    }
+    question += "\n\nA restore point of the present is made first, so this can be undone here.";
+    if (point.damage.empty() && !confirm(question, game.onConsole)) return false;
+    const GoneBack gone = goBack(game.pointsDirectory, point, game.simsDirectory, neighborhood);
+    if (gone.error.empty()) {
+        say("The game is back at the restore point of " + wordsFor(point) + ". To undo this, go back to \"" +
+                gone.present.name + "\".",
+            game.onConsole);
+        return true;
+    }
+    const std::string reason = gone.present.needsRoom ? sentenceOf(gone.present) : gone.error;
+    say(gone.isBetween ? reason +
+                             "\n\nGoing back was cut off half-way. Every file is whole. Start this program again to "
+                             "complete or undo it."
+                       : reason + "\n\nNothing has changed.",
+        game.onConsole);
+    return false;
+}
+
+bool makePoint(const PointsOfGame& game) {
+    if (isRefused(game)) return false;
+    const MadePoint made = makeRestorePoint(game.pointsDirectory, game.simsDirectory, PointReason::byHand);
+    say(made.name.empty() ? sentenceOf(made) : "The restore point \"" + made.name + "\" is made.", game.onConsole);
+    return !made.name.empty();
+}
+
+bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point) {
+    const std::string question = "Delete the restore point \"" + point.name + "\"? You can't go back to it then.";
+    if (!confirm(question, game.onConsole)) return false;
+    if (deleteRestorePoint(game.pointsDirectory, point.name)) return true;
+    say("The restore point can't be deleted whole: " + point.name, game.onConsole);
+    return false;
+}
+
+bool finishEarlier(const PointsOfGame& game) {
+    const auto note = unfinishedGoingBack(game.pointsDirectory);
+    if (!note || !equalInAnyCase(note->simsDirectory, game.simsDirectory)) return true;
+    if (isRefused(game)) return false;
+    const bool completes =
+        confirm("Going back to \"" + note->target +
+                    "\" was cut off. Every file is whole, but some are those of that "
+                    "restore point and some are newer.\n\n[OK] goes back to it.\n[Cancel] goes to what was before.",
+                game.onConsole);
+    GoneBack gone = finishGoingBack(game.pointsDirectory, completes ? Finish::complete : Finish::undo);
+    if (gone.error.empty()) return true;
+    say(sentenceOf(gone.present).empty() ? gone.error : sentenceOf(gone.present), game.onConsole);
+    return false;
+}

@@ -1,0 +1,262 @@
+#include "restore/going_back_window.h"
+
+#include <algorithm>
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "platform/win32.h"
+#include "resources/ids.h"
+#include "restore/going_back.h"
+#include "restore/point_files.h"
+#include "restore/point_words.h"
+#include "ui/cursors.h"
+
+namespace {
+
+constexpr const char* className = "TIDEWRIGHT RESTORE";
+
+namespace id {
+constexpr int pointList = 1001;
+constexpr int neighborhoodList = 1002;
+constexpr int goBackButton = 2001;
+constexpr int makeButton = 2002;
+constexpr int deleteButton = 2003;
+}  // namespace id
+
+constexpr LONG width = 700;
+constexpr LONG height = 330;
+constexpr LONG margin = 10;
+constexpr LONG labelWidth = 120;
+constexpr LONG lineHeight = 20;
+constexpr LONG rowHeight = 35;
+constexpr LONG buttonHeight = 30;
+constexpr LONG pointTop = margin;
+constexpr LONG neighborhoodTop = pointTop + rowHeight;
+constexpr LONG linesTop = neighborhoodTop + rowHeight + margin;
+constexpr LONG lineCount = 8;
+constexpr LONG buttonTop = linesTop + lineCount * lineHeight + margin;
+constexpr LONG openListHeight = 220;
+
+// Letters in a line of the window. Those of the usual fonts are narrower than the average that this allows for.
+constexpr std::size_t lineLength = 96;
+
+// All that the window shows.
+struct Shown {
+    PointsOfGame game;
+    std::vector<RestorePoint> points;
+    std::vector<int> neighborhoods;  // of the list, without the first entry "All"
+    std::vector<std::string> lines;
+    HWND window = nullptr;
+    HWND pointList = nullptr;
+    HWND neighborhoodList = nullptr;
+};
+
+Shown* shown = nullptr;
+
+LRESULT send(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageA(control, message, wParam, lParam);
+}
+
+void empty(HWND list) {
+    while (send(list, CB_GETCOUNT) > 0) {
+        send(list, CB_DELETESTRING);
+    }
+}
+
+void add(HWND list, const std::string& entry) {
+    send(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+}
+
+RestorePoint* pickedPoint() {
+    const LRESULT index = send(shown->pointList, CB_GETCURSEL);
+    if (index < 0 || index >= static_cast<LRESULT>(shown->points.size())) return nullptr;
+    return &shown->points[static_cast<std::size_t>(index)];
+}
+
+int pickedNeighborhood() {
+    const LRESULT index = send(shown->neighborhoodList, CB_GETCURSEL);
+    const auto count = static_cast<LRESULT>(shown->neighborhoods.size());
+    if (index < 1 || index > count) return allNeighborhoods;
+    return shown->neighborhoods[static_cast<std::size_t>(index - 1)];
+}
+
+// The text in lines of the window, broken between words.
+void addWrapped(std::string_view text) {
+    while (text.size() > lineLength) {
+        const std::size_t space = text.rfind(' ', lineLength);
+        const std::size_t end = space == std::string_view::npos || space == 0 ? lineLength : space;
+        shown->lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(space == end ? end + 1 : end, text.size()));
+    }
+    shown->lines.emplace_back(text);
+}
+
+void describePick() {
+    shown->lines.clear();
+    const RestorePoint* const point = pickedPoint();
+    const PointsOfGame& game = shown->game;
+    if (point == nullptr) {
+        addWrapped("There is no restore point yet. tidewright-start makes one before each evening.");
+    } else if (!point->damage.empty()) {
+        addWrapped("This restore point isn't whole: you can't go back to it. " + point->damage);
+    } else {
+        for (const std::string& line :
+             comparisonLines(game.pointsDirectory, *point, game.simsDirectory, pickedNeighborhood())) {
+            addWrapped(line);
+        }
+    }
+    InvalidateRect(shown->window, nullptr, TRUE);
+}
+
+// Fills the list of neighborhoods with those of the picked point.
+void pickPoint() {
+    showWaitCursor();
+    empty(shown->neighborhoodList);
+    std::set<int> numbers;
+    if (const RestorePoint* const point = pickedPoint()) {
+        for (const PointFile& file : point->files) {
+            numbers.insert(neighborhoodOf(file.path));
+        }
+    }
+    shown->neighborhoods.assign(numbers.begin(), numbers.end());
+    add(shown->neighborhoodList, "All");
+    for (const int number : shown->neighborhoods) {
+        add(shown->neighborhoodList, "Neighborhood " + std::to_string(number));
+    }
+    send(shown->neighborhoodList, CB_SETCURSEL, 0);
+    describePick();
+    showArrowCursor();
+}
+
+void refill() {
+    showWaitCursor();
+    const PointsOfGame& game = shown->game;
+    shown->points = listRestorePoints(game.pointsDirectory);
+    checkPoints(game.pointsDirectory, shown->points);
+    empty(shown->pointList);
+    for (const std::string& entry :
+         pointEntries(game.pointsDirectory, shown->points, game.simsDirectory, presentTime())) {
+        add(shown->pointList, entry);
+    }
+    if (!shown->points.empty()) send(shown->pointList, CB_SETCURSEL, 0);
+    pickPoint();
+}
+
+HWND createControl(HWND window, LPCSTR name, LPCSTR text, DWORD style, RECT place, int controlId) {
+    return CreateWindowExA(0, name, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
+                           place.right - place.left, place.bottom - place.top, window,
+                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(controlId)), GetModuleHandleA(nullptr),
+                           nullptr);
+}
+
+HWND createList(HWND window, LONG top, int controlId) {
+    constexpr DWORD style = CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL;
+    constexpr LONG left = margin + labelWidth;
+    return createControl(window, "ComboBox", "", style, {left, top, width - 3 * margin, top + openListHeight},
+                         controlId);
+}
+
+void onCreate(HWND window) {
+    shown->window = window;
+    shown->pointList = createList(window, pointTop, id::pointList);
+    shown->neighborhoodList = createList(window, neighborhoodTop, id::neighborhoodList);
+    LONG x = margin;
+    const auto addButton = [&](LPCSTR text, LONG buttonWidth, int controlId) {
+        createControl(window, "Button", text, 0, {x, buttonTop, x + buttonWidth, buttonTop + buttonHeight}, controlId);
+        x += buttonWidth + margin;
+    };
+    addButton("Go Back", 120, id::goBackButton);
+    addButton("Make a Restore Point", 200, id::makeButton);
+    addButton("Delete", 120, id::deleteButton);
+}
+
+void drawLine(HDC dc, const std::string& text, LONG left, LONG top, LONG right) {
+    RECT place{left, top, right, top + lineHeight};
+    if (!text.empty()) DrawTextA(dc, text.c_str(), -1, &place, 0);
+}
+
+void onPaint(HWND window) {
+    constexpr LONG textDrop = 4;  // beside the lists' own texts
+    PAINTSTRUCT painting{};
+    const HDC dc = BeginPaint(window, &painting);
+    drawLine(dc, "Restore point:", margin, pointTop + textDrop, margin + labelWidth);
+    drawLine(dc, "Neighborhood:", margin, neighborhoodTop + textDrop, margin + labelWidth);
+    for (std::size_t i = 0; i < shown->lines.size() && i < static_cast<std::size_t>(lineCount); ++i) {
+        drawLine(dc, shown->lines[i], margin, linesTop + static_cast<LONG>(i) * lineHeight, width - 2 * margin);
+    }
+    EndPaint(window, &painting);
+}
+
+void onButton(int controlId) {
+    const RestorePoint* const point = pickedPoint();
+    bool isDone = false;
+    if (controlId == id::makeButton) isDone = makePoint(shown->game);
+    if (controlId == id::goBackButton && point != nullptr) {
+        isDone = goBackAfterQuestion(shown->game, *point, pickedNeighborhood());
+    }
+    if (controlId == id::deleteButton && point != nullptr) isDone = deleteAfterQuestion(shown->game, *point);
+    if (isDone) refill();
+}
+
+void onCommand(int controlId, int notification) {
+    if (notification == CBN_SELCHANGE && controlId == id::pointList) pickPoint();
+    if (notification == CBN_SELCHANGE && controlId == id::neighborhoodList) describePick();
+    if (notification == BN_CLICKED && controlId >= id::goBackButton) onButton(controlId);
+}
+
+LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_CREATE:
+            onCreate(window);
+            return 0;
+        case WM_PAINT:
+            onPaint(window);
+            return 0;
+        case WM_COMMAND:
+            onCommand(LOWORD(wParam), HIWORD(wParam));
+            return 0;
+        case WM_DESTROY:
+            PostQuitMessage(0);
+            return 0;
+        default:
+            return DefWindowProcA(window, message, wParam, lParam);
+    }
+}
+
+HWND createWindow() {
+    const HINSTANCE instance = GetModuleHandleA(nullptr);
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.lpfnWndProc = windowProc;
+    windowClass.hInstance = instance;
+    windowClass.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_MAIN));
+    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
+    windowClass.lpszClassName = className;
+    RegisterClassExA(&windowClass);  // fails the second time, which is no matter
+    return CreateWindowExA(0, className, goingBackTitle, WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, 40, 40, width,
+                           height, nullptr, nullptr, instance, nullptr);
+}
+
+}  // namespace
+
+bool showGoingBackWindow(const PointsOfGame& game) {
+    Shown all;
+    all.game = game;
+    shown = &all;
+    HWND const window = createWindow();
+    if (window != nullptr) {
+        ShowWindow(window, SW_SHOW);
+        refill();
+        UpdateWindow(window);
+        MSG message{};
+        while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
+    }
+    shown = nullptr;
+    return window != nullptr;
+}

@@ -1,0 +1,13 @@
+// The window "Go Back".
+#ifndef RESTORE_GOING_BACK_WINDOW_H
+#define RESTORE_GOING_BACK_WINDOW_H
+
+#include "restore/actions.h"
+
+// Its title. The title "Tidewright" is the editor's alone.
+constexpr const char* goingBackTitle = "Go Back - Tidewright";
+
+// Shows the window until it is closed. False if it can't be opened.
+bool showGoingBackWindow(const PointsOfGame& game);
+
+#endif

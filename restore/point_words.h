@@ -1,0 +1,31 @@
+// A restore point in words.
+#ifndef RESTORE_POINT_WORDS_H
+#define RESTORE_POINT_WORDS_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "restore/restore_points.h"
+
+// In local time as seen from `now`, both in UTC: "today 20:12", "yesterday 20:12", "24 November 20:12", and with the
+// year if that is another one.
+std::string whenWords(const SYSTEMTIME& time, const SYSTEMTIME& now);
+
+// "24 November" for "2026-11-24 ...", the form of platform/last_written.h; empty for another text.
+std::string dayWords(std::string_view lastWritten);
+
+// As --list shows it.
+std::string utcText(const SYSTEMTIME& time);
+std::string_view reasonText(PointReason reason);
+
+// What the game's files are now, seen from a point: lines to be read, without line breaks.
+std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,
+                                         const std::string& simsDirectory, int neighborhood);
+
+// An entry of the list for each point: "today 20:12 - Bramble Thistlewood became an adult, moved out". `points` are
+// the newest first.
+std::vector<std::string> pointEntries(const std::string& pointsDirectory, const std::vector<RestorePoint>& points,
+                                      const std::string& simsDirectory, const SYSTEMTIME& now);
+
+#endif

@@ -1,0 +1,97 @@
+#include "restore/program.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/console.h"
+#include "platform/files.h"
+#include "platform/own_directory.h"
+#include "platform/win32.h"
+#include "restore/actions.h"
+#include "restore/going_back_window.h"
+#include "restore/point_words.h"
+#include "restore/restore_options.h"
+#include "ui/cursors.h"
+#include "ui/words.h"
+#include "world/game_search.h"
+#include "world/running_game.h"
+
+namespace {
+
+constexpr int done = 0;
+constexpr int failed = 1;
+
+// Relative to the own directory, so that the paths in it are short.
+constexpr const char* pointsDirectory = "restore-points";
+
+int fail(const std::string& sentence, bool onConsole) {
+    say(sentence, onConsole);
+    return failed;
+}
+
+// The game, with its own directory as the working directory. No value after words that say why.
+std::optional<PointsOfGame> findPoints(bool onConsole, DirectoryText& simsDirectory) {
+    const OwnDirectory own = ownDirectory(programTitle);
+    if (!own.fault.empty()) {
+        say(own.fault, onConsole);
+        return std::nullopt;
+    }
+    if (findGame({"", onConsole}, own.path, simsDirectory) != 0) return std::nullopt;
+    if (SetCurrentDirectoryA(own.path.c_str()) == FALSE) {
+        say("This directory can't be entered: " + own.path, onConsole);
+        return std::nullopt;
+    }
+    return PointsOfGame{pointsDirectory, simsDirectory.c_str(), onConsole};
+}
+
+int list(const PointsOfGame& game) {
+    std::string text;
+    std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
+    checkPoints(game.pointsDirectory, points);
+    for (const RestorePoint& point : points) {
+        const std::string reason = point.damage.empty() ? std::string(reasonText(point.reason)) : "not whole";
+        text += point.name + '\t' + (point.time.wYear != 0 ? utcText(point.time) : "") + '\t' + reason + '\n';
+    }
+    return writeToOutput(text) ? done : failed;
+}
+
+int goBackTo(const PointsOfGame& game, const RestoreOptions& options) {
+    const std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
+    const auto point = std::ranges::find(points, options.target, &RestorePoint::name);
+    if (point == points.end()) {
+        return fail("There is no restore point of this name: " + options.target, game.onConsole);
+    }
+    return goBackAfterQuestion(game, *point, options.neighborhood) ? done : failed;
+}
+
+// What changes something, or shows the window. The game's lock is held meanwhile.
+int change(const PointsOfGame& game, const RestoreOptions& options, const DirectoryText& simsDirectory) {
+    const DirectoryLock lock(lockedDirectory(simsDirectory).c_str());
+    if (refuseSecondStart(lock, game.onConsole) != 0) return failed;
+    if (isEditorOpen()) return fail("Tidewright is open. Please close it first.", game.onConsole);
+    if (refuseBesideGame(game.onConsole) != 0 || !finishEarlier(game)) return failed;
+    if (options.make) return makePoint(game) ? done : failed;
+    if (!options.target.empty()) return goBackTo(game, options);
+    return showGoingBackWindow(game) ? done : failed;
+}
+
+}  // namespace
+
+int runRestore(int argumentCount, char** arguments) {
+    const RestoreOptions options = restoreOptionsOf(argumentCount, arguments);
+    if (!options.fault.empty()) {
+        writeToErrors(options.fault + "\n" + restoreOptionList());
+        return failed;
+    }
+    if (options.help || options.version) {
+        const std::string text = options.help ? restoreOptionList() : "tidewright-restore " TIDEWRIGHT_VERSION "\n";
+        return writeToOutput(text) ? done : failed;
+    }
+    loadCursors();
+    // A list is read by other programs, which answer no question.
+    const bool onConsole = options.askNothing || options.list;
+    DirectoryText simsDirectory;
+    const auto game = findPoints(onConsole, simsDirectory);
+    if (!game) return failed;
+    return options.list ? list(*game) : change(*game, options, simsDirectory);
+}
