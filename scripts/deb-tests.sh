@@ -14,8 +14,8 @@ remove_deb() {
 deb_contents() {
     local library package
     expect "the list of what isn't plainly root's to write and everyone's to read" \
-        "lrwxrwxrwx root/root ./usr/bin/tidewright \
-$(printf -- '-rwxr-xr-x root/root ./usr/libexec/tidewright/%s ' tidewright tidewright-start)" \
+        "lrwxrwxrwx root/root ./usr/bin/tidewright lrwxrwxrwx root/root ./usr/bin/tidewright-restore \
+$(printf -- '-rwxr-xr-x root/root ./usr/libexec/tidewright/%s ' tidewright tidewright-{restore,start})" \
         "$(dpkg-deb -c "$deb" | awk '$1 " " $2 !~ /^(drwxr-xr-x|-rw-r--r--) root\/root$/ { print $1, $2, $6 }' | sort -k3 | tr '\n' ' ')"
 
     dpkg-deb -x "$deb" "$work/unpacked"
