@@ -21,7 +21,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* gamePath = "drive_c/Program Files (x86)/Maxis/The Sims";
 constexpr const char* gameAsRegistered = "C:\\Program Files (x86)\\Maxis\\The Sims\\";
 
 // The home directory is empty, and the player's own directory is "own".

@@ -53,6 +53,10 @@ bool isPrefix(const std::string& path) {
     return stat((path + "/system.reg").c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+std::string inside(const std::string& directory, const std::string& name) {
+    return std::string(directory).append("/").append(name);
+}
+
 // The names of the directories in a directory, sorted.
 std::vector<std::string> directoriesIn(const std::string& path) {
     std::vector<std::string> names;
@@ -60,7 +64,7 @@ std::vector<std::string> directoriesIn(const std::string& path) {
     const std::unique_ptr<DIR, decltype(close)> directory(opendir(path.c_str()), close);
     while (const dirent* const entry = directory != nullptr ? readdir(directory.get()) : nullptr) {
         const std::string name = entry->d_name;
-        if (name != "." && name != ".." && isDirectory(path + '/' + name)) names.push_back(name);
+        if (name != "." && name != ".." && isDirectory(inside(path, name))) names.push_back(name);
     }
     std::ranges::sort(names);
     return names;
@@ -76,7 +80,7 @@ std::vector<std::string> expanded(const std::string& base, std::string_view patt
         std::vector<std::string> deeper;
         for (const std::string& path : paths) {
             for (const std::string& name : component == "*" ? directoriesIn(path) : std::vector{component}) {
-                if (isDirectory(path + '/' + name)) deeper.push_back(path + '/' + name);
+                if (isDirectory(inside(path, name))) deeper.push_back(inside(path, name));
             }
         }
         paths = std::move(deeper);
@@ -118,14 +122,14 @@ std::vector<std::string> meantDirectories(const std::string& base, std::string_v
         if (component.empty()) continue;
         std::vector<std::string> deeper;
         for (const std::string& directory : meant) {
-            const std::string exact = nativePath((directory + '/' + component).c_str());
+            const std::string exact = nativePath((inside(directory, component)).c_str());
             if (isDirectory(exact)) {
                 deeper.push_back(exact);
                 continue;
             }
             if (component.find('~') == std::string::npos) continue;
             for (const std::string& name : directoriesIn(directory)) {
-                if (mayBeShort(component, name)) deeper.push_back(directory + '/' + name);
+                if (mayBeShort(component, name)) deeper.push_back(inside(directory, name));
             }
         }
         meant = std::move(deeper);
