@@ -122,7 +122,7 @@ std::vector<std::string> meantDirectories(const std::string& base, std::string_v
         if (component.empty()) continue;
         std::vector<std::string> deeper;
         for (const std::string& directory : meant) {
-            const std::string exact = nativePath((inside(directory, component)).c_str());
+            const std::string exact = nativePath(inside(directory, component).c_str());
             if (isDirectory(exact)) {
                 deeper.push_back(exact);
                 continue;
@@ -250,7 +250,7 @@ RegisteredDirectory registeredDirectory(const std::string& prefix, const char* k
 std::vector<std::string> usersDirectories(const std::string& prefix, const std::string& below) {
     std::vector<std::string> found;
     for (const std::string& user : expanded(driveDirectory(prefix, 'c'), "users/*")) {
-        const std::string path = nativePath((user + '\\' + below).c_str());
+        const std::string path = nativePath(inside(user, below).c_str());
         if (isDirectory(path)) found.push_back(path);
     }
     return found;
