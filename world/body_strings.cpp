@@ -6,6 +6,18 @@ BodyStrings::BodyStrings() {
     slots_[bodySlot::gender].assign("female");
 }
 
+namespace {
+
+// Returns whether the text has an "=".
+bool splitPair(std::string_view text, BodyStrings::Slot& first, BodyStrings::Slot& second) {
+    const std::size_t mark = text.find(bodyText::pairMark);
+    first.assign(text.substr(0, mark));
+    second.assign(mark == std::string_view::npos ? std::string_view() : text.substr(mark + 1));
+    return mark != std::string_view::npos;
+}
+
+}  // namespace
+
 int readToken(TokenText& text, StreamView& stream) {
     text.clear();
     for (;;) {
@@ -25,16 +37,17 @@ int readToken(TokenText& text, StreamView& stream) {
 int readPair(BodyStrings::Slot& first, BodyStrings::Slot& second, StreamView& stream) {
     TokenText text;
     const int status = readToken(text, stream);
-    if (status != tokenStatus::read) return status;
-    const std::string_view all = text.view();
-    const std::size_t mark = all.find(bodyText::pairMark);
-    first.assign(all.substr(0, mark));
-    second.assign(mark == std::string_view::npos ? std::string_view() : all.substr(mark + 1));
+    if (status == tokenStatus::read) splitPair(text, first, second);
     return status;
 }
 
-void BodyStrings::parsePair(StreamView& stream, bodySlot::Index first) {
-    readPair(slots_[first], slots_[bodyText::secondOf(first)], stream);
+int BodyStrings::parsePair(StreamView& stream, bodySlot::Index first) {
+    TokenText text;
+    const int status = readToken(text, stream);
+    if (status == tokenStatus::read) {
+        unmarked_[first] = !splitPair(text, slots_[first], slots_[bodyText::secondOf(first)]);
+    }
+    return status;
 }
 
 void BodyStrings::parseSingle(StreamView& stream, bodySlot::Index slot) {
@@ -52,7 +65,7 @@ void BodyStrings::parse(StreamView stream, std::int16_t simVersion) {
         }
     }
     version_ = simVersion;
-    if (readPair(slots_[bodySlot::f100Mesh], slots_[bodySlot::f100Skin], stream) != tokenStatus::read) {
+    if (parsePair(stream, bodySlot::f100Mesh) != tokenStatus::read) {
         // The text ends before entry 30: it comes from a game without the later expansions, whatever the record says.
         if (simVersion == bodyText::extendedVersion) version_ = bodyText::extendedVersion - 1;
         slots_[bodySlot::f100Mesh].clear();
@@ -62,8 +75,10 @@ void BodyStrings::parse(StreamView stream, std::int16_t simVersion) {
     version_ = bodyText::extendedVersion;
     parsePair(stream, bodySlot::s100Mesh);
     parsePair(stream, bodySlot::l100Mesh);
-    if (readPair(slots_[bodySlot::w100Mesh], slots_[bodySlot::w100Skin], stream) != tokenStatus::read) {
+    if (parsePair(stream, bodySlot::w100Mesh) != tokenStatus::read) {
         slots_[bodySlot::w100Mesh].clear();
         slots_[bodySlot::w100Skin].clear();
+        return;
     }
+    if (TokenText last; readToken(last, stream) == tokenStatus::read) lastText_.assign(last);
 }

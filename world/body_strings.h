@@ -4,6 +4,7 @@
 #define WORLD_BODY_STRINGS_H
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -73,6 +74,7 @@ class BodyStrings {
  public:
     static constexpr std::size_t slotCapacity = 149;
     using Slot = FixedText<slotCapacity>;
+    static constexpr std::string_view missingOutfit = "ADDED";  // what the game itself writes for one
 
     // All slots are empty, except that the gender is "female". `parse` starts from this.
     BodyStrings();
@@ -121,11 +123,13 @@ class BodyStrings {
 
     // Writes the text in the layout of `simVersion`, then fill bytes up to and including index `limit`. A text that
     // reaches beyond `limit` gets no fill, and one that reaches beyond `buffer` is cut there. Returns the position
-    // behind the last byte written.
-    std::size_t serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion) const;
+    // behind the last byte written. With `allTexts` a text of version 7 or above is that of later editions: "ADDED"
+    // stands for a missing outfit, what was read without "=" is written without, and no pattern ends it.
+    std::size_t serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion,
+                          bool allTexts = false) const;
 
  private:
-    void parsePair(StreamView& stream, bodySlot::Index first);
+    int parsePair(StreamView& stream, bodySlot::Index first);
     void parseSingle(StreamView& stream, bodySlot::Index slot);
     void setFixedSlots(std::string_view tone);
     void setGrownSlots(bool female, std::string_view tone, std::int16_t bodyType);
@@ -134,6 +138,8 @@ class BodyStrings {
 
     std::int16_t version_ = 0;
     std::array<Slot, bodySlot::count> slots_;
+    std::bitset<bodySlot::count> unmarked_;  // the first slots of pairs that were read without "="
+    Slot lastText_{missingOutfit};           // entry 34, which only later editions have
 };
 
 // Results of readToken and readPair.

@@ -37,18 +37,16 @@ class TextWriter {
     std::size_t position_ = 0;
 };
 
-void appendPair(TextWriter& writer, std::string_view first, std::string_view second) {
-    writer.append(first);
-    writer.append(static_cast<std::uint8_t>(bodyText::pairMark));
-    writer.append(second);
-}
-
 }  // namespace
 
-std::size_t BodyStrings::serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion) const {
+std::size_t BodyStrings::serialise(std::span<std::uint8_t> buffer, std::size_t limit, std::int16_t simVersion,
+                                   bool allTexts) const {
     TextWriter writer(buffer);
     const auto pair = [&](bodySlot::Index first) {
-        appendPair(writer, slots_[first], slots_[bodyText::secondOf(first)]);
+        const std::string_view second = slots_[bodyText::secondOf(first)];
+        writer.append(slots_[first]);
+        if (!allTexts || !unmarked_[first] || !second.empty()) writer.append(std::uint8_t{bodyText::pairMark});
+        writer.append(second);
     };
 
     for (const auto& entry : bodyText::commonEntries) {
@@ -69,9 +67,15 @@ std::size_t BodyStrings::serialise(std::span<std::uint8_t> buffer, std::size_t l
         writer.append(bodyText::separator);
         pair(bodySlot::l100Mesh);
         writer.append(bodyText::separator);
-        if (slots_[bodySlot::w100Mesh].size() >= bodyText::shortestExpansionOutfit &&
-            slots_[bodySlot::w100Skin].size() >= bodyText::shortestExpansionOutfit) {
-            pair(bodySlot::w100Mesh);
+        const bool hasWinterOutfit = slots_[bodySlot::w100Mesh].size() >= bodyText::shortestExpansionOutfit &&
+                                     slots_[bodySlot::w100Skin].size() >= bodyText::shortestExpansionOutfit;
+        if (hasWinterOutfit) pair(bodySlot::w100Mesh);
+        if (allTexts) {
+            if (!hasWinterOutfit) writer.append(missingOutfit);
+            writer.append(bodyText::separator);
+            writer.append(lastText_);
+            writer.append(bodyText::halfSeparator);
+        } else if (hasWinterOutfit) {
             writer.append(bodyText::halfSeparator);
             writer.append(bodyText::trailer);
         }

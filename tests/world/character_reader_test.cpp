@@ -1,5 +1,8 @@
 // Finding tags, reading character files on demand with a resource map and without one, and what damaged files give;
 // body strings as text; and the stage.
+#include <regex>
+
+#include "tests/support/iff_walk.h"
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 #include "world/tag_scan.h"
@@ -80,6 +83,23 @@ TEST(BodyStrings, ATextIsReadAndWrittenBackByteByByte) {
         Bytes buffer(3000);
         buffer.resize(body.serialise(buffer, 1041, simVersion));
         EXPECT_EQ(buffer, filledBodyStringText(slots, written, 1042));
+    }
+}
+
+TEST(BodyStrings, ATextOfLaterEditionsIsWrittenBackWithEachOfIts35Strings) {
+    BodySlots slots = childSlots();
+    slots[sampleSlot::f100Mesh] = "ADDED";
+    const std::string child = textAt(bodyStringText(slots, atEntry34));
+    const std::string noPairs = std::regex_replace(child, std::regex("\1=\0\0"s), "\1\0\0"s);
+    const std::string adult = textAt(bodyStringText(adultSlots(), atEntry34, "h533fafit_a,BODY=h533fafitlgt_a"));
+    const std::string none = std::regex_replace(child, std::regex("ADDED\0\0\1ADDED"s), "NONE\0\0\1ADDED"s);
+    for (const auto& [read, written] : {std::pair(adult, adult), {child, child}, {noPairs, noPairs}, {none, child}}) {
+        BodyStrings body;
+        body.parse(TestStream(bytesFrom(read)).view, 7);
+        EXPECT_EQ(body.version(), 7);
+        Bytes buffer(3000);
+        buffer.resize(body.serialise(buffer, 1041, 7, true));
+        EXPECT_EQ(textAt(buffer), written + std::string(1042 - written.size(), '\xA3'));
     }
 }
 
