@@ -7,14 +7,16 @@ static_assert(templateObject + objectDefinitionSize == templateName);
 
 namespace {
 
-// House, number, funds, value of the house and number of friends are 0, and so are the member and the last number.
-Bytes familyContent() {
-    constexpr int version = 4;
+// House, number, funds, value of the house and number of friends are 0, and so are the member and what follows it.
+Bytes familyContent(Editions editions) {
+    const bool isLater = editions == Editions::later;
+    const int version = isLater ? 9 : 4;
+    const std::size_t size = isLater ? 60 : 48;
     constexpr int newFamily = 24;  // the flags of a new family in the game
     constexpr std::size_t flagsField = 32;
     ByteWriter content;
     content.u32Le(0).u32Le(version).text("IMAF").fillTo(flagsField).u32Le(newFamily);
-    return content.u32Le(1).u32Le(0).u32Le(0).written();  // one member
+    return content.u32Le(1).fillTo(size).written();  // one member
 }
 
 Bytes nameContent() {
@@ -37,17 +39,18 @@ IffChunk templateNameChunk(const std::string& name) {
 
 // The chunk counts 33 texts, which fits a text that ends with entry 32. With a larger count the game would take the
 // fill for the winter outfit of a Sim without one. The zero bytes behind the fill complete the 33 texts if the text
-// ends with entry 29.
-IffChunk templateBodyStringsChunk(const BodySlots& slots) {
+// ends with entry 29. For later editions it counts 35, which every text has.
+IffChunk templateBodyStringsChunk(const BodySlots& slots, Editions editions) {
     constexpr std::size_t zerosBehind = 12;
-    IffChunk chunk = bodyStringsChunk("adult", slots, BodyEnding::atEntry32, templateBodyTextSize);
+    const BodyEnding ending = editions == Editions::later ? BodyEnding::atEntry34 : BodyEnding::atEntry32;
+    IffChunk chunk = bodyStringsChunk("adult", slots, ending, templateBodyTextSize);
     chunk.content.resize(chunk.content.size() + zerosBehind);
     return chunk;
 }
 
-Bytes makeFamilyTemplate() {
+Bytes makeFamilyTemplate(Editions editions) {
     IffBuilder file;
-    file.add({.type = "FAMI", .content = familyContent()});
+    file.add({.type = "FAMI", .content = familyContent(editions)});
     file.add({.type = "FAMs", .content = nameContent()});
     return {file.bytes().begin() + iffHeaderSize, file.bytes().end()};
 }

@@ -56,11 +56,15 @@ TEST(ObjectDefinitionTest, HasTheWordsOfAPlayersSim) {
 }
 
 TEST(FamilyTemplateTest, IsTwoChunksForOneMemberAndAName) {
-    std::string expected = "FAMI\0\0\0\x7C\0\0\0\x10"s + std::string(64, '\0');
-    expected += "\0\0\0\0\4\0\0\0IMAF"s + std::string(20, '\0') + "\x18\0\0\0\1\0\0\0\0\0\0\0\0\0\0\0"s;
-    expected += "FAMs\0\0\0\x6C\0\0\0\x10"s + std::string(64, '\0');
-    expected += "\xFD\xFF\1\0\1"s + std::string(24, '\0') + "\xA3\xA3\xA3";
-    EXPECT_EQ(textAt(makeFamilyTemplate()), expected);
+    const std::tuple<Editions, char, char, int> rows[] = {{Editions::base, '\x7C', 4, 8},
+                                                          {Editions::later, '\x88', 9, 20}};
+    for (const auto& [editions, size, version, behindCount] : rows) {
+        std::string expected = "FAMI\0\0\0"s + size + "\0\0\0\x10"s + std::string(68, '\0') + version + "\0\0\0IMAF"s;
+        expected += std::string(20, '\0') + "\x18\0\0\0\1\0\0\0"s + std::string(behindCount, '\0');
+        expected += "FAMs\0\0\0\x6C\0\0\0\x10"s + std::string(64, '\0');
+        expected += "\xFD\xFF\1\0\1"s + std::string(24, '\0') + "\xA3\xA3\xA3";
+        EXPECT_EQ(textAt(makeFamilyTemplate(editions)), expected);
+    }
 }
 
 TEST(SkinTest, EndsAfterTheListsThatItCounts) {
