@@ -182,6 +182,32 @@ const std::vector<CastNeighborhood>& sampleCast() {
     return cast;
 }
 
+CastNeighborhood laterNeighborhood() {
+    return {"UserData4",
+            true,
+            true,
+            {
+                {1, "Default", 0, {{1, "Gale", adult, female}}},
+                {2,
+                 "Saltmarsh",
+                 48000,
+                 {{2, "Samphire", adult, female, "lgt", "c001fa_mercedes", "C001FAlgt_Shannon01", 500},
+                  {3, "Sandy", adult, male, "lgt", "c009ma_beard", "c009malgt_beard01", 1000},
+                  {4, "Shelly", child, female, "lgt", "c001fc_amanda", "c001fclgt_amanda01"},
+                  {5, "Rip", child, male, "lgt", "c806mc_jr", "c806mclgt_jr"},
+                  {6, "Kelp", teen, female, "lgt", "c008fa_peg", "c008falgt_alt", 1000},
+                  {7, "Periwinkle", pet, 2}}},
+                {3,
+                 "Driftwood",
+                 9000,
+                 {{8, "Dune", teen, male, "drk", "c016ma_lnge", "c016madrk_lnge", 500},
+                  {9, "Pebble", childOfStrayHead, female, "lgt", "c990fc_sprout", "c990fclgt_sprout"},
+                  {10, "Flotsam", withoutFile, male}}},
+            },
+            false,
+            true};
+}
+
 std::vector<CastNeighborhood> largeCast(int neighborhoods) {
     std::vector<CastNeighborhood> cast;
     for (int number = 1; number <= neighborhoods; ++number) {

@@ -47,11 +47,15 @@ struct CastNeighborhood {
     bool map = false;            // its file has a resource map
     std::vector<CastFamily> families = {};
     bool growingCharacters = false;  // its character files take 55,000 to 370,000 bytes, and each has a map
+    bool later = false;              // its files are those of later editions of the game
 };
 
 // The three neighborhoods of the sample installation. One family is named "Default": the game keeps Sims without a home
 // in it, and the program doesn't list it.
 const std::vector<CastNeighborhood>& sampleCast();
+
+// The neighborhood of later editions that can be the fourth.
+CastNeighborhood laterNeighborhood();
 
 // Neighborhoods of a real size: 28 families and 216 Sims in each. The second one is as full as the program can show:
 // 100 families, most of 8 members, and 820 Sims. Every tenth family and all members of the first have names of 99

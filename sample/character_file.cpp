@@ -1,10 +1,10 @@
 #include "sample/character_file.h"
 
+#include <algorithm>
 #include <span>
 
 #include "gamefiles/character_ids.h"
 #include "gamefiles/object_definition.h"
-#include "gamefiles/text_chunk.h"
 #include "sample/character_chunks.h"
 
 namespace {
@@ -37,8 +37,10 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
                                      .id = characterNameId,
                                      .content = textChunkContent({character.name, character.biography})});
     }
-    built.bodyStringsOffset = file.add(bodyStringsChunk(character.tag, character.slots, character.ending,
-                                                        character.bodyTextSize, character.bodyLabel));
+    IffChunk body = bodyStringsChunk(character.tag, character.slots, character.ending, character.bodyTextSize,
+                                     character.bodyLabel, character.lastEntry);
+    std::ranges::replace(body.content, textFill, character.bodyFill);
+    built.bodyStringsOffset = file.add(body);
     if (character.hasPictures && !hasPicturesFirst) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasPictures) addWebPictureChunk(file, character.colors);
     if (character.map) built.mapOffset = file.addMap();

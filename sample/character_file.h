@@ -11,6 +11,7 @@
 #include "gamefiles/body_strings_chunk.h"
 #include "gamefiles/iff_builder.h"
 #include "gamefiles/templates.h"
+#include "gamefiles/text_chunk.h"
 #include "sample/bitmap.h"
 #include "sample/bodies.h"
 #include "sample/character_chunks.h"
@@ -26,7 +27,9 @@ struct SampleCharacter {
     std::string tag = "adult";  // 5 characters: "adult" or "child" in a real file
     BodySlots slots = adultSlots();
     BodyEnding ending = BodyEnding::atEntry32;
+    std::string lastEntry = missingOutfit;            // of a text with the ending of later editions
     std::size_t bodyTextSize = templateBodyTextSize;  // filled up to this size; a longer text isn't cut
+    std::uint8_t bodyFill = textFill;                 // another one leaves a text without a pattern at its end
     std::string bodyLabel = "bodystring";
 
     BehaviourSet behaviour = BehaviourSet::older;

@@ -2,12 +2,11 @@
 
 #include "gamefiles/file_writing.h"
 #include "gamefiles/object_definition.h"
-#include "gamefiles/templates.h"
 #include "gamefiles/text_chunk.h"
 #include "sample/character_chunks.h"
 #include "sample/character_file.h"
 
-Bytes makeFactTemplate() {
+Bytes makeFactTemplate(Editions editions) {
     const PortraitColors colors;
     IffBuilder file;
     for (const IffChunk& chunk : behaviourChunks(BehaviourSet::older)) {
@@ -19,12 +18,14 @@ Bytes makeFactTemplate() {
     addPictureChunks(file, colors);
     addWebPictureChunk(file, colors);
     file.padTo(templateBodyStrings);
-    file.add(templateBodyStringsChunk(adultSlots()));
+    file.add(templateBodyStringsChunk(adultSlots(), editions));
     file.addMap();
     return file.bytes();
 }
 
 bool writeTemplates(const std::filesystem::path& directory) {
     return writeFile(directory / "Template.iff", makeFactTemplate()) &&
-           writeFile(directory / "famtemplate", makeFamilyTemplate());
+           writeFile(directory / "famtemplate", makeFamilyTemplate()) &&
+           writeFile(directory / "Template-later.iff", makeFactTemplate(Editions::later)) &&
+           writeFile(directory / "famtemplate-later", makeFamilyTemplate(Editions::later));
 }

@@ -5,13 +5,14 @@
 
 #include <filesystem>
 
-#include "gamefiles/byte_writer.h"
+#include "gamefiles/templates.h"
 
 // A "Template.iff": the character file of an adult. The chunks that a save overwrites lie where it expects them
 // (gamefiles/templates.h).
-Bytes makeFactTemplate();
+Bytes makeFactTemplate(Editions editions = Editions::base);
 
-// Writes it and "famtemplate" into an existing directory. Returns false if one can't be written.
+// Writes it and "famtemplate" into an existing directory, and both for later editions. Returns false if one can't be
+// written.
 bool writeTemplates(const std::filesystem::path& directory);
 
 #endif

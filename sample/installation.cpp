@@ -154,6 +154,34 @@ bool writeCharacter(const fs::path& directory, SampleCharacter character, const 
     return writeFile(directory / fileName, makeCharacterFile(character).bytes);
 }
 
+// The lists of later editions. Every fifth Sim is of the mode that only some are, and no word of the person data is
+// empty.
+void makeLater(SampleNeighborhood& neighborhood) {
+    constexpr std::int32_t usualMode = 9;
+    constexpr std::int32_t rareMode = 5;
+    constexpr std::int32_t familyVersion = 9;
+    constexpr std::int32_t playedAndHoused = 17;
+    for (SampleNeighbor& neighbor : neighborhood.neighbors) {
+        neighbor.later = true;
+        if (neighbor.hasPersonData) neighbor.version = neighbor.neighborId % 5 == 0 ? rareMode : usualMode;
+        neighbor.gapByte = static_cast<std::uint8_t>(neighbor.neighborId);
+    }
+    for (SampleFamily& family : neighborhood.families) {
+        family.version = familyVersion;
+        family.hasHistory = family.house != 0;
+        if (family.hasHistory) family.flags = playedAndHoused;
+    }
+}
+
+// Every seventh text ends with a pattern.
+void makeLater(SampleCharacter& character, const CastSim& sim) {
+    character.ending = BodyEnding::atEntry34;
+    if (sim.fileNumber % 7 != 0) character.bodyFill = 0;
+    if (isChild(sim.kind)) character.slots[sampleSlot::f100Mesh] = missingOutfit;
+    if (sim.kind == SampleKind::adult) character.lastEntry = "h533fafit_01,BODY=h533fafitlgt_01";
+    if (sim.kind == SampleKind::pet) character.lastEntry = "NONE";
+}
+
 SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighborhood& neighborhood) {
     SampleNeighborhood file;
     file.freeRoom = neighborhood.freeRoom;
@@ -167,6 +195,7 @@ SampleNeighborhood castNeighborhoodFile(int neighborhoodIndex, const CastNeighbo
         }
     }
     file.neighbors.push_back(ownCharacter("npc_clown", 902, false));
+    if (neighborhood.later) makeLater(file);
     return file;
 }
 
@@ -181,7 +210,8 @@ bool writeNeighborhood(const fs::path& game, int index, const CastNeighborhood& 
     for (const CastFamily& family : cast.families) {
         for (const CastSim& sim : family.members) {
             if (isUnreadable(sim.kind)) continue;
-            const SampleCharacter character = castCharacter(index, family, sim);
+            SampleCharacter character = castCharacter(index, family, sim);
+            if (cast.later) makeLater(character, sim);
             if (!writeCharacter(characters, character, sim, cast.growingCharacters)) return false;
         }
     }
@@ -199,8 +229,10 @@ bool writeCast(const fs::path& prefix, const std::vector<CastNeighborhood>& cast
 
 }  // namespace
 
-bool writeInstallation(const fs::path& prefix) {
-    return writeCast(prefix, sampleCast(), {});
+bool writeInstallation(const fs::path& prefix, bool withLater) {
+    std::vector<CastNeighborhood> cast = sampleCast();
+    if (withLater) cast.push_back(laterNeighborhood());
+    return writeCast(prefix, cast, {});
 }
 
 bool writeLargeInstallation(const fs::path& prefix, int neighborhoods) {

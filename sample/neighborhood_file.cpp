@@ -1,5 +1,7 @@
 #include "sample/neighborhood_file.h"
 
+#include <algorithm>
+
 #include "gamefiles/text_chunk.h"
 
 namespace {
@@ -9,6 +11,9 @@ constexpr std::size_t freeRoomSize = 396;
 // Versions that the base game writes.
 constexpr int listVersion = 0x49;
 constexpr int recordVersion = 4;
+constexpr int laterRecordVersion = 10;
+constexpr int laterMarkerEnd = 9;
+constexpr int recordBegin = 1;
 constexpr int relationshipVersion = 1;
 
 // Offsets in a neighbor record, from its marker.
@@ -19,6 +24,7 @@ constexpr std::size_t wordBField = 152;
 constexpr std::size_t kindField = 156;
 constexpr std::size_t tailWordsField = 160;
 constexpr std::size_t personDataEnd = 186;
+constexpr std::size_t laterPersonDataEnd = 538;
 
 constexpr std::size_t lastValues = 17;  // the first of them
 
@@ -44,7 +50,7 @@ void writePersonData(ByteWriter& record, const SampleNeighbor& neighbor) {
     for (const std::int32_t word : neighbor.tailWords) {
         record.u16Le(word);
     }
-    skipTo(personDataEnd);
+    skipTo(neighbor.later ? laterPersonDataEnd : personDataEnd);
 }
 
 void writeRelationship(ByteWriter& record, const SampleRelationship& relationship) {
@@ -101,12 +107,26 @@ NeighborhoodFile buildWith(const SampleNeighborhood& neighborhood, std::size_t p
     return built;
 }
 
+// Later editions have one more word in front, and give the name no more room than it and its zero byte need, rounded up
+// to an even number.
+Bytes laterRecord(Bytes record, const std::string& name) {
+    constexpr std::ptrdiff_t nameField = 8;
+    constexpr std::ptrdiff_t nameFieldEnd = 18;
+    const auto needed = static_cast<std::ptrdiff_t>((name.size() + 2) / 2 * 2);
+    record.erase(record.begin() + std::min(nameField + needed, nameFieldEnd), record.begin() + nameFieldEnd);
+    return ByteWriter().u32Le(recordBegin).bytes(record).written();
+}
+
 }  // namespace
 
 Bytes sampleNeighborRecord(const SampleNeighbor& neighbor) {
     constexpr std::size_t longestName = 9;
     ByteWriter record;
-    record.u32Le(1).u32Le(recordVersion);  // the marker
+    if (neighbor.later) {
+        record.u32Le(laterRecordVersion).u32Le(laterMarkerEnd);
+    } else {
+        record.u32Le(recordBegin).u32Le(recordVersion);
+    }
     record.field(neighbor.recordName.substr(0, longestName), longestName + 1).u32Le(0);
     record.u32Le(neighbor.version);
     if (neighbor.hasPersonData) writePersonData(record, neighbor);
@@ -115,7 +135,7 @@ Bytes sampleNeighborRecord(const SampleNeighbor& neighbor) {
     for (const SampleRelationship& relationship : neighbor.relationships) {
         writeRelationship(record, relationship);
     }
-    return record.written();
+    return neighbor.later ? laterRecord(record.written(), neighbor.recordName) : record.written();
 }
 
 IffChunk sampleFamilyChunk(const SampleFamily& family) {

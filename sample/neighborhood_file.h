@@ -18,11 +18,12 @@ struct SampleRelationship {
     std::vector<std::int32_t> values = {};
 };
 
-// One record of the chunk "NBRS". Offsets count from the record's marker. The program reads and writes the first 186
-// bytes.
+// One record of the chunk "NBRS". Offsets count from the record's marker, or 4 bytes behind it in later editions, whose
+// marker is that much longer. The program reads and writes the 186 bytes from there.
 struct SampleNeighbor {
+    bool later = false;
     std::string recordName = "user00001";         // at 8: at most 9 characters, the character file without ".iff"
-    std::int32_t version = 7;                     // at 22, 4 bytes; the program takes the lowest byte
+    std::int32_t version = 7;                     // at 22, 4 bytes: in later editions the mode, 5 or 9
     std::array<std::int32_t, 29> personValues{};  // 0 to 16 at 30, 17 to 28 at 118; 15 is the body skill
     std::int32_t age = 27;                        // at 142: 9, 18 or 27
     std::int32_t skinTone = 1;                    // at 146: 1 light, 2 dark, 3 medium
@@ -31,7 +32,7 @@ struct SampleNeighbor {
     std::int32_t kind = 1;                        // at 156: 0 male, 1 female, 2 to 5 pet
     std::array<std::int32_t, 4> tailWords{};      // at 160
     std::uint8_t gapByte = 0;                     // the bytes of the person data that have no field above
-    bool hasPersonData = true;                    // the 160 bytes at 26; some of the game's own characters lack them
+    bool hasPersonData = true;                    // the 160 bytes at 26, 512 in later editions; some lack them
     std::int32_t neighborId = 1;
     std::uint32_t guid = sampleGuid;
     std::vector<SampleRelationship> relationships = {};
