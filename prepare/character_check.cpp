@@ -102,6 +102,12 @@ bool beginsWithAdult(std::span<const std::uint8_t> content) {
                               [](std::uint8_t byte, char letter) { return byte == static_cast<std::uint8_t>(letter); });
 }
 
+bool hasBodyOfLaterEditions(std::span<const std::uint8_t> content) {
+    constexpr std::size_t countOfTexts = 2;
+    constexpr std::uint16_t textsOfLaterEditions = 35;
+    return readU16Le(content.subspan(countOfTexts).first<2>()) == textsOfLaterEditions;
+}
+
 // Whether the main tree calls none of the trees that all Sims share, so that the Sim would stand still. This is so in
 // Sims that were saved from the template of this program's earlier packages.
 bool standsStill(const std::vector<IffChunk>& chunks) {
@@ -112,12 +118,14 @@ bool standsStill(const std::vector<IffChunk>& chunks) {
 
 }  // namespace
 
-std::string refusalOf(const std::vector<IffChunk>& chunks) {
+std::string refusalOf(const std::vector<IffChunk>& chunks, Editions editions) {
     if (std::string refusal = refusedCount(chunks); !refusal.empty()) return refusal;
     if (std::string refusal = refusedBehaviour(chunks); !refusal.empty()) return refusal;
     if (std::string refusal = refusedDefinition(contentOf(chunks, {"OBJD", anyId})); !refusal.empty()) return refusal;
     if (!namesPersonGlobals(contentOf(chunks, {"GLOB", anyId}))) return "has the behaviour of something but a person";
-    if (!beginsWithAdult(contentOf(chunks, {"STR#", bodyStringsId}))) return "has the body strings of no adult";
+    const auto body = contentOf(chunks, {"STR#", bodyStringsId});
+    if (!beginsWithAdult(body)) return "has the body strings of no adult";
+    if (editions == Editions::later && !hasBodyOfLaterEditions(body)) return "has the body strings of an older edition";
     if (standsStill(chunks)) return "has a main tree that does nothing";
     return "";
 }

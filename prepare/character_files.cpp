@@ -24,18 +24,18 @@ struct Candidate {
     Bytes madeTemplate;  // empty if the file doesn't serve
 };
 
-Candidate candidateOf(const Bytes& file) {
+Candidate candidateOf(const Bytes& file, Editions editions) {
     IffContents contents = readIff(file);
-    if (!contents.fault.empty() || !refusalOf(contents.chunks).empty()) return {};
-    Bytes made = makeTemplate(contents.chunks);
+    if (!contents.fault.empty() || !refusalOf(contents.chunks, editions).empty()) return {};
+    Bytes made = makeTemplate(contents.chunks, editions);
     return {std::move(contents.chunks), std::move(made)};
 }
 
-void addIfServes(const std::string& path, TemplateSource& source, SourceChoice& choice) {
+void addIfServes(const std::string& path, Editions editions, TemplateSource& source, SourceChoice& choice) {
     ++source.found;
     const std::optional<Bytes> file = readWholeFile(path.c_str());
     if (!file) ++source.unreadable;
-    const Candidate candidate = candidateOf(file.value_or(Bytes()));
+    const Candidate candidate = candidateOf(file.value_or(Bytes()), editions);
     if (!candidate.madeTemplate.empty()) choice.add(path, candidate.chunks);
 }
 
@@ -54,7 +54,7 @@ std::vector<std::string> characterNamesIn(const char* directory) {
     return names;
 }
 
-TemplateSource findTemplateSource(const char* simsDirectory) {
+TemplateSource findTemplateSource(const char* simsDirectory, Editions editions) {
     TemplateSource source;
     SourceChoice choice;
     FileStatus status{};
@@ -63,11 +63,11 @@ TemplateSource findTemplateSource(const char* simsDirectory) {
         if (!queryFileStatus(neighborhood.c_str(), status)) break;
         const auto directory = joined<PathText>(neighborhood, '\\', charactersDirectory, '\\');
         for (const std::string& name : characterNamesIn(directory.c_str())) {
-            addIfServes(directory.c_str() + name, source, choice);
+            addIfServes(directory.c_str() + name, editions, source, choice);
         }
     }
     // The files aren't kept, since there may be many large ones. This one may have changed since.
     source.path = choice.best();
-    source.madeTemplate = candidateOf(readWholeFile(source.path.c_str()).value_or(Bytes())).madeTemplate;
+    source.madeTemplate = candidateOf(readWholeFile(source.path.c_str()).value_or(Bytes()), editions).madeTemplate;
     return source;
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "gamefiles/byte_writer.h"
+#include "gamefiles/templates.h"
 
 struct TemplateSource {
     std::string path;    // of the chosen file
@@ -23,6 +23,6 @@ std::vector<std::string> characterNamesIn(const char* directory);
 // Chooses among the files of all neighborhoods, in the order of their numbers and then of the names, in any case
 // (prepare/source_choice.h). A file that can't be read or doesn't serve is left out. `simsDirectory` has a trailing
 // backslash.
-TemplateSource findTemplateSource(const char* simsDirectory);
+TemplateSource findTemplateSource(const char* simsDirectory, Editions editions = Editions::base);
 
 #endif

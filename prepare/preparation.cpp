@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "gamefiles/skin_file.h"
 #include "gamefiles/templates.h"
@@ -79,35 +80,52 @@ void bringSkin(Preparation& preparation, const std::string& simsDirectory) {
     }
 }
 
+struct Templates {
+    Editions editions;
+    std::string character;
+    std::string family;
+
+    Present present() const { return presentTemplate(character, editions); }
+    Present presentFamily() const { return presentFamilyTemplate(family, editions); }
+
+    // Of the names of copies.
+    std::string stem() const { return character.substr(0, character.rfind('.')) + " "; }
+};
+
+std::vector<Templates> templatesFor(Editions editions) {
+    std::vector<Templates> all = {{Editions::base, characterTemplateName, familyTemplateName}};
+    if (editions == Editions::later) {
+        all.push_back({Editions::later, laterCharacterTemplateName, laterFamilyTemplateName});
+    }
+    return all;
+}
+
 // A template's copy has the day in its name: "Template 2026-11-25.iff", or with a number behind the day if there is
 // such a file.
-constexpr std::string_view copyPrefix = "Template 2";
-
-std::string freeCopyName() {
+std::string freeCopyName(const std::string& stem) {
     SYSTEMTIME now{};
     GetSystemTime(&now);
     char date[32];
-    std::snprintf(date, sizeof date, "Template %04u-%02u-%02u", unsigned{now.wYear}, unsigned{now.wMonth},
-                  unsigned{now.wDay});
-    std::string name = std::string(date) + ".iff";
+    std::snprintf(date, sizeof date, "%04u-%02u-%02u", unsigned{now.wYear}, unsigned{now.wMonth}, unsigned{now.wDay});
+    std::string name = stem + date + ".iff";
     for (int number = 2; presentFile(name) != Present::nothing; ++number) {
-        name = date + (" " + std::to_string(number)) + ".iff";
+        name = stem + date + " " + std::to_string(number) + ".iff";
     }
     return name;
 }
 
 // True if there is a copy, perhaps from a run that failed later.
-bool keepCopy(Preparation& preparation, const Bytes& file) {
+bool keepCopy(Preparation& preparation, const std::string& stem, const Bytes& file) {
     for (const std::string& name : fileNamesIn(".")) {
-        if (!name.starts_with(copyPrefix) || readWholeFile(name.c_str()) != file) continue;
+        if (!name.starts_with(stem + "2") || readWholeFile(name.c_str()) != file) continue;
         report(preparation, name + " is a copy of the old one.");
         return true;
     }
-    return writeNew(preparation, freeCopyName(), file);
+    return writeNew(preparation, freeCopyName(stem), file);
 }
 
 // As a sentence, and what to do.
-std::string whyNoSource(const TemplateSource& source, const std::string& simsDirectory) {
+std::string whyNoSource(const TemplateSource& source, const std::string& simsDirectory, Editions editions) {
     FileStatus status{};
     if (!queryFileStatus(simsDirectory.substr(0, simsDirectory.size() - 1).c_str(), status)) {
         return "The game's directory " + simsDirectory + " can't be found. Please prepare again when it is there.";
@@ -124,22 +142,22 @@ std::string whyNoSource(const TemplateSource& source, const std::string& simsDir
     const std::string unreadable =
         source.unreadable == 0 ? "" : "; " + std::to_string(source.unreadable) + " of them can't be read";
     return "None of the " + std::to_string(source.found) + " character files of your game is that of an adult whom a " +
-           "player made" + unreadable + ". Please " + create;
+           "player made" + (editions == Editions::later ? " in a later edition" : "") + unreadable + ". Please " +
+           create;
 }
 
-void makeNewTemplate(Preparation& preparation, const char* simsDirectory, bool isThere) {
-    const std::optional<Bytes> old = isThere ? readWholeFile(characterTemplateName) : std::nullopt;
-    if (isThere && !old) return reportPresent(preparation, characterTemplateName, Present::unusable);
-    const TemplateSource source = findTemplateSource(simsDirectory);
+void makeNewTemplate(Preparation& preparation, const Templates& templates, const char* simsDirectory, bool isThere) {
+    const std::string& name = templates.character;
+    const std::optional<Bytes> old = isThere ? readWholeFile(name.c_str()) : std::nullopt;
+    if (isThere && !old) return reportPresent(preparation, name, Present::unusable);
+    const TemplateSource source = findTemplateSource(simsDirectory, templates.editions);
     if (source.madeTemplate.empty()) {
-        reportMissing(preparation, characterTemplateName +
-                                       std::string(isThere ? " stays as it is. " : " is missing. ") +
-                                       whyNoSource(source, simsDirectory));
+        reportMissing(preparation, name + (isThere ? " stays as it is. " : " is missing. ") +
+                                       whyNoSource(source, simsDirectory, templates.editions));
     } else if (old == source.madeTemplate) {
-        report(preparation, std::string(characterTemplateName) + " stays as it is: a new one, made of " + source.path +
-                                ", would be the same.");
-    } else if ((!old || keepCopy(preparation, *old)) &&
-               writeNew(preparation, characterTemplateName, source.madeTemplate)) {
+        report(preparation, name + " stays as it is: a new one, made of " + source.path + ", would be the same.");
+    } else if ((!old || keepCopy(preparation, templates.stem(), *old)) &&
+               writeNew(preparation, name, source.madeTemplate)) {
         report(preparation, "It is made of " + source.path + ".");
     }
 }
@@ -150,13 +168,13 @@ bool isMade(Present present, bool newTemplate) {
            (newTemplate && present != Present::deadLink);
 }
 
-void bringTemplate(Preparation& preparation, const char* simsDirectory, bool newTemplate) {
-    const Present present = presentTemplate(characterTemplateName);
+void bringTemplate(Preparation& preparation, const Templates& templates, const char* simsDirectory, bool newTemplate) {
+    const Present present = templates.present();
     if (isMade(present, newTemplate)) {
-        makeNewTemplate(preparation, simsDirectory, present != Present::nothing);
+        makeNewTemplate(preparation, templates, simsDirectory, present != Present::nothing);
         return;
     }
-    reportPresent(preparation, characterTemplateName, present);
+    reportPresent(preparation, templates.character, present);
     if (present == Present::unusable) {
         report(preparation, "Or use the option --new-template, which keeps a copy of it.");
     }
@@ -173,30 +191,37 @@ void bringSkinSets(Preparation& preparation, const std::string& originalSkinSets
     }
 }
 
-std::string plannedTemplate(bool newTemplate) {
-    const Present present = presentTemplate(characterTemplateName);
+std::string plannedTemplate(const Templates& templates, bool newTemplate) {
+    const Present present = templates.present();
     if (!isMade(present, newTemplate)) return "";
-    const std::string made = std::string("    ") + characterTemplateName + ", out of one of your own Sims' files\n";
+    const std::string made = "    " + templates.character + ", out of one of your own Sims' files\n";
     return present == Present::nothing ? made : made + "    (the present one is kept as a copy with a date)\n";
 }
 
 }  // namespace
 
-Preparation prepareGame(const char* simsDirectory, const std::string& originalSkinSets, bool newTemplate) {
+Preparation prepareGame(const char* simsDirectory, const std::string& originalSkinSets, bool newTemplate,
+                        Editions editions) {
     Preparation preparation;
     const DirectoryLock lock(".");
     if (lock.isHeld()) clearLeftOverParts(".");
     bringSkin(preparation, simsDirectory);
-    bringTemplate(preparation, simsDirectory, newTemplate);
-    bring(preparation, familyTemplateName, presentFamilyTemplate(familyTemplateName), makeFamilyTemplate());
+    for (const Templates& templates : templatesFor(editions)) {
+        bringTemplate(preparation, templates, simsDirectory, newTemplate);
+        bring(preparation, templates.family, templates.presentFamily(), makeFamilyTemplate(templates.editions));
+    }
     if (preparation.ready) bringSkinSets(preparation, originalSkinSets);
     return preparation;
 }
 
-std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate) {
-    std::string inTool = plannedTemplate(newTemplate), all;
-    const auto add = [](std::string& text, const char* name) { text.append("    ").append(name).append("\n"); };
-    if (presentFamilyTemplate(familyTemplateName) == Present::nothing) add(inTool, familyTemplateName);
+std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate,
+                         Editions editions) {
+    std::string inTool, all;
+    const auto add = [](std::string& text, const std::string& name) { text += "    " + name + "\n"; };
+    for (const Templates& templates : templatesFor(editions)) {
+        inTool += plannedTemplate(templates, newTemplate);
+        if (templates.presentFamily() == Present::nothing) add(inTool, templates.family);
+    }
     if (presentFile(skinSetsName) == Present::nothing) add(inTool, skinSetsName);
     if (presentFile(simsDirectory + installedSkin) == Present::nothing) {
         all = "In the game's directory " + simsDirectory + ":\n";

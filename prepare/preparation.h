@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "gamefiles/templates.h"
+
 struct Preparation {
     bool ready = true;   // nothing is missing
     std::string report;  // a line for each thing that was done or kept, or that is missing and why
@@ -17,10 +19,14 @@ struct Preparation {
 // A Template.iff of the player's is kept, and so is a file that a save can't use; the report then says what to do. With
 // `newTemplate`, and for a Template.iff of an earlier version of this program, a new one is made, and the old one is
 // kept under a dated name. Nothing else of the player's is changed.
-Preparation prepareGame(const char* simsDirectory, const std::string& originalSkinSets, bool newTemplate);
+//
+// With Editions::later the two templates of later editions of the game are brought as well, in the same way.
+Preparation prepareGame(const char* simsDirectory, const std::string& originalSkinSets, bool newTemplate,
+                        Editions editions = Editions::base);
 
 // What prepareGame would make now, with the directories, a line for each file; empty if nothing. Nothing is changed.
-std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate);
+std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate,
+                         Editions editions = Editions::base);
 
 // Whether the working directory is the one that the program was unpacked to: it has one of the two files of skin sets.
 bool isToolDirectory();

@@ -5,7 +5,6 @@
 #include <optional>
 #include <string_view>
 
-#include "gamefiles/templates.h"
 #include "platform/files.h"
 #include "platform/letter_case.h"
 #include "prepare/whole_file.h"
@@ -14,8 +13,6 @@
 namespace {
 
 using namespace std::string_view_literals;
-
-using Judgement = Present (*)(std::string_view file);
 
 // A link that leads nowhere has a name but no status.
 bool isDeadLink(const std::string& path) {
@@ -26,7 +23,9 @@ bool isDeadLink(const std::string& path) {
     return std::ranges::count(fileNamesIn(directory.c_str()), lowered(path.substr(name)), lowered) != 0;
 }
 
-Present judged(const std::string& path, Judgement judge) {
+// `judge` takes the whole file as text.
+template <typename Judge>
+Present judged(const std::string& path, Judge judge) {
     const Present present = presentFile(path);
     if (present != Present::usable) return present;
     const std::optional<Bytes> file = readWholeFile(path.c_str());
@@ -48,13 +47,15 @@ bool isOfEarlierVersion(std::string_view file) {
            file.substr(0, templateObject).find("a Sim of the Tidewright sample household") != std::string_view::npos;
 }
 
-Present judgeTemplate(std::string_view file) {
-    if (!isTemplate(file)) return Present::unusable;
-    return isOfEarlierVersion(file) ? Present::ofEarlierVersion : Present::usable;
+// Whether the game would read all strings of a text that a save writes there.
+bool countsEnough(std::string_view file, Editions editions) {
+    constexpr std::size_t countOfTexts = templateBodyStrings + iffChunkHeaderSize + 2;
+    return editions == Editions::base || file.substr(countOfTexts).starts_with("\x23\x00"sv);
 }
 
-Present judgeFamilyTemplate(std::string_view file) {
-    return file.size() == makeFamilyTemplate().size() ? Present::usable : Present::unusable;
+Present judgeTemplate(std::string_view file, Editions editions) {
+    if (!isTemplate(file) || !countsEnough(file, editions)) return Present::unusable;
+    return isOfEarlierVersion(file) ? Present::ofEarlierVersion : Present::usable;
 }
 
 }  // namespace
@@ -64,10 +65,12 @@ Present presentFile(const std::string& path) {
     return hasBytes(path.c_str()) ? Present::usable : Present::nothing;
 }
 
-Present presentTemplate(const std::string& path) {
-    return judged(path, judgeTemplate);
+Present presentTemplate(const std::string& path, Editions editions) {
+    return judged(path, [editions](std::string_view file) { return judgeTemplate(file, editions); });
 }
 
-Present presentFamilyTemplate(const std::string& path) {
-    return judged(path, judgeFamilyTemplate);
+Present presentFamilyTemplate(const std::string& path, Editions editions) {
+    const std::size_t size = makeFamilyTemplate(editions).size();
+    return judged(path,
+                  [size](std::string_view file) { return file.size() == size ? Present::usable : Present::unusable; });
 }

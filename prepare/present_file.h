@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "gamefiles/byte_writer.h"
+#include "gamefiles/templates.h"
 
 enum class Present {
     nothing,  // or an empty file, which is replaced
@@ -19,9 +19,9 @@ Present presentFile(const std::string& path);
 
 // For "Template.iff": usable with the chunks that a save patches, where a save expects them. Earlier packages of this
 // program came with a template of their own.
-Present presentTemplate(const std::string& path);
+Present presentTemplate(const std::string& path, Editions editions = Editions::base);
 
 // For "famtemplate": usable with the size that a save expects.
-Present presentFamilyTemplate(const std::string& path);
+Present presentFamilyTemplate(const std::string& path, Editions editions = Editions::base);
 
 #endif

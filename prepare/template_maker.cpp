@@ -78,14 +78,14 @@ std::vector<IffChunk> withRole(const std::vector<IffChunk>& chunks, ChunkRole ro
     return found;
 }
 
-Bytes makeTemplate(const std::vector<IffChunk>& source) {
+Bytes makeTemplate(const std::vector<IffChunk>& source, Editions editions) {
     IffBuilder file;
     std::vector<IffChunk> leftOver;
     fillRoom(file, templateObject, withRole(source, ChunkRole::carried), leftOver);
     addDefinition(file, withRole(source, ChunkRole::definition).front());
     file.add(templateNameChunk(""));
     fillRoom(file, templateBodyStrings, neutralPictures(source), leftOver);
-    file.add(templateBodyStringsChunk({}));
+    file.add(templateBodyStringsChunk({}, editions));
     for (const IffChunk& chunk : leftOver) {
         file.add(chunk);
     }

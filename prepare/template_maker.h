@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "gamefiles/iff_builder.h"
+#include "gamefiles/templates.h"
 
 // What becomes of each chunk of a character file.
 enum class ChunkRole {
@@ -23,6 +24,6 @@ std::vector<IffChunk> withRole(const std::vector<IffChunk>& chunks, ChunkRole ro
 // a save patches them (gamefiles/templates.h). The rest keeps its order, as far as it fits in front of them;
 // what doesn't fit follows behind. Empty if a search of the resource map wouldn't find these three, because of its
 // other labels or of the file's length.
-Bytes makeTemplate(const std::vector<IffChunk>& source);
+Bytes makeTemplate(const std::vector<IffChunk>& source, Editions editions = Editions::base);
 
 #endif

@@ -9,6 +9,10 @@ constexpr const char* skinSetsName = "skinsets.cfg";           // which head fol
 constexpr const char* characterTemplateName = "Template.iff";  // what character files are made of
 constexpr const char* familyTemplateName = "famtemplate";      // what the records of new families are made of
 
+// The same for later editions of the game.
+constexpr const char* laterCharacterTemplateName = "Template-later.iff";
+constexpr const char* laterFamilyTemplateName = "famtemplate-later";
+
 // In the game's directory, a skin.
 constexpr const char* installedSkin = "GameData\\Skins\\xskin-c601fa_amanda-HEAD-HEAD.skn";
 

@@ -5,8 +5,11 @@
 #include "gamefiles/skin_file.h"
 #include "gamefiles/templates.h"
 #include "tests/prepare/unprepared_game.h"
+#include "tests/support/iff_walk.h"
 
 namespace {
+
+using namespace std::string_literals;
 
 TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
     Tree expected = treeOf(game_);
@@ -22,6 +25,21 @@ TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
         EXPECT_TRUE(isReady(newTemplate) && reports(said)) << report_;
         EXPECT_EQ(differences(tool, treeOf(files_.path("tool"))) + differences(expected, treeOf(game_)), "");
     }
+}
+
+TEST_F(PreparationTest, TheTemplatesOfLaterEditionsComeOutOfALaterFileWhereTheyAreAskedFor) {
+    EXPECT_FALSE(isReady(false, Editions::later));
+    EXPECT_TRUE(reports("Template-later.iff is missing. None of") && reports("famtemplate-later is new")) << report_;
+    EXPECT_TRUE(writeInstallation(files_.path("prefix"), true));
+    for (const bool isCopyOfTheOther : {true, false}) {
+        if (isCopyOfTheOther) fs::copy("Template.iff", "Template-later.iff");
+        EXPECT_EQ(isReady(false, Editions::later), !isCopyOfTheOther) << report_;
+        fs::remove(isCopyOfTheOther ? "Template-later.iff" : "none");
+    }
+    const Chunks samphire = readIff(bytesOfFile(game_ / "UserData4/Characters/User00002.iff")).chunks;
+    EXPECT_EQ(files_.bytesOf("tool/Template-later.iff"), makeTemplate(samphire, Editions::later));
+    EXPECT_EQ(textAt(files_.bytesOf("tool/Template-later.iff"), 54094, 10), "\x23\0\1adult\0\0"s);
+    EXPECT_EQ(files_.bytesOf("tool/famtemplate-later"), makeFamilyTemplate(Editions::later));
 }
 
 TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {

@@ -46,8 +46,8 @@ class PreparationTest : public testing::Test {
         fs::current_path(files_.path("tool"));
     }
 
-    bool isReady(bool newTemplate = false) {
-        const Preparation preparation = prepareGame(directory_.c_str(), "skinsets-original.cfg", newTemplate);
+    bool isReady(bool newTemplate = false, Editions editions = Editions::base) {
+        const Preparation preparation = prepareGame(directory_.c_str(), "skinsets-original.cfg", newTemplate, editions);
         report_ = preparation.report;
         return preparation.ready;
     }
