@@ -34,7 +34,7 @@ bool StreamFile::close() {
     if (file_ == nullptr) return false;
     const bool closed = std::fclose(file_) == 0;
     file_ = nullptr;
-    return allWritten_ && closed;
+    return allDone_ && closed;
 }
 
 bool StreamFile::closeOnDisk() {
@@ -52,9 +52,9 @@ std::span<const std::uint8_t> StreamFile::bytesAt(std::int64_t position, std::si
     if (!window_) window_ = std::make_unique_for_overwrite<std::uint8_t[]>(windowCapacity_);
     windowStart_ = position;
     windowSize_ = 0;
-    if (position <= LONG_MAX && std::fseek(file_, static_cast<long>(position), SEEK_SET) == 0) {
-        windowSize_ = std::fread(window_.get(), 1, windowCapacity_, file_);
-    }
+    const bool isReached = position <= LONG_MAX && std::fseek(file_, static_cast<long>(position), SEEK_SET) == 0;
+    if (isReached) windowSize_ = std::fread(window_.get(), 1, windowCapacity_, file_);
+    allDone_ = allDone_ && isReached && std::ferror(file_) == 0;
     windowEndsFile_ = windowSize_ < windowCapacity_;
     return {window_.get(), windowSize_};
 }
@@ -72,7 +72,7 @@ bool StreamFile::write(std::span<const std::uint8_t> bytes) {
     windowEndsFile_ = false;
     const bool written = std::fseek(file_, static_cast<long>(cursor_), SEEK_SET) == 0 &&
                          std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
-    allWritten_ = allWritten_ && written;
+    allDone_ = allDone_ && written;
     if (written) cursor_ += static_cast<std::int64_t>(bytes.size());
     return written;
 }

@@ -30,7 +30,7 @@ class StreamFile {
     // reader that scans all of it, a few pages for one that looks up pieces. False if the file can't be opened.
     bool open(const char* path, Access access, std::size_t windowSize);
 
-    // Closes the file. True only if every write and the closing itself succeeded.
+    // Closes the file. True only if every read, every write and the closing itself succeeded.
     bool close();
 
     // Syncs the file to the disk and closes it. True only if that succeeded as well.
@@ -52,7 +52,7 @@ class StreamFile {
  private:
     std::FILE* file_ = nullptr;
     std::int64_t cursor_ = 0;
-    bool allWritten_ = true;
+    bool allDone_ = true;  // no read and no write has failed
     std::unique_ptr<std::uint8_t[]> window_;
     std::size_t windowCapacity_ = 0;
     std::size_t windowSize_ = 0;
