@@ -1,4 +1,4 @@
-// Makes a changed Sim's new character file from "Template.iff", and writes the Sim's neighbor record into the temporary
+// Makes a changed Sim's new character file from its template, and writes the Sim's neighbor record into the temporary
 // neighborhood file.
 #include <algorithm>
 
@@ -22,10 +22,10 @@ std::array<std::uint8_t, characterTemplate::displayNameSize> displayNameField(st
 }
 
 // A text that is longer than its field is cut.
-std::array<std::uint8_t, characterTemplate::bodyTextSize> bodyTextField(const BodyStrings& bodyStrings,
-                                                                        std::int16_t version) {
+std::array<std::uint8_t, characterTemplate::bodyTextSize> bodyTextField(const Sim& sim,
+                                                                        const BodyStrings& bodyStrings) {
     std::array<std::uint8_t, characterTemplate::bodyTextSize> field{};
-    bodyStrings.serialise(field, field.size(), version);
+    bodyStrings.serialise(field, field.size(), sim.version(), sim.format().hasAllTexts);
     return field;
 }
 
@@ -51,7 +51,7 @@ int Sim::saveCharacterFile(const char* toolDirectory, const char* directory) {
 
 int Sim::buildCharacterFile(const char* tempPath) {
     namespace at = characterTemplate;
-    const auto templatePath = joined<PathText>(neighborhood_->toolDirectory(), '\\', characterTemplateName);
+    const auto templatePath = joined<PathText>(neighborhood_->toolDirectory(), '\\', format_->characterTemplate);
     // In a shorter template a patch would leave a gap of made-up bytes in front of it.
     // Both were read long ago, as a rule. A file that couldn't be opened then may be there again.
     if (loadName() == -1 || loadGuid() == -1) return -1;
@@ -67,7 +67,7 @@ int Sim::buildCharacterFile(const char* tempPath) {
     stream.writeAt(at::guid, guid().bytes());
     stream.writeAt(at::displayName, displayNameField(name()));
     stream.writeAt(at::characterTag, characterTag_ ? characterFile::adultTag : characterFile::childTag);
-    stream.writeAt(at::bodyText, bodyTextField(*bodyStrings_, version_));
+    stream.writeAt(at::bodyText, bodyTextField(*this, *bodyStrings_));
     if (!file.closeOnDisk()) return -1;
     characterDirty_ = false;
     return 1;
@@ -79,7 +79,7 @@ int Sim::writeNeighborRecord(StreamView stream) {
     // A record is written only after a stage change, which leaves a teen or an adult. So the file never gets another
     // age than 18 and 27, and the Sim in memory keeps the age that the file has.
     if (age_ != ageNumber::adult) age_ = ageNumber::teen;
-    const at::Bytes record = recordBytes();
+    const at::Bytes record = recordBytes(stream);
     const auto bytes = std::span(record);
     stream.seek(recordOffset_);
     if (gender_ == genderNumber::pet) {

@@ -23,14 +23,15 @@ int Family::writeNewRecord(StreamView stream, std::int32_t position) {
     namespace at = familyTemplate;
     if (!stream.good()) return -1;
     familyNumber_ = neighborhood_->takeFamilyNumber();
-    for (const std::int32_t offset : {at::firstChunkNumber, at::number, at::nameChunkNumber}) {
+    const std::int32_t nameChunk = format().familyNameChunk;
+    for (const std::int32_t offset : {at::chunkNumber, at::number, nameChunk + at::chunkNumber}) {
         stream.writeAt(position + offset, u16Le(static_cast<std::uint16_t>(familyNumber_)));
     }
     stream.writeAt(position + at::funds, u16Le(static_cast<std::uint16_t>(funds_ & 0xFFFF)));
     stream.writeAt(position + at::member, memberGuid(0).bytes());
 
     const std::string_view name = name_.view().substr(0, at::longestName);
-    stream.writeAt(position + at::name, name);
+    stream.writeAt(position + nameChunk + familyName::name, name);
     constexpr std::array<std::uint8_t, at::nameEndSize> nameEnd{0x00, 0x00, 0xA3};
     stream.write(nameEnd);
     stream.writeZeros(at::nameRoom - static_cast<std::int32_t>(name.size()));

@@ -29,13 +29,15 @@ std::int32_t cutForNewFamilies(const Neighborhood& neighborhood) {
 
 // Appends a template for each new family. 0, or the error of the copy.
 std::int32_t appendFamilyTemplates(const Neighborhood& neighborhood, const char* tempPath) {
-    const auto templatePath = joined<PathText>(neighborhood.toolDirectory(), '\\', familyTemplateName);
-    // A template of another size would put the records behind it in the wrong place. A missing one fails in the copy.
-    FileStatus status{};
-    if (queryFileStatus(templatePath.c_str(), status) && status.size != familyTemplate::size) {
-        return copyError::shortWrite;
-    }
     for (std::int32_t i = 0; i < neighborhood.newFamilyCount(); ++i) {
+        const RecordFormat& format = neighborhood.newFamily(i)->format();
+        const auto templatePath = joined<PathText>(neighborhood.toolDirectory(), '\\', format.familyTemplate);
+        // A template of another size would put the records behind it in the wrong place. A missing one fails in the
+        // copy.
+        FileStatus status{};
+        if (queryFileStatus(templatePath.c_str(), status) && status.size != familyTemplate::sizeOf(format)) {
+            return copyError::shortWrite;
+        }
         const std::int32_t error = appendFile(templatePath.c_str(), tempPath);
         if (error != copyError::none) return error;
     }
@@ -122,7 +124,7 @@ int Neighborhood::writeNewFamilies(StreamView stream) {
             families_[static_cast<std::size_t>(familyCount_)] = &family;
             ++familyCount_;
         }
-        position += familyTemplate::size;
+        position += familyTemplate::sizeOf(family.format());
     }
     newFamilies_.fill(nullptr);
     newFamilyCount_ = 0;

@@ -7,6 +7,7 @@
 
 #include "world/character_layout.h"
 #include "world/neighborhood_layout.h"
+#include "world/record_format.h"
 
 // "Template.iff", from which every new character file is made: offsets in the file.
 namespace characterTemplate {
@@ -27,25 +28,27 @@ static_assert(recordName == 3988 && guid == 4080 && displayName == 4349);
 static_assert(characterTag == 54097 && bodyText == 54102);
 }  // namespace characterTemplate
 
-// "famtemplate", the record of a new family of one member: offsets in the record. The family's number is in the headers
-// of both chunks and in the record proper.
+// The templates of families, the record of a new family of one member: offsets in the record. The family's number is in
+// the headers of both chunks and in the record proper.
 namespace familyTemplate {
-constexpr std::int32_t firstChunkNumber = 9;  // 2 bytes, like the other numbers
-constexpr std::int32_t record = 84;           // "IMAF"
+constexpr std::int32_t chunkNumber = 9;  // in the header of either chunk; 2 bytes, like the other number
+constexpr std::int32_t record = 84;      // "IMAF"
 constexpr std::int32_t number = record + familyRecord::number;
 constexpr std::int32_t funds = record + familyRecord::funds;         // its low 2 bytes
 constexpr std::int32_t member = record + familyRecord::memberTable;  // 4 bytes
-constexpr std::int32_t nameChunk = 124;                              // "FAMs"
-constexpr std::int32_t nameChunkNumber = nameChunk + 9;
-constexpr std::int32_t name = nameChunk + familyName::name;
-constexpr std::int32_t size = 232;
+constexpr std::int32_t nameChunkSize = 108;  // of "FAMs", which is where its format says, up to the end
+
+constexpr std::int32_t sizeOf(const RecordFormat& format) {
+    return format.familyNameChunk + nameChunkSize;
+}
 
 // The name ends with 00 00 A3. If it is shorter than 21 characters, zeros make up the difference.
 constexpr std::int32_t nameEndSize = 3;
 constexpr std::int32_t nameRoom = 21;
-constexpr std::int32_t longestName = size - name - nameEndSize;
+constexpr std::int32_t longestName = nameChunkSize - familyName::name - nameEndSize;
 
-static_assert(number == 92 && funds == 96 && member == 116 && name == 205 && longestName == 24);
+static_assert(number == 92 && funds == 96 && member == 116 && longestName == 24);
+static_assert(sizeOf(recordFormats[0]) == 232 && sizeOf(recordFormats[1]) == 244);
 }  // namespace familyTemplate
 
 #endif

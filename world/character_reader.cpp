@@ -150,14 +150,15 @@ int Sim::readBodyStrings(StreamView stream) {
     }
     stream.seek(bodyOffset_);
     bodyStrings_ = std::make_unique<BodyStrings>();
-    bodyStrings_->parse(stream, version_);
+    bodyStrings_->parse(stream, version());
     bodyStringsLoaded_ = true;
     return 1;
 }
 
 // Whether the file is of a known form: one of the two patterns that end a text must come somewhere behind the character
-// tag. Reading the text doesn't depend on where it is.
+// tag, unless the count of its strings ends it. Reading the text doesn't depend on where the pattern is.
 bool Sim::textEnds(StreamView stream) const {
+    if (format_->hasAllTexts) return true;
     for (const auto pattern : {characterFile::fillPattern, characterFile::trailerPattern}) {
         stream.seek(bodyOffset_);
         if (findTag(stream, pattern, fileSize_) > bodyOffset_) return true;

@@ -44,6 +44,10 @@ Guid Family::memberGuid(std::size_t index) const {
     return members_[index] != nullptr ? members_[index]->guid() : memberGuids_[index];
 }
 
+const RecordFormat& Family::format() const {
+    return members_[0] != nullptr ? members_[0]->format() : baseFormats[0];
+}
+
 bool Family::hasMember(const Sim& sim) const {
     return std::any_of(members_.begin(), members_.end(), [&](const Sim* member) {
         return member != nullptr && std::string_view(member->recordName()) == sim.recordName();

@@ -8,6 +8,7 @@
 #include "platform/fixed_text.h"
 #include "world/guid.h"
 #include "world/neighborhood_layout.h"
+#include "world/record_format.h"
 #include "world/stream.h"
 
 class Neighborhood;
@@ -73,6 +74,9 @@ class Family {
     // or cut off by the end of the file; or -1 for more than 8 members, with the cursor behind the GUIDs read so far.
     // The family number counts whatever the result; it is 0 if it couldn't be read.
     int read(StreamView stream, std::int32_t fileSize);
+
+    // The format of a new family's record: that of its member.
+    const RecordFormat& format() const;
 
     // Rewrite the family's record in the temporary file, or write a new family's (save/family_writer.cpp). `position`
     // is where the template's copy begins. 1, or -1 on a stream in a bad state; rewriteRecord also returns -1 if there

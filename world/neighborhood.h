@@ -11,6 +11,7 @@
 #include "world/content_sum.h"
 #include "world/family.h"
 #include "world/paths.h"
+#include "world/record_format.h"
 #include "world/sim.h"
 #include "world/stream.h"
 #include "world/tag_scan.h"
@@ -32,8 +33,9 @@ class Neighborhood {
     virtual ~Neighborhood() = default;
 
     // Reads `fileName` in `directory` (no trailing backslash). Returns 0 whatever the file holds, or -1 if it can't be
-    // opened. Families and Sims for which the tables have no room are read but not listed.
-    int load(const char* directory, const char* fileName);
+    // opened. Families and Sims for which the tables have no room are read but not listed. Records of other formats are
+    // not found.
+    int load(const char* directory, const char* fileName, RecordFormats formats = baseFormats);
 
     // Null for an index out of range. The order is the file's; families that a save has added come last.
     std::int32_t familyCount() const { return familyCount_; }
@@ -98,12 +100,12 @@ class Neighborhood {
  private:
     friend class SaveAttempt;
 
-    void readNeighbors(StreamView stream);
-    int nextNeighbor(StreamView stream) const;
-    int readNeighbor(StreamView stream);
+    void readNeighbors(StreamView stream, RecordFormats formats);
+    int nextNeighbor(StreamView stream, std::string_view marker) const;
+    int readNeighbor(StreamView stream, const RecordFormat& format);
     int familyAhead(StreamView stream) const;
     int readFamily(StreamView stream);
-    void readPasses(StreamView stream);
+    void readPasses(StreamView stream, RecordFormats formats);
 
     std::int32_t mapOffset_ = -1;
     std::int32_t xxxxOffset_ = -1;

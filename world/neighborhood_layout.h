@@ -15,7 +15,9 @@ constexpr std::int32_t mapOffsetSize = 3;
 }  // namespace iffHeader
 
 // Neighbor record, 186 bytes from its marker. The marker also opens the records of the game's own characters ("robot");
-// only one followed by "user" is a Sim's. Bytes between the fields are unknown: not read, and written as zero.
+// only one followed by "user" is a Sim's. Bytes between the fields are unknown: not read, and written as zero. Later
+// editions of the game have a longer marker (world/record_format.h) and the same fields; there, offsets count from 8
+// bytes in front of the name.
 namespace neighborRecord {
 using namespace std::string_view_literals;
 
@@ -24,7 +26,7 @@ constexpr auto namePrefix = "user"sv;
 
 constexpr int name = 8;  // 9 characters ("user00042"), no terminator
 constexpr int nameSize = 9;
-constexpr int version = 22;      // 1 byte, signed
+constexpr int version = 22;      // 1 byte, signed; the mode in later editions: 5 or 9, 0 without person data
 constexpr int firstValues = 30;  // person values 0 to 16, 2 bytes each
 constexpr int firstValueCount = 17;
 constexpr int lastValues = 118;  // person values 17 to 28, 2 bytes each

@@ -22,7 +22,7 @@ bool isKnownKind(std::int16_t kind) {
 
 }  // namespace
 
-int Neighborhood::load(const char* directory, const char* fileName) {
+int Neighborhood::load(const char* directory, const char* fileName, RecordFormats formats) {
     directory_.assign(directory);
     const auto path = joined<PathText>(directory, '\\', fileName);
     fileSize_ = sizeOfFile(path.c_str());
@@ -31,15 +31,15 @@ int Neighborhood::load(const char* directory, const char* fileName) {
     StreamFile file;
     const auto window = static_cast<std::size_t>(std::min<std::int64_t>(fileSize_ + std::int64_t{1}, largestWindow));
     if (!file.open(path.c_str(), StreamFile::Access::read, window)) return -1;
-    readPasses(StreamView(file));
+    readPasses(StreamView(file), formats);
     sumAsRead_ = file.sum();
     return 0;
 }
 
 // If the file ends in the header, this view's flags go up, and every pass ends at once.
-void Neighborhood::readPasses(StreamView stream) {
+void Neighborhood::readPasses(StreamView stream, RecordFormats formats) {
     mapOffset_ = readMapOffset(stream);
-    readNeighbors(stream);
+    readNeighbors(stream, formats);
     stream.seek(0);
     while (familyAhead(stream) == 1) {
         readFamily(stream);
@@ -48,42 +48,52 @@ void Neighborhood::readPasses(StreamView stream) {
     xxxxOffset_ = findTag(stream, freeChunkTag, fileSize_) - 1;
 }
 
-void Neighborhood::readNeighbors(StreamView stream) {
+// A pass for each format. The Sims are in the order of the file, whatever formats it mixes.
+void Neighborhood::readNeighbors(StreamView stream, RecordFormats formats) {
     const SteadyDirectories steady;  // each record asks for the size of a file in the same directory
-    while (nextNeighbor(stream) == 1) {
-        readNeighbor(stream);
+    const std::int64_t start = stream.tell();
+    for (const RecordFormat& format : formats) {
+        stream.seek(start);
+        while (nextNeighbor(stream, format.marker) == 1) {
+            readNeighbor(stream, format);
+        }
     }
+    std::ranges::sort(std::span(sims_).first(static_cast<std::size_t>(simCount_)), {}, &Sim::recordOffset);
 }
 
 // Returns 1 with the cursor on a record's name, 0 if there are no more records, or -4 at the end of the file.
-int Neighborhood::nextNeighbor(StreamView stream) const {
+int Neighborhood::nextNeighbor(StreamView stream, std::string_view marker) const {
     while (!stream.endOfFile()) {
-        const std::int32_t hit = findTag(stream, neighborRecord::marker, fileSize_);
+        const std::int32_t hit = findTag(stream, marker, fileSize_);
         if (hit < 1) return 0;
-        stream.seek(hit + static_cast<int>(neighborRecord::marker.size()) - 1);
+        stream.seek(hit + static_cast<int>(marker.size()) - 1);
         const auto prefix = stream.readBytes<neighborRecord::namePrefix.size()>();
         if (std::equal(prefix.begin(), prefix.end(), neighborRecord::namePrefix.begin())) {
             stream.seek(stream.tell() - static_cast<int>(prefix.size()));
             return 1;
         }
-        stream.skip(1);  // the next search begins 13 bytes behind the beginning of this marker
+        stream.skip(1);  // the next search begins 5 bytes behind the end of this marker
     }
     return tagNotFound;
 }
 
-// Returns 1, or -2 for a record of an unknown kind, with the cursor just behind the kind. A record that the end of the
-// file cuts off is dropped, because rewriting it would make the file longer.
-int Neighborhood::readNeighbor(StreamView stream) {
+// Returns 1, or -2 for a record of an unknown kind, with the cursor just behind the kind, or of mode 0. A record that
+// the end of the file cuts off is dropped, because rewriting it would make the file longer.
+int Neighborhood::readNeighbor(StreamView stream, const RecordFormat& format) {
     std::array<std::uint8_t, neighborRecord::size> record{};
     constexpr std::size_t kindEnd = neighborRecord::kind + 2;
     const auto recordOffset = static_cast<std::int32_t>(stream.tell()) - neighborRecord::name;
     stream.seek(recordOffset);
     stream.read(std::span(record).first<kindEnd>());
+    if (format.version && record[neighborRecord::version] == 0) {
+        stream.seek(recordOffset + neighborRecord::name);  // no person data follow, so the next record is near
+        return -2;
+    }
     if (!isKnownKind(kindOf(record))) return -2;
     stream.read(std::span(record).subspan<kindEnd>());
     if (!stream.good() || simCount_ >= highestSimCount) return 1;
 
-    auto sim = std::make_unique<Sim>(*this);
+    auto sim = std::make_unique<Sim>(*this, format);
     sim->readRecord(record, recordOffset);
     sims_[static_cast<std::size_t>(simCount_)] = sim.get();
     ++simCount_;

@@ -39,7 +39,7 @@ int listedNeighborhoodCount() {
     return count;
 }
 
-void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory) {
+void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory, RecordFormats formats) {
     for (int number = 1; number <= highestNeighborhoodCount; ++number) {
         auto& slot = neighborhoods[static_cast<std::size_t>(number - 1)];
         slot.reset();
@@ -47,7 +47,7 @@ void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory) {
         if (!exists(directory.c_str())) return;
         showProgress(number);
         auto neighborhood = std::make_unique<Neighborhood>();
-        if (neighborhood->load(directory.c_str(), neighborhoodFileName) == 0) {
+        if (neighborhood->load(directory.c_str(), neighborhoodFileName, formats) == 0) {
             neighborhood->setToolDirectory(toolDirectory);
             slot = std::move(neighborhood);
         } else {

@@ -18,6 +18,6 @@ int listedNeighborhoodCount();
 // Reads "UserData", "UserData2" and so on to "UserData100" in `simsDirectory` (with a trailing backslash) into the
 // table, and stops at the first that doesn't exist. The status line names each one before it is read. A neighborhood
 // that can't be read leaves its slot null, after a message box, and the next one is read all the same.
-void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory);
+void loadNeighborhoods(const char* simsDirectory, const char* toolDirectory, RecordFormats formats = baseFormats);
 
 #endif

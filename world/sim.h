@@ -15,6 +15,7 @@
 #include "world/guid.h"
 #include "world/neighborhood_layout.h"
 #include "world/paths.h"
+#include "world/record_format.h"
 #include "world/stream.h"
 
 class Family;
@@ -58,15 +59,17 @@ constexpr std::size_t careerLevel = 28;
 class Sim {
  public:
     // An adult with nothing known of its files, until a record is read.
-    explicit Sim(Neighborhood& neighborhood) : neighborhood_(&neighborhood) {}
+    explicit Sim(Neighborhood& neighborhood, const RecordFormat& format = baseFormats[0])
+        : neighborhood_(&neighborhood), format_(&format) {}
     Sim(const Sim&) = delete;
     Sim& operator=(const Sim&) = delete;
     virtual ~Sim() = default;
 
-    // The record's fields. They never come from the character file.
+    // The record's fields. They never come from the character file. `recordOffset` is from where the offsets of
+    // `neighborRecord` count.
     const char* recordName() const { return recordName_.c_str(); }
     std::int32_t recordOffset() const { return recordOffset_; }
-    std::int16_t version() const { return version_; }
+    std::int16_t version() const { return format_->version.value_or(version_); }
     std::int32_t age() const { return age_; }
     std::int16_t skinTone() const { return skinTone_; }
     std::int16_t gender() const { return gender_; }
@@ -74,6 +77,7 @@ class Sim {
     std::int16_t bodySkill() const { return personValue(personValue::bodySkill); }
 
     Neighborhood& neighborhood() const { return *neighborhood_; }
+    const RecordFormat& format() const { return *format_; }
 
     // The family that lists the Sim. Null until that family has resolved its members.
     Family* family() const { return family_; }
@@ -114,7 +118,7 @@ class Sim {
     bool recordDirty() const { return recordDirty_; }
 
     // Takes the fields of `record`, whose kind is known to be good, and asks for the size of the character file.
-    // `recordOffset` is where the record begins in the file.
+    // `recordOffset` is where they begin in the file.
     void readRecord(std::span<const std::uint8_t, neighborRecord::size> record, std::int32_t recordOffset);
 
     // Moves the Sim out of its family into a new one, which waits for the next save (lifestage/move_out.cpp). The new
@@ -145,9 +149,9 @@ class Sim {
     bool textEnds(StreamView stream) const;
     template <typename Direction>
     void passFields(const Direction& direction);
-    neighborRecord::Bytes recordBytes();
+    neighborRecord::Bytes recordBytes(StreamView& stream);
 
-    std::int16_t version_ = 0;
+    std::int16_t version_ = 0;  // as in the file
     std::int32_t recordOffset_ = 0;
     bool fileUsable_ = true;
     bool headerRead_ = false;
@@ -179,6 +183,7 @@ class Sim {
     std::unique_ptr<BodyStrings> bodyStrings_;
     Family* family_ = nullptr;
     Neighborhood* neighborhood_;
+    const RecordFormat* format_;
 };
 
 #endif

@@ -31,9 +31,12 @@ void Sim::readRecord(std::span<const std::uint8_t, neighborRecord::size> record,
     fileSize_ = sizeOfFile(filePath_.c_str());
 }
 
-neighborRecord::Bytes Sim::recordBytes() {
+// Of the format's unknown bytes those of the stream, or zeros.
+neighborRecord::Bytes Sim::recordBytes(StreamView& stream) {
     neighborRecord::Bytes record{};
     std::ranges::copy(neighborRecord::marker, record.begin());
+    stream.seek(recordOffset_);
+    if (format_->keepsUnknown) stream.read(record);
     passFields(FieldWriter(record));
     return record;
 }

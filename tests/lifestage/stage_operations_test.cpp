@@ -30,6 +30,7 @@ class OneSim : public TestNeighborhood {
     static SampleCharacter characterOf(bool isChild, const char* head, BodyEnding ending) {
         SampleCharacter character{
             .tag = isChild ? "child" : "adult", .slots = isChild ? childSlots() : teenSlots(), .ending = ending};
+        if (ending == atEntry34) character.bodyFill = 0;  // no pattern ends the text
         setHead(character.slots, "oldMesh", head);
         return character;
     }
@@ -141,6 +142,15 @@ TEST(StageOperationsTest, AskAboutAHeadThatNoSetHoldsAndRefuseWhatIsNotReady) {
         {{.version = 6, .age = 9}, atEntry29, "a", "a", childToTeen, IDOK, -1, refusal("6", "6")},
         {{.version = 8, .age = 9}, atEntry32, "a", "a", childToTeen, IDOK, -1, refusal("7", "8")},
         {{.version = 8, .age = 9}, atEntry29, amanda, "teenSkin", childToTeen, IDOK, 1, ": "},
+        {{.later = true, .version = 9, .age = 9}, atEntry34, amanda, "teenSkin", childToTeen, IDOK, 1, ": "},
+        {{.later = true, .version = 5, .age = 18},
+         atEntry34,
+         "stray",
+         "stray",
+         teenToAdult,
+         IDCANCEL,
+         0,
+         question("teen", "adult")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.said);

@@ -20,7 +20,10 @@ std::string livesOf(const std::string& states) {
 
 class SaveSweepTest : public SaveTest {
  public:
-    SaveSweepTest() { start(); }
+    SaveSweepTest() {
+        later = {true, false, true};
+        start();
+    }
 
     // Saves twice in a child, from the same beginning each time. `decide` judges the calls of the first save.
     void saveTwice(const CallDecision& decide) {

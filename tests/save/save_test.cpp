@@ -9,15 +9,19 @@ namespace {
 const SampleNeighborhood allBehindFreeRoom = {.before = {{.type = "XXXX"}}};
 
 TEST_F(SaveTest, NewFamiliesBeginWhereTheFileIsCutAndThoseOfTheNextSaveFollow) {
-    const std::tuple<const char*, SampleNeighborhood, int> rows[] = {
-        {"before the free room", {.freeRoom = true, .fileSize = 40'000}, 0},
-        {"before the map, and Bob is a pet", {}, 5},
-        {"at the end", {.map = false}, 0},
-        {"before the map, and no more families are listed", {.families = std::vector<SampleFamily>(98)}, 0},
-        {"before all pieces, of which none is written then", allBehindFreeRoom, 0}};
-    for (const auto& [what, shape, kind] : rows) {
+    const std::tuple<const char*, SampleNeighborhood, int, std::array<bool, 3>> rows[] = {
+        {"before the free room", {.freeRoom = true, .fileSize = 40'000}, 0, {}},
+        {"before the map, and Bob is a pet", {}, 5, {}},
+        {"at the end", {.map = false}, 0, {}},
+        {"before the map, and no more families are listed", {.families = std::vector<SampleFamily>(98)}, 0, {}},
+        {"before all pieces, of which none is written then", allBehindFreeRoom, 0, {}},
+        {"before the free room, in later editions", {.freeRoom = true}, 0, {true, true, true}},
+        {"before the map, and Bob is a pet of later editions", {}, 5, {false, true, false}},
+        {"at the end, and Bob's record is of the base game", {.map = false}, 0, {true, false, true}}};
+    for (const auto& [what, shape, kind, ofLaterEditions] : rows) {
         SCOPED_TRACE(what);
         bobsKind = kind;
+        later = ofLaterEditions;
         start(shape);
         save();
         EXPECT_EQ(states(), allSaved);
@@ -46,10 +50,18 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
         std::string name;  // that the obstacle takes
         std::string after, afterTheNext;
         SampleNeighborhood shape = {.freeRoom = true};
+        std::array<bool, 3> ofLaterEditions = {};
     } rows[] = {
         {"no live file", nothing, live, "old; old; gone", allSaved},
         {"a famtemplate of another size", aShortFile, "famtemplate",
          "old; old; old, temporary other bytes; famtemplate\n", allSaved},
+        {"no template of one who moves out",
+         nothing,
+         "famtemplate-later",
+         "old; old; old, temporary other bytes; famtemplate-later\n",
+         allSaved,
+         {.freeRoom = true},
+         {false, false, true}},
         {"a Template.iff that lacks a byte", aShortFile, "Template.iff",
          "old; old; new without both, backup old; Template.iff\n",
          "new, backup old; new, backup old; new, backup new without both"},
@@ -69,6 +81,7 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
          "new, backup old; new, backup old; new, aside old"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
+        later = row.ofLaterEditions;
         start(row.shape);
         const bool existed = files().exists(row.name);
         if (existed) files().remove(row.name);

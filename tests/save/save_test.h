@@ -26,6 +26,12 @@ class SaveTest : public testing::Test {
     // its families behind those of the household.
     void start(SampleNeighborhood shape = {.freeRoom = true, .fileSize = 40'000}) {
         neighbors_[1].kind = bobsKind;
+        for (std::size_t i = 0; i < neighbors_.size(); ++i) {
+            const auto& [version, ending] = ofBaseGame.at(i);
+            neighbors_[i].later = later.at(i);
+            neighbors_[i].version = later.at(i) ? 9 : version;
+            characters_[i].ending = later.at(i) ? BodyEnding::atEntry34 : ending;
+        }
         shape.neighbors = neighbors_;
         shape.families.insert(shape.families.begin(), {{.funds = 90'000, .members = {1, 2, 3, stranger}},
                                                        {.number = 3, .members = {}},
@@ -95,13 +101,16 @@ class SaveTest : public testing::Test {
         overwrite(file, table, guids.fillTo(16).written());
     }
 
-    static Bytes newFamilyRecord(int number, int funds, std::uint32_t member, const std::string& name) {
-        Bytes record = makeFamilyTemplate();
-        for (const std::size_t offset : {9U, 92U, 133U})
+    // A member of later editions takes a longer record.
+    Bytes newFamilyRecord(int number, int funds, std::uint32_t member, const std::string& name) const {
+        const bool isLater = later.at(member - 1);
+        Bytes record = makeFamilyTemplate(isLater ? Editions::later : Editions::base);
+        for (const std::size_t offset : {9U, 92U, isLater ? 145U : 133U})
             overwrite(record, offset, u16(number));
         overwrite(record, 96, u16(funds));
         overwrite(record, 116, u32(member));
-        overwrite(record, 205, ByteWriter().text(name.substr(0, 24)).u8(0).u8(0).u8(0xA3).fillTo(24).written());
+        overwrite(record, isLater ? 217 : 205,
+                  ByteWriter().text(name.substr(0, 24)).u8(0).u8(0).u8(0xA3).fillTo(24).written());
         return record;
     }
 
@@ -137,16 +146,19 @@ class SaveTest : public testing::Test {
     }
 
     int bobsKind = 0;
+    std::array<bool, 3> later{};  // whether each record is one of later editions
     static constexpr const char* live = TestNeighborhood::neighborhoodFile;
     static constexpr std::uint32_t stranger = 0x44434241;  // a member without a record
 
  private:
     Bytes savedCharacter(std::size_t index) const {
         const SampleCharacter& sim = characters_[index];
-        const BodyEnding ending = sampleBodyEnding(sim.slots, neighbors_[index].version);
-        Bytes text = filledBodyStringText(sim.slots, ending, 1041);
+        const bool isLater = later.at(index);
+        const int version = neighbors_[index].version;
+        const BodyEnding ending = isLater ? BodyEnding::atEntry34 : sampleBodyEnding(sim.slots, version);
+        Bytes text = filledBodyStringText(sim.slots, ending, 1041, sim.lastEntry);
         text.resize(1041);
-        Bytes file = makeFactTemplate();
+        Bytes file = makeFactTemplate(isLater ? Editions::later : Editions::base);
         overwrite(file, 3988, bytesFrom(sim.recordName));
         overwrite(file, 4080, u32(sim.guid));
         overwrite(file, 4349, ByteWriter().field(sim.name.substr(0, 63), 64).written());
@@ -164,6 +176,7 @@ class SaveTest : public testing::Test {
         sim.personValues[28] = 0;
         for (const std::size_t value : {8U, 9U, 10U, 13U, 15U, 16U})
             if (teen) sim.personValues[value] = 0;
+        if (sim.later) return sampleNeighborRecord(sim);  // all that has no field stays
         sim.gapByte = 0;
         Bytes record = sampleNeighborRecord(sim);
         record.resize(186);
@@ -183,15 +196,17 @@ class SaveTest : public testing::Test {
         return ByteWriter().bytes(file).bytes(first).bytes(second).written();
     }
 
+    static constexpr std::array<std::pair<int, BodyEnding>, 3> ofBaseGame = {
+        {{8, BodyEnding::atEntry33}, {6, BodyEnding::atEntry32}, {7, BodyEnding::atEntry32}}};
     const std::string cleos = std::string(21, 'c'), bobs = std::string(99, 'b');
     std::vector<SampleCharacter> characters_ = {
-        {.name = std::string(64, 'a'), .guid = 1, .tag = "child", .ending = BodyEnding::atEntry33},
-        {.recordName = "user00002", .name = "Bob", .guid = 2, .hasPictures = false},
+        {.name = std::string(64, 'a'), .guid = 1, .tag = "child"},
+        {.recordName = "user00002", .name = "Bob", .guid = 2, .lastEntry = "h5=h5", .hasPictures = false},
         {.recordName = "user00003", .name = "Cleo", .guid = 3, .hasPictures = false}};
     // Their bytes that have no field aren't written again.
     std::vector<SampleNeighbor> neighbors_ = {
-        {.version = 8, .age = 9, .wordA = 0x1234, .wordB = -2, .tailWords = {0x0102, 0x0304, 0x0506, -1}, .gapByte = 9},
-        {.recordName = "user00002", .version = 6, .skinTone = 3, .gapByte = 9},
+        {.age = 9, .wordA = 0x1234, .wordB = -2, .tailWords = {0x0102, 0x0304, 0x0506, -1}, .gapByte = 9},
+        {.recordName = "user00002", .skinTone = 3, .gapByte = 9},
         {.recordName = "user00003", .gapByte = 9}};
     std::unique_ptr<TestNeighborhood> test_;
     std::size_t cut_ = 0;  // where new families begin; 0 for the end of the file

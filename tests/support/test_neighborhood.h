@@ -33,9 +33,11 @@ inline BodySlots slotsOf(const BodyStrings& body) {
 
 class TestNeighborhood {
  public:
-    // Writes the files, each character under its record name, and reads them.
+    // Writes the files, each character under its record name, and reads them. The program for later editions reads a
+    // neighborhood that has one of their records.
     explicit TestNeighborhood(const SampleNeighborhood& content, const std::vector<SampleCharacter>& characters = {})
-        : built_(makeNeighborhoodFile(content)) {
+        : built_(makeNeighborhoodFile(content)),
+          formats_(std::ranges::any_of(content.neighbors, &SampleNeighbor::later) ? allFormats : baseFormats) {
         files_.write(neighborhoodFile, built_.bytes);
         for (const SampleCharacter& character : characters)
             files_.write(characterFile(character.recordName), makeCharacterFile(character).bytes);
@@ -46,7 +48,7 @@ class TestNeighborhood {
     // directory is the one above "UserData"; it is empty until a test writes there.
     void load() {
         neighborhood_ = std::make_unique<Neighborhood>();
-        EXPECT_EQ(neighborhood_->load((files_.path() + "\\UserData").c_str(), "neighborhood.iff"), 0);
+        EXPECT_EQ(neighborhood_->load((files_.path() + "\\UserData").c_str(), "neighborhood.iff", formats_), 0);
         neighborhood_->setToolDirectory(files_.path().c_str());
     }
 
@@ -65,6 +67,7 @@ class TestNeighborhood {
  private:
     TempDirectory files_;
     NeighborhoodFile built_;
+    RecordFormats formats_;
     std::unique_ptr<Neighborhood> neighborhood_;
 };
 

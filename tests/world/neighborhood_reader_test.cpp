@@ -35,6 +35,29 @@ TEST(NeighborhoodReader, APlayersRecordOfAKnownKindGivesASim) {
     EXPECT_FALSE(read->sim(5) || read->sim(-1));
 }
 
+TEST(NeighborhoodReader, RecordsOfLaterEditionsAreFoundByTheProgramThatKnowsThem) {
+    const std::tuple<const char*, bool, int> records[] = {{"user0late", true, 9}, {"user1base", false, 5},
+                                                          {"npc_clown", true, 9}, {"user2none", true, 0},
+                                                          {"user3late", true, 5}, {"user4base", false, 0}};
+    SampleNeighborhood content{.before = {{.type = "NBRS", .content = bytesFrom("\1\0\0\0\x0A\0\0\0\x09\0\0\0use"s)}}};
+    for (const auto& [name, later, mode] : records)
+        content.neighbors.push_back({later, name, mode, {}, mode, 3, 0, 0, 2, {}, 0xEE, !later || mode != 0});
+    const TestNeighborhood files(content);
+    for (const auto& [formats, expected] :
+         {std::pair(baseFormats, "user1base 5 5|user4base 0 0|"s),
+          {allFormats, "user0late 7 9|user1base 5 5|user3late 7 5|user4base 0 0|"s}}) {
+        Neighborhood read;
+        EXPECT_EQ(read.load(files->directory(), "neighborhood.iff", formats), 0);
+        std::string listed;
+        for (int i = 0; i < read.simCount(); ++i) {
+            Sim& sim = *read.sim(i);
+            listed += sim.recordName() + " "s + std::to_string(sim.version()) + " " + std::to_string(sim.age()) + "|";
+            EXPECT_TRUE(sim.skinTone() == 3 && sim.gender() == 2);
+        }
+        EXPECT_EQ(listed, expected);
+    }
+}
+
 TEST(NeighborhoodReader, TheSearchGoesOnThirteenBytesBehindAFalseMarker) {
     for (const std::size_t distance : {12U, 13U}) {
         ByteWriter content = ByteWriter().u32Le(1).u32Le(4).fillTo(distance, 'x').bytes(sampleNeighborRecord({}));
@@ -83,8 +106,8 @@ TEST(NeighborhoodReader, WhatGoesBeyondTheTablesIsReadAndNotListed) {
 }
 
 TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatIsWholeBeforeTheCut) {
-    TestNeighborhood read(
-        SampleNeighborhood{.neighbors = {{}, {}}, .families = {{.number = 3}, {.number = 8}}, .freeRoom = true});
+    TestNeighborhood read(SampleNeighborhood{
+        .neighbors = {{}, {.later = true}}, .families = {{.number = 3}, {.number = 8}}, .freeRoom = true});
     const NeighborhoodFile& built = read.built();
     for (std::size_t size = built.bytes.size(); size-- > 0 && !HasFailure();) {
         SCOPED_TRACE(size);
@@ -92,7 +115,7 @@ TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatIsWholeBeforeTheCut) {
         read.load();
         const auto whole = [size](std::size_t offset, std::size_t length) { return size >= offset + length ? 1 : 0; };
         const auto& [first, second] = std::pair(built.families[0], built.families[1]);
-        EXPECT_EQ(read->simCount(), whole(built.neighborOffsets[0], 186) + whole(built.neighborOffsets[1], 186));
+        EXPECT_EQ(read->simCount(), whole(built.neighborOffsets[0], 186) + whole(built.neighborOffsets[1], 190));
         EXPECT_EQ(read->familyCount(),
                   whole(first.name, sizeof "Meadows" + 2) + whole(second.name, sizeof "Meadows" + 2));
         EXPECT_EQ(read->highestFamilyNumber(), whole(first.record, 10) * 3 + whole(second.record, 10) * 5);
