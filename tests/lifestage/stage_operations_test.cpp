@@ -126,7 +126,7 @@ TEST(StageOperationsTest, AskAboutAHeadThatNoSetHoldsAndRefuseWhatIsNotReady) {
                "; Marrowfen version 7.  Please play the family some more before using Marrowfen.  No "
                "teenification will be performed.";
     };
-    const SampleNeighbor child{.age = 9}, boy{.age = 18, .kind = male};
+    const SampleNeighbor child{.age = 9}, boy{.age = 18, .kind = male}, teen{.later = true, .version = 5, .age = 18};
     const struct {
         SampleNeighbor record;
         BodyEnding ending;
@@ -143,14 +143,7 @@ TEST(StageOperationsTest, AskAboutAHeadThatNoSetHoldsAndRefuseWhatIsNotReady) {
         {{.version = 8, .age = 9}, atEntry32, "a", "a", childToTeen, IDOK, -1, refusal("7", "8")},
         {{.version = 8, .age = 9}, atEntry29, amanda, "teenSkin", childToTeen, IDOK, 1, ": "},
         {{.later = true, .version = 9, .age = 9}, atEntry34, amanda, "teenSkin", childToTeen, IDOK, 1, ": "},
-        {{.later = true, .version = 5, .age = 18},
-         atEntry34,
-         "stray",
-         "stray",
-         teenToAdult,
-         IDCANCEL,
-         0,
-         question("teen", "adult")},
+        {teen, atEntry34, "stray", "stray", teenToAdult, IDCANCEL, 0, question("teen", "adult")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.said);

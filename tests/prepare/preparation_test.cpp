@@ -29,13 +29,11 @@ TEST_F(PreparationTest, BringsWhatIsMissingAndASecondRunChangesNothing) {
 
 TEST_F(PreparationTest, TheTemplatesOfLaterEditionsComeOutOfALaterFileWhereTheyAreAskedFor) {
     EXPECT_FALSE(isReady(false, Editions::later));
-    EXPECT_TRUE(reports("Template-later.iff is missing. None of") && reports("famtemplate-later is new")) << report_;
+    EXPECT_TRUE(reports("Template-later.iff is missing. None of")) << report_;
     EXPECT_TRUE(writeInstallation(files_.path("prefix"), true));
-    for (const bool isCopyOfTheOther : {true, false}) {
-        if (isCopyOfTheOther) fs::copy("Template.iff", "Template-later.iff");
-        EXPECT_EQ(isReady(false, Editions::later), !isCopyOfTheOther) << report_;
-        fs::remove(isCopyOfTheOther ? "Template-later.iff" : "none");
-    }
+    fs::copy("Template.iff", "Template-later.iff");
+    EXPECT_FALSE(isReady(false, Editions::later)) << "its text counts 33 strings";
+    EXPECT_TRUE(isReady(true, Editions::later)) << report_;
     const Chunks samphire = readIff(bytesOfFile(game_ / "UserData4/Characters/User00002.iff")).chunks;
     EXPECT_EQ(files_.bytesOf("tool/Template-later.iff"), makeTemplate(samphire, Editions::later));
     EXPECT_EQ(textAt(files_.bytesOf("tool/Template-later.iff"), 54094, 10), "\x23\0\1adult\0\0"s);

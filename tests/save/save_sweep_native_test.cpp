@@ -20,10 +20,7 @@ std::string livesOf(const std::string& states) {
 
 class SaveSweepTest : public SaveTest {
  public:
-    SaveSweepTest() {
-        later = {true, false, true};
-        start();
-    }
+    SaveSweepTest() { start({.freeRoom = true, .fileSize = 40'000}, {true, false, true}); }
 
     // Saves twice in a child, from the same beginning each time. `decide` judges the calls of the first save.
     void saveTwice(const CallDecision& decide) {

@@ -23,14 +23,16 @@ class SaveTest : public testing::Test {
     ~SaveTest() override { backupClock().followSystem(); }
 
     // Writes the files, reads them and makes the changes. The neighborhood has the chunks and the map of `shape`, and
-    // its families behind those of the household.
-    void start(SampleNeighborhood shape = {.freeRoom = true, .fileSize = 40'000}) {
+    // its families behind those of the household. `ofLaterEditions` tells whose record and file are of these.
+    void start(SampleNeighborhood shape = {.freeRoom = true, .fileSize = 40'000},
+               const std::array<bool, 3>& ofLaterEditions = {}) {
+        later_ = ofLaterEditions;
         neighbors_[1].kind = bobsKind;
         for (std::size_t i = 0; i < neighbors_.size(); ++i) {
             const auto& [version, ending] = ofBaseGame.at(i);
-            neighbors_[i].later = later.at(i);
-            neighbors_[i].version = later.at(i) ? 9 : version;
-            characters_[i].ending = later.at(i) ? BodyEnding::atEntry34 : ending;
+            neighbors_[i].later = later_.at(i);
+            neighbors_[i].version = later_.at(i) ? 9 : version;
+            characters_[i].ending = later_.at(i) ? BodyEnding::atEntry34 : ending;
         }
         shape.neighbors = neighbors_;
         shape.families.insert(shape.families.begin(), {{.funds = 90'000, .members = {1, 2, 3, stranger}},
@@ -87,6 +89,7 @@ class SaveTest : public testing::Test {
     }
 
     const TestNeighborhood& test() const { return *test_; }
+    void readAgain() const { test_->load(); }
     const TempDirectory& files() const { return test_->files(); }
     const Tree& original() const { return original_; }
 
@@ -103,7 +106,7 @@ class SaveTest : public testing::Test {
 
     // A member of later editions takes a longer record.
     Bytes newFamilyRecord(int number, int funds, std::uint32_t member, const std::string& name) const {
-        const bool isLater = later.at(member - 1);
+        const bool isLater = later_.at(member - 1);
         Bytes record = makeFamilyTemplate(isLater ? Editions::later : Editions::base);
         for (const std::size_t offset : {9U, 92U, isLater ? 145U : 133U})
             overwrite(record, offset, u16(number));
@@ -146,14 +149,13 @@ class SaveTest : public testing::Test {
     }
 
     int bobsKind = 0;
-    std::array<bool, 3> later{};  // whether each record is one of later editions
     static constexpr const char* live = TestNeighborhood::neighborhoodFile;
     static constexpr std::uint32_t stranger = 0x44434241;  // a member without a record
 
  private:
     Bytes savedCharacter(std::size_t index) const {
         const SampleCharacter& sim = characters_[index];
-        const bool isLater = later.at(index);
+        const bool isLater = later_.at(index);
         const int version = neighbors_[index].version;
         const BodyEnding ending = isLater ? BodyEnding::atEntry34 : sampleBodyEnding(sim.slots, version);
         Bytes text = filledBodyStringText(sim.slots, ending, 1041, sim.lastEntry);
@@ -198,6 +200,7 @@ class SaveTest : public testing::Test {
 
     static constexpr std::array<std::pair<int, BodyEnding>, 3> ofBaseGame = {
         {{8, BodyEnding::atEntry33}, {6, BodyEnding::atEntry32}, {7, BodyEnding::atEntry32}}};
+    std::array<bool, 3> later_{};
     const std::string cleos = std::string(21, 'c'), bobs = std::string(99, 'b');
     std::vector<SampleCharacter> characters_ = {
         {.name = std::string(64, 'a'), .guid = 1, .tag = "child"},

@@ -35,7 +35,7 @@ RECT inkBetween(const Picture& picture, int top, int bottom) {
 class MainWindowTest : public testing::Test {
  protected:
     MainWindowTest() {
-        writeInstallation(files_.path("prefix"));
+        writeInstallation(files_.path("prefix"), true);
         EXPECT_TRUE(writeTemplates(files_.path()));
         files_.write("skinsets.cfg", "CHILD=c001fclgt_amanda01;\nTEENAGER=c008falgt_alt;t\nADULT=a;a\n");
         loadCursors();
@@ -133,7 +133,7 @@ TEST_F(MainWindowTest, ItsControlsAreAtTheirPlaces) {
 
 TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
     run([] {
-        EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
+        EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|Neighborhood 4|");
         const std::tuple<int, int, int, const char*> rows[] = {
             {0, 0, 2, "Teen to Adult"},
             {0, 0, 3, "Child to Teen"},
@@ -163,6 +163,11 @@ TEST_F(MainWindowTest, ShowsWhatIsPickedAndWhatItAllows) {
         EXPECT_EQ(textOf(all.simCombo) + enabled(), "*Unreadable sim*");
         EXPECT_FALSE(showsSim());
 
+        pick(3, 1, 2);  // of later editions, whose records this program doesn't know
+        EXPECT_EQ(entries(all.familyCombo) + entries(all.simCombo),
+                  "Saltmarsh|Driftwood|*Unreadable sim*|*Unreadable sim*|*Unreadable sim*|");
+        EXPECT_FALSE(showsSim());
+
         pick(1, 3, 4);
         const Picture picture = pictureOf(all.mainWindow);
         const RECT name = inkBetween(picture, 130, 160), stage = inkBetween(picture, 160, 190);
@@ -181,7 +186,7 @@ TEST_F(MainWindowTest, TakesAChildToItsOwnHouseholdAndAsksBeforeThatIsLost) {
         clickButton(all.teenToAdultButton);
         EXPECT_EQ(enabled(), "Move Out");
         clickButton(all.moveOutButton);
-        EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|");
+        EXPECT_EQ(entries(all.neighborhoodCombo), "Neighborhood 1|Neighborhood 2|Neighborhood 3|Neighborhood 4|");
         EXPECT_EQ(textOf(all.neighborhoodCombo) + entries(all.familyCombo) + entries(all.simCombo) + enabled(), "");
         EXPECT_TRUE(showsSim()) << "the lines stay until the next pick";
         pick(0, 0, 3);
@@ -237,7 +242,7 @@ TEST_F(MainWindowTest, FollowsTheSplashWindowWhichSaysWhatIsRead) {
     EXPECT_EQ(textOf(splash), "Loading");
     const Picture before = pictureOf(splash);
     load();
-    EXPECT_EQ(statusLine().view(), "Loading Neighborhood 3");
+    EXPECT_EQ(statusLine().view(), "Loading Neighborhood 4");
     const Picture after = pictureOf(splash);
     EXPECT_NE(after.pixels, before.pixels) << "the line is another";
     const RECT longer = inkBetween(before, before.height - 30, before.height);

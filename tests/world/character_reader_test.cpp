@@ -93,7 +93,10 @@ TEST(BodyStrings, ATextOfLaterEditionsIsWrittenBackWithEachOfIts35Strings) {
     const std::string noPairs = std::regex_replace(child, std::regex("\1=\0\0"s), "\1\0\0"s);
     const std::string adult = textAt(bodyStringText(adultSlots(), atEntry34, "h533fafit_a,BODY=h533fafitlgt_a"));
     const std::string none = std::regex_replace(child, std::regex("ADDED\0\0\1ADDED"s), "NONE\0\0\1ADDED"s);
-    for (const auto& [read, written] : {std::pair(adult, adult), {child, child}, {noPairs, noPairs}, {none, child}}) {
+    const std::string ofBaseGame = textAt(bodyStringText(childSlots(), atEntry32));
+    const std::string completed = textAt(bodyStringText(childSlots(), atEntry34));
+    for (const auto& [read, written] :
+         {std::pair(adult, adult), {child, child}, {noPairs, noPairs}, {none, child}, {ofBaseGame, completed}}) {
         BodyStrings body;
         body.parse(TestStream(bytesFrom(read)).view, 7);
         EXPECT_EQ(body.version(), 7);
