@@ -41,7 +41,7 @@ class Version {
  public:
     Version(const std::string& simsDirectory, int number)
         : directory_(neighborhoodDirectory(simsDirectory.c_str(), number)),
-          isRead_(neighborhood_->load(directory_.c_str(), neighborhoodFileName) == 0) {
+          isRead_(neighborhood_->load(directory_.c_str(), neighborhoodFileName, allFormats) == 0) {
         if (isRead_) readMembers();
     }
 

@@ -11,6 +11,7 @@
 #include "restore/going_back.h"
 #include "restore/restore_points.h"
 #include "start/cut_off.h"
+#include "start/editions.h"
 #include "start/left_overs.h"
 #include "start/report.h"
 #include "ui/words.h"
@@ -68,8 +69,8 @@ std::int64_t secondsOf(const SYSTEMTIME& time) {
 }
 
 // False if the editor couldn't be started, which is said.
-bool runEditor(bool askNothing, int& exitCode) {
-    const std::string editor = programBeside("tidewright");
+bool runEditor(Editions editions, bool askNothing, int& exitCode) {
+    const std::string editor = programBeside(editorFor(editions));
     if (runAndWait(editor, ".", exitCode)) return true;
     say(editor + " can't be started. Please install Tidewright again.", askNothing);
     return false;
@@ -121,13 +122,13 @@ bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
     return true;
 }
 
-int runEvening(const std::string& simsDirectory, bool askNothing) {
+int runEvening(const std::string& simsDirectory, Editions editions, bool askNothing) {
     const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::evening);
     if (made.name.empty() && !confirm(whyNoPoint(made) + goOnWithoutPoint, askNothing)) return failed;
     Evening evening = eveningSince(made.name, simsDirectory, std::time(nullptr));
     evening.known = sentencesOnLeftOvers(simsDirectory);
     int exitCode = failed;
-    const bool ran = runEditor(askNothing, exitCode);
+    const bool ran = runEditor(editions, askNothing, exitCode);
     const std::optional<RestorePoint> point = pointOfLastEvening(simsDirectory);
     if (!made.name.empty() && point && point->name == made.name) {
         if (ran) report(*point, reportOn(evening), askNothing);

@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "gamefiles/templates.h"
+
 // In the working directory.
 constexpr const char* restorePointsDirectory = "restore-points";
 
@@ -12,8 +14,8 @@ constexpr const char* restorePointsDirectory = "restore-points";
 // and failed, so that nothing else may begin.
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing);
 
-// Makes a restore point, runs the editor, waits for its end, and says what it has saved. Returns the editor's exit
-// code, or 1 if it wasn't started.
-int runEvening(const std::string& simsDirectory, bool askNothing);
+// Makes a restore point, runs the editor for these editions, waits for its end, and says what it has saved. Returns the
+// editor's exit code, or 1 if it wasn't started.
+int runEvening(const std::string& simsDirectory, Editions editions, bool askNothing);
 
 #endif

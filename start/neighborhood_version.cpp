@@ -28,7 +28,7 @@ std::vector<Guid> membersOf(const Bytes& file, const Family& family) {
 
 NeighborhoodVersion::NeighborhoodVersion(const NeighborhoodPlace& place)
     : place_(place),
-      isRead_(neighborhood_->load(place.directory.c_str(), neighborhoodFileName) == 0),
+      isRead_(neighborhood_->load(place.directory.c_str(), neighborhoodFileName, allFormats) == 0),
       file_(readWholeFile(place.liveFile().c_str()).value_or(Bytes())) {
     for (std::int32_t i = 0; i < neighborhood_->familyCount(); ++i) {
         const Family& family = *neighborhood_->family(i);

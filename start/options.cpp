@@ -47,11 +47,11 @@ class Arguments {
 void readEditions(Arguments& arguments, Options& options) {
     const std::string value = arguments.value().value_or("");
     if (value == "later") {
-        options.editions = Editions::later;
+        options.editions = EditionsWish::later;
     } else if (value == "base") {
-        options.editions = Editions::base;
+        options.editions = EditionsWish::base;
     } else if (value == "ask") {
-        options.editions = Editions::ask;
+        options.editions = EditionsWish::ask;
     } else {
         options.fault = "--editions needs one of later, base and ask.";
     }

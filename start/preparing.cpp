@@ -52,11 +52,11 @@ bool agreesTo(const std::string& files, bool askNothing) {
 
 }  // namespace
 
-bool prepare(const std::string& simsDirectory, bool newTemplate, bool askNothing) {
+bool prepare(const std::string& simsDirectory, Editions editions, bool newTemplate, bool askNothing) {
     if (!takeOverEarlierVersion(simsDirectory, askNothing)) return false;
     const std::string original = originalSkinSets();
-    if (!agreesTo(plannedFiles(simsDirectory, workingDirectory(), newTemplate), askNothing)) return false;
-    const Preparation preparation = prepareGame(simsDirectory.c_str(), original, newTemplate);
+    if (!agreesTo(plannedFiles(simsDirectory, workingDirectory(), newTemplate, editions), askNothing)) return false;
+    const Preparation preparation = prepareGame(simsDirectory.c_str(), original, newTemplate, editions);
     if (!preparation.ready) {
         say(preparation.report + "\nNot everything is ready.", askNothing);
     } else if (newTemplate) {
@@ -65,8 +65,8 @@ bool prepare(const std::string& simsDirectory, bool newTemplate, bool askNothing
     return preparation.ready;
 }
 
-bool sayWhetherReady(const std::string& simsDirectory, bool askNothing) {
-    const Readiness readiness = checkReadiness(simsDirectory);
+bool sayWhetherReady(const std::string& simsDirectory, Editions editions, bool askNothing) {
+    const Readiness readiness = checkReadiness(simsDirectory, editions == Editions::later);
     const std::string found = readiness.text();
     say((found.empty() ? found : found + "\n\n") +
             (readiness.isReady() ? "Everything is ready: Tidewright can start." : "Not everything is ready."),
@@ -84,8 +84,8 @@ void mend(const std::string& simsDirectory, bool askNothing) {
     }
 }
 
-bool isGoodToGo(const std::string& simsDirectory, bool askNothing) {
-    const Readiness readiness = checkReadiness(simsDirectory);
+bool isGoodToGo(const std::string& simsDirectory, Editions editions, bool askNothing) {
+    const Readiness readiness = checkReadiness(simsDirectory, editions == Editions::later);
     const std::string text = readiness.text();
     if (readiness.isReady()) {
         if (!text.empty()) say(text, askNothing);

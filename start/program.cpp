@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/own_directory.h"
 #include "platform/win32.h"
+#include "start/editions.h"
 #include "start/evening_steps.h"
 #include "start/options.h"
 #include "start/preparing.h"
@@ -33,15 +34,18 @@ int write(const std::string& text) {
 }
 
 // With the player's own directory as the working directory.
-int startOn(const std::string& simsDirectory, const Options& options, bool askNothing) {
-    const bool isPrepared = prepare(simsDirectory, options.newTemplate, askNothing);
+int startOn(const std::string& simsDirectory, const std::string& ownDirectory, const Options& options) {
+    const bool askNothing = options.askNothing;
+    const Editions editions =
+        editionsToOpen(simsDirectory, options.editions, ownDirectory + "\\tidewright.ini", askNothing);
+    const bool isPrepared = prepare(simsDirectory, editions, options.newTemplate, askNothing);
     if (options.prepareOnly || options.newTemplate) {
-        return isPrepared && sayWhetherReady(simsDirectory, askNothing) ? 0 : failed;
+        return isPrepared && sayWhetherReady(simsDirectory, editions, askNothing) ? 0 : failed;
     }
     if (!isPrepared || !settleLastEvening(simsDirectory, askNothing)) return failed;
     mend(simsDirectory, askNothing);
-    if (!isGoodToGo(simsDirectory, askNothing)) return failed;
-    return runEvening(simsDirectory, askNothing);
+    if (!isGoodToGo(simsDirectory, editions, askNothing)) return failed;
+    return runEvening(simsDirectory, editions, askNothing);
 }
 
 }  // namespace
@@ -62,5 +66,5 @@ int runStart(int argumentCount, char** arguments) {
     if (const int refusal = refuseSecondStart(lock, askNothing); refusal != 0) return refusal;
     if (isEditorOpen()) return refuse(askNothing, "Tidewright's window is open already. Please close it first.");
     if (const int refusal = refuseBesideGame(askNothing); refusal != 0) return refusal;
-    return startOn(simsDirectory.c_str(), options, askNothing);
+    return startOn(simsDirectory.c_str(), own.path, options);
 }

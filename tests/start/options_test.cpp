@@ -11,7 +11,7 @@ TEST(OptionsTest, EachOptionIsTakenAndWhatIsWrongIsNamed) {
     EXPECT_EQ(options.fault, "");
     EXPECT_TRUE(options.prepareOnly && options.newTemplate && options.askNothing && options.help && options.version);
     EXPECT_EQ(options.game, "C:\\The Sims");
-    EXPECT_EQ(options.editions, Editions::later);
+    EXPECT_EQ(options.editions, EditionsWish::later);
 
     const struct {
         const char* argument;
