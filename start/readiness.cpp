@@ -14,13 +14,13 @@
 
 namespace {
 
-void lookAtRecords(const NeighborhoodPlace& place, Readiness& readiness) {
+void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Readiness& readiness) {
     const std::optional<Bytes> file = readWholeFile(place.liveFile().c_str());
     const auto neighborhood = std::make_unique<Neighborhood>();
     if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName) != 0) return;
     const std::size_t later = countSims(*file, Edition::later);
     readiness.laterSims += later;
-    if (later > 0) {
+    if (later > 0 && !readsLaterEditions) {
         readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
                                      " of a later edition of the game, which Tidewright can't read.");
     }
@@ -35,14 +35,14 @@ bool isTooLong(const NeighborhoodPlace& place) {
     return place.directory.size() > NeighborhoodPath::capacity();
 }
 
-void lookAt(const NeighborhoodPlace& place, Readiness& readiness) {
+void lookAt(const NeighborhoodPlace& place, bool readsLaterEditions, Readiness& readiness) {
     if (isTooLong(place)) {
         readiness.obstacles.push_back("The path " + place.directory + " is too long: Tidewright can use " +
                                       std::to_string(NeighborhoodPath::capacity()) + " characters.");
         return;
     }
     trySave(place, readiness);
-    lookAtRecords(place, readiness);
+    lookAtRecords(place, readsLaterEditions, readiness);
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ std::string Readiness::text() const {
     return text;
 }
 
-Readiness checkReadiness(const std::string& simsDirectory) {
+Readiness checkReadiness(const std::string& simsDirectory, bool readsLaterEditions) {
     Readiness readiness;
     const std::vector<NeighborhoodPlace> places = neighborhoodsIn(simsDirectory);
     if (places.empty()) {
@@ -68,7 +68,7 @@ Readiness checkReadiness(const std::string& simsDirectory) {
                                       " has no directory UserData: please play the game once, and save there.");
     }
     for (const NeighborhoodPlace& place : places) {
-        lookAt(place, readiness);
+        lookAt(place, readsLaterEditions, readiness);
     }
     readiness.leftOvers = findLeftOvers(simsDirectory);
     return readiness;

@@ -13,7 +13,7 @@ struct Readiness {
     std::vector<std::string> obstacles = {};  // each prevents a save, or keeps a neighborhood from being read
     std::vector<std::string> warnings = {};   // what can't be read, and what a save would drop or go without
     std::vector<LeftOver> leftOvers = {};     // of saves that were cut off; a file that is missing is an obstacle, too
-    std::size_t laterSims = 0;                // that the warnings count as of a later edition of the game
+    std::size_t laterSims = 0;                // whose records are of a later edition of the game
 
     // Whether nothing is known that prevents a save.
     bool isReady() const { return obstacles.empty(); }
@@ -23,7 +23,8 @@ struct Readiness {
 };
 
 // Looks at all neighborhoods below `simsDirectory` (with a trailing backslash), as far as the editor lists them. In
-// each directory that a save writes to, a file is made and deleted. Nothing else is changed, and no box opens.
-Readiness checkReadiness(const std::string& simsDirectory);
+// each directory that a save writes to, a file is made and deleted. Nothing else is changed, and no box opens. For an
+// editor that reads the records of later editions, these need no warning.
+Readiness checkReadiness(const std::string& simsDirectory, bool readsLaterEditions = false);
 
 #endif

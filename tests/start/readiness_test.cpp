@@ -63,6 +63,7 @@ TEST_F(EveningTest, RecordsOfLaterEditionsAreCounted) {
     start({.before = {{.type = "NBRS", .content = ByteWriter().bytes(record).bytes(record).written()}}});
     const Readiness readiness = checkReadiness(game());
     EXPECT_EQ(readiness.laterSims, 2U);
+    EXPECT_EQ(checkReadiness(game(), true).text(), "");
     EXPECT_TRUE(readiness.isReady() &&
                 readiness.text().starts_with("Neighborhood 1: 2 Sims of a later edition of the"));
 }
