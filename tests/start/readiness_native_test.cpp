@@ -13,7 +13,7 @@ TEST_F(EveningTest, WhatMayNotBeWrittenIsNoReadiness) {
         {[&] { allow("UserData", 0555); }, "neighborhood.iff can't be saved: writing there isn't allowed."},
         {[&] { allow(characters, 0555); }, "Characters can be saved: writing there isn't allowed."},
         {[&] { allow(sim, 0444); }, "user00002.iff in "},
-        {[&] { fs::resize_file(files().path(sim), fs::space(files().path(sim)).available / 10 + 1); },
+        {[&] { fs::resize_file(files().path(sim), fs::space(files().path(sim)).available / 5); },
          "The disk has no room for a save of Neighborhood 1: "},
     };
     for (const auto& [forbid, said] : rows) {
