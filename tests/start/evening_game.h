@@ -46,6 +46,15 @@ class EveningTest : public testing::Test {
     std::string game() const { return files().path() + "\\"; }
     Evening evening() const { return {files().path("before") + "\\", game(), begin_}; }
     void write(const std::string& name, const Bytes& bytes) const { files().write("UserData/" + name, bytes); }
+    void patch(const std::string& name, std::size_t offset, std::string_view text) const {
+        Bytes file = bytesOf(name);
+        overwrite(file, offset, bytesFrom(text));
+        write(name, file);
+    }
+    // Of the file before the evening.
+    void bringBack(const std::string& name, const std::string& as) const {
+        write(as, files().bytesOf("before/UserData/" + name));
+    }
     Bytes bytesOf(const std::string& name) const { return files().bytesOf("UserData/" + name); }
 
     std::vector<SampleCharacter> characters_ = {

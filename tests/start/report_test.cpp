@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "start/cut_off.h"
+#include "start/left_overs.h"
 #include "start/neighbor_records.h"
 #include "start/readiness.h"
 #include "tests/start/evening_game.h"
@@ -11,11 +12,7 @@
 namespace {
 
 constexpr char news[] =
-    "Neighborhood 1: Clover Thistlewood is a teenager now. Bramble Thistlewood moved into a household of her own, with "
-    "20,000.";
-constexpr char checkedTwo[] =
-    "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and no family and no Sim is "
-    "missing.";
+    "Clover Thistlewood is a teenager now. Bramble Thistlewood moved into a household of her own, with 20,000.";
 
 TEST(WordsTest, LongNumbersAndListsAreReadable) {
     EXPECT_EQ(withCommas(999) + withCommas(1000) + withCommas(-123'456) + withCommas(1'234'567),
@@ -30,7 +27,9 @@ TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
     start();
     save();
     const EveningReport report = reportOn(evening());
-    EXPECT_EQ(report.text, std::string(news) + checkedTwo);
+    EXPECT_EQ(report.text, std::string("Neighborhood 1: ") + news +
+                               "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and no "
+                               "family and no Sim is missing.");
     EXPECT_TRUE(report.hasSaved && !report.hasLoss);
 }
 
@@ -46,40 +45,23 @@ TEST_F(EveningTest, AFileOfAnUnknownFormOpensNoBox) {
 }
 
 TEST_F(EveningTest, WhatIsLostIsReported) {
+    const std::string sim = "Characters/user00001.iff", live = "neighborhood.iff";
     const std::string wrong = "Neighborhood 1: something is wrong. ";
+    const std::string age = "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age.";
     const std::tuple<const char*, std::function<void()>, std::string> rows[] = {
-        {"a file of a Sim is cut", [&] { fs::resize_file(files().path("UserData/Characters/user00001.iff"), 54'500); },
+        {"a Sim's file is cut", [&] { fs::resize_file(files().path("UserData/" + sim), 54'500); },
          wrong + "user00001.iff ends inside the chunk at 54016."},
-        {"the neighborhood file is cut", [&] { fs::resize_file(files().path("UserData/neighborhood.iff"), 300); },
+        {"the neighborhood file is cut", [&] { fs::resize_file(files().path("UserData/" + live), 300); },
          "neighborhood.iff ends inside the chunk at 64."},
-        {"the old file of a Sim is back",
-         [&] {
-             Bytes file = bytesOf("Characters/user00001.iff");
-             overwrite(file, 4349, bytesFrom("Hemlock"));
-             overwrite(file, 4080, bytesFrom("????"));
-             write("Characters/user00001.iff", file);
-         },
-         wrong +
-             "user00001.iff has the name Hemlock instead of Clover. Clover Thistlewood has another GUID than before."},
-        {"a member is no Sim's",
-         [&] {
-             Bytes file = bytesOf("neighborhood.iff");
-             overwrite(file, test_->built().families[0].memberTable + 4, bytesFrom("????"));
-             write("neighborhood.iff", file);
-         },
+        {"a name is another", [&] { patch(sim, 4349, "Hemlock"); },
+         wrong + "user00001.iff has the name Hemlock instead of Clover."},
+        {"a GUID is another", [&] { patch(sim, 4080, "????"); }, "Clover Thistlewood has another GUID than before."},
+        {"a member is no Sim's", [&] { patch(live, test_->built().families[0].memberTable + 4, "????"); },
          wrong + "Rowan Thistlewood belongs to no family any more."},
         {"the new body is no teenager's",
-         [&] {
-             Bytes file = bytesOf("Characters/user00001.iff");
-             const std::size_t mesh = nextTag(file, "TNR", 0);
-             overwrite(file, nextTag(file, "TNR", mesh + 1), bytesFrom("fit"));
-             write("Characters/user00001.iff", file);
-         },
-         "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age."},
-        {"the record is the old one",
-         [&] { write("neighborhood.iff", files().bytesOf("before/UserData/neighborhood.iff")); },
-         "Clover Thistlewood has a new body, but the record in neighborhood.iff is of another age."},
-        {"a temporary file is left", [&] { write("TMPneighborhood.iff", bytesFrom("cut")); },
+         [&] { patch(sim, nextTag(bytesOf(sim), "TNR", nextTag(bytesOf(sim), "TNR", 0) + 1), "fit"); }, age},
+        {"the record is the old one", [&] { bringBack(live, live); }, age},
+        {"a temporary file is left", [&] { write("TMP" + live, bytesFrom("cut")); },
          "Neighborhood 1: TMPneighborhood.iff is left over from a save that was cut off."},
     };
     for (const auto& [what, damage, said] : rows) {
@@ -115,9 +97,7 @@ TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
     EXPECT_EQ(reportOn(evening()).text, "");
     files().link("UserData/TMPneighborhood.iff", "UserData/neighborhood.iff");
     Evening known = evening();
-    known.known = {
-        "Neighborhood 1: TMPneighborhood.iff is left over from a save that was cut off. That does no harm: "
-        "the next save clears it away."};
+    known.known = {findLeftOvers(game()).at(0).sentence};
     EveningReport report = reportOn(known);
     EXPECT_TRUE(report.text.starts_with("Nothing was saved. ") && !report.hasSaved && !report.hasLoss) << report.text;
 
@@ -125,9 +105,7 @@ TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
     write("Backups/neighborhood.20261124.2154.iff", {});  // of an earlier evening
     fs::last_write_time(files().path("UserData/Backups/neighborhood.20261124.2154.iff"),
                         fs::file_time_type::clock::now() - std::chrono::hours(24));
-    Bytes file = bytesOf("neighborhood.iff");
-    file.back() ^= 1;
-    write("neighborhood.iff", file);
+    patch("neighborhood.iff", 500, "?");
     report = reportOn(evening());
     EXPECT_EQ(report.text,
               "The game saved Neighborhood 1 while Tidewright was open; what you changed in it was not saved.");
@@ -136,29 +114,22 @@ TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
 
 TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
     const std::string begin = "The last evening was cut off. Neighborhood 1 is as follows: ";
-    const std::string between = begin +
-                                "a save was cut off between the Sims and the neighborhood file, so these Sims "
-                                "must not grow up now. Clover Thistlewood has a new body, but the record in "
-                                "neighborhood.iff is of another age.";
-    const auto putOldNeighborhoodBack = [&] {
-        write("neighborhood.iff", files().bytesOf("before/UserData/neighborhood.iff"));
-    };
+    const std::string between =
+        begin +
+        "a save was cut off between the Sims and the neighborhood file, so these Sims must not grow up now. Clover "
+        "Thistlewood has a new body, but the record in neighborhood.iff is of another age.";
+    const std::string live = "neighborhood.iff";
     const std::tuple<const char*, std::function<void()>, std::string, bool> rows[] = {
         {"nothing was saved", [] {}, "", false},
-        {"killed after the save", [&] { save(); },
-         begin + "it was saved as a whole. Clover Thistlewood is a teenager now. Bramble Thistlewood moved into a "
-                 "household of her own, with 20,000.",
-         false},
-        {"killed behind the Sims", [&] { save(true, false), putOldNeighborhoodBack(); }, between, false},
+        {"killed after the save", [&] { save(); }, begin + "it was saved as a whole. " + news, false},
+        {"killed behind the Sims", [&] { save(true, false), bringBack(live, live); }, between, false},
         {"played afterwards",
-         [&] { save(true, false), putOldNeighborhoodBack(), write("Houses/House01.iff", bytesFrom("played")); },
+         [&] { save(true, false), bringBack(live, live), write("Houses/House01.iff", bytesFrom("played")); },
          between + " The game has saved since, and going back would undo that, too.", true},
         {"killed between the renames",
          [&] {
-             save();
-             const std::string live = files().path("UserData/neighborhood.iff");
-             fs::rename(live, files().path("UserData/TMPneighborhood.iff"));
-             write("neighborhood.iff.tidewright-old0", files().bytesOf("before/UserData/neighborhood.iff"));
+             save(), bringBack(live, live + ".tidewright-old0");
+             fs::rename(files().path("UserData/" + live), files().path("UserData/TMP" + live));
          },
          begin + "a save was cut off between its last two steps. neighborhood.iff is missing. TMPneighborhood.iff is "
                  "the new version, and whole.",
