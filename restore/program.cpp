@@ -14,6 +14,7 @@
 #include "ui/cursors.h"
 #include "ui/words.h"
 #include "world/game_search.h"
+#include "world/program_files.h"
 #include "world/running_game.h"
 
 namespace {
@@ -31,7 +32,7 @@ int fail(const std::string& sentence, bool onConsole) {
 
 // The game, with its own directory as the working directory. No value after words that say why.
 std::optional<PointsOfGame> findPoints(bool onConsole, DirectoryText& simsDirectory) {
-    const OwnDirectory own = ownDirectory(programTitle);
+    const OwnDirectory own = ownDirectory(ownDirectoryName);
     if (!own.fault.empty()) {
         say(own.fault, onConsole);
         return std::nullopt;

@@ -13,6 +13,7 @@
 #include "ui/words.h"
 #include "version.h"
 #include "world/game_search.h"
+#include "world/program_files.h"
 #include "world/running_game.h"
 
 namespace {
@@ -56,7 +57,7 @@ int runStart(int argumentCount, char** arguments) {
     if (options.help) return write("tidewright [OPTION...]\n\n" + optionList());
     if (options.version) return write("Tidewright " TIDEWRIGHT_VERSION "\n");
     const bool askNothing = options.askNothing;
-    const OwnDirectory own = ownDirectory("Tidewright");
+    const OwnDirectory own = ownDirectory(ownDirectoryName);
     if (!own.fault.empty()) return refuse(askNothing, own.fault);
     DirectoryText simsDirectory;
     const GameWish wish{.directory = options.game, .askNothing = askNothing};

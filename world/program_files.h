@@ -4,6 +4,9 @@
 
 #include "platform/files.h"
 
+// For ownDirectory of platform/own_directory.h: this is the tool directory, in which restore points lie, too.
+constexpr const char* ownDirectoryName = "Tidewright";
+
 // In the tool directory.
 constexpr const char* skinSetsName = "skinsets.cfg";           // which head follows which
 constexpr const char* characterTemplateName = "Template.iff";  // what character files are made of

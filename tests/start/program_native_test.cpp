@@ -2,6 +2,7 @@
 
 #include "platform/own_directory.h"
 #include "platform/path_text.h"
+#include "restore/program.h"
 #include "tests/prepare/unprepared_game.h"
 #include "tests/support/scoped_variable.h"
 #include "tests/support/user.h"
@@ -59,6 +60,13 @@ TEST_F(StartTest, TakesOverTheFilesOfVersion110) {
     EXPECT_EQ(treeOf(own_).at("skinsets.cfg"), bytesFrom("mine"));
     EXPECT_EQ(treeOf(own_).at("Template.iff"), playersTemplate());
     EXPECT_TRUE(fs::exists(game_ / "skinsets.cfg")) << "those stay";
+}
+
+TEST_F(StartTest, HasItsRestorePointsWhereTheProgramForGoingBackLooks) {
+    char name[] = "tidewright-restore", make[] = "--make", yes[] = "--yes";
+    char* arguments[] = {name, make, yes};
+    EXPECT_EQ(runRestore(3, arguments), 0);
+    EXPECT_TRUE(fs::exists(own_ + "/restore-points"));
 }
 
 }  // namespace
