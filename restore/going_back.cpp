@@ -10,6 +10,7 @@
 #include "platform/letter_case.h"
 #include "platform/part_names.h"
 #include "restore/going_note.h"
+#include "restore/point_check.h"
 #include "restore/point_files.h"
 #include "restore/point_store.h"
 
@@ -229,7 +230,7 @@ std::optional<Steps> stepsFromLive(const FileTree& points, const FileTree& live,
     const auto found = filesOfNeighborhoods(live, error);
     if (!found) return std::nullopt;
     return stepsBetween(found->files, target.files, neighborhood, [&](const LiveFile& one, const PointFile& file) {
-        return haveSameBytes(live, one.path, points, target.name + '/' + file.path);
+        return live.hasSameBytes(one.path, points, target.name + '/' + file.path, file.stamp.size);
     });
 }
 
@@ -240,7 +241,8 @@ Steps stepsFromPresent(const FileTree& points, const RestorePoint& present, cons
     return stepsBetween(present.files, target.files, neighborhood, [&](const PointFile& one, const PointFile& file) {
         const std::string path = present.name + '/' + one.path, targetPath = target.name + '/' + file.path;
         if (one.checksum != file.checksum) return false;
-        return points.idOf(path) == points.idOf(targetPath) || haveSameBytes(points, path, points, targetPath);
+        return points.idOf(path) == points.idOf(targetPath) ||
+               points.hasSameBytes(path, points, targetPath, file.stamp.size);
     });
 }
 
@@ -268,8 +270,8 @@ GoneBack follow(const std::string& pointsDirectory, const PointStore& store, Way
     return result;
 }
 
-std::string notWhole(const RestorePoint& point) {
-    return "The restore point isn't whole. " + point.damage;
+std::string notWhole(const std::string& damage) {
+    return "The restore point isn't whole. " + damage;
 }
 
 // Why the way must not begin; empty if it may.
@@ -324,8 +326,7 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     if (store.isUnavailable()) return refused(store.refusal());
     const std::string refusal = refusalOf(store, simsDirectory, point);
     if (!refusal.empty()) return refused(refusal);
-    RestorePoint target = point;
-    if (!isWhole(pointsDirectory, target)) return refused(notWhole(target));
+    if (!point.damage.empty()) return refused(notWhole(point.damage));
     const FileTree live(simsDirectory, FileTree::Links::followed);
     const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
     if (!locks.refusal().empty()) return refused(locks.refusal());
@@ -336,10 +337,12 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     const std::vector<RestorePoint> all = readPoints(store.tree());
     const RestorePoint* const present = named(all, made.name);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
-    Way way(store.tree(), live, target, stepsFromPresent(store.tree(), *present, target, neighborhood));
-    GoneBack result = follow(pointsDirectory, store, way, {target.name, made.name, simsDirectory, neighborhood}, false);
+    const std::string damage = damageBeside(store.tree(), point, *present);
+    if (!damage.empty()) return {notWhole(damage), false, made};
+    Way way(store.tree(), live, point, stepsFromPresent(store.tree(), *present, point, neighborhood));
+    GoneBack result = follow(pointsDirectory, store, way, {point.name, made.name, simsDirectory, neighborhood}, false);
     result.present = made;
-    store.deleteOldest({target.name, made.name});
+    store.deleteOldest({point.name, made.name});
     return result;
 }
 
@@ -358,7 +361,7 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     if (target == nullptr && other == nullptr) deleteNote(store.tree());
     if (target == nullptr) return {"The restore point is gone. The files stay as they are.", other != nullptr, {}};
     RestorePoint checked = *target;
-    if (!isWhole(pointsDirectory, checked)) return {notWhole(checked), true, {}};
+    if (!isWhole(pointsDirectory, checked)) return {notWhole(checked.damage), true, {}};
     const FileTree live(note->simsDirectory, FileTree::Links::followed);
     const NeighborhoodLocks locks(live, note->simsDirectory, note->neighborhood);
     if (!locks.refusal().empty()) return {locks.refusal(), true, {}};

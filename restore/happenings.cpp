@@ -118,7 +118,8 @@ class Deeds {
                 all.push_back(std::to_string(deeds_.size() - mostNames) + " more changed");
                 break;
             }
-            all.push_back(name + ' ' + deed);
+            std::string sentence = name;
+            all.push_back(sentence.append(1, ' ').append(deed));
         }
         return all;
     }
@@ -175,23 +176,19 @@ bool isOfASave(const std::string& path) {
 }  // namespace
 
 std::vector<std::string> differingFiles(const RestorePoint& one, const RestorePoint& other) {
-    std::map<std::string, int> counts;
-    std::vector<std::string> paths;
+    std::set<std::string> paths;
     const auto has = [](const RestorePoint& point, const PointFile& file) {
         const auto found = std::ranges::lower_bound(point.files, file.path, {}, &PointFile::path);
         return found != point.files.end() && found->path == file.path && found->checksum == file.checksum &&
                found->stamp.size == file.stamp.size;
     };
     for (const PointFile& file : one.files) {
-        if (!has(other, file)) ++counts[file.path];
+        if (!has(other, file)) paths.insert(file.path);
     }
     for (const PointFile& file : other.files) {
-        if (!has(one, file)) ++counts[file.path];
+        if (!has(one, file)) paths.insert(file.path);
     }
-    for (const auto& [path, count] : counts) {
-        paths.push_back(path);
-    }
-    return paths;
+    return {paths.begin(), paths.end()};
 }
 
 std::vector<int> playedNeighborhoods(const std::vector<std::string>& paths) {

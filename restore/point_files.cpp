@@ -133,18 +133,6 @@ std::optional<NeighborhoodFiles> filesOfNeighborhoods(const FileTree& tree, std:
     return walk.takeFound();
 }
 
-bool haveSameBytes(const FileTree& first, const std::string& firstFile, const FileTree& second,
-                   const std::string& secondFile) {
-    const Stream one(first.openToRead(firstFile)), other(second.openToRead(secondFile));
-    if (!one || !other) return false;
-    static Block oneBlock, otherBlock;
-    while (true) {
-        const auto a = oneBlock.read(one.get()), b = otherBlock.read(other.get());
-        if (!std::ranges::equal(a, b)) return false;
-        if (a.size() < blockSize) return std::ferror(one.get()) == 0 && std::ferror(other.get()) == 0;
-    }
-}
-
 std::optional<std::uint32_t> checksumOf(const FileTree& tree, const std::string& file, std::int64_t size) {
     const Stream stream(tree.openToRead(file));
     if (!stream) return std::nullopt;

@@ -35,10 +35,6 @@ struct NeighborhoodFiles {
 // in `error`.
 std::optional<NeighborhoodFiles> filesOfNeighborhoods(const FileTree& tree, std::string& error);
 
-// Whether both files can be read and have the same bytes.
-bool haveSameBytes(const FileTree& first, const std::string& firstFile, const FileTree& second,
-                   const std::string& secondFile);
-
 // The CRC-32 of a file that has `size` bytes; no value if it has another size or can't be read.
 std::optional<std::uint32_t> checksumOf(const FileTree& tree, const std::string& file, std::int64_t size);
 

@@ -24,6 +24,9 @@ const std::string& made(const std::string& directory) {
     return directory;
 }
 
+// So many are synced one by one. More take less time all together, unless other programs have written much.
+constexpr int fewCopies = 8;
+
 std::string textFile(const std::string& name) {
     return name + std::string(textSuffix);
 }
@@ -118,7 +121,7 @@ class Making {
         for (const LiveFile& file : files) {
             if (!add(file, failure.error)) return false;
         }
-        if (points_.syncAll()) return true;
+        if (copies_ <= fewCopies || points_.syncAll()) return true;
         failure.error = failureOf("The disk doesn't take the restore point", point_.name);
         return false;
     }
@@ -167,7 +170,8 @@ class Making {
             point_.files.push_back(*older);
             return true;
         }
-        const auto checksum = copyFile(live_, file.path, points_, path, file.stamp, FileTree::Sync::later, error);
+        const auto sync = ++copies_ <= fewCopies ? FileTree::Sync::now : FileTree::Sync::later;
+        const auto checksum = copyFile(live_, file.path, points_, path, file.stamp, sync, error);
         if (!checksum) return false;
         if (live_.stampOf(file.path) != file.stamp) {
             error = "Another program is writing the file: " + FileTree::shown(file.path);
@@ -179,7 +183,7 @@ class Making {
 
     bool linkTo(const PointFile& older, const std::string& path) const {
         const std::string olderPath = before_->name + '/' + older.path;
-        return haveSameBytes(live_, older.path, points_, olderPath) && points_.link(olderPath, path);
+        return live_.hasSameBytes(older.path, points_, olderPath, older.stamp.size) && points_.link(olderPath, path);
     }
 
     const FileTree& live_;
@@ -188,6 +192,7 @@ class Making {
     RestorePoint& point_;
     const RestorePoint* before_ = nullptr;
     std::string part_;
+    int copies_ = 0;
 };
 
 }  // namespace

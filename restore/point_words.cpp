@@ -55,7 +55,7 @@ std::string lastDay(const std::string& simsDirectory, const std::vector<std::str
     for (std::string path : paths) {
         if (neighborhoodOf(path) != neighborhood) continue;
         std::ranges::replace(path, '/', '\\');
-        last = std::max(last, lastWritten((simsDirectory + path).c_str()));
+        last = std::max(last, lastWritten(path.insert(0, simsDirectory).c_str()));
     }
     return dayWords(last);
 }

@@ -1,43 +1,9 @@
 #include "restore/restore_points.h"
 
 #include <algorithm>
-#include <map>
-#include <optional>
-#include <utility>
 
-#include "restore/point_files.h"
+#include "restore/point_check.h"
 #include "restore/point_store.h"
-
-namespace {
-
-// Sums by the file that they were taken of. Most files of a point are also those of another one.
-class KnownSums {
- public:
-    std::optional<std::uint32_t> sumOf(const FileTree& tree, const std::string& path, std::int64_t size) {
-        const auto id = tree.idOf(path);
-        if (!id) return std::nullopt;
-        const auto [known, isNew] = sums_.try_emplace({*id, size});
-        if (isNew) known->second = checksumOf(tree, path, size);
-        return known->second;
-    }
-
- private:
-    std::map<std::pair<FileId, std::int64_t>, std::optional<std::uint32_t>> sums_;
-};
-
-std::string damageOf(const FileTree& tree, const RestorePoint& point, KnownSums& sums) {
-    for (const PointFile& file : point.files) {
-        const std::string path = point.name + '/' + file.path;
-        const auto stamp = tree.stampOf(path);
-        if (!stamp) return "A file is missing in it: " + FileTree::shown(file.path);
-        if (stamp->size != file.stamp.size || sums.sumOf(tree, path, file.stamp.size) != file.checksum) {
-            return "A file in it isn't as it was: " + FileTree::shown(file.path);
-        }
-    }
-    return {};
-}
-
-}  // namespace
 
 SYSTEMTIME presentTime() {
     SYSTEMTIME time{};
