@@ -47,9 +47,7 @@ struct Shown {
     std::vector<RestorePoint> points;
     std::vector<int> neighborhoods;  // of the list, without the first entry "All"
     std::vector<std::string> lines;
-    HWND window = nullptr;
-    HWND pointList = nullptr;
-    HWND neighborhoodList = nullptr;
+    GoingBackControls controls;
 };
 
 Shown* shown = nullptr;
@@ -69,13 +67,13 @@ void add(HWND list, const std::string& entry) {
 }
 
 RestorePoint* pickedPoint() {
-    const LRESULT index = send(shown->pointList, CB_GETCURSEL);
+    const LRESULT index = send(shown->controls.pointList, CB_GETCURSEL);
     if (index < 0 || index >= static_cast<LRESULT>(shown->points.size())) return nullptr;
     return &shown->points[static_cast<std::size_t>(index)];
 }
 
 int pickedNeighborhood() {
-    const LRESULT index = send(shown->neighborhoodList, CB_GETCURSEL);
+    const LRESULT index = send(shown->controls.neighborhoodList, CB_GETCURSEL);
     const auto count = static_cast<LRESULT>(shown->neighborhoods.size());
     if (index < 1 || index > count) return allNeighborhoods;
     return shown->neighborhoods[static_cast<std::size_t>(index - 1)];
@@ -106,13 +104,13 @@ void describePick() {
             addWrapped(line);
         }
     }
-    InvalidateRect(shown->window, nullptr, TRUE);
+    InvalidateRect(shown->controls.window, nullptr, TRUE);
 }
 
 // Fills the list of neighborhoods with those of the picked point.
 void pickPoint() {
     showWaitCursor();
-    empty(shown->neighborhoodList);
+    empty(shown->controls.neighborhoodList);
     std::set<int> numbers;
     if (const RestorePoint* const point = pickedPoint()) {
         for (const PointFile& file : point->files) {
@@ -120,11 +118,11 @@ void pickPoint() {
         }
     }
     shown->neighborhoods.assign(numbers.begin(), numbers.end());
-    add(shown->neighborhoodList, "All");
+    add(shown->controls.neighborhoodList, "All");
     for (const int number : shown->neighborhoods) {
-        add(shown->neighborhoodList, "Neighborhood " + std::to_string(number));
+        add(shown->controls.neighborhoodList, "Neighborhood " + std::to_string(number));
     }
-    send(shown->neighborhoodList, CB_SETCURSEL, 0);
+    send(shown->controls.neighborhoodList, CB_SETCURSEL, 0);
     describePick();
     showArrowCursor();
 }
@@ -134,12 +132,12 @@ void refill() {
     const PointsOfGame& game = shown->game;
     shown->points = listRestorePoints(game.pointsDirectory);
     checkPoints(game.pointsDirectory, shown->points);
-    empty(shown->pointList);
+    empty(shown->controls.pointList);
     for (const std::string& entry :
          pointEntries(game.pointsDirectory, shown->points, game.simsDirectory, presentTime())) {
-        add(shown->pointList, entry);
+        add(shown->controls.pointList, entry);
     }
-    if (!shown->points.empty()) send(shown->pointList, CB_SETCURSEL, 0);
+    if (!shown->points.empty()) send(shown->controls.pointList, CB_SETCURSEL, 0);
     pickPoint();
 }
 
@@ -158,17 +156,18 @@ HWND createList(HWND window, LONG top, int controlId) {
 }
 
 void onCreate(HWND window) {
-    shown->window = window;
-    shown->pointList = createList(window, pointTop, id::pointList);
-    shown->neighborhoodList = createList(window, neighborhoodTop, id::neighborhoodList);
+    shown->controls.window = window;
+    shown->controls.pointList = createList(window, pointTop, id::pointList);
+    shown->controls.neighborhoodList = createList(window, neighborhoodTop, id::neighborhoodList);
     LONG x = margin;
     const auto addButton = [&](LPCSTR text, LONG buttonWidth, int controlId) {
-        createControl(window, "Button", text, 0, {x, buttonTop, x + buttonWidth, buttonTop + buttonHeight}, controlId);
+        const RECT place{x, buttonTop, x + buttonWidth, buttonTop + buttonHeight};
         x += buttonWidth + margin;
+        return createControl(window, "Button", text, 0, place, controlId);
     };
-    addButton("Go Back", 120, id::goBackButton);
-    addButton("Make a Restore Point", 200, id::makeButton);
-    addButton("Delete", 120, id::deleteButton);
+    shown->controls.goBackButton = addButton("Go Back", 120, id::goBackButton);
+    shown->controls.makeButton = addButton("Make a Restore Point", 200, id::makeButton);
+    shown->controls.deleteButton = addButton("Delete", 120, id::deleteButton);
 }
 
 void drawLine(HDC dc, const std::string& text, LONG left, LONG top, LONG right) {
@@ -259,4 +258,8 @@ bool showGoingBackWindow(const PointsOfGame& game) {
     }
     shown = nullptr;
     return window != nullptr;
+}
+
+GoingBackControls goingBackControls() {
+    return shown != nullptr ? shown->controls : GoingBackControls{};
 }

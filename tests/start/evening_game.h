@@ -63,7 +63,7 @@ class EveningTest : public testing::Test {
         {.recordName = "user00003", .name = "Rowan", .guid = 3, .slots = adultSlots(BodySex::male)}};
     std::unique_ptr<TestNeighborhood> test_;
     const std::time_t begin_ = std::time(nullptr);
-    const AnsweredBox box_ = answerNextBox(IDOK);
+    AnsweredBox box_ = answerNextBox(IDOK);
     ~EveningTest() override { EXPECT_FALSE(box_->shown) << box_->text; }
 };
 
