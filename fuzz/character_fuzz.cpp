@@ -29,15 +29,21 @@ std::string_view slotOf(const BodyStrings& body, std::size_t slot) {
     return body.slot(static_cast<bodySlot::Index>(slot));
 }
 
-Bytes textOf(const BodyStrings& body, std::size_t room, std::size_t limit, std::int16_t version) {
+struct Layout {
+    std::int16_t version;
+    bool allTexts;
+};
+
+Bytes textOf(const BodyStrings& body, std::size_t room, std::size_t limit, const Layout& layout) {
     Bytes text(room);
-    const std::size_t size = body.serialise(text, limit, version);
+    const std::size_t size = body.serialise(text, limit, layout.version, layout.allTexts);
     promise(size <= room, "a text in its room");
     text.resize(size);
     return text;
 }
 
 // Number of slots in a text of this version: up to the outfits of the expansion packs, up to the winter outfit, or all.
+// "ADDED" may stand for the winter outfit.
 std::size_t carriedSlots(const BodyStrings& body, std::int16_t version) {
     if (version < longTextVersion) return bodySlot::f100Mesh;
     const bool hasWinter = slotOf(body, bodySlot::w100Mesh).size() >= 2 && slotOf(body, bodySlot::w100Skin).size() >= 2;
@@ -52,8 +58,9 @@ bool hasTooLongEntry(const BodyStrings& body) {
     return false;
 }
 
-void readBack(const BodyStrings& body, std::int16_t version) {
-    writeFuzzFile("text", textOf(body, roomForAll, roomForAll, version));
+void readBack(const BodyStrings& body, const Layout& layout) {
+    writeFuzzFile("text", textOf(body, roomForAll, roomForAll, layout));
+    const std::int16_t version = layout.version;
     StreamFile file;
     promise(file.open((fuzzDirectory() / "text").c_str(), StreamFile::Access::read, roomForAll), "a text to read");
     BodyStrings again;
@@ -61,36 +68,39 @@ void readBack(const BodyStrings& body, std::int16_t version) {
     promise(again.version() == std::min(version, longTextVersion), "the version of a text read back");
     const std::size_t carried = carriedSlots(body, version);
     for (std::size_t slot = 0; slot < bodySlot::count; ++slot) {
-        promise(slotOf(again, slot) == (slot < carried ? slotOf(body, slot) : ""), "a slot read back");
+        const bool isAdded = layout.allTexts && slot == bodySlot::w100Mesh && carried <= slot;
+        const std::string_view missing = isAdded ? BodyStrings::missingOutfit : "";
+        promise(slotOf(again, slot) == (slot < carried ? slotOf(body, slot) : missing), "a slot read back");
     }
 }
 
-void examineText(const BodyStrings& body, std::size_t room, std::size_t limit, std::int16_t version) {
-    const Bytes whole = textOf(body, roomForAll, limit, version), cut = textOf(body, room, limit, version);
+void examineText(const BodyStrings& body, std::size_t room, std::size_t limit, const Layout& layout) {
+    const Bytes whole = textOf(body, roomForAll, limit, layout), cut = textOf(body, room, limit, layout);
     promise(whole.size() > limit, "a text filled up to its limit");
     promise(std::ranges::equal(cut, std::span(whole).first(std::min(room, whole.size()))), "a text cut at its end");
-    if (!hasTooLongEntry(body)) readBack(body, version);
+    if (!hasTooLongEntry(body)) readBack(body, layout);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider choices(data, size);
-    const auto version = choices.ConsumeIntegralInRange<std::int16_t>(4, 8);
+    const auto recordsVersion = choices.ConsumeIntegralInRange<std::int16_t>(4, 8);
+    const bool isLater = choices.ConsumeBool();
     const auto age = choices.PickValueInArray({ageNumber::child, ageNumber::teen, ageNumber::adult, 0});
     const auto kind = choices.ConsumeIntegralInRange<std::int16_t>(genderNumber::male, genderNumber::pet);
     const auto room = choices.ConsumeIntegralInRange<std::size_t>(0, 3000);
     const auto limit = choices.ConsumeIntegralInRange<std::size_t>(0, 3000);
     writeFuzzFile("Characters/user00001.iff", choices.ConsumeRemainingBytes<std::uint8_t>());
 
-    const Bytes record = sampleNeighborRecord({.version = version, .age = age, .kind = kind});
-    Sim sim(emptyNeighborhood());
+    const Bytes record = sampleNeighborRecord({.version = recordsVersion, .age = age, .kind = kind});
+    Sim sim(emptyNeighborhood(), recordFormats[isLater ? 1 : 0]);
     sim.readRecord(std::span(record).first<neighborRecord::size>(), 0);
     promise(std::strlen(sim.name()) <= 99, "the length of a name");
     sim.guid();
     promise(sim.stage() >= stageNumber::pet && sim.stage() <= stageNumber::adult, "a stage");
     const BodyStrings* body = sim.bodyStrings();
     promise((body != nullptr) == (sim.loadBodyStrings() == 1), "body strings that were loaded");
-    if (body != nullptr) examineText(*body, room, limit, version);
+    if (body != nullptr) examineText(*body, room, limit, {sim.version(), sim.format().hasAllTexts});
     return 0;
 }

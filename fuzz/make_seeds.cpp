@@ -22,8 +22,11 @@ Bytes textOf(std::string_view text) {
 void seedNeighborhoods() {
     for (const bool hasMap : {true, false}) {
         SampleNeighborhood content{
-            .neighbors = {{}, {.recordName = "robot"}, {.recordName = "user00002", .age = 9, .guid = 2}},
-            .families = {{.members = {1, 2}}, {.number = 2, .name = "Oats", .members = {2}, .hasHistory = true}},
+            .neighbors = {{},
+                          {.recordName = "robot"},
+                          {.recordName = "user00002", .age = 9, .guid = 2},
+                          {.later = true, .recordName = "user00003", .version = 9, .guid = 3}},
+            .families = {{.members = {1, 2}}, {.number = 2, .name = "Oats", .members = {3, 2}, .hasHistory = true}},
             .freeRoom = hasMap,
             .map = hasMap};
         const Bytes file = makeNeighborhoodFile(content).bytes;
@@ -38,7 +41,8 @@ void seedNeighborhoods() {
 }
 
 void seedCharacters() {
-    for (const BodyEnding ending : {BodyEnding::atEntry29, BodyEnding::atEntry32, BodyEnding::atEntry33}) {
+    for (const BodyEnding ending :
+         {BodyEnding::atEntry29, BodyEnding::atEntry32, BodyEnding::atEntry33, BodyEnding::atEntry34}) {
         for (const bool hasMap : {true, false}) {
             const SampleCharacter character{.ending = ending, .hasPictures = false, .map = hasMap};
             const std::string name = std::to_string(static_cast<int>(ending)) + (hasMap ? "with_map" : "without_map");

@@ -18,7 +18,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr unsigned growUp = 1, moveOut = 2, moveOutAgain = 4;
-constexpr std::int32_t newRecordSize = 232;
 constexpr std::int32_t headerMap = 61;  // 3 bytes
 constexpr const char* backupName = "neighborhood.200235.147.iff";
 
@@ -108,7 +107,7 @@ const fs::path& neighbor() {
 std::vector<fs::file_time_type> timesOutside() {
     std::vector<fs::file_time_type> times;
     for (const char* name : {".", "neighborhood.iff", "TMPneighborhood.iff", "Characters", "Characters/user00001.iff",
-                             "../Template.iff", "../famtemplate"}) {
+                             "../Template.iff", "../famtemplate", "../Template-later.iff", "../famtemplate-later"}) {
         times.push_back(fs::last_write_time(neighbor() / name));
     }
     return times;
@@ -135,8 +134,8 @@ struct Waiting {
 
     Bytes live = readFuzzFile(userData() / "neighborhood.iff");
     bool isDirty;
-    std::size_t kept;  // number of bytes of the old file that the new one begins with
-    std::size_t newFamilies;
+    std::size_t kept;               // number of bytes of the old file that the new one begins with
+    std::vector<bool> newFamilies;  // whether each has the record of later editions
     std::int32_t highestFamilyNumber;
     std::vector<Sim*> sims;
     std::vector<Family*> families;
@@ -145,15 +144,15 @@ struct Waiting {
 };
 
 Waiting::Waiting(Neighborhood& neighborhood)
-    : isDirty(neighborhood.isDirty()),
-      kept(live.size()),
-      newFamilies(static_cast<std::size_t>(neighborhood.newFamilyCount())),
-      highestFamilyNumber(neighborhood.highestFamilyNumber()) {
+    : isDirty(neighborhood.isDirty()), kept(live.size()), highestFamilyNumber(neighborhood.highestFamilyNumber()) {
     for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
         Sim& sim = *neighborhood.sim(i);
         if (!sim.recordDirty()) continue;
         sims.push_back(&sim);
         records.emplace_back(sim.recordOffset(), sim.recordOffset() + 186);
+    }
+    for (std::int32_t i = 0; i < neighborhood.newFamilyCount(); ++i) {
+        newFamilies.push_back(&neighborhood.newFamily(i)->format() == &recordFormats[1]);
     }
     if (!neighborhood.hasNewFamilies()) return;
     const std::int32_t place = neighborhood.xxxxOffset() > 0 ? neighborhood.xxxxOffset() : neighborhood.mapOffset();
@@ -168,14 +167,17 @@ Waiting::Waiting(Neighborhood& neighborhood)
 }
 
 // The record must be the template but for the fields of a new family.
-void examineNewFamily(std::span<const std::uint8_t> record, std::size_t offset, std::int32_t number) {
-    static const Bytes blank = makeFamilyTemplate();
-    static const Ranges own = {{9, 11}, {92, 94}, {96, 98}, {116, 120}, {133, 135}, {205, 232}};
+void examineNewFamily(std::span<const std::uint8_t> record, const Bytes& blank, std::size_t offset,
+                      std::int32_t number) {
+    const std::int32_t nameChunk = static_cast<std::int32_t>(blank.size()) - 108;
+    const Ranges own = {
+        {9, 11}, {92, 94}, {96, 98}, {116, 120}, {nameChunk + 9, nameChunk + 11}, {nameChunk + 81, nameChunk + 108}};
+    const auto nameNumber = static_cast<std::size_t>(nameChunk + 9);
     for (std::size_t at = 0; at < record.size(); ++at) {
         const bool isHeader = isHeaderMap(offset + at);
         promise(isHeader || record[at] == blank[at] || meets(own, at, at + 1), "a template's byte");
-        const std::size_t byte = at == 9 || at == 92 || at == 133 ? 0 : 1;
-        const bool isNumber = at - byte == 9 || at - byte == 92 || at - byte == 133;
+        const std::size_t byte = at == 9 || at == 92 || at == nameNumber ? 0 : 1;
+        const bool isNumber = at - byte == 9 || at - byte == 92 || at - byte == nameNumber;
         promise(isHeader || !isNumber || record[at] == (number >> 8 * byte & 0xFF), "a number one above the highest");
     }
 }
@@ -183,24 +185,32 @@ void examineNewFamily(std::span<const std::uint8_t> record, std::size_t offset, 
 // The new file must be the kept part of the old one, changed only where a save may patch it, and the new families.
 void examineNewFile(const Waiting& waiting) {
     const Bytes file = readFuzzFile(userData() / "neighborhood.iff");
-    promise(file.size() == waiting.kept + waiting.newFamilies * newRecordSize, "the size of the new file");
+    static const Bytes blanks[] = {makeFamilyTemplate(), makeFamilyTemplate(Editions::later)};
+    std::size_t size = waiting.kept;
+    for (const bool isLater : waiting.newFamilies) {
+        size += blanks[isLater ? 1 : 0].size();
+    }
+    promise(file.size() == size, "the size of the new file");
     for (std::size_t at = 0; at < file.size() && at < waiting.kept; ++at) {
-        const bool isHeader = waiting.newFamilies > 0 && isHeaderMap(at);
+        const bool isHeader = !waiting.newFamilies.empty() && isHeaderMap(at);
         const bool mayChange = meets(waiting.records, at, at + 1) || meets(waiting.familyRecords, at, at + 1);
         promise(isHeader || mayChange || file[at] == waiting.live[at], "a byte that had to stay");
         promise(!isHeader || file[at] == 0 || meets(waiting.familyRecords, at, at + 1), "no map in the header");
     }
-    for (std::size_t i = 0; i < waiting.newFamilies; ++i) {
-        const std::size_t offset = waiting.kept + i * newRecordSize;
-        examineNewFamily(std::span(file).subspan(offset, newRecordSize), offset,
-                         waiting.highestFamilyNumber + 1 + static_cast<std::int32_t>(i));
+    std::size_t offset = waiting.kept;
+    std::int32_t number = waiting.highestFamilyNumber;
+    for (const bool isLater : waiting.newFamilies) {
+        const Bytes& blank = blanks[isLater ? 1 : 0];
+        examineNewFamily(std::span(file).subspan(offset, blank.size()), blank, offset, ++number);
+        offset += blank.size();
     }
 }
 
 void examineMarks(const Neighborhood& neighborhood, const Waiting& waiting, bool isSaved, bool areSimsSaved) {
     static const std::size_t newSize = makeFactTemplate().size();
-    promise(neighborhood.hasNewFamilies() == (!isSaved && waiting.newFamilies > 0), "the mark of new families");
-    promise(neighborhood.newFamilyCount() == (isSaved ? 0 : static_cast<int>(waiting.newFamilies)), "new families");
+    promise(neighborhood.hasNewFamilies() == (!isSaved && !waiting.newFamilies.empty()), "the mark of new families");
+    promise(neighborhood.newFamilyCount() == (isSaved ? 0 : static_cast<int>(waiting.newFamilies.size())),
+            "new families");
     for (const Family* family : waiting.families) {
         promise(family->dirty() != isSaved || family->memberTableOffset() == 0, "the mark of a family");
     }
@@ -218,12 +228,12 @@ void examineNames() {
         promise(!entry.path().filename().string().starts_with("TMP"), "no temporary file");
     }
     promise(std::distance(fs::directory_iterator(userData()), {}) <= 3, "no more names than the live ones and Backups");
-    promise(std::distance(fs::directory_iterator(fuzzDirectory()), {}) == 4, "no name beside the neighborhood's");
+    promise(std::distance(fs::directory_iterator(fuzzDirectory()), {}) == 6, "no name beside the neighborhood's");
 }
 
 bool mustSucceed(const Waiting& waiting, Hindrance hindrance) {
     if (!waiting.isDirty || hindrance == Hindrance::noTempFile) return false;
-    return hindrance != Hindrance::noTemplates || waiting.newFamilies == 0;
+    return hindrance != Hindrance::noTemplates || waiting.newFamilies.empty();
 }
 
 // Saves, and returns whether there is a new file. `isFileAsRead`: the live file is still the one that was read, so the
@@ -265,7 +275,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) return 0;
     writeFiles({data + 1, size - 1});
     Neighborhood neighborhood;
-    promise(neighborhood.load(userData().c_str(), "neighborhood.iff") == 0, "a file that opens is read");
+    promise(neighborhood.load(userData().c_str(), "neighborhood.iff", allFormats) == 0, "a file that opens is read");
     change(neighborhood, data[0]);
     const Hindrance hindrance = hindranceOf(data[0]);
     const bool isAsRead = hindrance != Hindrance::gameSaved || size == 1;  // an empty file can't be changed
