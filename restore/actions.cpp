@@ -76,7 +76,7 @@ bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point) {
 
 bool finishEarlier(const PointsOfGame& game) {
     const auto note = unfinishedGoingBack(game.pointsDirectory);
-    if (!note || !equalInAnyCase(note->simsDirectory, game.simsDirectory)) return true;
+    if (!note || !equalInAnyCase(note->simsDirectory, gameOf(game.simsDirectory))) return true;
     if (isRefused(game)) return false;
     const bool completes =
         confirm("Going back to \"" + note->target +

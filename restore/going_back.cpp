@@ -282,7 +282,7 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
     if (note && queryFileStatus(note->simsDirectory.c_str(), status)) {
         return "An earlier going back was cut off, and must be finished first.";
     }
-    if (!isSameGame(point.simsDirectory, simsDirectory)) {
+    if (!isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
         return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + simsDirectory;
     }
     return {};
@@ -340,7 +340,8 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     const std::string damage = damageBeside(store.tree(), point, *present);
     if (!damage.empty()) return {notWhole(damage), false, made};
     Way way(store.tree(), live, point, stepsFromPresent(store.tree(), *present, point, neighborhood));
-    GoneBack result = follow(pointsDirectory, store, way, {point.name, made.name, simsDirectory, neighborhood}, false);
+    GoneBack result =
+        follow(pointsDirectory, store, way, {point.name, made.name, gameOf(simsDirectory), neighborhood}, false);
     result.present = made;
     store.deleteOldest({point.name, made.name});
     return result;

@@ -238,7 +238,7 @@ MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason,
     point.time = time;
     point.reason = reason;
     point.sessionEnded = reason != PointReason::evening;
-    point.simsDirectory = simsDirectory;
+    point.simsDirectory = gameOf(simsDirectory);
     Making making(live, tree_, directory_, all, point);
     if (making.make(found->files, made) && writeText(point) && tree_.renameDirectory(making.part(), point.name)) {
         tree_.sync("");

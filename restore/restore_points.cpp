@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/path_text.h"
 #include "restore/point_check.h"
 #include "restore/point_store.h"
 
@@ -9,6 +10,10 @@ SYSTEMTIME presentTime() {
     SYSTEMTIME time{};
     GetSystemTime(&time);
     return time;
+}
+
+std::string gameOf(const std::string& simsDirectory) {
+    return realPath(simsDirectory.substr(0, simsDirectory.find_last_not_of("\\/") + 1)) + '\\';
 }
 
 std::vector<RestorePoint> listRestorePoints(const std::string& pointsDirectory) {

@@ -36,12 +36,16 @@ struct PointFile {
     friend bool operator==(const PointFile&, const PointFile&) = default;
 };
 
+// The game's directory as a path that means the same wherever it is read: "C:" is another drive in each Wine prefix.
+// With a backslash at its end.
+std::string gameOf(const std::string& simsDirectory);
+
 struct RestorePoint {
     std::string name;
     SYSTEMTIME time{};  // UTC; the year is 0 if the text file doesn't say it
     PointReason reason = PointReason::evening;
-    bool sessionEnded = true;  // false for an evening that was cut off, or isn't over
-    std::string simsDirectory;
+    bool sessionEnded = true;      // false for an evening that was cut off, or isn't over
+    std::string simsDirectory;     // gameOf
     std::vector<PointFile> files;  // sorted by their paths
     std::string damage;            // a sentence why it isn't whole; empty as far as is known
 };

@@ -54,7 +54,7 @@ std::vector<std::string> sentencesOnLeftOvers(const std::string& simsDirectory) 
 
 std::optional<RestorePoint> pointOfLastEvening(const std::string& simsDirectory) {
     for (RestorePoint& point : listRestorePoints(restorePointsDirectory)) {
-        if (point.reason == PointReason::evening && equalInAnyCase(point.simsDirectory, simsDirectory)) {
+        if (point.reason == PointReason::evening && equalInAnyCase(point.simsDirectory, gameOf(simsDirectory))) {
             return std::move(point);
         }
     }
@@ -94,10 +94,10 @@ void report(const RestorePoint& point, const EveningReport& result, bool askNoth
     }
 }
 
-// Completes or undoes a going back that was stopped. False if that failed.
-bool finishLastGoingBack(bool askNothing) {
+// Completes or undoes a going back of this game that was stopped. False if that failed.
+bool finishLastGoingBack(const std::string& simsDirectory, bool askNothing) {
     const auto unfinished = unfinishedGoingBack(restorePointsDirectory);
-    if (!unfinished) return true;
+    if (!unfinished || !equalInAnyCase(unfinished->simsDirectory, gameOf(simsDirectory))) return true;
     const std::string text = "Going back to the restore point " + unfinished->target +
                              " was cut off.\n\n[OK] completes it. [Cancel] undoes it.";
     const Finish how = confirm(text, askNothing) ? Finish::complete : Finish::undo;
@@ -107,7 +107,7 @@ bool finishLastGoingBack(bool askNothing) {
 }  // namespace
 
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
-    if (!finishLastGoingBack(askNothing)) return false;
+    if (!finishLastGoingBack(simsDirectory, askNothing)) return false;
     const std::optional<RestorePoint> point = pointOfLastEvening(simsDirectory);
     if (!point || point->sessionEnded) return true;
     const CutOffEvening cutOff = describeCutOff(eveningSince(point->name, simsDirectory, secondsOf(point->time)));

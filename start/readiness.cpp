@@ -17,7 +17,7 @@ namespace {
 void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Readiness& readiness) {
     const std::optional<Bytes> file = readWholeFile(place.liveFile().c_str());
     const auto neighborhood = std::make_unique<Neighborhood>();
-    if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName) != 0) return;
+    if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName, allFormats) != 0) return;
     const std::size_t later = countSims(*file, Edition::later);
     readiness.laterSims += later;
     if (later > 0 && !readsLaterEditions) {

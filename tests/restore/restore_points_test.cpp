@@ -23,7 +23,7 @@ TEST_F(RestorePointsTest, APointIsAPlainDirectoryOfAllNeighborhoodsWithAListBesi
                     {"UserData2/neighborhood.iff", bytesFrom("another neighborhood")}}));
     const RestorePoint listed = point(made.name);
     EXPECT_EQ(listed.damage, "");
-    EXPECT_EQ(listed.simsDirectory, game());
+    EXPECT_EQ(listed.simsDirectory, gameOf(game()));
     EXPECT_FALSE(listed.sessionEnded);
     EXPECT_TRUE(noteSessionEnded(points(), made.name));
     EXPECT_TRUE(point(made.name).sessionEnded);
