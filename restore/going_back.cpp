@@ -361,6 +361,7 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     const RestorePoint* const other = named(all, how == Finish::complete ? note->before : note->target);
     if (target == nullptr && other == nullptr) deleteNote(store.tree());
     if (target == nullptr) return {"The restore point is gone. The files stay as they are.", other != nullptr, {}};
+    if (!isSameGame(target->simsDirectory, note->simsDirectory)) return {"The note is of another game.", true, {}};
     RestorePoint checked = *target;
     if (!isWhole(pointsDirectory, checked)) return {notWhole(checked.damage), true, {}};
     const FileTree live(note->simsDirectory, FileTree::Links::followed);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/files.h"
+#include "restore/escaped_text.h"
 #include "restore/point_files.h"
 
 namespace {
@@ -23,8 +24,9 @@ std::optional<GoingNote> readNote(const FileTree& points) {
     std::array<std::string, words.size()> values;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::size_t end = left.find('\n');
-        if (!left.starts_with(words[i]) || end == std::string_view::npos) return std::nullopt;
-        values[i] = left.substr(words[i].size(), end - words[i].size());
+        const bool isLine = left.starts_with(words[i]) && end != std::string_view::npos && end >= words[i].size();
+        if (!isLine) return std::nullopt;
+        if (!readEscaped(left.substr(words[i].size(), end - words[i].size()), values[i])) return std::nullopt;
         left.remove_prefix(end + 1);
     }
     GoingNote note{values[0], values[1], values[3]};
@@ -38,7 +40,7 @@ bool writeNote(const std::string& pointsDirectory, const GoingNote& note) {
                                                           note.simsDirectory};
     std::string text;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        text.append(words[i]).append(values[i]).append(1, '\n');
+        text.append(words[i]).append(escaped(values[i])).append(1, '\n');
     }
     return writeText(pointsDirectory, noteName, text);
 }

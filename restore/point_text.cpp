@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <span>
 
+#include "restore/escaped_text.h"
 #include "restore/point_files.h"
 #include "world/content_sum.h"
 
@@ -27,45 +28,10 @@ std::string inHex(std::uint32_t value) {
     return text.data();
 }
 
-bool isControl(char c) {
-    return (c >= 0 && c < ' ') || c == '\x7F';
-}
-
-std::string escaped(std::string_view text) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string line;
-    for (const char c : text) {
-        if (!isControl(c) && c != '%') {
-            line += c;
-            continue;
-        }
-        const auto value = static_cast<unsigned char>(c);
-        line += '%';
-        line += digits[value / 16];
-        line += digits[value % 16];
-    }
-    return line;
-}
-
 template <typename Number>
 bool readNumber(std::string_view text, Number& number, int base = 10) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
     return error == std::errc() && end == text.data() + text.size();
-}
-
-bool readEscaped(std::string_view line, std::string& text) {
-    for (std::size_t at = 0; at < line.size(); ++at) {
-        std::uint8_t value = 0;
-        if (line[at] != '%') {
-            text += line[at];
-        } else if (line.size() - at > 2 && readNumber(line.substr(at + 1, 2), value, 16) && value != 0) {
-            text += static_cast<char>(value);
-            at += 2;
-        } else {
-            return false;
-        }
-    }
-    return true;
 }
 
 // Takes lines, and in them words, from the front of a text. After a first one that isn't there, nothing is.
