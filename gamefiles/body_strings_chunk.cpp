@@ -18,7 +18,7 @@ constexpr bool isPair(int entry) {
 // Moves `slot` behind those of the entry.
 std::string entryText(int entry, BodySlots::const_iterator& slot, BodyEnding ending) {
     constexpr std::size_t shortestWinterText = 2;
-    const std::string mesh = *slot++;
+    std::string mesh = *slot++;
     if (!isPair(entry)) return mesh;
     const std::string skin = *slot++;
     if (ending == BodyEnding::atEntry34) {

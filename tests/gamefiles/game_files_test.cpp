@@ -56,8 +56,8 @@ TEST(ObjectDefinitionTest, HasTheWordsOfAPlayersSim) {
 }
 
 TEST(FamilyTemplateTest, IsTwoChunksForOneMemberAndAName) {
-    const std::tuple<Editions, char, char, int> rows[] = {{Editions::base, '\x7C', 4, 8},
-                                                          {Editions::later, '\x88', 9, 20}};
+    const std::tuple<Editions, char, char, std::size_t> rows[] = {{Editions::base, '\x7C', 4, 8},
+                                                                  {Editions::later, '\x88', 9, 20}};
     for (const auto& [editions, size, version, behindCount] : rows) {
         std::string expected = "FAMI\0\0\0"s + size + "\0\0\0\x10"s + std::string(68, '\0') + version + "\0\0\0IMAF"s;
         expected += std::string(20, '\0') + "\x18\0\0\0\1\0\0\0"s + std::string(behindCount, '\0');
