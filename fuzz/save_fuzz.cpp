@@ -169,10 +169,9 @@ Waiting::Waiting(Neighborhood& neighborhood)
 // The record must be the template but for the fields of a new family.
 void examineNewFamily(std::span<const std::uint8_t> record, const Bytes& blank, std::size_t offset,
                       std::int32_t number) {
-    const std::int32_t nameChunk = static_cast<std::int32_t>(blank.size()) - 108;
-    const Ranges own = {
-        {9, 11}, {92, 94}, {96, 98}, {116, 120}, {nameChunk + 9, nameChunk + 11}, {nameChunk + 81, nameChunk + 108}};
-    const auto nameNumber = static_cast<std::size_t>(nameChunk + 9);
+    const auto end = static_cast<std::int32_t>(blank.size());
+    const Ranges own = {{9, 11}, {92, 94}, {96, 98}, {116, 120}, {end - 99, end - 97}, {end - 27, end}};
+    const std::size_t nameNumber = blank.size() - 99;
     for (std::size_t at = 0; at < record.size(); ++at) {
         const bool isHeader = isHeaderMap(offset + at);
         promise(isHeader || record[at] == blank[at] || meets(own, at, at + 1), "a template's byte");
