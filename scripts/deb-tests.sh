@@ -15,7 +15,7 @@ deb_contents() {
     local library package
     expect "the list of what isn't plainly root's to write and everyone's to read" \
         "lrwxrwxrwx root/root ./usr/bin/tidewright lrwxrwxrwx root/root ./usr/bin/tidewright-restore \
-$(printf -- '-rwxr-xr-x root/root ./usr/libexec/tidewright/%s ' tidewright tidewright-{restore,start})" \
+$(printf -- '-rwxr-xr-x root/root ./usr/libexec/tidewright/%s ' tidewright tidewright-{later,restore,start})" \
         "$(dpkg-deb -c "$deb" | awk '$1 " " $2 !~ /^(drwxr-xr-x|-rw-r--r--) root\/root$/ { print $1, $2, $6 }' | sort -k3 | tr '\n' ' ')"
 
     dpkg-deb -x "$deb" "$work/unpacked"
@@ -58,7 +58,7 @@ deb_installs() {
     apt install --no-install-recommends "$work/$(basename "$deb")"
     expect_silence dpkg -V tidewright
     local entry=/usr/share/applications/tidewright.desktop
-    expect "the menu's command" /usr/bin/tidewright "$(command -v "$(sed -n 's/^Exec=//p' "$entry")")"
+    expect "the menu's command" /usr/bin/tidewright "$(command -v "$(sed -n '/^Exec=/{s///p;q}' "$entry")")"
     expect "the menu's icon" tidewright "$(sed -n 's/^Icon=//p' "$entry")"
 }
 

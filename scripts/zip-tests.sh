@@ -4,7 +4,7 @@
 zip_files() {
     local folder=Tidewright-$version program text
     expect "the list of files" \
-        "$(printf "$folder/%s " skinsets-original.cfg tidewright-{guide.html,readme.txt,restore.exe,start.exe} tidewright.exe)" \
+        "$(printf "$folder/%s " skinsets-original.cfg tidewright-{guide.html,later.exe,readme.txt,restore.exe,start.exe} tidewright.exe)" \
         "$(unzip -Z1 "$zip" | LC_ALL=C sort | tr '\n' ' ')"
     unzip -q "$zip" -d "$work/unzipped"
     cd "$work/unzipped/$folder"
@@ -49,7 +49,7 @@ zip_starts() {
 }
 
 test_zip() {
-    check "zip: one folder with six files, texts with Windows' line ends, programs that start on XP by their headers" zip_files
+    check "zip: one folder with seven files, texts with Windows' line ends, programs that start on XP by their headers" zip_files
     if ! choose_kinds x86; then
         failed=$((failed + 1))
     elif [ ${#kinds[@]} -gt 0 ]; then
