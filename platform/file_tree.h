@@ -65,8 +65,8 @@ class FileTree {
     // Of a file or directory.
     std::optional<FileId> idOf(const std::string& path) const;
 
-    // Whether `file` and the file `other` of another tree can be read and have the same bytes, `size` of them.
-    bool hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other, std::int64_t size) const;
+    // Whether `file` and the file `other` of another tree can be read to their ends and have the same bytes.
+    bool hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other) const;
 
     // Streams without a buffer; null on failure. A file to create must not exist.
     std::FILE* openToRead(const std::string& file) const;

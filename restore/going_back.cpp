@@ -230,7 +230,7 @@ std::optional<Steps> stepsFromLive(const FileTree& points, const FileTree& live,
     const auto found = filesOfNeighborhoods(live, error);
     if (!found) return std::nullopt;
     return stepsBetween(found->files, target.files, neighborhood, [&](const LiveFile& one, const PointFile& file) {
-        return live.hasSameBytes(one.path, points, target.name + '/' + file.path, file.stamp.size);
+        return live.hasSameBytes(one.path, points, target.name + '/' + file.path);
     });
 }
 
@@ -241,8 +241,7 @@ Steps stepsFromPresent(const FileTree& points, const RestorePoint& present, cons
     return stepsBetween(present.files, target.files, neighborhood, [&](const PointFile& one, const PointFile& file) {
         const std::string path = present.name + '/' + one.path, targetPath = target.name + '/' + file.path;
         if (one.checksum != file.checksum) return false;
-        return points.idOf(path) == points.idOf(targetPath) ||
-               points.hasSameBytes(path, points, targetPath, file.stamp.size);
+        return points.idOf(path) == points.idOf(targetPath) || points.hasSameBytes(path, points, targetPath);
     });
 }
 

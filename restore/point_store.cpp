@@ -183,7 +183,7 @@ class Making {
 
     bool linkTo(const PointFile& older, const std::string& path) const {
         const std::string olderPath = before_->name + '/' + older.path;
-        return live_.hasSameBytes(older.path, points_, olderPath, older.stamp.size) && points_.link(olderPath, path);
+        return live_.hasSameBytes(older.path, points_, olderPath) && points_.link(olderPath, path);
     }
 
     const FileTree& live_;

@@ -215,19 +215,17 @@ std::optional<FileId> FileTree::idOf(const std::string& path) const {
                   static_cast<std::uint64_t>(joined(found.nFileIndexHigh, found.nFileIndexLow))};
 }
 
-bool FileTree::hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other,
-                            std::int64_t size) const {
+bool FileTree::hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other) const {
     std::FILE* const one = openToRead(file);
     std::FILE* const two = tree.openToRead(other);
     bool isSame = one != nullptr && two != nullptr;
     static std::array<char, 64'000> oneBlock, otherBlock;
-    for (std::int64_t left = size; isSame && left > 0;) {
-        const auto wanted = static_cast<std::size_t>(std::min<std::int64_t>(left, oneBlock.size()));
-        const std::size_t got = std::fread(oneBlock.data(), 1, wanted, one);
-        isSame = got > 0 && std::fread(otherBlock.data(), 1, got, two) == got &&
+    for (std::size_t got = 1; isSame && got > 0;) {
+        got = std::fread(oneBlock.data(), 1, oneBlock.size(), one);
+        isSame = std::fread(otherBlock.data(), 1, otherBlock.size(), two) == got &&
                  std::equal(oneBlock.begin(), oneBlock.begin() + static_cast<std::ptrdiff_t>(got), otherBlock.begin());
-        left -= static_cast<std::int64_t>(got);
     }
+    isSame = isSame && std::ferror(one) == 0 && std::ferror(two) == 0;
     if (one != nullptr) std::fclose(one);
     if (two != nullptr) std::fclose(two);
     return isSame;

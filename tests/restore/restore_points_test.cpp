@@ -123,6 +123,7 @@ TEST_F(RestorePointsTest, APointThatIsNotAsNotedIsListedSoAndIsNotGoneBackTo) {
         row.spoil();
         EXPECT_TRUE(point(good).name.empty() || !point(good).damage.empty());
         EXPECT_NE(goBackTo(good).error, "");
+        EXPECT_NE(goBackTo(good, 3).error, "") << "also where nothing would change";
         EXPECT_EQ(before, whole());
         fs::remove_all(files_.path("points"));
         for (const auto& [name, bytes] : points)

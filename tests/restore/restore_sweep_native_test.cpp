@@ -114,6 +114,8 @@ TEST_F(RestoreSweepTest, AGoingBackThatIsStoppedIsCompletedOrUndone) {
     sweep(act, [&] {
         for (const auto& [name, file] : withoutParts())
             EXPECT_TRUE((game_.contains(name) && file == game_[name]) || file == then.at(name)) << name;
+        const bool isNeighborhoodBack = whole()["UserData/neighborhood.iff"] == then.at("UserData/neighborhood.iff");
+        EXPECT_TRUE(!isNeighborhoodBack || files_.exists(ann)) << "the neighborhood file comes last";
         if (unfinishedGoingBack(points())) {
             undoes = !undoes;
             inChild([&] { finishGoingBack(points(), undoes ? Finish::undo : Finish::complete, latest); });

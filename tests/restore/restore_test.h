@@ -23,19 +23,23 @@ class RestoreTest : public testing::Test {
         return makeRestorePoint(points(), game(), reason, nextMinute());
     }
     GoneBack goBackTo(const std::string& name, int neighborhood = allNeighborhoods) {
-        return goBack(points(), point(name), game(), neighborhood, nextMinute());
+        return goBack(points(), listed(name), game(), neighborhood, nextMinute());
     }
     SYSTEMTIME nextMinute() {
         ++minute_;
         return {2026, 11, 0, 25, static_cast<WORD>(18 + minute_ / 60), static_cast<WORD>(minute_ % 60), 3, 250};
     }
 
-    // As it is listed and checked; without a name if it isn't.
-    RestorePoint point(const std::string& name) const {
-        std::vector<RestorePoint> all = listRestorePoints(points());
-        checkPoints(points(), all);
+    // As it is listed; without a name if it isn't.
+    RestorePoint listed(const std::string& name) const {
+        const std::vector<RestorePoint> all = listRestorePoints(points());
         const auto found = std::ranges::find(all, name, &RestorePoint::name);
         return found != all.end() ? *found : RestorePoint{};
+    }
+    RestorePoint point(const std::string& name) const {
+        RestorePoint checked = listed(name);
+        isWhole(points(), checked);
+        return checked;
     }
 
     std::string points() const { return files_.path("points"); }

@@ -192,17 +192,14 @@ std::optional<FileId> FileTree::idOf(const std::string& path) const {
 }
 
 // By the calls alone: most files are compared, and a stream takes longer to make than a small file to read.
-bool FileTree::hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other,
-                            std::int64_t size) const {
+bool FileTree::hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other) const {
     const int one = state_->openFile(file), two = one < 0 ? one : tree.state_->openFile(other);
     bool isSame = two >= 0 || done(two);
     static std::array<char, 64'000> oneBlock, otherBlock;
-    for (std::int64_t left = size; isSame && left > 0;) {
-        const auto wanted = static_cast<std::size_t>(std::min<std::int64_t>(left, oneBlock.size()));
-        const ssize_t got = read(one, oneBlock.data(), wanted);
-        isSame = got > 0 && read(two, otherBlock.data(), static_cast<std::size_t>(got)) == got &&
+    for (ssize_t got = 1; isSame && got > 0;) {
+        got = read(one, oneBlock.data(), oneBlock.size());
+        isSame = got >= 0 && read(two, otherBlock.data(), otherBlock.size()) == got &&
                  std::equal(oneBlock.begin(), oneBlock.begin() + got, otherBlock.begin());
-        left -= got;
     }
     if (one >= 0) close(one);
     if (two >= 0) close(two);
