@@ -163,8 +163,9 @@ std::optional<std::vector<TreeEntry>> FileTree::entriesOf(const std::string& dir
     errno = 0;
     while (const dirent* entry = readdir(stream)) {
         const std::string_view name = entry->d_name;
-        if (name != "." && name != "..")
+        if (name != "." && name != "..") {
             entries.push_back({std::string(name), TreeEntry::Kind::other, isLink(listed, *entry), {}});
+        }
         errno = 0;
     }
     bool isWhole = done(errno == 0 ? 0 : -1);
