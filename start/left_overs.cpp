@@ -194,9 +194,11 @@ void lookIn(const NeighborhoodPlace& neighborhood, std::vector<LeftOver>& found)
         addOtherParts(place.directory, harmless);
         addOtherParts(place.directory + '\\' + backupsDirectory, harmless);
     }
-    if (harmless.empty()) return;
-    found.push_back({neighborhood.name() + ": " + listed(harmless) + (harmless.size() == 1 ? " is" : " are") +
-                     " left over from a save that was cut off. That does no harm: the next save clears it away."});
+    for (const std::string& name : harmless) {
+        found.push_back({.sentence = neighborhood.name() + ": " + name +
+                                     " is left over from a save that was cut off. It does no harm; you may delete it.",
+                         .isHarmless = true});
+    }
 }
 
 }  // namespace

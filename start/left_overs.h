@@ -12,6 +12,7 @@ struct LeftOver {
     std::string directory = {};  // of the neighborhood; this and the next two are for putInPlace
     std::string live = {};       // the path of the file that is missing or broken
     std::string version = {};    // the path of the whole version of it that takes its place
+    bool isHarmless = false;     // nothing is missing or broken, and nothing is lost if it is deleted
     bool isOldVersion = false;   // only the old file of a complete save, which couldn't put it into Backups
 
     bool isOffer() const { return !question.empty(); }

@@ -56,16 +56,14 @@ TEST_F(LeftOversTest, AMissingOrBrokenFileIsReplacedByTheWholeVersionThatFits) {
 
 TEST_F(LeftOversTest, WhatDoesNoHarmIsNamedWithoutAnOffer) {
     const std::string live = "neighborhood.iff", sim = "Characters/TMPuser00099.iff";
-    const std::string end = " left over from a save that was cut off. That does no harm: the next save clears it away.";
+    const std::string end = " is left over from a save that was cut off. It does no harm; you may delete it.";
     const Bytes some = bytesFrom("some"), odd(5000), whole = makeNeighborhoodFile({}).bytes;
     const std::tuple<const char*, Files, std::string> rows[] = {
         {"nothing", {{"TMPhouse.iff", some}, {"Characters/user00001.bak", some}}, ""},
-        {"parts of two files",
-         {{"TMP" + live, some}, {"Backups/x.iff.tidewright-new0", some}},
-         "TMPneighborhood.iff and x.iff.tidewright-new0 are" + end},
-        {"another tool's own form", {{live, odd}, {"TMP" + live, whole}}, "TMPneighborhood.iff is" + end},
-        {"a copy of version 1.1.0", {{"~part1234.tmp", some}}, "~part1234.tmp is" + end},
-        {"a Sim who is gone", {{sim, makeFactTemplate()}}, "TMPuser00099.iff is" + end},
+        {"part of a backup", {{"Backups/x.iff.tidewright-new0", some}}, "x.iff.tidewright-new0" + end},
+        {"another tool's own form", {{live, odd}, {"TMP" + live, whole}}, "TMPneighborhood.iff" + end},
+        {"a copy of version 1.1.0", {{"~part1234.tmp", some}}, "~part1234.tmp" + end},
+        {"a Sim who is gone", {{sim, makeFactTemplate()}}, "TMPuser00099.iff" + end},
         {"an old version without a backup",
          {{live + ".tidewright-old0", some}},
          "neighborhood.iff.tidewright-old0 is an old version of neighborhood.iff that isn't in Backups. The next save "
