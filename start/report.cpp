@@ -13,6 +13,7 @@ namespace {
 struct Findings {
     EveningReport report = {};
     std::size_t checkedFiles = 0;
+    bool isUnchecked = false;  // something couldn't be checked
 
     void say(const std::string& paragraph) {
         if (paragraph.empty()) return;
@@ -43,6 +44,7 @@ void sayWhatWasSaved(const NeighborhoodPlace& before, const NeighborhoodPlace& n
     const NeighborhoodVersion old(before);
     const NeighborhoodVersion present(now);
     if (!old.isRead()) {
+        findings.isUnchecked = true;
         findings.say(now.name() + " was saved. The copy from before can't be read, so nothing could be checked.");
     } else if (!present.isRead()) {
         findings.report.hasLoss = true;
@@ -55,6 +57,7 @@ void sayWhatWasSaved(const NeighborhoodPlace& before, const NeighborhoodPlace& n
 void lookAt(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin, Findings& findings) {
     const EveningChanges changes = changesOf(before, now, begin);
     findings.report.hasSaved |= changes.isByEditor();
+    findings.report.wasPlayed |= changes.isPlayed;
     if (changes.isByEditor()) sayWhatWasSaved(before, now, changes, findings);
     const std::string played = "The game saved " + now.name() + " while Tidewright was open";
     if (changes.isReplaced) findings.say(played + "; what you changed in it was not saved.");
@@ -65,12 +68,12 @@ void sayLeftOvers(const Evening& evening, Findings& findings) {
     for (const LeftOver& leftOver : findLeftOvers(evening.game)) {
         if (std::ranges::find(evening.known, leftOver.sentence) != evening.known.end()) continue;
         findings.report.hasLoss |= !leftOver.isOldVersion;
-        findings.say(leftOver.sentence);
+        findings.say((leftOver.isHarmless ? "A save wasn't completed. " : "") + leftOver.sentence);
     }
 }
 
 void sayEnd(const std::string& game, Findings& findings) {
-    if (findings.report.hasSaved && !findings.report.hasLoss) {
+    if (findings.report.hasSaved && !findings.report.hasLoss && !findings.isUnchecked) {
         findings.say("Checked: " + counted(findings.checkedFiles, "new file", "new files") +
                      ", whole to the end. Names, GUIDs and stages are right, and no family and no Sim is missing.");
     }

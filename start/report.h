@@ -7,9 +7,10 @@
 #include "start/evening.h"
 
 struct EveningReport {
-    bool hasSaved = false;  // the editor has saved something
-    bool hasLoss = false;   // something is lost or broken, or a save was cut off: going back is worth a question
-    std::string text = {};  // for the player, in Windows-1252; empty if there is nothing to say
+    bool hasSaved = false;   // the editor has saved something
+    bool wasPlayed = false;  // the game has saved meanwhile: going back would undo that, too
+    bool hasLoss = false;    // something is lost or broken, or a save was cut off: going back is worth a question
+    std::string text = {};   // for the player, in Windows-1252; empty if there is nothing to say
 };
 
 // Compares the game's neighborhoods with the copy. Where nothing was saved, the text says so only if something prevents
