@@ -1,5 +1,6 @@
 #include "start/evening_steps.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <optional>
@@ -15,6 +16,7 @@
 #include "start/left_overs.h"
 #include "start/report.h"
 #include "ui/words.h"
+#include "world/running_game.h"
 
 namespace {
 
@@ -52,13 +54,13 @@ std::vector<std::string> sentencesOnLeftOvers(const std::string& simsDirectory) 
     return sentences;
 }
 
-std::optional<RestorePoint> pointOfLastEvening(const std::string& simsDirectory) {
-    for (RestorePoint& point : listRestorePoints(restorePointsDirectory)) {
-        if (point.reason == PointReason::evening && equalInAnyCase(point.simsDirectory, gameOf(simsDirectory))) {
-            return std::move(point);
-        }
-    }
-    return std::nullopt;
+// The newest point that serves.
+template <typename Serves>
+std::optional<RestorePoint> findPoint(Serves serves) {
+    std::vector<RestorePoint> points = listRestorePoints(restorePointsDirectory);
+    const auto found = std::ranges::find_if(points, serves);
+    if (found == points.end()) return std::nullopt;
+    return std::move(*found);
 }
 
 // Since 1970, UTC.
@@ -77,20 +79,29 @@ bool runEditor(Editions editions, bool askNothing, int& exitCode) {
 }
 
 bool sayGoneBack(const GoneBack& result, bool askNothing) {
-    say(result.error.empty() ? "Your neighborhoods are as they were before." : result.error, askNothing);
+    std::string text = result.error.empty() ? "Your neighborhoods are as they were before." : result.error;
+    if (result.isBetween) {
+        text += "\n\nGoing back was cut off half-way. Every file is whole. Start again to complete or undo it.";
+    }
+    say(text, askNothing);
     return result.error.empty();
 }
 
+// The question may have been open for long, and the game been started meanwhile.
 bool goBackTo(const RestorePoint& point, const std::string& simsDirectory, bool askNothing) {
+    if (refuseBesideGame(askNothing) != 0) return false;
     return sayGoneBack(goBack(restorePointsDirectory, point, simsDirectory, allNeighborhoods), askNothing);
 }
 
 void report(const RestorePoint& point, const EveningReport& result, bool askNothing) {
-    if (result.hasLoss) {
+    if (result.hasLoss && !result.wasPlayed) {
         const std::string text = result.text + "\n\n[OK] goes back to before this evening. [Cancel] keeps it as it is.";
         if (confirm(text, askNothing, false)) goBackTo(point, point.simsDirectory, askNothing);
     } else if (!result.text.empty()) {
-        say(result.text + (result.hasSaved ? "\n\n" + toGoBack(point.name) : ""), askNothing);
+        std::string text = result.text;
+        if (result.hasLoss) text += "\n\nGoing back would undo what was played meanwhile, too.";
+        if (result.hasSaved || result.hasLoss) text += "\n\n" + toGoBack(point.name);
+        say(text, askNothing);
     }
 }
 
@@ -108,8 +119,10 @@ bool finishLastGoingBack(const std::string& simsDirectory, bool askNothing) {
 
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
     if (!finishLastGoingBack(simsDirectory, askNothing)) return false;
-    const std::optional<RestorePoint> point = pointOfLastEvening(simsDirectory);
-    if (!point || point->sessionEnded) return true;
+    const auto point = findPoint([&, game = gameOf(simsDirectory)](const RestorePoint& one) {
+        return !one.sessionEnded && equalInAnyCase(one.simsDirectory, game);
+    });
+    if (!point) return true;
     const CutOffEvening cutOff = describeCutOff(eveningSince(point->name, simsDirectory, secondsOf(point->time)));
     if (cutOff.wasPlayedSince) {
         say(cutOff.text, askNothing);
@@ -124,15 +137,17 @@ bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
 
 int runEvening(const std::string& simsDirectory, Editions editions, bool askNothing) {
     const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::evening);
-    if (made.name.empty() && !confirm(whyNoPoint(made) + goOnWithoutPoint, askNothing)) return failed;
+    if (made.name.empty() && !confirm(whyNoPoint(made) + goOnWithoutPoint, askNothing, false)) return failed;
     Evening evening = eveningSince(made.name, simsDirectory, std::time(nullptr));
     evening.known = sentencesOnLeftOvers(simsDirectory);
     int exitCode = failed;
     const bool ran = runEditor(editions, askNothing, exitCode);
-    const std::optional<RestorePoint> point = pointOfLastEvening(simsDirectory);
-    if (!made.name.empty() && point && point->name == made.name) {
-        if (ran) report(*point, reportOn(evening), askNothing);
-        noteSessionEnded(restorePointsDirectory, made.name);
-    }
-    return ran ? exitCode : failed;
+    const auto point = findPoint([&](const RestorePoint& one) { return one.name == made.name; });
+    if (!ran || !point) return ran ? exitCode : failed;
+    const EveningReport result = reportOn(evening);
+    // The box may be open when the machine is switched off. Only where something is lost, the next start asks again.
+    if (!result.hasLoss) noteSessionEnded(restorePointsDirectory, made.name);
+    report(*point, result, askNothing);
+    if (result.hasLoss) noteSessionEnded(restorePointsDirectory, made.name);
+    return exitCode;
 }

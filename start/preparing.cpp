@@ -6,7 +6,9 @@
 #include "platform/child_process.h"
 #include "platform/win32.h"
 #include "prepare/preparation.h"
+#include "restore/restore_points.h"
 #include "start/earlier_version.h"
+#include "start/evening_steps.h"
 #include "start/readiness.h"
 #include "ui/words.h"
 #include "world/paths.h"
@@ -44,6 +46,11 @@ bool takeOverEarlierVersion(const std::string& simsDirectory, bool askNothing) {
     return fault.empty();
 }
 
+bool isThere(const std::string& path) {
+    FileStatus status{};
+    return queryFileStatus(path.c_str(), status);
+}
+
 bool agreesTo(const std::string& files, bool askNothing) {
     return files.empty() || confirm("These files will be made.\n\n" + files +
                                         "\nYour Sims and neighborhoods stay as they are. Shall the files be made?",
@@ -68,8 +75,8 @@ bool prepare(const std::string& simsDirectory, Editions editions, bool newTempla
 bool sayWhetherReady(const std::string& simsDirectory, Editions editions, bool askNothing) {
     const Readiness readiness = checkReadiness(simsDirectory, editions == Editions::later);
     const std::string found = readiness.text();
-    say((found.empty() ? found : found + "\n\n") +
-            (readiness.isReady() ? "Everything is ready: Tidewright can start." : "Not everything is ready."),
+    const char* const end = found.empty() ? "Everything is ready: Tidewright can start." : "Tidewright can start.";
+    say((found.empty() ? found : found + "\n\n") + (readiness.isReady() ? end : "Not everything is ready."),
         askNothing);
     return readiness.isReady();
 }
@@ -78,14 +85,17 @@ void mend(const std::string& simsDirectory, bool askNothing) {
     for (const LeftOver& leftOver : findLeftOvers(simsDirectory)) {
         if (!leftOver.isOffer()) continue;
         const std::string text = leftOver.sentence + "\n\n" + leftOver.question;
-        if (confirm(text, askNothing) && !putInPlace(leftOver)) {
+        if (!confirm(text, askNothing, !isThere(leftOver.live))) continue;
+        makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::byHand);
+        if (!putInPlace(leftOver)) {
             say(leftOver.live + " couldn't be put back. Everything is as it was.", askNothing);
         }
     }
 }
 
 bool isGoodToGo(const std::string& simsDirectory, Editions editions, bool askNothing) {
-    const Readiness readiness = checkReadiness(simsDirectory, editions == Editions::later);
+    Readiness readiness = checkReadiness(simsDirectory, editions == Editions::later);
+    std::erase_if(readiness.leftOvers, [](const LeftOver& leftOver) { return leftOver.isHarmless; });
     const std::string text = readiness.text();
     if (readiness.isReady()) {
         if (!text.empty()) say(text, askNothing);

@@ -12,6 +12,7 @@
 #include "start/preparing.h"
 #include "ui/words.h"
 #include "version.h"
+#include "world/game_check.h"
 #include "world/game_search.h"
 #include "world/program_files.h"
 #include "world/running_game.h"
@@ -37,15 +38,17 @@ int write(const std::string& text) {
 // With the player's own directory as the working directory.
 int startOn(const std::string& simsDirectory, const std::string& ownDirectory, const Options& options) {
     const bool askNothing = options.askNothing;
+    const bool opens = !options.prepareOnly && !options.newTemplate;
+    // First of all: what is out of its place can't be looked at.
+    if (opens && !settleLastEvening(simsDirectory, askNothing)) return failed;
+    if (opens) mend(simsDirectory, askNothing);
     const Editions editions =
         editionsToOpen(simsDirectory, options.editions, ownDirectory + "\\tidewright.ini", askNothing);
     const bool isPrepared = prepare(simsDirectory, editions, options.newTemplate, askNothing);
-    if (options.prepareOnly || options.newTemplate) {
+    if (!opens) {
         return isPrepared && sayWhetherReady(simsDirectory, editions, askNothing) ? 0 : failed;
     }
-    if (!isPrepared || !settleLastEvening(simsDirectory, askNothing)) return failed;
-    mend(simsDirectory, askNothing);
-    if (!isGoodToGo(simsDirectory, editions, askNothing)) return failed;
+    if (!isPrepared || !isGoodToGo(simsDirectory, editions, askNothing)) return failed;
     return runEvening(simsDirectory, editions, askNothing);
 }
 
@@ -65,7 +68,10 @@ int runStart(int argumentCount, char** arguments) {
     if (SetCurrentDirectoryA(own.path.c_str()) == FALSE) return refuse(askNothing, own.path + " can't be entered.");
     const DirectoryLock lock(lockedDirectory(simsDirectory).c_str());
     if (const int refusal = refuseSecondStart(lock, askNothing); refusal != 0) return refusal;
-    if (isEditorOpen()) return refuse(askNothing, "Tidewright's window is open already. Please close it first.");
+    if (isEditorOpen()) {
+        refuse(askNothing, "Tidewright's window is open already. Please close it, and start again.");
+        return exitCode::gameRunning;
+    }
     if (const int refusal = refuseBesideGame(askNothing); refusal != 0) return refusal;
     return startOn(simsDirectory.c_str(), own.path, options);
 }

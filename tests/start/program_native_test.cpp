@@ -30,16 +30,16 @@ TEST_F(StartTest, AsksPreparesAndSaysWhetherAllIsReady) {
         std::vector<std::string> options;
         int answer, code;
         std::vector<std::string> said;  // in the boxes, in their order
-    } rows[] = {
-        {{"--no"}, IDOK, 1, {}},
-        {{"--help"}, IDOK, 0, {}},
-        {{"--prepare"}, IDCANCEL, 1, {"-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"}},
-        {{"--prepare", "--yes"}, IDOK, 0, {}},
-        {{"--prepare"}, IDOK, 0, {"Everything is ready"}},
-        {{"--new-template"},
-         IDOK,
-         0,
-         {"will be made.\n\n" + planned + "    (the present one is kept", "would be the same", "Everything is ready"}}};
+    } rows[] = {{{"--no"}, IDOK, 1, {}},
+                {{"--help"}, IDOK, 0, {}},
+                {{"--prepare"}, IDCANCEL, 1, {"-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"}},
+                {{"--prepare", "--yes"}, IDOK, 0, {}},
+                {{"--prepare"}, IDOK, 0, {"Tidewright can start."}},
+                {{"--new-template"},
+                 IDOK,
+                 0,
+                 {"will be made.\n\n" + planned + "    (the present one is kept", "would be the same",
+                  "Tidewright can start."}}};
     for (const auto& [options, answer, code, said] : rows) {
         SCOPED_TRACE(options.back() + std::to_string(answer));
         std::vector<AnsweredBox> boxes;
