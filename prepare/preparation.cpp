@@ -33,8 +33,7 @@ void reportMissing(Preparation& preparation, const std::string& line) {
 }
 
 void reportUnwritten(Preparation& preparation, const std::string& path) {
-    reportMissing(preparation,
-                  path + " can't be written: " + writeFailure() + ". Please mend that, and prepare again.");
+    reportMissing(preparation, path + " can't be written: " + writeFailure() + ". Please mend that, and start again.");
 }
 
 bool writeNew(Preparation& preparation, const std::string& path, const Bytes& bytes) {
@@ -53,7 +52,7 @@ void reportPresent(Preparation& preparation, const std::string& path, Present pr
         present == Present::deadLink
             ? " is there, but leads to no file."
             : " is there already, but a save can't use it: it can't be read, is cut or another file.";
-    reportMissing(preparation, path + fault + " Please delete it, and prepare again.");
+    reportMissing(preparation, path + fault + " Please delete it, and start again.");
 }
 
 void bring(Preparation& preparation, const std::string& path, Present present, const Bytes& bytes) {
@@ -128,16 +127,16 @@ bool keepCopy(Preparation& preparation, const std::string& stem, const Bytes& fi
 std::string whyNoSource(const TemplateSource& source, const std::string& simsDirectory, Editions editions) {
     FileStatus status{};
     if (!queryFileStatus(simsDirectory.substr(0, simsDirectory.size() - 1).c_str(), status)) {
-        return "The game's directory " + simsDirectory + " can't be found. Please prepare again when it is there.";
+        return "The game's directory " + simsDirectory + " can't be found. Please start again when it is there.";
     }
-    const std::string create = "create a family with an adult in the game, save, and prepare again.";
+    const std::string create = "create a family with an adult in the game, save, and start again.";
     if (source.found == 0) {
         return "No character file can be seen in " + simsDirectory +
                "UserData\\Characters. Please allow reading it, or " + create;
     }
     if (source.unreadable == source.found) {
         return "None of the " + std::to_string(source.found) +
-               " character files of your game can be read. Please allow reading them, and prepare again.";
+               " character files of your game can be read. Please allow reading them, and start again.";
     }
     const std::string unreadable =
         source.unreadable == 0 ? "" : "; " + std::to_string(source.unreadable) + " of them can't be read";
