@@ -132,6 +132,45 @@ TEST_F(Stories, TheStartSaysWhatBecameOfAnEveningAndUndoesIt) {
     EXPECT_EQ(differences(marked, playedFiles()), "");
 }
 
+// By mouse where the program is native, by keys on Windows.
+TEST_F(Stories, GoingBackBeforeTheFirstOfTwoEveningsGivesBothSimsBack) {
+    prepareGame();
+    const Tree before = playedFiles();
+    const auto playEvening = [this](const Button& button, int sim) {
+        launch("tidewright-start --yes");
+        useWindow();
+        press(button, 0, 0, sim);
+        chooseFileItem("v");
+        EXPECT_EQ(waitForExit(), 0);
+    };
+    playEvening(childToTeen, 3);  // Clover
+    playEvening(teenToAdult, 2);  // Bramble
+    EXPECT_NE(playedFiles(), before);
+    launch("tidewright-restore");
+    const std::string window = findWindow("Go Back - Tidewright");
+    act("windowmove --sync " + window + " 0 0 windowfocus --sync " + window);
+    byKeys_ = windowsPrograms != nullptr;
+    clientTop_ = 5;
+    pickEntry(0, 1);
+    waitUntil("the question opens", [&] {  // a click is lost while the list closes
+        byKeys_ ? void(act("key Tab Tab space")) : clickAt(70, 275);
+        usleep(1'000'000);
+        return !act("search --onlyvisible --name '^Tidewright Start$' 2>/dev/null | tail -n 1").empty();
+    });
+    answerStart();
+    answerStart();  // it is done
+    EXPECT_EQ(differences(before, playedFiles()), "");
+    run(byKeys_ ? "xdotool windowfocus --sync " + window + " key alt+F4"
+                : "kill $(xdotool getwindowpid " + window + ")");
+    EXPECT_EQ(waitForExit(), byKeys_ ? 0 : -128);
+    byKeys_ = false;
+    launch("tidewright-start --yes");
+    useWindow();
+    press(childToTeen, 0, 0, 3);  // a child again
+    chooseFileItem("x");
+    EXPECT_EQ(waitForExit(), 0);
+}
+
 // A Wayland session without an X server. The server's protocol has the titles of windows; the first one is that of the
 // box about an unprepared game.
 using Wayland = Stories;
