@@ -73,8 +73,10 @@ std::int64_t secondsOf(const SYSTEMTIME& time) {
 // False if the editor couldn't be started, which is said.
 bool runEditor(Editions editions, bool askNothing, int& exitCode) {
     const std::string editor = programBeside(editorFor(editions));
-    if (runAndWait(editor, ".", exitCode)) return true;
-    say(editor + " can't be started. Please install Tidewright again.", askNothing);
+    if (!editor.empty() && runAndWait(editor, ".", exitCode)) return true;
+    say(editor.empty() ? "The directory of this program has a name that it can't use. Please move it to another one."
+                       : editor + " can't be started. Please install Tidewright again.",
+        askNothing);
     return false;
 }
 

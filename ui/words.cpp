@@ -7,7 +7,7 @@ void say(const std::string& text, bool onConsole) {
     if (onConsole) {
         writeToOutput(text + "\n");
     } else {
-        MessageBoxA(nullptr, text.c_str(), programTitle, MB_OK);
+        MessageBoxA(nullptr, text.c_str(), programTitle, MB_OK | MB_SETFOREGROUND);
     }
 }
 
@@ -16,7 +16,7 @@ bool confirm(const std::string& question, bool onConsole, bool unasked) {
         writeToOutput(question + (unasked ? "\n[OK]\n" : "\n[Cancel]\n"));
         return unasked;
     }
-    const int answer = MessageBoxA(nullptr, question.c_str(), programTitle, MB_OKCANCEL);
+    const int answer = MessageBoxA(nullptr, question.c_str(), programTitle, MB_OKCANCEL | MB_SETFOREGROUND);
     if (answer == 0) say("Without a display this needs the option --yes.", false);
     return answer == IDOK;
 }

@@ -4,11 +4,14 @@
 
 #include <array>
 
+#include "platform/windows/ansi_path.h"
+
 std::string programBeside(const std::string& name) {
-    std::array<char, MAX_PATH> running{};
-    const DWORD length = GetModuleFileNameA(nullptr, running.data(), running.size());
+    std::array<wchar_t, MAX_PATH> running{};
+    const DWORD length = GetModuleFileNameW(nullptr, running.data(), running.size());
     if (length == 0 || length == running.size()) return "";
-    const std::string path(running.data(), length);
+    const std::string path = ansiPath(running.data());
+    if (path.empty()) return "";
     return path.substr(0, path.rfind('\\') + 1) + name + ".exe";
 }
 
