@@ -19,7 +19,7 @@ constexpr std::string_view editorKinds[] = {"tidewright", "tidewright-later", "t
 constexpr std::string_view folderKinds[] = {"cabinetwclass", "explorewclass", "explorer.exe", "dolphin", "konqueror",
                                             "nautilus",      "thunar",        "nemo",         "caja",    "pcmanfm",
                                             "pcmanfm-qt",    "krusader",      "files",        "spacefm", "doublecmd",
-                                            "konsole",       "rox",           "worker",       "xfe",     "mc"};
+                                            "rox",           "worker",        "xfe",          "mc"};
 // Those of browsers, in the same way.
 constexpr std::string_view browserKinds[] = {"mozillawindowclass",
                                              "chrome_widgetwin_1",
