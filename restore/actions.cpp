@@ -1,7 +1,6 @@
 #include "restore/actions.h"
 
 #include "platform/files.h"
-#include "platform/letter_case.h"
 #include "restore/going_back.h"
 #include "restore/point_words.h"
 #include "ui/sentence_parts.h"
@@ -76,7 +75,7 @@ bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point) {
 
 bool finishEarlier(const PointsOfGame& game) {
     const auto note = unfinishedGoingBack(game.pointsDirectory);
-    if (!note || !equalInAnyCase(note->simsDirectory, gameOf(game.simsDirectory))) return true;
+    if (!note || !isSameGame(note->simsDirectory, gameOf(game.simsDirectory))) return true;
     if (isRefused(game)) return false;
     const bool completes =
         confirm("Going back to \"" + note->target +

@@ -216,10 +216,6 @@ class NeighborhoodLocks {
     std::string refusal_;
 };
 
-bool isSameGame(const std::string& one, const std::string& other) {
-    return equalInAnyCase(one, other) || isSameFile(one.c_str(), other.c_str());
-}
-
 GoneBack refused(const std::string& error) {
     return {error, false, {}};
 }

@@ -6,7 +6,6 @@
 #include <memory>
 #include <optional>
 
-#include "platform/letter_case.h"
 #include "platform/part_names.h"
 #include "restore/going_note.h"
 #include "restore/point_files.h"
@@ -104,7 +103,7 @@ class Making {
            const std::vector<RestorePoint>& all, RestorePoint& point)
         : live_(live), points_(points), directory_(directory), point_(point), part_(partName(point.name, 0)) {
         const auto before = std::ranges::find_if(all, [&](const RestorePoint& one) {
-            return one.damage.empty() && equalInAnyCase(one.simsDirectory, point.simsDirectory);
+            return one.damage.empty() && isSameGame(one.simsDirectory, point.simsDirectory);
         });
         if (before != all.end()) before_ = &*before;
     }

@@ -135,7 +135,7 @@ std::vector<std::string> pointEntries(const std::string& pointsDirectory, const 
     const RestorePoint* newer = nullptr;  // the next point of the game that is whole
     for (const RestorePoint& point : points) {
         std::string entry = point.time.wYear != 0 ? whenWords(point.time, now) : point.name;
-        if (point.damage.empty() && equalInAnyCase(point.simsDirectory, gameOf(simsDirectory))) {
+        if (point.damage.empty() && isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
             if (point.reason != PointReason::evening) entry += " (" + std::string(reasonText(point.reason)) + ')';
             const std::string directory = pointsDirectory + '\\' + point.name + '\\';
             std::string error;

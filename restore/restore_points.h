@@ -40,6 +40,9 @@ struct PointFile {
 // With a backslash at its end.
 std::string gameOf(const std::string& simsDirectory);
 
+// Whether two of these are one and the same directory. Paths that differ in case alone may be two.
+bool isSameGame(const std::string& one, const std::string& other);
+
 struct RestorePoint {
     std::string name;
     SYSTEMTIME time{};  // UTC; the year is 0 if the text file doesn't say it

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "platform/child_process.h"
-#include "platform/letter_case.h"
 #include "restore/going_back.h"
 #include "restore/restore_points.h"
 #include "start/cut_off.h"
@@ -110,7 +109,7 @@ void report(const RestorePoint& point, const EveningReport& result, bool askNoth
 // Completes or undoes a going back of this game that was stopped. False if that failed.
 bool finishLastGoingBack(const std::string& simsDirectory, bool askNothing) {
     const auto unfinished = unfinishedGoingBack(restorePointsDirectory);
-    if (!unfinished || !equalInAnyCase(unfinished->simsDirectory, gameOf(simsDirectory))) return true;
+    if (!unfinished || !isSameGame(unfinished->simsDirectory, gameOf(simsDirectory))) return true;
     const std::string text = "Going back to the restore point " + unfinished->target +
                              " was cut off.\n\n[OK] completes it. [Cancel] undoes it.";
     const Finish how = confirm(text, askNothing) ? Finish::complete : Finish::undo;
@@ -122,7 +121,7 @@ bool finishLastGoingBack(const std::string& simsDirectory, bool askNothing) {
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
     if (!finishLastGoingBack(simsDirectory, askNothing)) return false;
     const auto point = findPoint([&, game = gameOf(simsDirectory)](const RestorePoint& one) {
-        return !one.sessionEnded && equalInAnyCase(one.simsDirectory, game);
+        return !one.sessionEnded && isSameGame(one.simsDirectory, game);
     });
     if (!point) return true;
     const CutOffEvening cutOff = describeCutOff(eveningSince(point->name, simsDirectory, secondsOf(point->time)));

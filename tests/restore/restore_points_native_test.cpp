@@ -27,6 +27,13 @@ TEST_F(RestorePointsNativeTest, EachNameComesBackByteForByte) {
     EXPECT_EQ(whole(), since);
 }
 
+TEST_F(RestorePointsNativeTest, AGameInADirectoryOfAnotherSpellingIsAnotherGame) {
+    const std::string made = make().name;
+    files_.write("GAME/UserData/neighborhood.iff", "of another game");
+    EXPECT_NE(goBack(points(), listed(made), files_.path("GAME") + "\\", allNeighborhoods).error, "");
+    EXPECT_EQ(files_.bytesOf("GAME/UserData/neighborhood.iff"), bytesFrom("of another game"));
+}
+
 TEST_F(RestorePointsNativeTest, ALinkInTheGameIsReadAndOneInAPointIsNot) {
     fs::rename(files_.path("game/UserData2"), files_.path("elsewhere"));
     ASSERT_EQ(symlink("../elsewhere", files_.path("game/UserData2").c_str()), 0);
