@@ -56,7 +56,7 @@ class Walk {
             if (entry.kind == TreeEntry::Kind::file && !directory.empty() && !isLeftOut(entry.name)) {
                 found_.files.push_back({path, entry.stamp});
             }
-            if (entry.kind == TreeEntry::Kind::directory && isEntered(directory, entry, path) && !walk(path)) {
+            if (entry.kind == TreeEntry::Kind::directory && isEntered(directory, entry) && !walk(path)) {
                 return false;
             }
         }
@@ -69,20 +69,10 @@ class Walk {
     }
 
  private:
-    bool isEntered(const std::string& directory, const TreeEntry& entry, const std::string& path) const {
+    static bool isEntered(const std::string& directory, const TreeEntry& entry) {
         if (directory.empty()) return neighborhoodNumber(entry.name) != 0;
-        if (equalInAnyCase(entry.name, backups)) return false;
-        return !entry.isLink || !leadsBack(directory, path);
-    }
-
-    // Whether the link leads to a directory on the way to it.
-    bool leadsBack(std::string way, const std::string& link) const {
-        const auto target = tree_.idOf(link);
-        while (!way.empty()) {
-            if (tree_.idOf(way) == target) return true;
-            way.resize(way.rfind('/') == std::string::npos ? 0 : way.rfind('/'));
-        }
-        return tree_.idOf("") == target;
+        // What a link leads to isn't the neighborhood's own, and nothing there may be deleted.
+        return !entry.isLink && !equalInAnyCase(entry.name, backups);
     }
 
     const FileTree& tree_;

@@ -7,8 +7,8 @@
 // file of the game.
 //
 // To a point belong all files below "UserData", "UserData2" and so on, but for directories "Backups", files "TMP*" and
-// the parts of a save. A symbolic link there is read as what it leads to. Each directory is read once, so a link
-// around in a circle adds nothing.
+// the parts of a save. A symbolic link to a file is read as the file, and so is one that is a neighborhood's own
+// directory. One to a directory below that isn't entered: what it leads to belongs to no point.
 //
 // A point has its name only when it is whole and on the disk, and loses it before anything of it is deleted. What a
 // program that ended in between left is cleared away by the next one, under a lock on the directory of points.

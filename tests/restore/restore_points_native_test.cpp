@@ -42,8 +42,11 @@ TEST_F(RestorePointsNativeTest, ALinkInTheGameIsReadAndOneInAPointIsNot) {
     const std::string made = make().name;
     EXPECT_EQ(treeOf(files_.path("points/" + made)).size(), 4U);
     files_.write("elsewhere/neighborhood.iff", "played");
+    files_.write("pictures/mine.bmp", "outside the game");
+    ASSERT_EQ(symlink("../../pictures", files_.path("game/UserData/Pictures").c_str()), 0);
     EXPECT_EQ(goBackTo(made).error, "");
     EXPECT_EQ(files_.bytesOf("elsewhere/neighborhood.iff"), bytesFrom("another neighborhood"));
+    EXPECT_TRUE(files_.exists("pictures/mine.bmp"));
 
     files_.write("elsewhere/House01.iff", "a house");
     const std::string houses = "points/" + made + "/UserData/Houses";
