@@ -67,15 +67,26 @@ bool makePoint(const PointsOfGame& game) {
 
 bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point) {
     const std::string question = "Delete the restore point \"" + point.name + "\"? You can't go back to it then.";
+    const auto note = unfinishedGoingBack(game.pointsDirectory);
+    if (note && note->needs(point.name)) {
+        say("A going back that was cut off needs this restore point. It can be deleted when that is finished.",
+            game.onConsole);
+        return false;
+    }
     if (!confirm(question, game.onConsole)) return false;
     if (deleteRestorePoint(game.pointsDirectory, point.name)) return true;
     say("The restore point can't be deleted whole: " + point.name, game.onConsole);
     return false;
 }
 
+bool isCutOff(const PointsOfGame& game) {
+    const auto note = unfinishedGoingBack(game.pointsDirectory);
+    return note && isSameGame(note->simsDirectory, gameOf(game.simsDirectory));
+}
+
 bool finishEarlier(const PointsOfGame& game) {
     const auto note = unfinishedGoingBack(game.pointsDirectory);
-    if (!note || !isSameGame(note->simsDirectory, gameOf(game.simsDirectory))) return true;
+    if (!note || !isCutOff(game)) return true;
     if (isRefused(game)) return false;
     const bool completes =
         confirm("Going back to \"" + note->target +

@@ -22,6 +22,9 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
 bool makePoint(const PointsOfGame& game);
 bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point);
 
+// Whether a going back in this game was cut off, and nothing else may be done before finishEarlier.
+bool isCutOff(const PointsOfGame& game);
+
 // If an earlier going back in this game was cut off, asks whether to complete or to undo it, and does it. True as well
 // if there is nothing to finish.
 bool finishEarlier(const PointsOfGame& game);

@@ -195,7 +195,11 @@ void onButton(int controlId) {
         isDone = goBackAfterQuestion(shown->game, *point, pickedNeighborhood());
     }
     if (controlId == id::deleteButton && point != nullptr) isDone = deleteAfterQuestion(shown->game, *point);
-    if (isDone) refill();
+    if (isCutOff(shown->game)) {
+        DestroyWindow(shown->controls.window);
+    } else if (isDone) {
+        refill();
+    }
 }
 
 void onCommand(int controlId, int notification) {

@@ -12,6 +12,9 @@ struct GoingNote {
     std::string before;  // of the point that was made before
     std::string simsDirectory;
     int neighborhood = 0;  // 0 for all
+
+    // Whether this point is needed to complete or to undo it.
+    bool needs(const std::string& point) const { return point == target || point == before; }
 };
 
 // `points` is the directory of points. No value if there is no note, or none that can be understood.

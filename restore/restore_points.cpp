@@ -4,6 +4,7 @@
 
 #include "platform/files.h"
 #include "platform/path_text.h"
+#include "restore/going_note.h"
 #include "restore/point_check.h"
 #include "restore/point_store.h"
 
@@ -61,5 +62,7 @@ bool noteSessionEnded(const std::string& pointsDirectory, const std::string& nam
 
 bool deleteRestorePoint(const std::string& pointsDirectory, const std::string& name) {
     const PointStore store(pointsDirectory);
-    return !store.isUnavailable() && store.remove(name);
+    if (store.isUnavailable()) return false;
+    const auto note = readNote(store.tree());
+    return !(note && note->needs(name)) && store.remove(name);
 }

@@ -79,7 +79,8 @@ MadePoint makeRestorePoint(const std::string& pointsDirectory, const std::string
 // Notes that the evening before which the point was made has ended. False if that couldn't be written.
 bool noteSessionEnded(const std::string& pointsDirectory, const std::string& name);
 
-// False if the point couldn't be deleted; it isn't listed any more then, or still whole.
+// False if the point couldn't be deleted; it isn't listed any more then, or still whole. One that a going back that was
+// cut off needs (restore/going_note.h) is never deleted.
 bool deleteRestorePoint(const std::string& pointsDirectory, const std::string& name);
 
 #endif

@@ -75,6 +75,13 @@ TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
     }
 }
 
+TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
+    const std::string target = make().name, before = make().name, third = make().name;
+    ASSERT_TRUE(writeNote(points(), {target, before, gameOf(game())}));
+    EXPECT_FALSE(deleteRestorePoint(points(), target) || deleteRestorePoint(points(), before));
+    EXPECT_TRUE(deleteRestorePoint(points(), third));
+}
+
 TEST_F(GoingBackTest, AnotherGameIsRefusedByBothNames) {
     const std::string made = make().name;
     files_.write("other/UserData/neighborhood.iff", "of another game");
