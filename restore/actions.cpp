@@ -94,7 +94,12 @@ bool finishEarlier(const PointsOfGame& game) {
                     "restore point and some are newer.\n\n[OK] goes back to it.\n[Cancel] goes to what was before.",
                 game.onConsole);
     GoneBack gone = finishGoingBack(game.pointsDirectory, completes ? Finish::complete : Finish::undo);
+    // Nobody can choose the other way there.
+    if (gone.isBetween && game.onConsole) {
+        say(gone.error, game.onConsole);
+        gone = finishGoingBack(game.pointsDirectory, Finish::undo);
+    }
     if (gone.error.empty()) return true;
     say(sentenceOf(gone.present).empty() ? gone.error : sentenceOf(gone.present), game.onConsole);
-    return false;
+    return !gone.isBetween;
 }

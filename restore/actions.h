@@ -26,7 +26,7 @@ bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point);
 bool isCutOff(const PointsOfGame& game);
 
 // If an earlier going back in this game was cut off, asks whether to complete or to undo it, and does it. True as well
-// if there is nothing to finish.
+// if there is nothing to finish, or nothing to finish it with any more.
 bool finishEarlier(const PointsOfGame& game);
 
 #endif

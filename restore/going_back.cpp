@@ -269,6 +269,19 @@ std::string notWhole(const std::string& damage) {
     return "The restore point isn't whole. " + damage;
 }
 
+// With a sentence in `damage` unless it is there and whole.
+RestorePoint checkedPoint(const std::string& pointsDirectory, const std::vector<RestorePoint>& all,
+                          const std::string& name) {
+    const RestorePoint* const found = named(all, name);
+    RestorePoint point = found != nullptr ? *found : RestorePoint{};
+    if (found == nullptr) point.damage = "The restore point \"" + name + "\" is gone.";
+    if (found != nullptr && !isWhole(pointsDirectory, point)) {
+        point.damage = "The restore point \"" + name + "\" isn't whole. " + point.damage;
+        if (!point.damage.ends_with('.')) point.damage += '.';
+    }
+    return point;
+}
+
 // Why the way must not begin; empty if it may.
 std::string refusalOf(const PointStore& store, const std::string& simsDirectory, const RestorePoint& point) {
     const auto note = readNote(store.tree());
@@ -352,20 +365,22 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     const auto note = readNote(store.tree());
     if (!note) return {};
     const std::vector<RestorePoint> all = readPoints(store.tree());
-    const RestorePoint* const target = named(all, how == Finish::complete ? note->target : note->before);
+    RestorePoint target = checkedPoint(pointsDirectory, all, how == Finish::complete ? note->target : note->before);
+    if (!target.damage.empty()) {
+        const bool isOver =
+            !checkedPoint(pointsDirectory, all, how == Finish::complete ? note->before : note->target).damage.empty() &&
+            deleteNote(store.tree());
+        return {target.damage + (isOver ? " The files stay as they are." : ""), !isOver, {}};
+    }
     const RestorePoint* const other = named(all, how == Finish::complete ? note->before : note->target);
-    if (target == nullptr && other == nullptr) deleteNote(store.tree());
-    if (target == nullptr) return {"The restore point is gone. The files stay as they are.", other != nullptr, {}};
-    if (!isSameGame(target->simsDirectory, note->simsDirectory)) return {"The note is of another game.", true, {}};
-    RestorePoint checked = *target;
-    if (!isWhole(pointsDirectory, checked)) return {notWhole(checked.damage), true, {}};
+    if (!isSameGame(target.simsDirectory, note->simsDirectory)) return {"The note is of another game.", true, {}};
     const FileTree live(note->simsDirectory, FileTree::Links::followed);
     const NeighborhoodLocks locks(live, note->simsDirectory, note->neighborhood);
     if (!locks.refusal().empty()) return {locks.refusal(), true, {}};
     locks.clearParts(live, note->simsDirectory);
 
     std::string error;
-    const auto steps = stepsFromLive(store.tree(), live, checked, note->neighborhood, error);
+    const auto steps = stepsFromLive(store.tree(), live, target, note->neighborhood, error);
     if (!steps) return {error, true, {}};
     const auto toOther =
         other != nullptr ? stepsFromLive(store.tree(), live, *other, note->neighborhood, error) : steps;
@@ -374,7 +389,7 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
         made = store.make(note->simsDirectory, PointReason::goingBack, time);
         if (made.name.empty()) return {made.error, true, made};
     }
-    Way way(store.tree(), live, checked, *steps);
+    Way way(store.tree(), live, target, *steps);
     GoneBack result = follow(pointsDirectory, store, way, *note, true);
     result.present = made;
     return result;

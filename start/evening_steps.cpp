@@ -113,7 +113,10 @@ bool finishLastGoingBack(const std::string& simsDirectory, bool askNothing) {
     const std::string text = "Going back to the restore point " + unfinished->target +
                              " was cut off.\n\n[OK] completes it. [Cancel] undoes it.";
     const Finish how = confirm(text, askNothing) ? Finish::complete : Finish::undo;
-    return sayGoneBack(finishGoingBack(restorePointsDirectory, how), askNothing);
+    GoneBack result = finishGoingBack(restorePointsDirectory, how);
+    // Nobody can choose the other way there.
+    if (result.isBetween && askNothing) result = finishGoingBack(restorePointsDirectory, Finish::undo);
+    return sayGoneBack(result, askNothing) || !result.isBetween;
 }
 
 }  // namespace

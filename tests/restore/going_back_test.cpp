@@ -80,6 +80,11 @@ TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
     ASSERT_TRUE(writeNote(points(), {target, before, gameOf(game())}));
     EXPECT_FALSE(deleteRestorePoint(points(), target) || deleteRestorePoint(points(), before));
     EXPECT_TRUE(deleteRestorePoint(points(), third));
+    files_.remove("points/" + target + "/" + "UserData2");
+    EXPECT_TRUE(finishGoingBack(points(), Finish::complete).isBetween) << "it can still be undone";
+    files_.remove("points/" + before);
+    EXPECT_NE(finishGoingBack(points(), Finish::undo).error.find("The files stay as they are."), std::string::npos);
+    EXPECT_FALSE(unfinishedGoingBack(points()));
 }
 
 TEST_F(GoingBackTest, AnotherGameIsRefusedByBothNames) {
