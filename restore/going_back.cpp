@@ -285,11 +285,13 @@ RestorePoint checkedPoint(const std::string& pointsDirectory, const std::vector<
 // Why the way must not begin; empty if it may.
 std::string refusalOf(const PointStore& store, const std::string& simsDirectory, const RestorePoint& point) {
     const auto note = readNote(store.tree());
-    FileStatus status{};
-    // A note on a game that is gone has nothing to finish.
-    if (note && queryFileStatus(note->simsDirectory.c_str(), status)) {
-        return "An earlier going back was cut off, and must be finished first.";
+    // The game can be on a disk that is away, and still be between two states.
+    if (note && !isSameGame(note->simsDirectory, gameOf(simsDirectory))) {
+        return "Going back in the game in " + note->simsDirectory +
+               " was cut off, and must be finished first. If that game is gone for good, delete the file "
+               "\"going-back.txt\" beside the restore points.";
     }
+    if (note) return "An earlier going back was cut off, and must be finished first.";
     if (!isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
         return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + simsDirectory;
     }

@@ -80,6 +80,10 @@ TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
     ASSERT_TRUE(writeNote(points(), {target, before, gameOf(game())}));
     EXPECT_FALSE(deleteRestorePoint(points(), target) || deleteRestorePoint(points(), before));
     EXPECT_TRUE(deleteRestorePoint(points(), third));
+    ASSERT_TRUE(writeNote(points(), {target, before, "/gone/"}));
+    EXPECT_NE(goBackTo(target).error.find("/gone/"), std::string::npos) << "the note of a game that is away";
+    EXPECT_TRUE(unfinishedGoingBack(points()));
+    ASSERT_TRUE(writeNote(points(), {target, before, gameOf(game())}));
     files_.remove("points/" + target + "/" + "UserData2");
     EXPECT_TRUE(finishGoingBack(points(), Finish::complete).isBetween) << "it can still be undone";
     files_.remove("points/" + before);
