@@ -292,6 +292,7 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
                "\"going-back.txt\" beside the restore points.";
     }
     if (note) return "An earlier going back was cut off, and must be finished first.";
+    if (!point.damage.empty()) return notWhole(point.damage);  // its game may be unknown
     if (!isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
         return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + simsDirectory;
     }
@@ -336,7 +337,6 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     if (store.isUnavailable()) return refused(store.refusal());
     const std::string refusal = refusalOf(store, simsDirectory, point);
     if (!refusal.empty()) return refused(refusal);
-    if (!point.damage.empty()) return refused(notWhole(point.damage));
     const FileTree live(simsDirectory, FileTree::Links::followed);
     const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
     if (!locks.refusal().empty()) return refused(locks.refusal());

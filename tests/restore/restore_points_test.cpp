@@ -122,7 +122,8 @@ TEST_F(RestorePointsTest, APointThatIsNotAsNotedIsListedSoAndIsNotGoneBackTo) {
         SCOPED_TRACE(row.what);
         row.spoil();
         EXPECT_TRUE(point(good).name.empty() || !point(good).damage.empty());
-        EXPECT_NE(goBackTo(good).error, "");
+        const std::string refusal = goBackTo(good).error;
+        EXPECT_TRUE(point(good).name.empty() || refusal.starts_with("The restore point isn't whole.")) << refusal;
         EXPECT_NE(goBackTo(good, 3).error, "") << "also where nothing would change";
         EXPECT_EQ(before, whole());
         fs::remove_all(files_.path("points"));
