@@ -230,6 +230,30 @@ std::optional<Steps> stepsFromLive(const FileTree& points, const FileTree& live,
     });
 }
 
+// A sentence if a file of the point can't come because something of another kind has its name, or that of a directory
+// on the way to it. What a link leads to isn't the neighborhood's.
+std::string swappedKind(const FileTree& live, const NeighborhoodFiles& found, const Steps& steps) {
+    for (const Step& step : steps) {
+        if (step.kind != Step::Kind::come) continue;
+        if (live.idOf(step.path) && !live.stampOf(step.path)) {
+            return "The game has a directory where the restore point has a file: " + FileTree::shown(step.path);
+        }
+        for (std::size_t slash = step.path.find('/'); slash != std::string::npos;
+             slash = step.path.find('/', slash + 1)) {
+            const std::string directory = step.path.substr(0, slash);
+            const auto id = live.idOf(directory);
+            if (!id) break;
+            const bool isOwn = std::ranges::any_of(found.directories, [&](const std::string& one) {
+                return one == directory || (equalInAnyCase(one, directory) && live.idOf(one) == id);
+            });
+            if (isOwn) continue;
+            return "The game has a file or a link where the restore point has a directory: " +
+                   FileTree::shown(directory);
+        }
+    }
+    return {};
+}
+
 // Compares the point of the present, which has the same bytes as the game's files, with the target. Where both have
 // one and the same file, nothing needs to be read.
 Steps stepsFromPresent(const FileTree& points, const RestorePoint& present, const RestorePoint& target,
@@ -341,6 +365,14 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
     if (!locks.refusal().empty()) return refused(locks.refusal());
     locks.clearParts(live, simsDirectory);
+
+    std::string error;
+    const auto found = filesOfNeighborhoods(live, error);
+    auto steps = stepsFromLive(store.tree(), live, point, neighborhood, error);
+    if (!found || !steps) return refused(error);
+    joinSpellings(live, *steps);
+    error = swappedKind(live, *found, *steps);
+    if (!error.empty()) return refused(error);
 
     const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time);
     if (made.name.empty()) return {made.error, false, made};

@@ -36,8 +36,8 @@ struct GoneBack {
     MadePoint present;       // the point that was made before
 };
 
-// Refuses a point that isn't whole, one of another game, and to begin while an earlier going back isn't finished or the
-// neighborhoods are being saved.
+// Refuses a point that isn't whole, one of another game, one that has a file where the game has a directory or the
+// other way round, and to begin while an earlier going back isn't finished or the neighborhoods are being saved.
 GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, const std::string& simsDirectory,
                 int neighborhood, const SYSTEMTIME& time = presentTime());
 

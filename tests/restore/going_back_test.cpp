@@ -91,6 +91,18 @@ TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
     EXPECT_FALSE(unfinishedGoingBack(points()));
 }
 
+TEST_F(GoingBackTest, AFileIsNotPutWhereADirectoryIsNorTheOtherWayRound) {
+    const std::string made = make().name, houses = "game/UserData/Houses";
+    const Tree points = treeOf(files_.path("points"));
+    fs::remove_all(files_.path(houses));
+    files_.write(houses, "a file");
+    EXPECT_NE(goBackTo(made).error, "");
+    files_.remove(houses);
+    files_.write(houses + "/House01.iff/a.txt", "in a directory");
+    EXPECT_NE(goBackTo(made).error, "");
+    EXPECT_EQ(treeOf(files_.path("points")), points) << "no note, and no point of the present";
+}
+
 TEST_F(GoingBackTest, AnotherGameIsRefusedByBothNames) {
     const std::string made = make().name;
     files_.write("other/UserData/neighborhood.iff", "of another game");
