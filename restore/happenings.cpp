@@ -191,10 +191,14 @@ std::vector<std::string> differingFiles(const RestorePoint& one, const RestorePo
     return {paths.begin(), paths.end()};
 }
 
-std::vector<int> playedNeighborhoods(const std::vector<std::string>& paths) {
+std::vector<std::string> filesOfPlaying(const std::vector<std::string>& paths) {
     std::vector<std::string> played;
     std::ranges::copy_if(paths, std::back_inserter(played), [](const std::string& path) { return !isOfASave(path); });
-    return neighborhoodsOf(played);
+    return played;
+}
+
+std::vector<int> playedNeighborhoods(const std::vector<std::string>& paths) {
+    return neighborhoodsOf(filesOfPlaying(paths));
 }
 
 std::string happeningsBetween(const std::string& before, const std::string& after,

@@ -11,8 +11,10 @@
 // The paths of the files in which two points differ.
 std::vector<std::string> differingFiles(const RestorePoint& one, const RestorePoint& other);
 
-// Whether the game was played, not only the editor used: a file differs that a save never writes. The neighborhoods'
-// numbers, in order.
+// Those of the paths that a save never writes: the game itself has.
+std::vector<std::string> filesOfPlaying(const std::vector<std::string>& paths);
+
+// The neighborhoods that have filesOfPlaying: the game was played, not only the editor used. Their numbers, in order.
 std::vector<int> playedNeighborhoods(const std::vector<std::string>& paths);
 
 // "Bramble Thistlewood became an adult, moved out", by names out of the files; "Neighborhood 1 was played" where no

@@ -63,7 +63,7 @@ std::string lastDay(const std::string& simsDirectory, const std::vector<std::str
 std::vector<std::string> playedLines(const std::string& simsDirectory, const std::vector<std::string>& differing) {
     std::vector<std::string> lines;
     for (const int number : playedNeighborhoods(differing)) {
-        const std::string day = lastDay(simsDirectory, differing, number);
+        const std::string day = lastDay(simsDirectory, filesOfPlaying(differing), number);
         lines.push_back("Neighborhood " + std::to_string(number) + " was played after that" +
                         (day.empty() ? "" : ", on " + day) + ": this will be undone, too.");
     }

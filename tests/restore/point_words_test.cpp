@@ -1,5 +1,7 @@
 #include "restore/point_words.h"
 
+#include <chrono>
+
 #include "restore/going_back.h"
 #include "tests/start/evening_game.h"
 
@@ -41,12 +43,16 @@ TEST_F(PointWordsTest, TheLinesSayWhatGoingBackWouldChange) {
     const std::string before = make(PointReason::evening, 23).name;
     save(true, true);
     files().write("UserData/Houses/House01.iff", "built");
+    fs::last_write_time(files().path("UserData/Houses/House01.iff"),
+                        fs::file_time_type::clock::from_sys(
+                            std::chrono::sys_seconds(std::chrono::sys_days(std::chrono::year(2026) / 11 / 20)) +
+                            std::chrono::hours(12)));
     const auto point = listRestorePoints(points()).front();
     const auto lines = comparisonLines(points(), point, game(), allNeighborhoods);
     ASSERT_EQ(lines.size(), 3U);
     EXPECT_EQ(lines[0], "Families: 1 then, 2 now. Sims: 3 then, 3 now.");
     EXPECT_EQ(lines[1], "2 files will change, 1 will go and 0 will come, among them 1 house.");
-    EXPECT_TRUE(lines[2].starts_with("Neighborhood 1 was played after that, on ")) << lines[2];
+    EXPECT_EQ(lines[2], "Neighborhood 1 was played after that, on 20 November: this will be undone, too.");
     EXPECT_EQ(comparisonLines(points(), point, game(), 2).size(), 1U) << "nothing there to go back to";
 }
 
