@@ -37,7 +37,13 @@ bool isRefused(const PointsOfGame& game) {
 bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
     if (isRefused(game)) return false;
     std::string question = "Go back to " + wordsFor(point) + "?\n";
-    for (const std::string& line : comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood)) {
+    const std::vector<std::string> lines =
+        comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood);
+    if (point.damage.empty() && lines.size() == 1) {
+        say(lines.front(), game.onConsole);
+        return false;
+    }
+    for (const std::string& line : lines) {
         question += '\n' + line;
     }
     question += "\n\nA restore point of the present is made first, so this can be undone here.";

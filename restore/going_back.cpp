@@ -373,6 +373,10 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     joinSpellings(live, *steps);
     error = swappedKind(live, *found, *steps);
     if (!error.empty()) return refused(error);
+    if (steps->empty()) {
+        RestorePoint checked = point;
+        return isWhole(pointsDirectory, checked) ? GoneBack{} : refused(notWhole(checked.damage));
+    }
 
     const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time);
     if (made.name.empty()) return {made.error, false, made};

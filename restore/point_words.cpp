@@ -70,6 +70,14 @@ std::vector<std::string> playedLines(const std::string& simsDirectory, const std
     return lines;
 }
 
+std::string nothingDiffers(const RestorePoint& point, int neighborhood) {
+    const bool isMissing = neighborhood != allNeighborhoods && std::ranges::none_of(point.files, [&](const auto& file) {
+                               return neighborhoodOf(file.path) == neighborhood;
+                           });
+    if (!isMissing) return "Nothing has changed since: there is nothing to go back to.";
+    return "Neither the restore point nor the game has a Neighborhood " + std::to_string(neighborhood) + '.';
+}
+
 }  // namespace
 
 std::string whenWords(const SYSTEMTIME& time, const SYSTEMTIME& now) {
@@ -118,7 +126,7 @@ std::vector<std::string> comparisonLines(const std::string& pointsDirectory, con
     std::vector<std::string> differing = comparison->changed;
     std::ranges::copy(comparison->toCome, std::back_inserter(differing));
     std::ranges::copy(comparison->toGo, std::back_inserter(differing));
-    if (differing.empty()) return {"Nothing has changed since: there is nothing to go back to."};
+    if (differing.empty()) return {nothingDiffers(point, neighborhood)};
     const NeighborhoodCounts then = countsIn(pointsDirectory + '\\' + point.name + '\\', neighborhood);
     const NeighborhoodCounts now = countsIn(simsDirectory, neighborhood);
     std::vector<std::string> lines = {"Families: " + std::to_string(then.families) + " then, " +

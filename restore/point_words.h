@@ -19,7 +19,8 @@ std::string dayWords(std::string_view lastWritten);
 std::string utcText(const SYSTEMTIME& time);
 std::string_view reasonText(PointReason reason);
 
-// What the game's files are now, seen from a point: lines to be read, without line breaks.
+// What the game's files are now, seen from a point: lines to be read, without line breaks. One line
+// alone says why there is nothing to go back to.
 std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,
                                          const std::string& simsDirectory, int neighborhood);
 

@@ -30,6 +30,7 @@ TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
                                                  {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
     EXPECT_EQ(point(gone.present.name).reason, PointReason::goingBack);
     EXPECT_FALSE(unfinishedGoingBack(points()));
+    EXPECT_EQ(goBackTo(before, 1).present.name, "") << "nothing differs any more";
 }
 
 // Sessions at random: a file comes, goes, or changes its bytes, its time or its mode.
