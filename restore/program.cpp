@@ -8,6 +8,7 @@
 #include "platform/own_directory.h"
 #include "platform/win32.h"
 #include "restore/actions.h"
+#include "restore/escaped_text.h"
 #include "restore/going_back_window.h"
 #include "restore/point_words.h"
 #include "restore/restore_options.h"
@@ -45,20 +46,22 @@ std::optional<PointsOfGame> findPoints(bool onConsole, DirectoryText& simsDirect
     return PointsOfGame{pointsDirectory, simsDirectory.c_str(), onConsole};
 }
 
+// Each point on one line: its name, which may have been changed to any other, is written as in its text file.
 int list(const PointsOfGame& game) {
     std::string text;
     std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
     checkPoints(game.pointsDirectory, points);
     for (const RestorePoint& point : points) {
         const std::string reason = point.damage.empty() ? std::string(reasonText(point.reason)) : "not whole";
-        text += point.name + '\t' + (point.time.wYear != 0 ? utcText(point.time) : "") + '\t' + reason + '\n';
+        text += escaped(point.name) + '\t' + (point.time.wYear != 0 ? utcText(point.time) : "") + '\t' + reason + '\n';
     }
     return writeToOutput(text) ? done : failed;
 }
 
 int goBackTo(const PointsOfGame& game, const RestoreOptions& options) {
     const std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
-    const auto point = std::ranges::find(points, options.target, &RestorePoint::name);
+    const auto point =
+        std::ranges::find_if(points, [&](const RestorePoint& one) { return escaped(one.name) == options.target; });
     if (point == points.end()) {
         return fail("There is no restore point of this name: " + options.target, game.onConsole);
     }
