@@ -1,5 +1,8 @@
 #include "restore/actions.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "platform/files.h"
 #include "restore/going_back.h"
 #include "restore/point_words.h"
@@ -11,6 +14,13 @@ namespace {
 
 std::string wordsFor(const RestorePoint& point) {
     return whenWords(point.time, presentTime());
+}
+
+// As the window's list shows it; on the console the name, which --to takes.
+std::string titleOf(const std::string& name, const PointsOfGame& game) {
+    const std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
+    const auto point = std::ranges::find(points, name, &RestorePoint::name);
+    return game.onConsole || point == points.end() ? name : pointTitle(*point, presentTime());
 }
 
 std::string megabytes(std::int64_t bytes) {
@@ -51,7 +61,7 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
     const GoneBack gone = goBack(game.pointsDirectory, point, game.simsDirectory, neighborhood);
     if (gone.error.empty()) {
         say("The game is back at the restore point of " + wordsFor(point) + ". To undo this, go back to \"" +
-                gone.present.name + "\".",
+                titleOf(gone.present.name, game) + "\".",
             game.onConsole);
         return true;
     }

@@ -118,6 +118,12 @@ std::string_view reasonText(PointReason reason) {
     }
 }
 
+std::string pointTitle(const RestorePoint& point, const SYSTEMTIME& now) {
+    const std::string when = point.time.wYear != 0 ? whenWords(point.time, now) : point.name;
+    const bool isPlain = !point.damage.empty() || point.reason == PointReason::evening;
+    return isPlain ? when : when + " (" + std::string(reasonText(point.reason)) + ')';
+}
+
 std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,
                                          const std::string& simsDirectory, int neighborhood) {
     std::string error;
@@ -142,9 +148,8 @@ std::vector<std::string> pointEntries(const std::string& pointsDirectory, const 
     std::vector<std::string> entries;
     const RestorePoint* newer = nullptr;  // the next point of the game that is whole
     for (const RestorePoint& point : points) {
-        std::string entry = point.time.wYear != 0 ? whenWords(point.time, now) : point.name;
+        std::string entry = pointTitle(point, now);
         if (point.damage.empty() && isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
-            if (point.reason != PointReason::evening) entry += " (" + std::string(reasonText(point.reason)) + ')';
             const std::string directory = pointsDirectory + '\\' + point.name + '\\';
             std::string error;
             if (newer != nullptr) {

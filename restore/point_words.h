@@ -19,6 +19,9 @@ std::string dayWords(std::string_view lastWritten);
 std::string utcText(const SYSTEMTIME& time);
 std::string_view reasonText(PointReason reason);
 
+// The point in the list, without what happened after it: "today 20:12 (made before going back)".
+std::string pointTitle(const RestorePoint& point, const SYSTEMTIME& now);
+
 // What the game's files are now, seen from a point: lines to be read, without line breaks. One line
 // alone says why there is nothing to go back to.
 std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,

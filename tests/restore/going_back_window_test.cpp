@@ -55,7 +55,7 @@ TEST_F(GoingBackWindowTest, AnEveningIsUndoneAndDoneAgain) {
     EXPECT_EQ(differences(saved, cancelled), "");
     EXPECT_EQ(differences(before, undone), "");
     EXPECT_EQ(differences(saved, redone), "");
-    EXPECT_NE(said.find("To undo this"), std::string::npos) << said;
+    EXPECT_NE(said.find("To undo this, go back to \"today "), std::string::npos) << said;
 }
 
 TEST_F(GoingBackWindowTest, PointsAreMadeAndDeleted) {
