@@ -31,6 +31,9 @@ std::string inMegabytes(std::int64_t bytes) {
     return std::to_string((bytes + megabyte - 1) / megabyte) + " MB";
 }
 
+constexpr const char* halfWay =
+    "\n\nGoing back was cut off half-way. Every file is whole. Start this program again to complete or undo it.";
+
 constexpr const char* goOnWithoutPoint =
     "\n\nWithout one you can't go back to before this evening, and nothing will be said of what was saved. Shall "
     "Tidewright start all the same?";
@@ -81,9 +84,7 @@ bool runEditor(Editions editions, bool askNothing, int& exitCode) {
 
 bool sayGoneBack(const GoneBack& result, bool askNothing) {
     std::string text = result.error.empty() ? "Your neighborhoods are as they were before." : result.error;
-    if (result.isBetween) {
-        text += "\n\nGoing back was cut off half-way. Every file is whole. Start again to complete or undo it.";
-    }
+    if (result.isBetween) text += halfWay;
     say(text, askNothing);
     return result.error.empty();
 }
