@@ -53,7 +53,7 @@ TEST(GoingBackByHandTest, TheStepsOfTheGuideGiveEachSimTheVersionBeforeThatSave)
         cast.push_back({.recordName = "user0000" + std::to_string(number), .guid = number, .hasPictures = false});
     TestNeighborhood test(householdOf(cast), cast);
     const std::string userData = test.files().path("UserData/");
-    fs::rename(userData + "neighborhood.iff", userData + "Neighborhood.iff");  // as the game spells them
+    fs::rename(userData + "neighborhood.iff", userData + "NEIGHBORHOOD.IFF");  // as some games spell them
     fs::rename(userData + "Characters/user00001.iff", userData + "Characters/User00001.iff");
     test.load();
     saveAt(test, 11, 23, 10, 5, {0, 1, 4});
@@ -75,7 +75,7 @@ TEST(GoingBackByHandTest, TheStepsOfTheGuideGiveEachSimTheVersionBeforeThatSave)
     ASSERT_EQ(std::system(("sh -eu '" + home.path("steps") + "'").c_str()), 0);
     EXPECT_EQ(differences(before, liveFiles(test)), "");
     EXPECT_TRUE(std::ranges::any_of(treeOf(home.path()),
-                                    [&](const auto& file) { return file.second == now.at("Neighborhood.iff"); }));
+                                    [&](const auto& file) { return file.second == now.at("NEIGHBORHOOD.IFF"); }));
 }
 
 }  // namespace
