@@ -28,10 +28,12 @@ constexpr auto bodyStringsLabel = "bodystring"sv;
 
 constexpr int guid = 104;         // in the object chunk, 4 bytes
 constexpr int displayName = 81;   // in the name chunk, up to a zero byte
+constexpr int stringCount = 78;   // in the body strings' chunk, 2 bytes
 constexpr int characterTag = 81;  // in the body strings' chunk, 5 letters without terminator
 constexpr auto adultTag = "adult"sv;
 constexpr auto childTag = "child"sv;
 constexpr int characterTagSize = 5;
+constexpr int allStrings = 35;  // in each file of later editions
 static_assert(adultTag.size() == characterTagSize && childTag.size() == characterTagSize);
 
 // One of these must come somewhere behind the character tag, or the file is of an unknown form. The second ends a text

@@ -156,9 +156,12 @@ int Sim::readBodyStrings(StreamView stream) {
 }
 
 // Whether the file is of a known form: one of the two patterns that end a text must come somewhere behind the character
-// tag, unless the count of its strings ends it. Reading the text doesn't depend on where the pattern is.
+// tag, unless it has all strings, whose count ends it. Reading the text doesn't depend on where the pattern is.
 bool Sim::textEnds(StreamView stream) const {
-    if (format_->hasAllTexts) return true;
+    if (format_->hasAllTexts) {
+        stream.seek(tagOffset_ + characterFile::stringCount - characterFile::characterTag);
+        if (readU16Le(stream.readBytes<2>()) == characterFile::allStrings) return true;
+    }
     for (const auto pattern : {characterFile::fillPattern, characterFile::trailerPattern}) {
         stream.seek(bodyOffset_);
         if (findTag(stream, pattern, fileSize_) > bodyOffset_) return true;

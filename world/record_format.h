@@ -15,7 +15,7 @@ struct RecordFormat {
     std::string_view marker;              // it opens a Sim's record if "user" follows
     std::optional<std::int16_t> version;  // of every Sim, and a record of mode 0 is no Sim; else the record's own
     bool keepsUnknown;                    // a rewritten record keeps the bytes that have no field
-    bool hasAllTexts;                     // a body text has all its 35 strings, and no pattern need end it
+    bool hasAllTexts;                     // a text of 35 body strings is written, and read without a pattern
     const char* characterTemplate;
     const char* familyTemplate;
     std::int32_t familyNameChunk;  // where "FAMs" begins in that template

@@ -195,6 +195,19 @@ TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
     }
 }
 
+TEST(CharacterReader, ATextOfLaterEditionsEndsByAPatternUnlessItCounts35Strings) {
+    for (const auto& [count, fill, result] : {std::tuple(35, 0, 1), {20, 0, -1}, {20, 0xA3, 1}}) {
+        const SampleCharacter character{.ending = atEntry34, .bodyFill = static_cast<std::uint8_t>(fill)};
+        const TestNeighborhood read({.neighbors = {{.later = true, .version = 9}}}, {character});
+        CharacterFile built = makeCharacterFile(character);
+        built.bytes[built.bodyStringsOffset + 78] = static_cast<std::uint8_t>(count);
+        read.files().write(file, built.bytes);
+        const AnsweredBox box = answerNextBox(IDOK);
+        EXPECT_EQ(read.sim(0).loadBodyStrings(), result) << count << " strings, " << fill;
+        EXPECT_EQ(box->shown, result < 0);
+    }
+}
+
 TEST(Members, TheStageFollowsFromAgeKindAndBody) {
     // A Sim without a body's skin has no character file.
     const std::tuple<const char*, int, int, int> rows[] = {
