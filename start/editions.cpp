@@ -56,7 +56,7 @@ Editions editionsToOpen(const std::string& simsDirectory, EditionsWish wish, con
     if (wish != EditionsWish::unsaid) remember(wish, settings);
     const std::size_t sims = countLaterSims(simsDirectory);
     if (sims == 0) return Editions::base;
-    EditionsWish choice = remembered(settings);
+    EditionsWish choice = wish == EditionsWish::unsaid ? remembered(settings) : wish;
     if (choice == EditionsWish::ask && !askNothing) {
         choice = ask(sims);
         remember(choice, settings);
