@@ -38,6 +38,13 @@ TEST_F(PointWordsTest, EachPointSaysWhatHappenedAfterIt) {
     EXPECT_TRUE(entries()[0].ends_with(" (not whole)")) << entries()[0];
 }
 
+TEST_F(PointWordsTest, SimsOfLaterEditionsAreNamed) {
+    start({.freeRoom = true}, true);
+    make(PointReason::evening, 23);
+    save(false);
+    EXPECT_TRUE(entries()[0].ends_with(" - Bramble Thistlewood moved out")) << entries()[0];
+}
+
 TEST_F(PointWordsTest, TheLinesSayWhatGoingBackWouldChange) {
     start();
     const std::string before = make(PointReason::evening, 23).name;

@@ -15,9 +15,14 @@ class EveningTest : public testing::Test {
  protected:
     // The neighborhood has the chunks and the map of `shape`, and its families behind the Thistlewoods. The copy from
     // before the evening is in "before".
-    void start(SampleNeighborhood shape = {.freeRoom = true}) {
+    void start(SampleNeighborhood shape = {.freeRoom = true}, bool ofLaterEditions = false) {
         shape.neighbors = {{.age = 9, .guid = 1}, {.recordName = "user00002", .guid = 2}};
         shape.neighbors.push_back({.recordName = "user00003", .kind = 0, .guid = 3});
+        for (std::size_t i = 0; ofLaterEditions && i < characters_.size(); ++i) {
+            shape.neighbors[i].later = true;
+            shape.neighbors[i].version = 9;
+            characters_[i].ending = BodyEnding::atEntry34;
+        }
         shape.families.insert(shape.families.begin(),
                               {.name = "Thistlewood", .funds = 62'500, .members = {1, 2, 3, 0x44434241}});
         test_.reset();  // it takes the working directory back

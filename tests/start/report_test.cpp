@@ -24,13 +24,15 @@ TEST(WordsTest, LongNumbersAndListsAreReadable) {
 }
 
 TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
-    start();
-    save();
-    const EveningReport report = reportOn(evening());
-    EXPECT_EQ(report.text, std::string("Neighborhood 1: ") + news +
-                               "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and no "
-                               "family and no Sim is missing.");
-    EXPECT_TRUE(report.hasSaved && !report.hasLoss);
+    for (const bool ofLaterEditions : {false, true}) {
+        start({.freeRoom = true}, ofLaterEditions);
+        save();
+        const EveningReport report = reportOn(evening());
+        EXPECT_EQ(report.text, std::string("Neighborhood 1: ") + news +
+                                   "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and "
+                                   "no family and no Sim is missing.");
+        EXPECT_TRUE(report.hasSaved && !report.hasLoss);
+    }
 }
 
 TEST_F(EveningTest, AFileOfAnUnknownFormOpensNoBox) {
