@@ -20,7 +20,7 @@ std::size_t countLaterSims(const std::string& simsDirectory) {
     std::size_t count = 0;
     for (const NeighborhoodPlace& place : neighborhoodsIn(simsDirectory)) {
         const std::optional<Bytes> file = readWholeFile(place.liveFile().c_str());
-        if (file) count += countSims(*file, Edition::later);
+        if (file) count += countSims(*file, laterFormats);
     }
     return count;
 }

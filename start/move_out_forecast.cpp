@@ -66,7 +66,7 @@ std::string moveOutLoss(const Bytes& file, const Neighborhood& neighborhood) {
     const std::size_t end = std::max(
         {endOfLast(file, "NBRS"), endOfLast(file, familyRecord::chunkTag), endOfLast(file, familyName::chunkTag)});
     if (cut >= end) return "";
-    const std::size_t sims = countSims(file, Edition::base, cut) + countSims(file, Edition::later, cut);
+    const std::size_t sims = countSims(file, allFormats, cut);
     const std::vector<std::string> families = familiesBehind(file, neighborhood, cut);
     std::string loss = sims == 0 ? "" : counted(sims, "Sim", "Sims");
     if (!families.empty()) {

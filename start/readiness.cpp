@@ -18,7 +18,7 @@ void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Read
     const std::optional<Bytes> file = readWholeFile(place.liveFile().c_str());
     const auto neighborhood = std::make_unique<Neighborhood>();
     if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName, allFormats) != 0) return;
-    const std::size_t later = countSims(*file, Edition::later);
+    const std::size_t later = countSims(*file, laterFormats);
     readiness.laterSims += later;
     if (later > 0 && !readsLaterEditions) {
         readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
