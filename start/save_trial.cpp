@@ -105,7 +105,8 @@ void tryBackups(const std::string& directory, Readiness& readiness) {
 void tryRoom(const NeighborhoodPlace& place, std::int64_t largestCharacter, Readiness& readiness) {
     constexpr std::int64_t copies = 3;
     constexpr std::int64_t others = 7;
-    const std::int64_t character = std::max(largestCharacter, sizeOf(characterTemplateName));
+    const std::int64_t character =
+        std::max({largestCharacter, sizeOf(characterTemplateName), sizeOf(laterCharacterTemplateName)});
     const std::int64_t need = copies * sizeOf(place.liveFile()) + (copies + others) * character;
     const std::int64_t room = freeRoomIn(place.directory.c_str());
     if (room < 0 || room >= need) return;
