@@ -22,7 +22,8 @@ void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Read
     readiness.laterSims += later;
     if (later > 0 && !readsLaterEditions) {
         readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
-                                     " of a later edition of the game, which Tidewright can't read.");
+                                     " of a later edition of the game, which " + (later == 1 ? "stays" : "stay") +
+                                     " closed: the option --editions ask asks again.");
     }
     const std::string loss = moveOutLoss(*file, *neighborhood);
     if (loss.empty()) return;
