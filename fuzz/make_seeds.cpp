@@ -22,10 +22,10 @@ Bytes textOf(std::string_view text) {
 void seedNeighborhoods() {
     for (const bool hasMap : {true, false}) {
         SampleNeighborhood content{
-            .neighbors = {{},
+            .neighbors = {{.later = true, .recordName = "user00003", .version = 9, .gapByte = 9, .guid = 3},
+                          {},
                           {.recordName = "robot"},
-                          {.recordName = "user00002", .age = 9, .guid = 2},
-                          {.later = true, .recordName = "user00003", .version = 9, .guid = 3}},
+                          {.recordName = "user00002", .age = 9, .guid = 2}},
             .families = {{.members = {1, 2}}, {.number = 2, .name = "Oats", .members = {3, 2}, .hasHistory = true}},
             .freeRoom = hasMap,
             .map = hasMap};

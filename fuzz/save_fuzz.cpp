@@ -2,6 +2,7 @@
 // what hinders the first save. The rest is "neighborhood.iff".
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <system_error>
 #include <utility>
@@ -143,13 +144,21 @@ struct Waiting {
     Ranges familyRecords;
 };
 
+// What growing up may change: all of a record up to 2002; person values and age in later editions, whose other bytes
+// stay, among them the mode.
+Ranges changing(const Sim& sim) {
+    const std::int32_t begin = sim.recordOffset();
+    if (!sim.format().keepsUnknown) return {{begin, begin + 186}};
+    return {{begin + 30, begin + 64}, {begin + 118, begin + 144}};
+}
+
 Waiting::Waiting(Neighborhood& neighborhood)
     : isDirty(neighborhood.isDirty()), kept(live.size()), highestFamilyNumber(neighborhood.highestFamilyNumber()) {
     for (std::int32_t i = 0; i < neighborhood.simCount(); ++i) {
         Sim& sim = *neighborhood.sim(i);
         if (!sim.recordDirty()) continue;
         sims.push_back(&sim);
-        records.emplace_back(sim.recordOffset(), sim.recordOffset() + 186);
+        std::ranges::copy(changing(sim), std::back_inserter(records));
     }
     for (std::int32_t i = 0; i < neighborhood.newFamilyCount(); ++i) {
         newFamilies.push_back(&neighborhood.newFamily(i)->format() == &recordFormats[1]);
