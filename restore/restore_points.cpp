@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/files.h"
-#include "platform/path_text.h"
 #include "restore/going_note.h"
 #include "restore/point_check.h"
 #include "restore/point_store.h"
@@ -12,14 +10,6 @@ SYSTEMTIME presentTime() {
     SYSTEMTIME time{};
     GetSystemTime(&time);
     return time;
-}
-
-std::string gameOf(const std::string& simsDirectory) {
-    return realPath(simsDirectory.substr(0, simsDirectory.find_last_not_of("\\/") + 1)) + '\\';
-}
-
-bool isSameGame(const std::string& one, const std::string& other) {
-    return one == other || isSameFile(one.c_str(), other.c_str());
 }
 
 std::vector<RestorePoint> listRestorePoints(const std::string& pointsDirectory) {

@@ -23,6 +23,7 @@
 
 #include "platform/file_tree.h"
 #include "platform/win32.h"
+#include "restore/same_game.h"
 
 constexpr std::size_t keptPoints = 30;
 
@@ -35,13 +36,6 @@ struct PointFile {
 
     friend bool operator==(const PointFile&, const PointFile&) = default;
 };
-
-// The game's directory as a path that means the same wherever it is read: "C:" is another drive in each Wine prefix.
-// With a backslash at its end.
-std::string gameOf(const std::string& simsDirectory);
-
-// Whether two of these are one and the same directory. Paths that differ in case alone may be two.
-bool isSameGame(const std::string& one, const std::string& other);
 
 struct RestorePoint {
     std::string name;
