@@ -94,14 +94,13 @@ std::int64_t sizeOf(const std::string& path) {
 // The path from the live file's directory; empty if there is no backup.
 std::string newestBackupOf(const Remains& remains, const Place& place) {
     const std::string stem = lowered(remains.live.substr(0, remains.live.size() - extension.size())) + ".";
-    const std::string directory = place.directory + '\\' + backupsDirectory;
+    const std::string directory = place.directory + '\\' + backupsDirectory + '\\';
     std::string newest;
     std::int64_t time = 0;
     for (const std::string& name : fileNamesIn(directory.c_str())) {
         FileStatus status{};
         if (!lowered(name).starts_with(stem) || !lowered(name).ends_with(extension)) continue;
-        const std::string path = directory + '\\' + name;
-        if (!queryFileStatus(path.c_str(), status)) continue;
+        if (!queryFileStatus((directory + name).c_str(), status)) continue;
         if (!newest.empty() && status.written < time) continue;
         newest = name;
         time = status.written;
