@@ -228,7 +228,3 @@ std::string plannedFiles(const std::string& simsDirectory, const std::string& to
     }
     return inTool.empty() ? all : all + "In " + toolDirectory + ":\n" + inTool;
 }
-
-bool isToolDirectory() {
-    return hasBytes(skinSetsName) || hasBytes("skinsets-original.cfg");
-}

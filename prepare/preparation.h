@@ -28,7 +28,4 @@ Preparation prepareGame(const char* simsDirectory, const std::string& originalSk
 std::string plannedFiles(const std::string& simsDirectory, const std::string& toolDirectory, bool newTemplate,
                          Editions editions = Editions::base);
 
-// Whether the working directory is the one that the program was unpacked to: it has one of the two files of skin sets.
-bool isToolDirectory();
-
 #endif

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "platform/files.h"
-#include "restore/going_back.h"
 #include "restore/point_words.h"
 #include "ui/sentence_parts.h"
 #include "ui/words.h"
@@ -28,12 +27,6 @@ std::string megabytes(std::int64_t bytes) {
     return withCommas((bytes + megabyte - 1) / megabyte) + " MB";
 }
 
-std::string sentenceOf(const MadePoint& made) {
-    if (!made.needsRoom) return made.error;
-    return made.error + " It needs " + megabytes(made.neededBytes) + ", and there are " +
-           megabytes(made.availableBytes) + '.';
-}
-
 // The game may have been started since the window opened.
 bool isRefused(const PointsOfGame& game) {
     if (refuseBesideGame(game.onConsole) != 0) return true;
@@ -43,6 +36,19 @@ bool isRefused(const PointsOfGame& game) {
 }
 
 }  // namespace
+
+std::string sentenceOf(const MadePoint& made) {
+    if (!made.needsRoom) return made.error;
+    return made.error + " It needs " + megabytes(made.neededBytes) + ", and there are " +
+           megabytes(made.availableBytes) + '.';
+}
+
+std::string sentenceOf(const GoneBack& gone) {
+    return (gone.present.needsRoom ? sentenceOf(gone.present) : gone.error) +
+           (gone.isBetween ? "\n\nGoing back was cut off half-way. Every file is whole. Start this program again to "
+                             "complete or undo it."
+                           : "\n\nNothing has changed.");
+}
 
 bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
     if (isRefused(game)) return false;
@@ -65,12 +71,7 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
             game.onConsole);
         return true;
     }
-    const std::string reason = gone.present.needsRoom ? sentenceOf(gone.present) : gone.error;
-    say(gone.isBetween ? reason +
-                             "\n\nGoing back was cut off half-way. Every file is whole. Start this program again to "
-                             "complete or undo it."
-                       : reason + "\n\nNothing has changed.",
-        game.onConsole);
+    say(sentenceOf(gone), game.onConsole);
     return false;
 }
 

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "restore/going_back.h"
 #include "restore/restore_points.h"
 
 // The game whose points these are, and the directory of points.
@@ -24,6 +25,10 @@ bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point);
 
 // Whether a going back in this game was cut off, and nothing else may be done before finishEarlier.
 bool isCutOff(const PointsOfGame& game);
+
+// For the player: why a point wasn't made, and why going back failed, with what it has left.
+std::string sentenceOf(const MadePoint& made);
+std::string sentenceOf(const GoneBack& gone);
 
 // If an earlier going back in this game was cut off, asks whether to complete or to undo it, and does it. True as well
 // if there is nothing to finish, or nothing to finish it with any more.

@@ -23,9 +23,6 @@ namespace {
 constexpr int done = 0;
 constexpr int failed = 1;
 
-// Relative to the own directory, so that the paths in it are short.
-constexpr const char* pointsDirectory = "restore-points";
-
 int fail(const std::string& sentence, bool onConsole) {
     say(sentence, onConsole);
     return failed;
@@ -43,7 +40,8 @@ std::optional<PointsOfGame> findPoints(bool onConsole, DirectoryText& simsDirect
         say("This directory can't be entered: " + own.path, onConsole);
         return std::nullopt;
     }
-    return PointsOfGame{pointsDirectory, simsDirectory.c_str(), onConsole};
+    // Relative to the own directory, so that the paths in it are short.
+    return PointsOfGame{restorePointsDirectory, simsDirectory.c_str(), onConsole};
 }
 
 // Each point on one line: its name, which may have been changed to any other, is written as in its text file.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/child_process.h"
+#include "restore/actions.h"
 #include "restore/going_back.h"
 #include "restore/restore_points.h"
 #include "start/cut_off.h"
@@ -15,6 +16,7 @@
 #include "start/left_overs.h"
 #include "start/report.h"
 #include "ui/words.h"
+#include "world/program_files.h"
 #include "world/running_game.h"
 
 namespace {
@@ -26,23 +28,9 @@ std::string toGoBack(const std::string& point) {
            point + ".";
 }
 
-std::string inMegabytes(std::int64_t bytes) {
-    constexpr std::int64_t megabyte = 1'000'000;
-    return std::to_string((bytes + megabyte - 1) / megabyte) + " MB";
-}
-
-constexpr const char* halfWay =
-    "\n\nGoing back was cut off half-way. Every file is whole. Start this program again to complete or undo it.";
-
 constexpr const char* goOnWithoutPoint =
     "\n\nWithout one you can't go back to before this evening, and nothing will be said of what was saved. Shall "
     "Tidewright start all the same?";
-
-std::string whyNoPoint(const MadePoint& made) {
-    if (!made.needsRoom) return made.error;
-    return "There isn't room for a restore point: it takes " + inMegabytes(made.neededBytes) + ", and " +
-           inMegabytes(made.availableBytes) + " are free.";
-}
 
 Evening eveningSince(const std::string& point, const std::string& simsDirectory, std::int64_t begin) {
     return {.before = restorePointsDirectory + ("\\" + point) + "\\", .game = simsDirectory, .begin = begin};
@@ -83,9 +71,7 @@ bool runEditor(Editions editions, bool askNothing, int& exitCode) {
 }
 
 bool sayGoneBack(const GoneBack& result, bool askNothing) {
-    std::string text = result.error.empty() ? "Your neighborhoods are as they were before." : result.error;
-    if (result.isBetween) text += halfWay;
-    say(text, askNothing);
+    say(result.error.empty() ? "Your neighborhoods are as they were before." : sentenceOf(result), askNothing);
     return result.error.empty();
 }
 
@@ -107,23 +93,10 @@ void report(const RestorePoint& point, const EveningReport& result, bool askNoth
     }
 }
 
-// Completes or undoes a going back of this game that was stopped. False if that failed.
-bool finishLastGoingBack(const std::string& simsDirectory, bool askNothing) {
-    const auto unfinished = unfinishedGoingBack(restorePointsDirectory);
-    if (!unfinished || !isSameGame(unfinished->simsDirectory, gameOf(simsDirectory))) return true;
-    const std::string text = "Going back to the restore point " + unfinished->target +
-                             " was cut off.\n\n[OK] completes it. [Cancel] undoes it.";
-    const Finish how = confirm(text, askNothing) ? Finish::complete : Finish::undo;
-    GoneBack result = finishGoingBack(restorePointsDirectory, how);
-    // Nobody can choose the other way there.
-    if (result.isBetween && askNothing) result = finishGoingBack(restorePointsDirectory, Finish::undo);
-    return sayGoneBack(result, askNothing) || !result.isBetween;
-}
-
 }  // namespace
 
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
-    if (!finishLastGoingBack(simsDirectory, askNothing)) return false;
+    if (!finishEarlier({restorePointsDirectory, simsDirectory, askNothing})) return false;
     const auto point = findPoint([&, game = gameOf(simsDirectory)](const RestorePoint& one) {
         return !one.sessionEnded && isSameGame(one.simsDirectory, game);
     });
@@ -142,7 +115,7 @@ bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
 
 int runEvening(const std::string& simsDirectory, Editions editions, bool askNothing) {
     const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::evening);
-    if (made.name.empty() && !confirm(whyNoPoint(made) + goOnWithoutPoint, askNothing, false)) return failed;
+    if (made.name.empty() && !confirm(sentenceOf(made) + goOnWithoutPoint, askNothing, false)) return failed;
     Evening evening = eveningSince(made.name, simsDirectory, std::time(nullptr));
     evening.known = sentencesOnLeftOvers(simsDirectory);
     int exitCode = failed;

@@ -7,9 +7,6 @@
 
 #include "gamefiles/templates.h"
 
-// In the working directory.
-constexpr const char* restorePointsDirectory = "restore-points";
-
 // Says what became of the last evening if that was cut off, and offers to go back to before it. False if that was begun
 // and failed, so that nothing else may begin.
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing);

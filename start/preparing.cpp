@@ -8,7 +8,6 @@
 #include "prepare/preparation.h"
 #include "restore/restore_points.h"
 #include "start/earlier_version.h"
-#include "start/evening_steps.h"
 #include "start/readiness.h"
 #include "ui/words.h"
 #include "world/paths.h"

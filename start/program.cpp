@@ -43,7 +43,7 @@ int startOn(const std::string& simsDirectory, const std::string& ownDirectory, c
     if (opens && !settleLastEvening(simsDirectory, askNothing)) return failed;
     if (opens) mend(simsDirectory, askNothing);
     const Editions editions =
-        editionsToOpen(simsDirectory, options.editions, ownDirectory + "\\tidewright.ini", askNothing);
+        editionsToOpen(simsDirectory, options.editions, ownDirectory + '\\' + settingsName, askNothing);
     const bool isPrepared = prepare(simsDirectory, editions, options.newTemplate, askNothing);
     if (!opens) {
         return isPrepared && sayWhetherReady(simsDirectory, editions, askNothing) ? 0 : failed;

@@ -19,7 +19,6 @@ void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Read
     const auto neighborhood = std::make_unique<Neighborhood>();
     if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName, allFormats) != 0) return;
     const std::size_t later = countSims(*file, laterFormats);
-    readiness.laterSims += later;
     if (later > 0 && !readsLaterEditions) {
         readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
                                      " of a later edition of the game, which " + (later == 1 ? "stays" : "stay") +

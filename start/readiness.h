@@ -2,7 +2,6 @@
 #ifndef START_READINESS_H
 #define START_READINESS_H
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,7 +12,6 @@ struct Readiness {
     std::vector<std::string> obstacles = {};  // each prevents a save, or keeps a neighborhood from being read
     std::vector<std::string> warnings = {};   // what can't be read, and what a save would drop or go without
     std::vector<LeftOver> leftOvers = {};     // of saves that were cut off; a file that is missing is an obstacle, too
-    std::size_t laterSims = 0;                // whose records are of a later edition of the game
 
     // Whether nothing is known that prevents a save.
     bool isReady() const { return obstacles.empty(); }

@@ -14,6 +14,7 @@
 #include "ui/words.h"
 #include "world/game_check.h"
 #include "world/game_question.h"
+#include "world/program_files.h"
 
 namespace {
 
@@ -22,7 +23,6 @@ constexpr const char* gameValue = "SIMS_DATA";
 constexpr std::size_t longestValue = 99;  // characters that findSimsDirectory takes
 // Where the newer compilation keeps its saves, below a user's directory. It has no entry in the registry.
 constexpr const char* savedGames = "Saved Games\\Electronic Arts\\The Sims 25";
-constexpr const char* settingsName = "tidewright.ini";
 constexpr const char* settingsSection = "Game";
 constexpr const char* settingsDirectory = "Directory";
 constexpr int cancelled = 1;

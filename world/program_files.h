@@ -8,6 +8,8 @@
 constexpr const char* ownDirectoryName = "Tidewright";
 
 // In the tool directory.
+constexpr const char* settingsName = "tidewright.ini";  // what the player has chosen
+constexpr const char* restorePointsDirectory = "restore-points";
 constexpr const char* skinSetsName = "skinsets.cfg";           // which head follows which
 constexpr const char* characterTemplateName = "Template.iff";  // what character files are made of
 constexpr const char* familyTemplateName = "famtemplate";      // what the records of new families are made of
