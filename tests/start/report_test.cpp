@@ -111,7 +111,7 @@ TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
     report = reportOn(evening());
     EXPECT_EQ(report.text,
               "The game saved Neighborhood 1 while Tidewright was open; what you changed in it was not saved.");
-    EXPECT_FALSE(report.hasSaved || report.hasLoss);
+    EXPECT_TRUE(report.wasPlayed && !report.hasSaved && !report.hasLoss);
 }
 
 TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
