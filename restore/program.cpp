@@ -14,6 +14,7 @@
 #include "restore/restore_options.h"
 #include "ui/cursors.h"
 #include "ui/words.h"
+#include "version.h"
 #include "world/game_search.h"
 #include "world/program_files.h"
 #include "world/running_game.h"
