@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <regex>
+#include <utility>
 
 #include "sample/installation.h"
 #include "tests/support/machine.h"
@@ -69,6 +70,15 @@ class Stories : public testing::Test {
             return !window.empty();
         });
         return window;
+    }
+
+    // Waits until the window's picture has several colors and stays the same: Wine loses what comes before that.
+    void waitUntilDrawn(const std::string& window) const {
+        std::string before, now;
+        waitUntil("the window is drawn", [&] {
+            before = std::exchange(now, run("import -window " + window + " -format '%k:%#' info: 2>/dev/null || true"));
+            return !now.empty() && !now.starts_with("1:") && now == before;
+        });
     }
 
     // How many windows the screen shows, menus, lists and the screen itself among them.
@@ -134,8 +144,14 @@ class Stories : public testing::Test {
         window_ = findWindow("(Tidewright|Installation Problem)");
         windowHeight_ = std::stoi(act("getwindowgeometry --shell " + window_ + " | sed -n s/HEIGHT=//p"));
         clientTop_ = onWindows ? 42 : windowHeight_ - 430;
-        act("windowmove --sync " + window_ + " 0 0 windowfocus --sync " + window_);
+        placeWindow(window_);
         focus_ = firstList;
+    }
+
+    // At the screen's corner, with the keyboard.
+    void placeWindow(const std::string& window) const {
+        waitUntilDrawn(window);
+        act("windowmove --sync " + window + " 0 0 windowfocus --sync " + window);
     }
 
     void clickAt(int x, int y) const { act("mousemove " + std::to_string(x) + " " + std::to_string(y) + " click 1"); }
@@ -143,8 +159,11 @@ class Stories : public testing::Test {
     // Waits for a list or a menu that `open` opens, presses the keys, and waits until it is closed.
     void chooseByKeys(const std::string& step, const std::string& keys, const std::function<void()>& open) const {
         const int before = windowCount();
-        open();
-        waitUntil(step + " opens", [&] { return windowCount() > before; });
+        int tries = 0;
+        waitUntil(step + " opens", [&] {
+            if (tries++ % 50 == 0) open();  // again after 5 seconds: X drops what comes while the focus moves
+            return windowCount() > before;
+        });
         act("key " + keys);
         waitUntil(step + " closes", [&] { return windowCount() <= before; });
     }

@@ -148,7 +148,7 @@ TEST_F(Stories, GoingBackBeforeTheFirstOfTwoEveningsGivesBothSimsBack) {
     EXPECT_NE(playedFiles(), before);
     launch("tidewright-restore");
     const std::string window = findWindow("Go Back - Tidewright");
-    act("windowmove --sync " + window + " 0 0 windowfocus --sync " + window);
+    placeWindow(window);
     byKeys_ = windowsPrograms != nullptr;
     clientTop_ = 5;
     pickEntry(0, 1);
