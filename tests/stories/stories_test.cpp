@@ -99,16 +99,24 @@ TEST_F(Stories, TwoProgramsSaveOneTree) {
 TEST_F(Stories, TheStartSaysWhatBecameOfAnEveningAndUndoesIt) {
     prepareGame();
     const Tree before = playedFiles();
+    const std::filesystem::path neighborhood = game_ / "UserData/Neighborhood.iff";
+    const std::filesystem::perms writable = std::filesystem::status(neighborhood).permissions();
+    permissions(neighborhood, std::filesystem::perms::owner_read);
+    launch("tidewright-start");
+    answerBox("Tidewright Start", "Escape");  // nothing could be saved: not to start all the same
+    EXPECT_EQ(waitForExit(), 1);
+    permissions(neighborhood, writable);
+
     launch("tidewright-start --yes");
+    std::FILE* const other = std::exchange(process_, nullptr);
+    launch("tidewright-start --yes");
+    waitUntil("one of two starts refuses", [this] { return isSaid("Tidewright is open already"); });
     useWindow();
-    std::FILE* const first = std::exchange(process_, nullptr);
-    launch("tidewright-start --yes");
-    EXPECT_TRUE(waitForExit() != 0 && isSaid("Tidewright is open already"));
-    process_ = first;
     press(teenToAdult, 0, 0, 2);  // Bramble
     chooseFileItem("s");
     waitUntil("the save has begun to replace files", [&] { return playedFiles() != before; });
     killStartAndEditor();
+    pclose(other);
     launch("tidewright-start");
     answerUntilEditor();  // the last evening was cut off: OK goes back
     EXPECT_EQ(differences(before, playedFiles()), "");
@@ -119,7 +127,6 @@ TEST_F(Stories, TheStartSaysWhatBecameOfAnEveningAndUndoesIt) {
     EXPECT_EQ(differences(before, playedFiles()), "UserData/Characters/User00013.iff\nUserData/Neighborhood.iff\n");
 
     // A free chunk in the file's header: a Move Out cuts off all that follows.
-    const std::filesystem::path neighborhood = game_ / "UserData/Neighborhood.iff";
     std::fstream(neighborhood, std::ios::in | std::ios::out | std::ios::binary).seekp(20) << "XXXX";
     const Tree marked = playedFiles();
     launch("tidewright-start");
