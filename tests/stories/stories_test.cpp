@@ -178,6 +178,20 @@ TEST_F(Stories, GoingBackBeforeTheFirstOfTwoEveningsGivesBothSimsBack) {
     EXPECT_EQ(waitForExit(), 0);
 }
 
+TEST_F(Stories, AnEveningInALaterEdition) {
+    writeInstallation(prefix_, true);
+    launch("tidewright-start --yes --editions later");
+    useWindow();
+    press(childToTeen, 3, 0, 3);  // Rip
+    press(teenToAdult, 3, 0, 4);  // Kelp
+    press(moveOut, 3, 0, 0);      // Samphire
+    chooseFileItem("v");
+    EXPECT_EQ(waitForExit(), 0);
+    for (const char* const news : {"Rip Saltmarsh is a teenager now.", "Kelp Saltmarsh is an adult now.",
+                                   "Samphire Saltmarsh moved into a household of her own, with 20,000."})
+        EXPECT_TRUE(isSaid(news)) << news;
+}
+
 // A Wayland session without an X server. The server's protocol has the titles of windows; the first one is that of the
 // box about an unprepared game.
 using Wayland = Stories;
