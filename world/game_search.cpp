@@ -163,18 +163,27 @@ class GameSearch {
         return false;
     }
 
+    // The environment names the prefix each time, and each time it would be asked which game in it is meant.
+    bool takeRememberedOf(const Games& games) {
+        const std::string remembered = realPath(rememberedDirectory(settings_));
+        const auto game = std::ranges::find(games, remembered, [](const Game& one) { return realPath(one.directory); });
+        return game != games.end() && take(*game) == 0;
+    }
+
     int findWished() {
         const std::string directory = absolutePath(wish_.directory);
         const Games games = gamesAt(directory);
         isChoice_ = true;
         if (games.empty()) return refuse(nothingIn(directory));
-        return takeOneOf(games, "More than one game is in " + shownPath(directory) + ".");
+        return takeOneOf(games, severalIn(directory));
     }
 
     // The user's environment or the registry decides.
     int findIn(const std::string& prefix) {
         const Games games = gamesIn(prefix);
-        if (!games.empty()) return take(games.front());
+        // The editor on Windows opens the registered game, which is the first one, and no other.
+        if (!games.empty() && prefix.empty()) return take(games.front());
+        if (!games.empty()) return takeRememberedOf(games) ? 0 : takeOneOf(games, severalIn(prefix));
         const std::string missing = missingIn(prefix);
         if (prefix.empty()) {
             return refuse(missing +
@@ -239,9 +248,13 @@ class GameSearch {
         if (!chooseDirectory(nullptr, title, directory)) return cancelled;
         const Games games = gamesAt(directory);
         isChoice_ = true;
-        if (!games.empty()) return takeOneOf(games, "More than one game is in " + shownPath(directory) + ".");
+        if (!games.empty()) return takeOneOf(games, severalIn(directory));
         say(directory.empty() ? unreachable() : nothingIn(directory), false);
         return chooseDirectoryOfGame();
+    }
+
+    static std::string severalIn(const std::string& directory) {
+        return "More than one game is in " + shownPath(directory) + ".";
     }
 
     static std::string nothingIn(const std::string& directory) {

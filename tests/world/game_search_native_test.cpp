@@ -188,6 +188,19 @@ TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
     EXPECT_EQ(found_.view(), "C:\\b\\");
 }
 
+TEST_F(GameSearchNativeTest, APrefixWithTwoGamesIsNoAnswerUntilOneIsChosen) {
+    const std::string prefix = files_.path("home/x"),
+                      saves = "/drive_c/users/a/Saved Games/Electronic Arts/The Sims 25";
+    makePrefix("home/x", "drive_c/a", "C:\\\\a");
+    files_.makeDirectory("home/x" + saves + "/UserData");
+    prefix_.set(prefix);
+    expectWords("", "More than one game is in " + prefix + ".\n\n" + prefix + "/drive_c/a - ");
+    EXPECT_EQ(find(prefix + saves), 0);
+    prefix_.set(prefix);
+    EXPECT_EQ(find(), 0);
+    EXPECT_TRUE(leadsTo("home/x" + saves));
+}
+
 TEST_F(GameSearchNativeTest, WithoutAGameTheUserChoosesADirectory) {
     makePrefix("home/.hidden/pfx", "drive_c/a", "");
     expectWords("", "The Sims wasn't found. Tidewright looked for Wine prefixes with the game in ~/.wine, ~/Games/*, ");
