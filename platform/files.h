@@ -62,8 +62,9 @@ bool syncFile(std::FILE* file);
 // this has its own way.
 bool syncDirectory(const char* path);
 
-// A lock on a directory, which one process at a time can have. The system releases it when the process ends, however
-// that happens. It doesn't keep others from using the directory: it is an agreement between those who ask for it.
+// A lock on a directory, which one process at a time can have, or one with the program that it runs (runAndWait). The
+// system releases it when the process ends, however that happens. It doesn't keep others from using the directory: it
+// is an agreement between those who ask for it.
 class DirectoryLock {
  public:
     // Waits up to two seconds for another process to release the lock.
@@ -76,11 +77,14 @@ class DirectoryLock {
     bool isHeld() const { return state_ == State::held; }
     bool isHeldByAnother() const { return state_ == State::heldByAnother; }
 
+    // The platform's own: natively a file descriptor, on Windows a handle; -1 if there is none.
+    std::intptr_t handle() const { return handle_; }
+
  private:
     enum class State { held, heldByAnother, unavailable };
 
     State state_ = State::unavailable;
-    std::intptr_t handle_ = -1;  // a file descriptor or a handle
+    std::intptr_t handle_ = -1;
 };
 
 // A new version of a file. It is written as a part beside that file (platform/part_names.h) and takes the file's name

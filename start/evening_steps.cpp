@@ -61,9 +61,9 @@ std::int64_t secondsOf(const SYSTEMTIME& time) {
 }
 
 // False if the editor couldn't be started, which is said.
-bool runEditor(Editions editions, bool askNothing, int& exitCode) {
+bool runEditor(Editions editions, const DirectoryLock& gameLock, bool askNothing, int& exitCode) {
     const std::string editor = programBeside(editorFor(editions));
-    if (!editor.empty() && runAndWait(editor, ".", exitCode)) return true;
+    if (!editor.empty() && runAndWait(editor, ".", gameLock, exitCode)) return true;
     say(editor.empty() ? "The directory of this program has a name that it can't use. Please move it to another one."
                        : editor + " can't be started. Please install Tidewright again.",
         askNothing);
@@ -113,13 +113,13 @@ bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
     return true;
 }
 
-int runEvening(const std::string& simsDirectory, Editions editions, bool askNothing) {
+int runEvening(const std::string& simsDirectory, Editions editions, const DirectoryLock& gameLock, bool askNothing) {
     const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::evening);
     if (made.name.empty() && !confirm(sentenceOf(made) + goOnWithoutPoint, askNothing, false)) return failed;
     Evening evening = eveningSince(made.name, simsDirectory, std::time(nullptr));
     evening.known = sentencesOnLeftOvers(simsDirectory);
     int exitCode = failed;
-    const bool ran = runEditor(editions, askNothing, exitCode);
+    const bool ran = runEditor(editions, gameLock, askNothing, exitCode);
     const auto point = findPoint([&](const RestorePoint& one) { return one.name == made.name; });
     if (!ran || !point) return ran ? exitCode : failed;
     const EveningReport result = reportOn(evening);

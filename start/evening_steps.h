@@ -6,13 +6,14 @@
 #include <string>
 
 #include "gamefiles/templates.h"
+#include "platform/files.h"
 
 // Says what became of the last evening if that was cut off, and offers to go back to before it. False if that was begun
 // and failed, so that nothing else may begin.
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing);
 
-// Makes a restore point, runs the editor for these editions, waits for its end, and says what it has saved. Returns the
-// editor's exit code, or 1 if it wasn't started.
-int runEvening(const std::string& simsDirectory, Editions editions, bool askNothing);
+// Makes a restore point, runs the editor for these editions, waits for its end, and says what it has saved. The
+// editor shares `gameLock`, if that is held. Returns the editor's exit code, or 1 if it wasn't started.
+int runEvening(const std::string& simsDirectory, Editions editions, const DirectoryLock& gameLock, bool askNothing);
 
 #endif

@@ -36,7 +36,8 @@ int write(const std::string& text) {
 }
 
 // With the player's own directory as the working directory.
-int startOn(const std::string& simsDirectory, const std::string& ownDirectory, const Options& options) {
+int startOn(const std::string& simsDirectory, const std::string& ownDirectory, const DirectoryLock& gameLock,
+            const Options& options) {
     const bool askNothing = options.askNothing;
     const bool opens = !options.prepareOnly && !options.newTemplate;
     // First of all: what is out of its place can't be looked at.
@@ -49,7 +50,7 @@ int startOn(const std::string& simsDirectory, const std::string& ownDirectory, c
         return isPrepared && sayWhetherReady(simsDirectory, editions, askNothing) ? 0 : failed;
     }
     if (!isPrepared || !isGoodToGo(simsDirectory, editions, askNothing)) return failed;
-    return runEvening(simsDirectory, editions, askNothing);
+    return runEvening(simsDirectory, editions, gameLock, askNothing);
 }
 
 }  // namespace
@@ -73,5 +74,5 @@ int runStart(int argumentCount, char** arguments) {
         return exitCode::gameRunning;
     }
     if (const int refusal = refuseBesideGame(askNothing); refusal != 0) return refusal;
-    return startOn(simsDirectory.c_str(), own.path, options);
+    return startOn(simsDirectory.c_str(), own.path, lock, options);
 }

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "platform/files.h"
 #include "platform/windows/ansi_path.h"
 
 std::string programBeside(const std::string& name) {
@@ -15,7 +16,8 @@ std::string programBeside(const std::string& name) {
     return path.substr(0, path.rfind('\\') + 1) + name + ".exe";
 }
 
-bool runAndWait(const std::string& program, const std::string& directory, int& exitCode) {
+// A mutex belongs to a thread, so the lock can't be shared.
+bool runAndWait(const std::string& program, const std::string& directory, const DirectoryLock&, int& exitCode) {
     std::string commandLine = '"' + program + '"';
     STARTUPINFOA start = {};
     start.cb = sizeof start;

@@ -4,6 +4,7 @@
 
 #include "platform/child_process.h"
 #include "platform/console.h"
+#include "platform/files.h"
 #include "platform/own_directory.h"
 #include "platform/path_text.h"
 #include "platform/titled_windows.h"
@@ -70,11 +71,12 @@ TEST(SurroundingsNativeTest, SettingsKeepTheBytesOfPathsAndWithstandAnyFile) {
 
 TEST(SurroundingsNativeTest, AProgramIsRunInItsDirectoryAndItsEndReported) {
     const TempDirectory files;
+    const DirectoryLock lock(files.path("missing").c_str());
     const auto run = [&](const char* script) {
         files.write("script", std::string("#!/bin/sh\n") + script);
         fs::permissions(files.path("script"), fs::perms::owner_all);
         int code = -1;
-        EXPECT_TRUE(runAndWait(files.path("script"), files.path(), code)) << script;
+        EXPECT_TRUE(runAndWait(files.path("script"), files.path(), lock, code)) << script;
         return code;
     };
     EXPECT_EQ(run("echo \"$0\" >here"), 0);
@@ -82,10 +84,28 @@ TEST(SurroundingsNativeTest, AProgramIsRunInItsDirectoryAndItsEndReported) {
     EXPECT_EQ(run("exit 254"), 254);
     EXPECT_EQ(run("kill -SEGV $$"), 139);
     int code = 5;
-    EXPECT_FALSE(runAndWait(files.path("missing"), files.path(), code));
+    EXPECT_FALSE(runAndWait(files.path("missing"), files.path(), lock, code));
     EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(code, 5);
     EXPECT_TRUE(fs::exists(programBeside("platform_tests")));
+}
+
+// The second program is this one, which starts another.
+TEST(SurroundingsNativeTest, ALockIsSharedWithTheProgramThatIsRunButNotWithWhatThatStarts) {
+    const char* const stay = "sleep 3 >/dev/null 2>&1 &";
+    if (std::getenv("TIDEWRIGHT_TEST_CHILD") != nullptr) std::exit(std::system(stay));
+    const TempDirectory files;
+    files.write("script", std::string("#!/bin/sh\n") + stay);
+    fs::permissions(files.path("script"), fs::perms::owner_all);
+    const ScopedVariable child("TIDEWRIGHT_TEST_CHILD", "x"), filter("GTEST_FILTER", "*ALockIsShared*");
+    for (const std::string& program : {files.path("script"), programBeside("platform_tests")}) {
+        int code = -1;
+        EXPECT_TRUE(runAndWait(program, files.path(), DirectoryLock(files.path().c_str()), code));
+        EXPECT_EQ(code, 0);
+        const bool isShared = program == files.path("script");
+        EXPECT_EQ(DirectoryLock(files.path().c_str()).isHeldByAnother(), isShared) << program;
+        EXPECT_TRUE(DirectoryLock(files.path().c_str()).isHeld()) << "2 more seconds are enough";
+    }
 }
 
 TEST(SurroundingsNativeTest, WindowsOfATitleTellTheirKind) {

@@ -3,6 +3,7 @@
 
 #include "platform/child_process.h"
 #include "platform/console.h"
+#include "platform/files.h"
 #include "platform/last_written.h"
 #include "platform/own_directory.h"
 #include "platform/win32.h"
@@ -28,14 +29,15 @@ TEST(SurroundingsWindowsTest, AProgramIsRunInItsDirectoryAndItsEndReported) {
         ExitProcess(static_cast<UINT>(std::atoi(wanted)));
     }
     const TempDirectory files;
+    const DirectoryLock lock(files.path().c_str());
     int code = 5;
-    EXPECT_FALSE(runAndWait(files.path("missing.exe"), files.path(), code));
+    EXPECT_FALSE(runAndWait(files.path("missing.exe"), files.path(), lock, code));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
     EXPECT_EQ(code, 5);
     SetEnvironmentVariableA("GTEST_FILTER", "*AProgramIsRun*");
     for (const int wanted : {0, 7, -2}) {
         SetEnvironmentVariableA("TIDEWRIGHT_TEST_CODE", std::to_string(wanted).c_str());
-        EXPECT_TRUE(runAndWait(programBeside("platform_tests"), files.path(), code));
+        EXPECT_TRUE(runAndWait(programBeside("platform_tests"), files.path(), lock, code));
         EXPECT_EQ(code, wanted);
         files.remove("here");
     }

@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <climits>
 
+#include "platform/files.h"
 #include "platform/native/api/system.h"
 #include "platform/native/events/event_pump.h"
 #include "platform/native/files/path_status.h"
@@ -35,13 +36,16 @@ std::string programBeside(const std::string& name) {
     return path.substr(0, path.rfind('/') + 1) + name;
 }
 
-bool runAndWait(const std::string& program, const std::string& directory, int& exitCode) {
+bool runAndWait(const std::string& program, const std::string& directory, const DirectoryLock& shared, int& exitCode) {
     finishWithScreen();
     std::string argument = program;
     std::array<char*, 2> arguments{argument.data(), nullptr};
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addchdir_np(&actions, nativePath(directory.c_str()).c_str());
+    // Onto itself: the child keeps the descriptor, which would be closed there.
+    const int lock = static_cast<int>(shared.handle());
+    if (shared.isHeld()) posix_spawn_file_actions_adddup2(&actions, lock, lock);
     pid_t child = -1;
     const int error = posix_spawn(&child, program.c_str(), &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);

@@ -1,4 +1,7 @@
 // The process's entry. Prepares what Windows would have prepared, and calls WinMain.
+#include <unistd.h>
+
+#include <climits>
 #include <string>
 
 #include "platform/native/accessibility/accessible_objects.h"
@@ -21,6 +24,12 @@ HINSTANCE GetModuleHandleA(LPCSTR moduleName) {
 }
 
 namespace {
+
+// What this process was given stays with it: a browser that it starts would keep a lock until it is closed itself. Not
+// on older systems.
+void keepDescriptors() {
+    close_range(STDERR_FILENO + 1, UINT_MAX, CLOSE_RANGE_CLOEXEC);
+}
 
 void openScreen(char** arguments) {
     openDisplay(arguments);
@@ -45,6 +54,7 @@ void closeScreen() {
 int main(int argc, char** argv) {
     __argc = argc;
     __argv = argv;
+    keepDescriptors();
     std::string commandLine;
     for (int i = 1; i < argc; ++i) {
         commandLine.append(i == 1 ? "" : " ").append(argv[i]);
