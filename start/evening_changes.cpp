@@ -6,9 +6,9 @@
 
 #include "platform/files.h"
 #include "platform/letter_case.h"
-#include "platform/part_names.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
+#include "start/old_versions.h"
 #include "world/paths.h"
 
 namespace {
@@ -48,16 +48,7 @@ std::set<std::string> namesInEither(const std::string& before, const std::string
 
 // Whether a save of the file, "neighborhood.iff" or "user00013.iff", has left its old version since `begin`.
 bool hasOldVersion(const std::string& directory, const std::string& file, std::int64_t begin) {
-    const auto isAside = [&](const std::string& name) { return equalInAnyCase(fileOfAside(name), file); };
-    if (std::ranges::any_of(fileNamesIn(directory.c_str()), isAside)) return true;
-    const std::string backups = directory + '\\' + backupsDirectory;
-    const std::string stem = lowered(file.substr(0, file.rfind('.') + 1));
-    const auto isNewBackup = [&](const std::string& name) {
-        FileStatus status{};
-        return lowered(name).starts_with(stem) && queryFileStatus((backups + '\\' + name).c_str(), status) &&
-               status.written >= begin - coarsestTime;
-    };
-    return std::ranges::any_of(fileNamesIn(backups.c_str()), isNewBackup);
+    return !keptSince(begin - coarsestTime, directory, file).empty();
 }
 
 bool hasChangedHouse(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {

@@ -15,6 +15,7 @@
 #include "prepare/whole_file.h"
 #include "start/neighbor_records.h"
 #include "start/neighborhood_files.h"
+#include "start/old_versions.h"
 #include "ui/sentence_parts.h"
 #include "world/paths.h"
 
@@ -91,27 +92,10 @@ std::int64_t sizeOf(const std::string& path) {
     return queryFileStatus(path.c_str(), status) ? status.size : -1;
 }
 
-// The path from the live file's directory; empty if there is no backup.
-std::string newestBackupOf(const Remains& remains, const Place& place) {
-    const std::string stem = lowered(remains.live.substr(0, remains.live.size() - extension.size())) + ".";
-    const std::string directory = place.directory + '\\' + backupsDirectory + '\\';
-    std::string newest;
-    std::int64_t time = 0;
-    for (const std::string& name : fileNamesIn(directory.c_str())) {
-        FileStatus status{};
-        if (!lowered(name).starts_with(stem) || !lowered(name).ends_with(extension)) continue;
-        if (!queryFileStatus((directory + name).c_str(), status)) continue;
-        if (!newest.empty() && status.written < time) continue;
-        newest = name;
-        time = status.written;
-    }
-    return newest.empty() ? "" : std::string(backupsDirectory) + '\\' + newest;
-}
-
 // The best whole version beside the live file. A save replaces the characters' files before the neighborhood's, so the
 // new version of that one belongs to their new versions, and their old versions belong to the old one.
 std::string wholeVersionOf(const Remains& remains, const Place& place) {
-    const std::string backup = newestBackupOf(remains, place);
+    const std::string backup = newestBackupOf(place.directory, remains.live);
     std::vector<std::string> versions = {remains.temporary, remains.part, remains.aside, backup};
     if (place.isOfCharacters) versions = {remains.aside, backup, remains.temporary, remains.part};
     const auto best = std::ranges::find_if(versions, [&](const std::string& version) {

@@ -1,0 +1,44 @@
+#include "start/old_versions.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/letter_case.h"
+#include "platform/part_names.h"
+#include "world/paths.h"
+
+namespace {
+
+constexpr std::int64_t never = -1;
+
+std::int64_t timeOf(const std::string& path) {
+    FileStatus status{};
+    return queryFileStatus(path.c_str(), status) ? status.written : never;
+}
+
+}  // namespace
+
+std::string newestBackupOf(const std::string& directory, const std::string& file) {
+    const std::string stem = lowered(file.substr(0, file.rfind('.') + 1));
+    const std::string backups = directory + '\\' + backupsDirectory;
+    std::string newest;
+    std::int64_t time = never;
+    for (const std::string& name : fileNamesIn(backups.c_str())) {
+        if (!lowered(name).starts_with(stem) || !lowered(name).ends_with(".iff")) continue;
+        const std::int64_t written = timeOf(backups + '\\' + name);
+        if (written == never || written < time) continue;
+        newest = std::string(backupsDirectory) + '\\' + name;
+        time = written;
+    }
+    return newest;
+}
+
+std::string keptSince(std::int64_t begin, const std::string& directory, const std::string& file) {
+    const std::vector<std::string> names = fileNamesIn(directory.c_str());
+    const auto aside =
+        std::ranges::find_if(names, [&](const std::string& name) { return equalInAnyCase(fileOfAside(name), file); });
+    if (aside != names.end()) return *aside;
+    const std::string backup = newestBackupOf(directory, file);
+    return !backup.empty() && timeOf(directory + '\\' + backup) >= begin ? backup : "";
+}
