@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "prepare/whole_file.h"
+#include "start/half_saved.h"
 #include "start/move_out_forecast.h"
 #include "start/neighbor_records.h"
 #include "start/neighborhood_files.h"
@@ -23,6 +24,9 @@ void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Read
         readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
                                      " of a later edition of the game, which " + (later == 1 ? "stays" : "stay") +
                                      " closed: the option --editions ask asks again.");
+    }
+    if (const std::string cut = halfSavedSims(place, *neighborhood); !cut.empty()) {
+        readiness.warnings.push_back(place.name() + ": " + cut);
     }
     const std::string loss = moveOutLoss(*file, *neighborhood);
     if (loss.empty()) return;

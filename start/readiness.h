@@ -10,8 +10,9 @@
 // Each line is one or more sentences for the player, in Windows-1252, without a line break.
 struct Readiness {
     std::vector<std::string> obstacles = {};  // each prevents a save, or keeps a neighborhood from being read
-    std::vector<std::string> warnings = {};   // what can't be read, and what a save would drop or go without
-    std::vector<LeftOver> leftOvers = {};     // of saves that were cut off; a file that is missing is an obstacle, too
+    std::vector<std::string> warnings =
+        {};  // what can't be read, what is half saved, and what a save would drop or go without
+    std::vector<LeftOver> leftOvers = {};  // of saves that were cut off; a file that is missing is an obstacle, too
 
     // Whether nothing is known that prevents a save.
     bool isReady() const { return obstacles.empty(); }

@@ -15,6 +15,7 @@ std::string stageWord(std::int32_t stage) {
 }
 
 bool bodyFitsRecord(const Sim& sim, const CharacterLook& look) {
+    if (sim.age() == ageNumber::child) return look.body == Body::child;
     if (sim.age() == ageNumber::teen) return look.body == Body::teen;
     return sim.age() == ageNumber::adult && (look.body == Body::adult || sim.gender() == genderNumber::pet);
 }

@@ -13,7 +13,7 @@ std::int32_t stageOf(const Sim& sim, const CharacterLook& look);
 // "a teenager"; empty for a stage that the editor doesn't give.
 std::string stageWord(std::int32_t stage);
 
-// Whether a file that a save made has the body of the age that it wrote into the record.
+// Whether the file has the body of the record's age, as after a complete save.
 bool bodyFitsRecord(const Sim& sim, const CharacterLook& look);
 
 #endif

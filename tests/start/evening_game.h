@@ -2,6 +2,7 @@
 #ifndef TESTS_START_EVENING_GAME_H
 #define TESTS_START_EVENING_GAME_H
 
+#include <chrono>
 #include <ctime>
 
 #include "sample/fact_template.h"
@@ -29,6 +30,9 @@ class EveningTest : public testing::Test {
         test_ = std::make_unique<TestNeighborhood>(shape, characters_);
         EXPECT_TRUE(writeTemplates(files().path()));
         copyToBefore();
+        for (const char* const tree : {"UserData", "before/UserData"})
+            for (const auto& entry : fs::recursive_directory_iterator(files().path(tree)))
+                fs::last_write_time(entry.path(), hourAgo_);
     }
 
     void copyToBefore() const {
@@ -59,6 +63,7 @@ class EveningTest : public testing::Test {
     // Of the file before the evening.
     void bringBack(const std::string& name, const std::string& as) const {
         write(as, files().bytesOf("before/UserData/" + name));
+        fs::last_write_time(files().path("UserData/" + as), hourAgo_);
     }
     Bytes bytesOf(const std::string& name) const { return files().bytesOf("UserData/" + name); }
 
@@ -67,6 +72,7 @@ class EveningTest : public testing::Test {
         {.recordName = "user00002", .name = "Bramble", .guid = 2},
         {.recordName = "user00003", .name = "Rowan", .guid = 3, .slots = adultSlots(BodySex::male)}};
     std::unique_ptr<TestNeighborhood> test_;
+    const fs::file_time_type hourAgo_ = fs::file_time_type::clock::now() - std::chrono::hours(1);
     const std::time_t begin_ = std::time(nullptr);
     AnsweredBox box_ = answerNextBox(IDOK);
     ~EveningTest() override { EXPECT_FALSE(box_->shown) << box_->text; }

@@ -58,6 +58,38 @@ TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
     }
 }
 
+TEST_F(EveningTest, ASaveThatWasCutOffBehindTheSimsIsSeenByThemAlone) {
+    const std::string live = "neighborhood.iff", sim = "Characters/user00001.iff", backups = "Characters/Backups";
+    const auto touch = [&](const std::string& name) {
+        fs::last_write_time(files().path("UserData/" + name), fs::file_time_type::clock::now() + std::chrono::hours(1));
+    };
+    const auto cutOff = [&] { save(), bringBack(live, live); };
+    const std::tuple<const char*, std::function<void()>, bool> rows[] = {
+        {"cut off", cutOff, true},
+        {"saved as a whole", [&] { save(); }, false},
+        {"its files copied in another order", [&] { save(), touch(sim); }, false},
+        {"the game has written the file", [&] { touch(sim); }, false},
+        {"the game has saved since", [&] { cutOff(), touch(live); }, false},
+        {"a grown body without an older version", [&] { write(sim, bytesOf("Characters/user00002.iff")); }, false},
+        {"the older version is no child's",
+         [&] { cutOff(), write(backups + "/user00001.x.iff", bytesOf("Characters/user00002.iff")); }, false},
+    };
+    for (const auto& [what, change, isSeen] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        change();
+        std::string backup;
+        if (isSeen) backup = fs::directory_iterator(files().path("UserData/" + backups))->path().filename().string();
+        EXPECT_EQ(checkReadiness(game()).text(),
+                  !isSeen
+                      ? ""
+                      : "Neighborhood 1: a save was cut off between the Sims and the neighborhood file. Clover has a "
+                        "new body and an old record, and must not grow up now. Close Tidewright, and copy "
+                        "Characters\\Backups\\" +
+                            backup + " to Characters\\user00001.iff first.");
+    }
+}
+
 TEST_F(EveningTest, RecordsOfLaterEditionsAreCounted) {
     const Bytes record = ByteWriter().u32Le(1).u32Le(10).u32Le(9).text("user00042").fillTo(700).written();
     start({.before = {{.type = "NBRS", .content = ByteWriter().bytes(record).bytes(record).written()}}});
