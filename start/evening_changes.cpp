@@ -46,9 +46,18 @@ std::set<std::string> namesInEither(const std::string& before, const std::string
     return names;
 }
 
-// Whether a save of the file, "neighborhood.iff" or "user00013.iff", has left its old version since `begin`.
-bool hasOldVersion(const std::string& directory, const std::string& file, std::int64_t begin) {
-    return !keptSince(begin - coarsestTime, directory, file).empty();
+// Whether a save of the file, "neighborhood.iff" or "user00013.iff", has left its old version since `begin`. A disk in
+// the network may have a clock that is behind: there a file that has changed looks older than the evening. Then a
+// backup is of the evening if it is newer than the file was before, by the clock of that disk alone.
+bool hasOldVersion(const std::string& before, const std::string& directory, const std::string& file,
+                   std::int64_t begin) {
+    FileStatus old{}, present{};
+    std::int64_t since = begin - coarsestTime;
+    if (queryFileStatus(before.c_str(), old) && queryFileStatus((directory + '\\' + file).c_str(), present) &&
+        present.written < since) {
+        since = old.written + coarsestTime + 1;
+    }
+    return !keptSince(since, directory, file).empty();
 }
 
 bool hasChangedHouse(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {
@@ -63,7 +72,7 @@ void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& 
                       EveningChanges& changes) {
     for (const std::string& name : namesInEither(before.characters(), now.characters())) {
         if (!isCharacterName(name) || !isChanged(before.character(name), now.character(name), begin)) continue;
-        if (!hasOldVersion(now.characters(), name, begin)) {
+        if (!hasOldVersion(before.character(name), now.characters(), name, begin)) {
             changes.isPlayed = true;
         } else if (isThere(now.character(name))) {
             changes.characters.push_back(name);
@@ -77,7 +86,7 @@ EveningChanges changesOf(const NeighborhoodPlace& before, const NeighborhoodPlac
     const SteadyDirectories steady;
     EveningChanges changes;
     if (isChanged(before.liveFile(), now.liveFile(), begin)) {
-        const bool hasOld = hasOldVersion(now.directory, neighborhoodFileName, begin);
+        const bool hasOld = hasOldVersion(before.liveFile(), now.directory, neighborhoodFileName, begin);
         changes.isSaved = hasOld && isThere(now.liveFile());
         changes.isReplaced = changes.isPlayed = !hasOld;
     }

@@ -24,10 +24,12 @@ TEST(WordsTest, LongNumbersAndListsAreReadable) {
 }
 
 TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
-    for (const bool ofLaterEditions : {false, true}) {
-        start({.freeRoom = true}, ofLaterEditions);
+    for (const int secondsBehind : {0, 600}) {  // of the disk's clock
+        start({.freeRoom = true}, secondsBehind == 0);
         save();
-        const EveningReport report = reportOn(evening());
+        Evening saved = evening();
+        saved.begin += secondsBehind;
+        const EveningReport report = reportOn(saved);
         EXPECT_EQ(report.text, std::string("Neighborhood 1: ") + news +
                                    "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and "
                                    "no family and no Sim is missing.");
