@@ -8,6 +8,7 @@
 #include "platform/letter_case.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
+#include "start/neighborhood_version.h"
 #include "start/old_versions.h"
 #include "world/paths.h"
 
@@ -68,11 +69,25 @@ bool hasChangedHouse(const NeighborhoodPlace& before, const NeighborhoodPlace& n
     });
 }
 
+// The files of Sims whose record has another age than before, in small letters. No game does that. So they tell a save
+// of the editor also where it couldn't make backups and the next save has deleted what it had set aside.
+std::set<std::string> filesOfGrownSims(const NeighborhoodPlace& before, const NeighborhoodPlace& now) {
+    const NeighborhoodVersion old(before);
+    const NeighborhoodVersion present(now);
+    std::set<std::string> files;
+    for (std::int32_t i = 0; i < present.simCount(); ++i) {
+        const Sim& sim = present.sim(i);
+        const Sim* const oldSim = old.simOfRecord(sim.recordName());
+        if (oldSim != nullptr && oldSim->age() != sim.age()) files.insert(lowered(sim.recordName()) + extension);
+    }
+    return files;
+}
+
 void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin,
-                      EveningChanges& changes) {
+                      const std::set<std::string>& grown, EveningChanges& changes) {
     for (const std::string& name : namesInEither(before.characters(), now.characters())) {
         if (!isCharacterName(name) || !isChanged(before.character(name), now.character(name), begin)) continue;
-        if (!hasOldVersion(before.character(name), now.characters(), name, begin)) {
+        if (!grown.contains(name) && !hasOldVersion(before.character(name), now.characters(), name, begin)) {
             changes.isPlayed = true;
         } else if (isThere(now.character(name))) {
             changes.characters.push_back(name);
@@ -85,12 +100,15 @@ void lookAtCharacters(const NeighborhoodPlace& before, const NeighborhoodPlace& 
 EveningChanges changesOf(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {
     const SteadyDirectories steady;
     EveningChanges changes;
+    std::set<std::string> grown;
     if (isChanged(before.liveFile(), now.liveFile(), begin)) {
-        const bool hasOld = hasOldVersion(before.liveFile(), now.directory, neighborhoodFileName, begin);
-        changes.isSaved = hasOld && isThere(now.liveFile());
-        changes.isReplaced = changes.isPlayed = !hasOld;
+        grown = filesOfGrownSims(before, now);
+        const bool isByEditor =
+            !grown.empty() || hasOldVersion(before.liveFile(), now.directory, neighborhoodFileName, begin);
+        changes.isSaved = isByEditor && isThere(now.liveFile());
+        changes.isReplaced = changes.isPlayed = !isByEditor;
     }
-    lookAtCharacters(before, now, begin, changes);
+    lookAtCharacters(before, now, begin, grown, changes);
     changes.isPlayed |= hasChangedHouse(before, now, begin);
     return changes;
 }

@@ -37,6 +37,19 @@ TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
     }
 }
 
+TEST_F(EveningTest, ASecondSaveWithoutBackupsIsNotTheGames) {
+    start();
+    for (const char* const backups : {"Backups", "Characters/Backups"})
+        write(backups, bytesFrom("no directory"));
+    save(true, false);
+    EXPECT_TRUE(files().exists("UserData/Characters/user00001.iff.tidewright-old0"));
+    save(false);
+    EXPECT_FALSE(files().exists("UserData/Characters/user00001.iff.tidewright-old0"));
+    files().remove("UserData/neighborhood.iff.tidewright-old0");  // as a third save that finds no room
+    const EveningReport report = reportOn(evening());
+    EXPECT_TRUE(report.text.starts_with(std::string("Neighborhood 1: ") + news + "\n\nChecked: 2 ")) << report.text;
+}
+
 TEST_F(EveningTest, AFileOfAnUnknownFormOpensNoBox) {
     start();
     save(true, false);
