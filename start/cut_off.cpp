@@ -57,7 +57,9 @@ std::string describe(const NeighborhoodPlace& before, const NeighborhoodPlace& n
 
 CutOffEvening describeCutOff(const Evening& evening) {
     CutOffEvening result;
-    const std::vector<LeftOver> leftOvers = findLeftOvers(evening.game);
+    std::vector<LeftOver> leftOvers = findLeftOvers(evening.game);
+    std::erase_if(leftOvers,
+                  [&](const LeftOver& each) { return each.isHarmless && each.written < evening.begin - coarsestTime; });
     for (const NeighborhoodPlace& before : neighborhoodsIn(evening.before)) {
         NeighborhoodPlace now = before;
         now.directory = evening.game + before.directory.substr(evening.before.size());

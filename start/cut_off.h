@@ -12,8 +12,9 @@ struct CutOffEvening {
     std::string text = {};        // "The last evening was cut off. Neighborhood 1 is as follows: ..."
 };
 
-// Compares the game's neighborhoods with the copy; those that are as before aren't mentioned. What left_overs.h can
-// mend is mentioned, and offered there. No box opens.
+// Compares the game's neighborhoods with the copy; those that are as before aren't mentioned, and neither are
+// harmless files that an earlier evening has left over. What left_overs.h can mend is mentioned, and offered there. No
+// box opens.
 CutOffEvening describeCutOff(const Evening& evening);
 
 #endif

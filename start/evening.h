@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+// Some file systems store times in steps of two seconds.
+constexpr std::int64_t coarsestTime = 2;
+
 struct Evening {
     std::string before;  // a copy of the game's neighborhoods from before, laid out like its directory; without backups
     std::string game;    // the game's directory; both with a trailing backslash

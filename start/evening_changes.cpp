@@ -8,6 +8,7 @@
 #include "platform/letter_case.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
+#include "start/evening.h"
 #include "start/neighborhood_version.h"
 #include "start/old_versions.h"
 #include "world/paths.h"
@@ -16,9 +17,6 @@ namespace {
 
 constexpr const char* housesDirectory = "Houses";
 constexpr const char* extension = ".iff";
-
-// Some file systems store times in steps of two seconds.
-constexpr std::int64_t coarsestTime = 2;
 
 bool isThere(const std::string& path) {
     FileStatus status{};

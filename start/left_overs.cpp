@@ -135,7 +135,7 @@ LeftOver offerFor(const Remains& remains, const Place& place, const std::string&
 void addHarmless(std::vector<std::string>& harmless, const Remains& remains, std::vector<LeftOver>& found,
                  const Place& place) {
     for (const std::string& name : {remains.temporary, remains.part}) {
-        if (!name.empty()) harmless.push_back(name);
+        if (!name.empty()) harmless.push_back(place.directory + '\\' + name);
     }
     if (remains.aside.empty()) return;
     found.push_back({.sentence = place.neighborhood.name() + ": " + remains.aside + " is an old version of " +
@@ -162,12 +162,12 @@ void addOtherParts(const std::string& directory, std::vector<std::string>& harml
         const bool isOldPart = name.starts_with("~part") && name.ends_with(".tmp");
         const bool isOfBackup =
             directory.ends_with(backupsDirectory) && !(fileOfPart(name) + fileOfAside(name)).empty();
-        if (isOldPart || isOfBackup) harmless.push_back(name);
+        if (isOldPart || isOfBackup) harmless.push_back(directory + '\\' + name);
     }
 }
 
 void lookIn(const NeighborhoodPlace& neighborhood, std::vector<LeftOver>& found) {
-    std::vector<std::string> harmless;
+    std::vector<std::string> harmless;  // paths
     for (const bool isOfCharacters : {false, true}) {
         const Place place{neighborhood, isOfCharacters ? neighborhood.characters() : neighborhood.directory,
                           isOfCharacters};
@@ -177,10 +177,13 @@ void lookIn(const NeighborhoodPlace& neighborhood, std::vector<LeftOver>& found)
         addOtherParts(place.directory, harmless);
         addOtherParts(place.directory + '\\' + backupsDirectory, harmless);
     }
-    for (const std::string& name : harmless) {
-        found.push_back({.sentence = neighborhood.name() + ": " + name +
+    for (const std::string& path : harmless) {
+        FileStatus status{};
+        queryFileStatus(path.c_str(), status);
+        found.push_back({.sentence = neighborhood.name() + ": " + path.substr(path.rfind('\\') + 1) +
                                      " is left over from a save that was cut off. It does no harm; you may delete it.",
-                         .isHarmless = true});
+                         .isHarmless = true,
+                         .written = status.written});
     }
 }
 

@@ -3,6 +3,7 @@
 #ifndef START_LEFT_OVERS_H
 #define START_LEFT_OVERS_H
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@ struct LeftOver {
     std::string live = {};       // the path of the file that is missing or broken
     std::string version = {};    // the path of the whole version of it that takes its place
     bool isHarmless = false;     // nothing is missing or broken, and nothing is lost if it is deleted
+    std::int64_t written = 0;    // when one that is harmless was last written, in seconds since 1970
     bool isOldVersion = false;   // only the old file of a complete save, which couldn't put it into Backups
 
     bool isOffer() const { return !question.empty(); }

@@ -137,7 +137,10 @@ TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
         "Thistlewood has a new body, but the record in neighborhood.iff is of another age.";
     const std::string live = "neighborhood.iff";
     const std::tuple<const char*, std::function<void()>, std::string, bool> rows[] = {
-        {"nothing was saved", [] {}, "", false},
+        {"only an earlier save left something", [&] { bringBack(live, "TMP" + live); }, "", false},
+        {"this one did", [&] { write("TMP" + live, bytesFrom("cut")); },
+         begin + "TMPneighborhood.iff is left over from a save that was cut off. It does no harm; you may delete it.",
+         false},
         {"killed after the save", [&] { save(); }, begin + "it was saved as a whole. " + news, false},
         {"killed behind the Sims", [&] { save(true, false), bringBack(live, live); }, between, false},
         {"played afterwards",
