@@ -16,4 +16,7 @@ std::string absolutePath(const std::string& path);
 // failure `path` itself.
 std::string realPath(const std::string& path);
 
+// Where a symbolic link leads, as it is written there. Empty for anything else, and always on Windows.
+std::string linkTarget(const std::string& path);
+
 #endif

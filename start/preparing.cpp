@@ -59,6 +59,7 @@ bool agreesTo(const std::string& files, bool askNothing) {
 }  // namespace
 
 bool prepare(const std::string& simsDirectory, Editions editions, bool newTemplate, bool askNothing) {
+    deleteLinksOfVersion100();
     if (!takeOverEarlierVersion(simsDirectory, askNothing)) return false;
     const std::string original = originalSkinSets();
     if (!agreesTo(plannedFiles(simsDirectory, workingDirectory(), newTemplate, editions), askNothing)) return false;

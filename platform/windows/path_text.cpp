@@ -22,3 +22,7 @@ std::string absolutePath(const std::string& path) {
 std::string realPath(const std::string& path) {
     return absolutePath(path);
 }
+
+std::string linkTarget(const std::string&) {
+    return "";
+}

@@ -52,7 +52,8 @@ TEST_F(StartTest, AsksPreparesAndSaysWhetherAllIsReady) {
     }
 }
 
-TEST_F(StartTest, TakesOverTheFilesOfVersion110) {
+TEST_F(StartTest, TakesOverTheFilesOfVersion110AndReplacesTheLinksOfVersion100) {
+    fs::create_symlink("/usr/share/tidewright/1.0.0/famtemplate", own_ + "/famtemplate");
     EXPECT_TRUE(writeFile(game_ / "skinsets.cfg", "mine") && writeFile(game_ / "Template.iff", playersTemplate()));
     const AnsweredBox question = answerNextBox(IDOK), files = answerNextBox(IDOK), end = answerNextBox(IDOK);
     EXPECT_EQ(start({"--prepare"}), 0);
@@ -60,6 +61,7 @@ TEST_F(StartTest, TakesOverTheFilesOfVersion110) {
     EXPECT_EQ(treeOf(own_).at("skinsets.cfg"), bytesFrom("mine"));
     EXPECT_EQ(treeOf(own_).at("Template.iff"), playersTemplate());
     EXPECT_TRUE(fs::exists(game_ / "skinsets.cfg")) << "those stay";
+    EXPECT_TRUE(fs::exists(own_ + "/famtemplate"));
 }
 
 TEST_F(StartTest, HasItsRestorePointsWhereTheProgramForGoingBackLooks) {

@@ -1,6 +1,10 @@
 #include "platform/path_text.h"
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
+#include <climits>
 #include <cstdlib>
 #include <memory>
 
@@ -32,4 +36,10 @@ std::string realPath(const std::string& path) {
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(nativePath(path.c_str()).c_str(), nullptr),
                                                            &std::free);
     return real != nullptr ? real.get() : path;
+}
+
+std::string linkTarget(const std::string& path) {
+    std::array<char, PATH_MAX> target{};
+    const ssize_t length = readlink(nativePath(path.c_str()).c_str(), target.data(), target.size());
+    return {target.data(), static_cast<std::size_t>(std::max<ssize_t>(length, 0))};
 }
