@@ -47,7 +47,8 @@ std::set<std::string> namesInEither(const std::string& before, const std::string
 
 // Whether a save of the file, "neighborhood.iff" or "user00013.iff", has left its old version since `begin`. A disk in
 // the network may have a clock that is behind: there a file that has changed looks older than the evening. Then a
-// backup is of the evening if it is newer than the file was before, by the clock of that disk alone.
+// backup is of the evening if it is newer than the file was before, by the clock of that disk alone. An earlier evening
+// may have set something aside, too, and only the bytes tell.
 bool hasOldVersion(const std::string& before, const std::string& directory, const std::string& file,
                    std::int64_t begin) {
     FileStatus old{}, present{};
@@ -56,7 +57,9 @@ bool hasOldVersion(const std::string& before, const std::string& directory, cons
         present.written < since) {
         since = old.written + coarsestTime + 1;
     }
-    return !keptSince(since, directory, file).empty();
+    if (!backupSince(since, directory, file).empty()) return true;
+    const std::string aside = asideOf(directory, file);
+    return !aside.empty() && readWholeFile((directory + '\\' + aside).c_str()) == readWholeFile(before.c_str());
 }
 
 bool hasChangedHouse(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin) {

@@ -21,7 +21,8 @@ std::string ofCharacters(const std::string& file) {
 std::string versionBefore(const NeighborhoodPlace& place, const Sim& sim, const std::string& file, std::int64_t saved) {
     FileStatus status{};
     if (!queryFileStatus(place.character(file).c_str(), status) || status.written <= saved) return "";
-    const std::string old = keptSince(saved, place.characters(), file);
+    std::string old = asideOf(place.characters(), file);
+    if (old.empty()) old = backupSince(saved, place.characters(), file);
     if (old.empty() || bodyFitsRecord(sim, lookAtCharacter(place.character(file)))) return "";
     return bodyFitsRecord(sim, lookAtCharacter(place.character(old))) ? old : "";
 }

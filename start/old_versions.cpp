@@ -34,11 +34,14 @@ std::string newestBackupOf(const std::string& directory, const std::string& file
     return newest;
 }
 
-std::string keptSince(std::int64_t begin, const std::string& directory, const std::string& file) {
+std::string asideOf(const std::string& directory, const std::string& file) {
     const std::vector<std::string> names = fileNamesIn(directory.c_str());
     const auto aside =
         std::ranges::find_if(names, [&](const std::string& name) { return equalInAnyCase(fileOfAside(name), file); });
-    if (aside != names.end()) return *aside;
+    return aside != names.end() ? *aside : "";
+}
+
+std::string backupSince(std::int64_t begin, const std::string& directory, const std::string& file) {
     const std::string backup = newestBackupOf(directory, file);
     return !backup.empty() && timeOf(directory + '\\' + backup) >= begin ? backup : "";
 }

@@ -9,8 +9,10 @@
 // The backup that was written last, as a path from `directory`; empty if there is none.
 std::string newestBackupOf(const std::string& directory, const std::string& file);
 
-// What a save has kept of the file since `begin`, in seconds since 1970: what it set aside, whenever that was, or a
-// backup. A path from `directory`; empty if there is nothing.
-std::string keptSince(std::int64_t begin, const std::string& directory, const std::string& file);
+// What a save has set aside beside the file, whenever that was; empty if there is nothing.
+std::string asideOf(const std::string& directory, const std::string& file);
+
+// The newest backup, unless it is older than `begin`, in seconds since 1970. A path from `directory`, or empty.
+std::string backupSince(std::int64_t begin, const std::string& directory, const std::string& file);
 
 #endif
