@@ -60,8 +60,11 @@ void lookAt(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::
     findings.report.wasPlayed |= changes.isPlayed;
     if (changes.isByEditor()) sayWhatWasSaved(before, now, changes, findings);
     const std::string played = "The game saved " + now.name() + " while Tidewright was open";
-    if (changes.isReplaced) findings.say(played + "; what you changed in it was not saved.");
-    if (changes.isSaved && changes.isPlayed) findings.say(played + ", too.");
+    if (changes.isReplaced) {
+        findings.say(played + "; what you changed in it was not saved.");
+    } else if (changes.isPlayed) {
+        findings.say(played + (changes.isSaved ? ", too." : "."));
+    }
 }
 
 void sayLeftOvers(const Evening& evening, Findings& findings) {
