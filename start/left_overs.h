@@ -18,6 +18,7 @@ struct LeftOver {
     bool isOldVersion = false;   // only the old file of a complete save, which couldn't put it into Backups
 
     bool isOffer() const { return !question.empty(); }
+    bool isOfWholeFile() const { return isHarmless || isOldVersion; }
 };
 
 // In the order of the neighborhoods. `simsDirectory` has a trailing backslash.

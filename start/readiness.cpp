@@ -1,8 +1,10 @@
 #include "start/readiness.h"
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 
+#include "gamefiles/iff_reader.h"
 #include "prepare/whole_file.h"
 #include "start/half_saved.h"
 #include "start/move_out_forecast.h"
@@ -17,8 +19,12 @@ namespace {
 
 void lookAtRecords(const NeighborhoodPlace& place, bool readsLaterEditions, Readiness& readiness) {
     const std::optional<Bytes> file = readWholeFile(place.liveFile().c_str());
+    if (!file) return;
+    if (const std::string fault = readIff(*file).fault; !fault.empty()) {
+        readiness.obstacles.push_back(place.liveFile() + " isn't whole: it " + fault + ".");
+    }
     const auto neighborhood = std::make_unique<Neighborhood>();
-    if (!file || neighborhood->load(place.directory.c_str(), neighborhoodFileName, allFormats) != 0) return;
+    if (neighborhood->load(place.directory.c_str(), neighborhoodFileName, allFormats) != 0) return;
     const std::size_t later = countSims(*file, laterFormats);
     if (later > 0 && !readsLaterEditions) {
         readiness.warnings.push_back(place.name() + ": " + counted(later, "Sim", "Sims") +
@@ -50,6 +56,10 @@ void lookAt(const NeighborhoodPlace& place, bool readsLaterEditions, Readiness& 
 }
 
 }  // namespace
+
+bool Readiness::isReady() const {
+    return obstacles.empty() && std::ranges::all_of(leftOvers, &LeftOver::isOfWholeFile);
+}
 
 std::string Readiness::text() const {
     std::vector<std::string> lines = obstacles;

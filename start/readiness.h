@@ -10,12 +10,11 @@
 // Each line is one or more sentences for the player, in Windows-1252, without a line break.
 struct Readiness {
     std::vector<std::string> obstacles = {};  // each prevents a save, or keeps a neighborhood from being read
-    std::vector<std::string> warnings =
-        {};  // what can't be read, what is half saved, and what a save would drop or go without
-    std::vector<LeftOver> leftOvers = {};  // of saves that were cut off; a file that is missing is an obstacle, too
+    std::vector<std::string> warnings = {};   // what can't be read, is half saved, or what a save would drop
+    std::vector<LeftOver> leftOvers = {};     // of saves that were cut off
 
-    // Whether nothing is known that prevents a save.
-    bool isReady() const { return obstacles.empty(); }
+    // Whether nothing is known that prevents a save, and no file is missing or broken beside what is left over.
+    bool isReady() const;
 
     // All of it, a line each, with an empty line in between; empty if there is nothing to say.
     std::string text() const;

@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "prepare/character_files.h"
 #include "prepare/whole_file.h"
+#include "start/character_look.h"
 #include "ui/sentence_parts.h"
 #include "world/paths.h"
 #include "world/program_files.h"
@@ -45,10 +46,9 @@ void tryNeighborhoodFile(const NeighborhoodPlace& place, Readiness& readiness) {
     const std::string live = place.liveFile();
     const std::string temporary = place.path(std::string(temporaryPrefix) + neighborhoodFileName);
     if (!canRead(live)) {
-        readiness.obstacles.push_back(live +
-                                      " is missing or can't be read. The window will list only the neighborhoods "
-                                      "before " +
-                                      place.name() + ".");
+        const std::string listed =
+            place.number == 1 ? "no neighborhood." : "only the neighborhoods before " + place.name() + ".";
+        readiness.obstacles.push_back(live + " is missing or can't be read. The window will list " + listed);
     } else if (!canReplace(live)) {
         readiness.obstacles.push_back(live + " can't be saved: " + writeFailure() + ".");
     } else if (!canBeTemporary(temporary, live)) {
@@ -58,6 +58,7 @@ void tryNeighborhoodFile(const NeighborhoodPlace& place, Readiness& readiness) {
 
 struct CharacterFaults {
     std::vector<std::string> unreadable = {};
+    std::vector<std::string> broken = {};
     std::vector<std::string> writeProtected = {};
     std::int64_t largest = 0;  // in bytes, of all
 };
@@ -72,7 +73,10 @@ CharacterFaults faultsOf(const NeighborhoodPlace& place) {
         faults.largest = std::max(faults.largest, status.size);
         if (!canRead(live)) {
             faults.unreadable.push_back(name);
-        } else if (status.mode != writableFileMode || !canBeTemporary(place.character(temporaryPrefix + name), live)) {
+            continue;
+        }
+        if (!lookAtCharacter(live).fault.empty()) faults.broken.push_back(name);
+        if (status.mode != writableFileMode || !canBeTemporary(place.character(temporaryPrefix + name), live)) {
             faults.writeProtected.push_back(name);
         }
     }
@@ -90,6 +94,9 @@ void tryCharacters(const NeighborhoodPlace& place, const CharacterFaults& faults
     }
     if (!faults.unreadable.empty()) {
         readiness.warnings.push_back(listed(faults.unreadable) + in + " can't be read.");
+    }
+    if (!faults.broken.empty()) {
+        readiness.warnings.push_back("Not whole" + in + ": " + listed(faults.broken) + ".");
     }
 }
 

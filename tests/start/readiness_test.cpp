@@ -20,9 +20,14 @@ TEST_F(EveningTest, TheSampleIsReadyAndTheCheckLeavesNoTrace) {
 
 TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
     const std::string data = "UserData/", characters = "UserData/Characters";
+    const auto cut = [&](const std::string& name) { fs::resize_file(files().path(data + name), 1000); };
     const std::tuple<const char*, std::function<void()>, bool, std::string> rows[] = {
         {"no neighborhood file", [&] { files().remove(data + "neighborhood.iff"); }, false,
-         "neighborhood.iff is missing or can't be read. The window will list only the neighborhoods before"},
+         "neighborhood.iff is missing or can't be read. The window will list no neighborhood."},
+        {"an empty neighborhood file", [&] { files().write(data + "neighborhood.iff", ""); }, false, "only part of"},
+        {"a neighborhood file that is cut", [&] { cut("neighborhood.iff"); }, false,
+         "isn't whole: it has bytes left over at 999."},
+        {"a Sim's file that is cut", [&] { cut("Characters/user00002.iff"); }, true, "Characters: user00002.iff."},
         {"a directory has the temporary name", [&] { files().makeDirectory(data + "TMPneighborhood.iff"); }, false,
          "neighborhood.iff can't be saved: "},
         {"a Sim's temporary name is a link to the file",
