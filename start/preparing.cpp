@@ -6,6 +6,7 @@
 #include "platform/child_process.h"
 #include "platform/win32.h"
 #include "prepare/preparation.h"
+#include "restore/actions.h"
 #include "restore/restore_points.h"
 #include "start/earlier_version.h"
 #include "start/readiness.h"
@@ -86,7 +87,9 @@ void mend(const std::string& simsDirectory, bool askNothing) {
         if (!leftOver.isOffer()) continue;
         const std::string text = leftOver.sentence + "\n\n" + leftOver.question;
         if (!confirm(text, askNothing, !isThere(leftOver.live))) continue;
-        makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::byHand);
+        const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::byHand);
+        const std::string without = sentenceOf(made) + "\n\nShall " + leftOver.version + " be put back without one?";
+        if (made.name.empty() && !confirm(without, askNothing)) continue;
         if (!putInPlace(leftOver)) {
             say(leftOver.live + " couldn't be put back. Everything is as it was.", askNothing);
         }
