@@ -46,9 +46,13 @@ bool holdsGame(const std::string& directory) {
     return isDirectory(directory + "\\UserData") || isDirectory(directory + "\\GameData");
 }
 
+bool isSame(const std::string& directory, const std::string& other) {
+    return realPath(directory) == realPath(other) || isSameFile(directory.c_str(), other.c_str());
+}
+
 void addGame(Games& games, const std::string& prefix, const std::string& directory) {
     const bool isKnown =
-        std::ranges::any_of(games, [&](const Game& game) { return realPath(game.directory) == realPath(directory); });
+        std::ranges::any_of(games, [&](const Game& game) { return isSame(game.directory, directory); });
     if (!isKnown && holdsGame(directory)) games.push_back({prefix, directory});
 }
 
@@ -165,8 +169,9 @@ class GameSearch {
 
     // The environment names the prefix each time, and each time it would be asked which game in it is meant.
     bool takeRememberedOf(const Games& games) {
-        const std::string remembered = realPath(rememberedDirectory(settings_));
-        const auto game = std::ranges::find(games, remembered, [](const Game& one) { return realPath(one.directory); });
+        const auto game = std::ranges::find_if(games, [remembered = rememberedDirectory(settings_)](const Game& one) {
+            return isSame(one.directory, remembered);
+        });
         return game != games.end() && take(*game) == 0;
     }
 
@@ -187,8 +192,8 @@ class GameSearch {
         const std::string missing = missingIn(prefix);
         if (prefix.empty()) {
             return refuse(missing +
-                          "\n\nIf it is on a disk that isn't there now, bring that back; else install the game "
-                          "again.");
+                          "\n\nIf it is on a disk that isn't there now, bring that back; if the game was moved, move "
+                          "it back or install it again.");
         }
         return refuse(
             (missing.empty() ? "The registry of " + shownPath(prefix) + " has no entry of The Sims." : missing) +
@@ -233,10 +238,10 @@ class GameSearch {
     }
 
     int askElsewhere() {
-        const std::string text = noted(nothingFound());
+        const std::string text = nothingFound();
         const std::string advice = "\n\nPlease name its directory by the option --game DIRECTORY.";
         if (wish_.askNothing) return refuse(text + advice);
-        const GameAnswer answer = askForGame(text + "\n\nWhere is the game?", {});
+        const GameAnswer answer = askForGame(noted(text) + "\n\nWhere is the game?", {});
         if (answer.kind == GameAnswer::Kind::noDisplay) return refuse(text + advice);
         return answer.kind == GameAnswer::Kind::elsewhere ? chooseDirectoryOfGame() : cancelled;
     }
@@ -244,6 +249,7 @@ class GameSearch {
     int chooseDirectoryOfGame() {
         const char* const title =
             hasWinePrefixes() ? "The game's directory, or its Wine prefix" : "The game's directory";
+        note_.clear();  // it was shown with the question before
         std::string directory;
         if (!chooseDirectory(nullptr, title, directory)) return cancelled;
         const Games games = gamesAt(directory);
@@ -312,11 +318,11 @@ class GameSearch {
 
     int registerOnWindows(DirectoryText& simsDirectory) const {
         const std::string present = registeredDirectory("", gameKey, gameValue).text;
-        if (!present.empty() && realPath(present) == realPath(game_.directory)) return refuse(tooLong(present));
+        if (!present.empty() && isSame(present, game_.directory)) return refuse(tooLong(present));
         if (!present.empty()) {
             return refuse("The registry says that The Sims is in " + present +
-                          ", and Tidewright's window goes by that. It can't open another game, and doesn't change what "
-                          "an installer has written.");
+                          ", and Tidewright's window goes by that. It can't open another game, and doesn't change an "
+                          "entry that is there.");
         }
         if (game_.directory.size() > longestValue) return refuse(tooLong(game_.directory));
         if (!confirm("The registry of Windows doesn't say where The Sims is, and Tidewright's window goes by that. "
@@ -339,7 +345,7 @@ class GameSearch {
     bool leadsToGame(DirectoryText& simsDirectory) const {
         DirectoryText found;
         if (findSimsDirectory(found) != 0 || !holdsGame(found.c_str())) return false;
-        if (realPath(found.c_str()) != realPath(game_.directory)) return false;
+        if (!isSame(found.c_str(), game_.directory)) return false;
         simsDirectory = found;
         simsDirectory.append('\\');
         return true;
