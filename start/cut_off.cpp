@@ -3,6 +3,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/files.h"
 #include "start/evening_check.h"
 #include "start/left_overs.h"
 
@@ -13,43 +14,51 @@ void append(std::string& text, std::string_view sentence) {
     text += sentence;
 }
 
+bool isThere(const std::string& path) {
+    FileStatus status{};
+    return queryFileStatus(path.c_str(), status);
+}
+
 // A save replaces the characters' files first, so the neighborhood file is new only if the save was complete.
-std::string stateOf(const EveningChanges& changes, const EveningCheck& check, bool isMissing) {
-    std::string state;
-    if (changes.isSaved) {
-        append(state, check.losses.empty() ? "it was saved as a whole." : "it was saved.");
-    } else if (isMissing) {
-        append(state, "a save was cut off between its last two steps.");
-    } else if (changes.isByEditor()) {
-        append(state,
-               "a save was cut off between the Sims and the neighborhood file, so these Sims must not grow up now.");
+std::string endOfSave(const EveningChanges& changes, const EveningCheck& check, const NeighborhoodPlace& now) {
+    if (changes.isSaved) return check.losses.empty() ? "it was saved as a whole." : "it was saved.";
+    if (!isThere(now.liveFile())) return "a save was cut off between its last two steps.";
+    if (!changes.isByEditor()) return "";
+    return "a save was cut off between the Sims and the neighborhood file, so these Sims must not grow up now.";
+}
+
+// What left_overs.h says of the neighborhood. An old version that a save has set aside is there when a file is new.
+std::string leftIn(const NeighborhoodPlace& now, const EveningChanges& changes,
+                   const std::vector<LeftOver>& leftOvers) {
+    const std::string begin = now.name() + ": ";
+    std::string left;
+    for (const LeftOver& leftOver : leftOvers) {
+        if (!leftOver.sentence.starts_with(begin)) continue;
+        if (leftOver.isOldVersion && !changes.isByEditor()) continue;
+        append(left, leftOver.sentence.substr(begin.size()));
     }
+    return left;
+}
+
+EveningCheck checkOf(const NeighborhoodPlace& before, const NeighborhoodPlace& now, const EveningChanges& changes) {
+    if (!changes.isByEditor()) return {};
+    const NeighborhoodVersion old(before);
+    const NeighborhoodVersion present(now);
+    if (old.isRead() && present.isRead()) return checkEvening(old, present, changes);
+    if (!isThere(now.liveFile())) return {};  // which is said anyway
+    return {.losses = {"neighborhood.iff can't be read, so nothing could be checked."}};
+}
+
+// What a save has done; empty if none was begun.
+std::string stateOf(const NeighborhoodPlace& now, const EveningChanges& changes, const EveningCheck& check,
+                    const std::string& left) {
+    std::string state = endOfSave(changes, check, now);
     for (const std::vector<std::string>& sentences : {check.news, check.losses}) {
         for (const std::string& sentence : sentences) {
             append(state, sentence);
         }
     }
-    if (changes.isPlayed) append(state, "The game has saved since, and going back would undo that, too.");
-    return state;
-}
-
-void addLeftOvers(const NeighborhoodPlace& place, const std::vector<LeftOver>& leftOvers, std::string& state) {
-    const std::string begin = place.name() + ": ";
-    for (const LeftOver& leftOver : leftOvers) {
-        if (leftOver.sentence.starts_with(begin)) append(state, leftOver.sentence.substr(begin.size()));
-    }
-}
-
-std::string describe(const NeighborhoodPlace& before, const NeighborhoodPlace& now, const EveningChanges& changes,
-                     const std::vector<LeftOver>& leftOvers) {
-    EveningCheck check;
-    const NeighborhoodVersion old(before);
-    const NeighborhoodVersion present(now);
-    if (changes.isByEditor()) {
-        if (old.isRead() && present.isRead()) check = checkEvening(old, present, changes);
-    }
-    std::string state = stateOf(changes, check, !present.isRead());
-    addLeftOvers(now, leftOvers, state);
+    if (!left.empty()) append(state, left);
     return state;
 }
 
@@ -64,12 +73,18 @@ CutOffEvening describeCutOff(const Evening& evening) {
         NeighborhoodPlace now = before;
         now.directory = evening.game + before.directory.substr(evening.before.size());
         const EveningChanges changes = changesOf(before, now, evening.begin);
+        const EveningCheck check = checkOf(before, now, changes);
+        std::string state = stateOf(now, changes, check, leftIn(now, changes, leftOvers));
+        if (!state.empty()) {
+            result.isAsBefore = false;
+            result.isWhole &= changes.isSaved && check.losses.empty();
+        }
         result.wasPlayedSince |= changes.isPlayed;
-        const std::string state = describe(before, now, changes, leftOvers);
+        if (changes.isPlayed) append(state, "The game has saved since, and going back would undo that, too.");
         if (state.empty()) continue;
         result.text +=
-            (result.isAsBefore ? "The last evening was cut off. " : "\n\n") + now.name() + " is as follows: " + state;
-        result.isAsBefore = false;
+            (result.text.empty() ? "The last evening was cut off. " : "\n\n") + now.name() + " is as follows: " + state;
     }
+    if (result.isAsBefore) result.text.clear();
     return result;
 }

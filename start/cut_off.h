@@ -7,13 +7,14 @@
 #include "start/evening.h"
 
 struct CutOffEvening {
-    bool isAsBefore = true;       // nothing was written since the copy was made: nothing needs to be said
+    bool isAsBefore = true;       // no save was begun since the copy was made: nothing needs to be said
+    bool isWhole = true;          // all that was saved is complete, and nothing is lost
     bool wasPlayedSince = false;  // the game has saved since: going back would undo that, too
     std::string text = {};        // "The last evening was cut off. Neighborhood 1 is as follows: ..."
 };
 
-// Compares the game's neighborhoods with the copy; those that are as before aren't mentioned, and neither are
-// harmless files that an earlier evening has left over. What left_overs.h can mend is mentioned, and offered there. No
+// Compares the game's neighborhoods with the copy; one in which no save was begun isn't mentioned, nor is what
+// an earlier evening has left over. What left_overs.h can mend is mentioned, and offered there. No
 // box opens.
 CutOffEvening describeCutOff(const Evening& evening);
 

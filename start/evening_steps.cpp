@@ -83,7 +83,9 @@ bool goBackTo(const RestorePoint& point, const std::string& simsDirectory, bool 
 
 void report(const RestorePoint& point, const EveningReport& result, bool askNothing) {
     if (result.hasLoss && !result.wasPlayed) {
-        const std::string text = result.text + "\n\n[OK] goes back to before this evening. [Cancel] keeps it as it is.";
+        const std::string text = result.text +
+                                 "\n\n[OK] goes back to before this evening. [Cancel] keeps it as it is.\n\n" +
+                                 toGoBack(point.name);
         if (confirm(text, askNothing, false)) goBackTo(point, point.simsDirectory, askNothing);
     } else if (!result.text.empty()) {
         std::string text = result.text;
@@ -93,22 +95,41 @@ void report(const RestorePoint& point, const EveningReport& result, bool askNoth
     }
 }
 
+// The point of the game's last evening, or of a going back since, which has settled that. One from the future, when the
+// clock was wrong, counts only while its evening isn't settled.
+std::optional<RestorePoint> lastEveningOf(const std::string& game) {
+    return findPoint([&, now = std::time(nullptr)](const RestorePoint& one) {
+        const bool counts = !one.sessionEnded || secondsOf(one.time) <= now;
+        return counts && one.reason != PointReason::byHand && one.damage.empty() && isSameGame(one.simsDirectory, game);
+    });
+}
+
+// False if the player wanted to go back and that failed.
+bool settle(RestorePoint point, const std::string& simsDirectory, bool askNothing) {
+    if (!isWhole(restorePointsDirectory, point)) {
+        say("The last evening was cut off, and what became of it can't be told: its restore point isn't whole. " +
+                point.damage,
+            askNothing);
+        return true;
+    }
+    const CutOffEvening cutOff = describeCutOff(eveningSince(point.name, simsDirectory, secondsOf(point.time)));
+    if (cutOff.isAsBefore) return true;
+    if (cutOff.wasPlayedSince) {
+        say(cutOff.text + "\n\n" + toGoBack(point.name), askNothing);
+        return true;
+    }
+    const Buttons buttons = cutOff.isWhole ? Buttons::cancelFirst : Buttons::okFirst;
+    return !confirm(cutOff.text + "\n\n[OK] goes back to before it. [Cancel] keeps it.", askNothing, false, buttons) ||
+           goBackTo(point, simsDirectory, askNothing);
+}
+
 }  // namespace
 
 bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
     if (!finishEarlier({restorePointsDirectory, simsDirectory, askNothing})) return false;
-    const auto point = findPoint([&, game = gameOf(simsDirectory)](const RestorePoint& one) {
-        return !one.sessionEnded && isSameGame(one.simsDirectory, game);
-    });
-    if (!point) return true;
-    const CutOffEvening cutOff = describeCutOff(eveningSince(point->name, simsDirectory, secondsOf(point->time)));
-    if (cutOff.wasPlayedSince) {
-        say(cutOff.text, askNothing);
-    } else if (!cutOff.isAsBefore &&
-               confirm(cutOff.text + "\n\n[OK] goes back to before it. [Cancel] keeps it.", askNothing, false) &&
-               !goBackTo(*point, simsDirectory, askNothing)) {
-        return false;
-    }
+    const auto point = lastEveningOf(gameOf(simsDirectory));
+    if (!point || point->sessionEnded) return true;
+    if (!settle(*point, simsDirectory, askNothing)) return false;
     noteSessionEnded(restorePointsDirectory, point->name);
     return true;
 }

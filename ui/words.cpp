@@ -11,12 +11,13 @@ void say(const std::string& text, bool onConsole) {
     }
 }
 
-bool confirm(const std::string& question, bool onConsole, bool unasked) {
+bool confirm(const std::string& question, bool onConsole, bool unasked, Buttons buttons) {
     if (onConsole) {
         writeToOutput(question + (unasked ? "\n[OK]\n" : "\n[Cancel]\n"));
         return unasked;
     }
-    const int answer = MessageBoxA(nullptr, question.c_str(), programTitle, MB_OKCANCEL | MB_SETFOREGROUND);
+    const UINT focus = buttons == Buttons::cancelFirst ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
+    const int answer = MessageBoxA(nullptr, question.c_str(), programTitle, MB_OKCANCEL | focus | MB_SETFOREGROUND);
     if (answer == 0) say("Without a display this needs the option --yes.", false);
     return answer == IDOK;
 }

@@ -10,8 +10,11 @@ constexpr const char* programTitle = "Tidewright Start";
 // Without a display the box's text goes to standard error.
 void say(const std::string& text, bool onConsole);
 
+// Which button Enter presses.
+enum class Buttons { okFirst, cancelFirst };
+
 // Asks in a box with OK and Cancel. With `onConsole` the question is written, and `unasked` is the answer. Without a
 // display the question goes to standard error, with a word about "--yes", and the answer is false.
-bool confirm(const std::string& question, bool onConsole, bool unasked = true);
+bool confirm(const std::string& question, bool onConsole, bool unasked = true, Buttons buttons = Buttons::okFirst);
 
 #endif

@@ -127,6 +127,15 @@ TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
     EXPECT_EQ(report.text,
               "The game saved Neighborhood 1 while Tidewright was open; what you changed in it was not saved.");
     EXPECT_TRUE(report.wasPlayed && !report.hasSaved && !report.hasLoss);
+
+    start();
+    write("neighborhood.iff.tidewright-old0", bytesFrom("of an earlier evening"));
+    write("Houses/House02.iff", bytesFrom("built"));
+    known = evening();
+    known.known = {findLeftOvers(game()).at(0).sentence};
+    EXPECT_EQ(reportOn(known).text, "The game saved Neighborhood 1 while Tidewright was open.");
+    patch("neighborhood.iff", 500, "?");
+    EXPECT_TRUE(reportOn(known).text.ends_with("; what you changed in it was not saved."));
 }
 
 TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
@@ -138,6 +147,11 @@ TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
     const std::string live = "neighborhood.iff";
     const std::tuple<const char*, std::function<void()>, std::string, bool> rows[] = {
         {"only an earlier save left something", [&] { bringBack(live, "TMP" + live); }, "", false},
+        {"nothing was saved, and the game was played", [&] { write("Houses/House01.iff", bytesFrom("played")); }, "",
+         true},
+        {"an earlier save has set something aside",
+         [&] { write(live + ".tidewright-old0", bytesOf(live)), write("Houses/House01.iff", bytesFrom("played")); }, "",
+         true},
         {"this one did", [&] { write("TMP" + live, bytesFrom("cut")); },
          begin + "TMPneighborhood.iff is left over from a save that was cut off. It does no harm; you may delete it.",
          false},
@@ -162,6 +176,7 @@ TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {
         const CutOffEvening cutOff = describeCutOff(evening());
         EXPECT_EQ(cutOff.text, said);
         EXPECT_EQ(cutOff.isAsBefore, said.empty());
+        EXPECT_EQ(cutOff.isWhole, said.empty() || said.ends_with(news));
         EXPECT_EQ(cutOff.wasPlayedSince, played);
     }
 }

@@ -16,14 +16,16 @@ constexpr UINT buttonsOfType = 0xF;
 // A box has a handle while it is shown, so that FindWindowA finds it.
 class Box : public Window {
  public:
-    Box(QWidget* owner, const QString& text, const QString& title, bool withCancel)
+    Box(QWidget* owner, const QString& text, const QString& title, UINT type)
         : Window(0, nullptr), box_(new QMessageBox(owner)) {
         box_->setWindowModality(owner == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
         box_->setWindowTitle(title);
         box_->setTextFormat(Qt::PlainText);
         box_->setText(text);
+        const bool withCancel = (type & buttonsOfType) == MB_OKCANCEL;
+        const bool cancelFirst = withCancel && (type & MB_DEFBUTTON2) != 0;
         box_->setStandardButtons(withCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
-        box_->setDefaultButton(QMessageBox::Ok);
+        box_->setDefaultButton(cancelFirst ? QMessageBox::Cancel : QMessageBox::Ok);
         box_->setEscapeButton(withCancel ? QMessageBox::Cancel : QMessageBox::Ok);
     }
     Box(const Box&) = delete;
@@ -60,7 +62,7 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     const Window* const ownerWindow = owner == nullptr ? nullptr : findWindow(owner);
     if (owner != nullptr && ownerWindow == nullptr) return 0;
     auto box = std::make_unique<Box>(owner == nullptr ? nullptr : ownerWindow->widget(), qtText(text), qtText(caption),
-                                     (type & buttonsOfType) == MB_OKCANCEL);
+                                     type);
     Box& asked = *box;
     HWND const handle = addWindow(std::move(box))->handle();
     const int answer = asked.ask();
