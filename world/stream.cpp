@@ -68,8 +68,7 @@ ContentSum StreamFile::sum() {
 }
 
 bool StreamFile::write(std::span<const std::uint8_t> bytes) {
-    windowSize_ = 0;  // the write may change the bytes that the window holds
-    windowEndsFile_ = false;
+    windowStart_ = std::numeric_limits<std::int64_t>::max();  // no window: the write may change the bytes that it holds
     const bool written = std::fseek(file_, static_cast<long>(cursor_), SEEK_SET) == 0 &&
                          std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
     allDone_ = allDone_ && written;

@@ -24,11 +24,18 @@ struct TestStream : StreamFile {
     // With a window of 64 bytes, the smallest, it takes few bytes to cross its edge.
     explicit TestStream(const Bytes& bytes) {
         files.write("file", bytes);
-        EXPECT_TRUE(open(files.path("file").c_str(), Access::read, 64));
+        EXPECT_TRUE(open(files.path("file").c_str(), Access::readAndPatch, 64));
     }
     TempDirectory files;
     StreamView view{*this};
 };
+
+TEST(Stream, WhatWasWrittenIsReadAgain) {
+    TestStream file(bytesFrom("old"));
+    EXPECT_EQ(file.view.peek(), 'o');
+    file.view.writeAt(0, "new");
+    EXPECT_EQ(textAt(file.bytesAt(0, 3)), "new");
+}
 
 TEST(TagScan, ATagIsFoundUpToTheNotedSize) {
     const std::tuple<const char*, std::string, int, int, int> rows[] = {
