@@ -2,6 +2,7 @@
 
 #include <csignal>
 
+#include "prepare/whole_file.h"
 #include "tests/prepare/unprepared_game.h"
 
 namespace {
@@ -18,6 +19,7 @@ TEST_F(PreparationTest, ACopyThatTheDiskHasNoRoomForDoesNotComeInPartAndStopsThe
     setrlimit(RLIMIT_FSIZE, &before);
     EXPECT_TRUE(!ready && reports(".iff can't be written: the disk is full")) << report_;
     EXPECT_EQ(files_.bytesOf("tool/Template.iff"), old);
+    EXPECT_FALSE(readWholeFile("/proc/self/mem")) << "nor what can't be read to its end";
     EXPECT_EQ(treeOf(files_.path("tool")).size(), 3U) << "with famtemplate and skinsets-original.cfg";
 }
 
