@@ -150,9 +150,11 @@ TEST(Neighborhoods, OneThatCannotBeReadIsReportedAndHidesTheRest) {
     EXPECT_EQ(listedNeighborhoodCount(), 1);
     EXPECT_TRUE(!neighborhoods[1] && neighborhoods[99]) << "read, but never shown";
     EXPECT_EQ(statusLine(), "Loading Neighborhood 100") << "the last";
-    files.remove("UserData2");
+    files.remove("UserData");
+    setStatusLine("");
     loadNeighborhoods((files.path() + "\\").c_str(), "C:\\tools");
-    EXPECT_EQ(statusLine(), "Loading Neighborhood 1") << "a gap ends the walk";
+    EXPECT_EQ(statusLine(), "") << "a gap ends the walk";
+    EXPECT_EQ(listedNeighborhoodCount(), 0) << "and its place is empty";
 }
 
 }  // namespace
