@@ -19,6 +19,7 @@
 #include <cstdlib>
 #include <set>
 
+#include "platform/native/events/message_queue.h"
 #include "platform/native/screen/scale.h"
 #include "platform/native/windowing/window.h"
 #include "tests/platform/window_test.h"
@@ -52,6 +53,16 @@ TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxI
     runMessages();
     EXPECT_EQ(takeLog(), Log{});
     EXPECT_EQ(QApplication::activeWindow(), findWindow(window_)->widget()) << "the box gives the focus back";
+}
+
+TEST_F(WindowingNativeTest, AKeyThatIsOnlyHeldStaysWithQtWhichMayHaveOpenedAMenu) {
+    for (const auto& [key, comes] : {std::pair(Qt::Key_A, true), {Qt::Key_Shift, false}, {Qt::Key_Alt, false}})
+        later([this, key, comes] {
+            QTest::sendKeyEvent(QTest::Press, findWindow(window_)->widget()->windowHandle(), key, "", Qt::NoModifier);
+            MSG message{};
+            EXPECT_EQ(takeMessage(message), comes) << key;
+        });
+    runMessages();
 }
 
 TEST_F(WindowingNativeTest, ClicksThatCameDuringWorkAreLookedAtAtOnce) {
