@@ -154,6 +154,9 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         const QLabel& label = *button.parentWidget()->findChild<QLabel*>();
         EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance("Pick a Neighborhood: ")) << "it isn't cut";
 
+        button.window()->resize(button.window()->width() - 1, button.window()->height());
+        runMessages();
+        EXPECT_EQ(painted_, (std::vector<int>{0, 0, toUnits(button.parentWidget()->width()), client.bottom}));
         button.window()->resize(button.width() * 3, button.width() * 2);
         runMessages();
         for (QWidget* const control : {static_cast<QWidget*>(&button), &combo}) {
