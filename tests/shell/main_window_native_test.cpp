@@ -26,24 +26,29 @@ TEST(MainWindowNativeTest, TheSplashPictureFillsTheWindowAboveTheLine) {
 TEST(MainWindowNativeTest, TheMenuOpensThePagesOfTheProgram) {
     const TempDirectory files;
     files.write("opened", "");
-    files.write("xdg-open", "#!/bin/sh\necho \"$1\" >> '" + files.path("opened") + "'\n");
-    std::filesystem::permissions(files.path("xdg-open"), std::filesystem::perms::owner_all);
     const ScopedVariable path("PATH", files.path());
+    ScopedVariable browser("BROWSER", "");
     later([&] {
-        for (const auto& [menu, item] : {std::pair("Online help", "Online Help"),
-                                         {"Online help", "Frequently Asked Questions"},
-                                         {"Donate", "Support TDW with a small donation"}}) {
+        for (const auto& [menu, item, opener, browsers] :
+             {std::tuple("Online help", "Online Help", "xdg-open", "none"),
+              {"Online help", "Frequently Asked Questions", "browser", "none:browser -new"},
+              {"Donate", "Support TDW with a small donation", "browser", "browser -url=%s -new"}}) {
+            files.write(opener, "#!/bin/sh\necho \"$@\" >> '" + files.path("opened") + "'\n");
+            std::filesystem::permissions(files.path(opener), std::filesystem::perms::owner_all);
+            browser.set(browsers);
             const Bytes before = files.bytesOf("opened");
             EXPECT_TRUE(chooseMenu(controls().mainWindow, {"Help", menu, item}));
             runMessages();
             for (int tries = 0; tries < 500 && files.bytesOf("opened") == before; ++tries)
                 usleep(10'000);
+            files.remove(opener);
         }
         PostQuitMessage(0);
     });
     runMainWindow(SW_SHOWNORMAL);
-    EXPECT_EQ(files.bytesOf("opened"), bytesFrom("http://tidewright.example/Help/\nhttp://tidewright.example/faq.html\n"
-                                                 "http://tidewright.example/donate.html\n"));
+    EXPECT_EQ(files.bytesOf("opened"), bytesFrom("http://tidewright.example/Help/\n"
+                                                 "-new http://tidewright.example/faq.html\n"
+                                                 "-url=http://tidewright.example/donate.html -new\n"));
 }
 
 }  // namespace
