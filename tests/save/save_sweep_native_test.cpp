@@ -147,6 +147,10 @@ TEST_F(SaveSweepTest, ASyncThatFailsCostsNoVersion) {
             EXPECT_EQ(isMarkedAfterFirst_, error == EIO && isMarked);
         }
     }
+    files().write("UserData/neighborhood.iff.tidewright-old0", "older");
+    runWithHeldCalls([this] { save(); },
+                     [](const seccomp_data& call) { return call.nr == SYS_fsync ? EIO : carryOut; });
+    EXPECT_TRUE(files().exists("UserData/neighborhood.iff.tidewright-old0")) << "until the newer name is on the disk";
 }
 
 TEST_F(SaveSweepTest, WhatOthersWriteMeanwhileStaysAndIsNotSavedOver) {
