@@ -1,6 +1,5 @@
 // What a program asks of the system around it: directories, settings, other programs and their windows.
 #include <gtest/gtest.h>
-#include <xcb/xcb.h>
 
 #include "platform/child_process.h"
 #include "platform/console.h"
@@ -111,17 +110,7 @@ TEST(SurroundingsNativeTest, ALockIsSharedWithTheProgramThatIsRunButNotWithWhatT
 TEST(SurroundingsNativeTest, WindowsOfATitleTellTheirKind) {
     const XServer server;
     const ScopedVariable display("DISPLAY", server.display());
-    const auto add = [&](std::string_view classes) {
-        xcb_connection_t* const connection = server.connection();
-        const xcb_window_t window = xcb_generate_id(connection);
-        xcb_create_window(connection, 0, window, xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root, 0, 0,
-                          8, 8, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, 0, 0, nullptr);
-        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 8,
-                            "The Sims");
-        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
-                            static_cast<std::uint32_t>(classes.size()), classes.data());
-        server.atom("done");
-    };
+    const auto add = [&](std::string_view classes) { server.addWindow("The Sims", classes, server.root()); };
     EXPECT_EQ(kindsOfWindowsTitled("The Sims"), std::vector<std::string>{});
     add("");
     EXPECT_EQ(kindsOfWindowsTitled("The Sims"), std::vector<std::string>{""});

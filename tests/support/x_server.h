@@ -30,6 +30,24 @@ class XServer {
     const std::string& display() const { return display_; }  // ":1234"
     xcb_connection_t* connection() const { return connection_; }
 
+    // The screen's window, which contains all others.
+    xcb_window_t root() const { return xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root; }
+
+    // Makes a window in `parent`, with a title and a class as programs give them.
+    xcb_window_t addWindow(std::string_view title, std::string_view classes, xcb_window_t parent) const {
+        const xcb_window_t window = xcb_generate_id(connection_);
+        xcb_create_window(connection_, 0, window, parent, 0, 0, 8, 8, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, 0, 0, nullptr);
+        set(window, "WM_CLASS", "STRING", classes);
+        set(window, "WM_NAME", "STRING", title);
+        return window;
+    }
+
+    void set(xcb_window_t window, std::string_view property, std::string_view type, std::string_view text) const {
+        xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, atom(property), atom(type), 8,
+                            static_cast<std::uint32_t>(text.size()), text.data());
+        atom("done");
+    }
+
     // The atom's number. When this returns, the server has carried out all earlier requests.
     unsigned atom(std::string_view name) const {
         const auto asked = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());

@@ -4,41 +4,12 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/x_server.h"
 
 namespace {
-
-// A window of another program, until the end of the block.
-class OtherWindow {
- public:
-    OtherWindow(const XServer& server, std::string_view title, std::string_view kind) : server_(server) {
-        xcb_connection_t* const connection = server.connection();
-        xcb_create_window(connection, 0, window_, xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root, 0, 0,
-                          8, 8, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, 0, 0, nullptr);
-        set(XCB_ATOM_WM_NAME, title);
-        set(XCB_ATOM_WM_CLASS, kind);
-        server.atom("done");
-    }
-    OtherWindow(const OtherWindow&) = delete;
-    OtherWindow& operator=(const OtherWindow&) = delete;
-    ~OtherWindow() {
-        xcb_destroy_window(server_.connection(), window_);
-        server_.atom("done");
-    }
-
- private:
-    void set(xcb_atom_t property, std::string_view text) const {
-        xcb_change_property(server_.connection(), XCB_PROP_MODE_REPLACE, window_, property, XCB_ATOM_STRING, 8,
-                            static_cast<std::uint32_t>(text.size()), text.data());
-    }
-
-    const XServer& server_;
-    xcb_window_t window_ = xcb_generate_id(server_.connection());
-};
 
 TEST(RunningGameNativeTest, TheAdviceFitsTheWindow) {
     const XServer server;
@@ -60,10 +31,12 @@ TEST(RunningGameNativeTest, TheAdviceFitsTheWindow) {
         EXPECT_EQ(testing::internal::GetCapturedStdout().substr(0, begin.size()), begin);
     };
     for (const auto& row : rows) {
-        const OtherWindow window(server, row.title, row.kind);
+        const xcb_window_t window = server.addWindow(row.title, row.kind, server.root());
         expectWords(row.words);
+        xcb_destroy_window(server.connection(), window);
     }
-    const OtherWindow folder(server, "The Sims", "dolphin"), game(server, "The Sims House Party", "steam_app_1");
+    server.addWindow("The Sims", "dolphin", server.root());
+    server.addWindow("The Sims House Party", "steam_app_1", server.root());
     expectWords("The Sims is running: a window is called \"The Sims House Party\".");
 }
 
@@ -72,7 +45,7 @@ TEST(RunningGameNativeTest, OnlyTheEditorsOwnWindowCountsAsOne) {
     const ScopedVariable display("DISPLAY", server.display());
     for (const auto& [kind, isEditor] :
          {std::pair("dolphin", false), {"Tidewright-start", false}, {"Tidewright", true}}) {
-        const OtherWindow window(server, "Tidewright", kind);
+        server.addWindow("Tidewright", kind, server.root());
         EXPECT_EQ(isEditorOpen(), isEditor) << kind;
     }
 }
