@@ -27,6 +27,7 @@ TEST_F(SaveTest, NewFamiliesBeginWhereTheFileIsCutAndThoseOfTheNextSaveFollow) {
         EXPECT_EQ(states(), allSaved);
         EXPECT_FALSE(test()->isDirty() || test()->hasNewFamilies());
         EXPECT_LE(test()->familyCount(), 100);
+        EXPECT_EQ(test().family(0).memberTableOffset() == 0, !shape.before.empty()) << "a new family may lie there";
 
         Bytes expected = files().bytesOf(live);
         if (shape.before.empty()) overwriteFamily(expected, 5, {stranger});
