@@ -111,6 +111,7 @@ TEST_F(WindowingTest, ABoxBlocksItsOwnerWhichIsStillDrawn) {
     for (HWND const given : {window_, HWND{}}) {
         SetCursor(LoadCursorA(nullptr, IDC_WAIT));
         takeLog();
+        SetFocus(button);
         bool waitCursor = true;
         const AnsweredBox box = answerNextBox(answerByEscape, [&] {
             waitCursor = waitCursorShows();
@@ -123,6 +124,7 @@ TEST_F(WindowingTest, ABoxBlocksItsOwnerWhichIsStillDrawn) {
         EXPECT_EQ(takeLog(), Log{"paint"});
         EXPECT_FALSE(waitCursor) << "over a box the program doesn't wait";
         EXPECT_TRUE(waitCursorShows());
+        EXPECT_EQ(GetFocus(), button);
         clickButton(button);
         EXPECT_EQ(takeLog(), Log{"command 3 0"});
     }
