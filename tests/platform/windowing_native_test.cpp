@@ -155,6 +155,10 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
         button.window()->resize(button.window()->width() - 1, button.window()->height());
         runMessages();
         EXPECT_EQ(painted_, (std::vector<int>{0, 0, toUnits(button.parentWidget()->width()), client.bottom}));
+        const auto& area = *button.window()->findChild<QScrollArea*>();
+        button.window()->resize(button.width() * 6, button.width() * 2);
+        runMessages();
+        EXPECT_EQ(button.parentWidget()->width(), area.viewport()->width()) << "beside the bar";
         button.window()->resize(button.width() * 3, button.width() * 2);
         runMessages();
         for (QWidget* const control : {static_cast<QWidget*>(&button), &combo}) {
@@ -162,7 +166,6 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
             control->setFocus();
             runMessages();
             EXPECT_EQ(control->visibleRegion(), QRegion(control->rect())) << "the focus brings it into view";
-            const auto& area = *button.window()->findChild<QScrollArea*>();
             const int left = control->mapTo(area.viewport(), QPoint(0, 0)).x(), right = left + control->width();
             EXPECT_TRUE(area.horizontalScrollBar()->value() == 0 || left == 0 || right == area.viewport()->width())
                 << "and no more";
