@@ -64,7 +64,7 @@ TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
     };
     for (const auto& [one, other] : {std::pair("abc&", "abc&&"), {"a\nb", "a\r\nb"}, {"a\rb", "a\nb"}})
         EXPECT_TRUE(drawn(one) == drawn(other)) << one;
-    for (const auto& [one, other] : {std::pair("Q&&A", "QA"), {"a&bc", "abc"}, {"\xE9", "e"}})
+    for (const auto& [one, other] : {std::pair("Q&&A", "QA"), {"a&bc", "abc"}, {"\xE9", "e"}, {"a\nb", "b\na"}})
         EXPECT_FALSE(drawn(one) == drawn(other)) << one;
     EXPECT_TRUE(drawn(std::string(60, 'w')) == drawn(std::string(80, 'w'))) << "clipped";
     const auto bare = [&drawn](const char* text) {
