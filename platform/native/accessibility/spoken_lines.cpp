@@ -84,15 +84,13 @@ bool SpokenLines::updateLabels(QWidget& client) {
     return isChanged;
 }
 
-// The nearest line that starts left of the control and shares rows with it.
+// The line that starts left of the control and shares rows with it. No control has two.
 QLabel* SpokenLines::labelOf(const QRect& control) const {
-    const Line* label = nullptr;
     for (const Line& line : lines_) {
         const bool sameRow = line.place.top() <= control.bottom() && control.top() <= line.place.bottom();
-        if (!sameRow || line.place.left() >= control.left()) continue;
-        if (label == nullptr || line.place.left() > label->place.left()) label = &line;
+        if (sameRow && line.place.left() < control.left()) return line.label;
     }
-    return label == nullptr ? nullptr : label->label;
+    return nullptr;
 }
 
 void SpokenLines::nameComboBoxes(const QWidget& client) {
