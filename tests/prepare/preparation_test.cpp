@@ -54,6 +54,9 @@ TEST_F(PreparationTest, APlayersFilesStayUnlessANewTemplateIsAskedFor) {
     EXPECT_TRUE(isReady()) << report_;
     EXPECT_EQ(differences(players, treeOf(files_.path("tool"))) + differences(before, treeOf(game_)), "");
 
+    files_.write("tool/Template.iff", playersTemplate(textLetter));
+    EXPECT_TRUE(isReady() && reports("Template.iff is there already")) << "the label alone is no sign" << report_;
+
     // What has a copy gets no second one. The template of earlier packages is replaced unasked.
     files_.remove("tool/Template.iff");
     for (const Bytes& old : {own, own, makeFactTemplate()}) {
