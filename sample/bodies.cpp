@@ -103,15 +103,6 @@ BodySlots petSlots() {
     return slots;
 }
 
-BodyEnding sampleBodyEnding(const BodySlots& slots, int version) {
-    constexpr int firstPackVersion = 7;
-    constexpr std::size_t shortestWinterText = 2;
-    if (version < firstPackVersion) return BodyEnding::atEntry29;
-    const bool hasWinterOutfit = slots[sampleSlot::w100Mesh].size() >= shortestWinterText &&
-                                 slots[sampleSlot::w100Skin].size() >= shortestWinterText;
-    return hasWinterOutfit ? BodyEnding::atEntry33 : BodyEnding::atEntry32;
-}
-
 void setHead(BodySlots& slots, const std::string& mesh, const std::string& skin) {
     setPair(slots, sampleSlot::headMesh, mesh, skin);
 }

@@ -43,9 +43,6 @@ BodySlots childSlots(BodySex sex = BodySex::female, const std::string& tone = "l
 // A pet has a child's hands and no outfits.
 BodySlots petSlots();
 
-// How a text with these slots ends that the program writes for a Sim whose neighbor record has this version.
-BodyEnding sampleBodyEnding(const BodySlots& slots, int version);
-
 void setHead(BodySlots& slots, const std::string& mesh, const std::string& skin);
 
 #endif

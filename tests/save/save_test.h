@@ -157,7 +157,8 @@ class SaveTest : public testing::Test {
         const SampleCharacter& sim = characters_[index];
         const bool isLater = later_.at(index);
         const int version = neighbors_[index].version;
-        const BodyEnding ending = isLater ? BodyEnding::atEntry34 : sampleBodyEnding(sim.slots, version);
+        using enum BodyEnding;
+        const BodyEnding ending = isLater ? atEntry34 : version < 7 ? atEntry29 : atEntry33;
         Bytes text = filledBodyStringText(sim.slots, ending, 1041, sim.lastEntry);
         text.resize(1041);
         Bytes file = makeFactTemplate(isLater ? Editions::later : Editions::base);
