@@ -1,4 +1,4 @@
-// Fuzzes what the preparing program does with a player's character file: its reader of chunks, its check, and the
+// Fuzzes what `prepare/` does with a player's character file: its reader of chunks, its check, and the
 // template that it makes of the file.
 #include "fuzz/fuzz_files.h"
 #include "gamefiles/iff_reader.h"

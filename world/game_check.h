@@ -1,4 +1,4 @@
-// The checks that each program makes before it touches the game.
+// The checks that the editor makes before it touches the game, and the exit codes of a start.
 #ifndef WORLD_GAME_CHECK_H
 #define WORLD_GAME_CHECK_H
 
