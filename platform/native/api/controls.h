@@ -30,7 +30,7 @@ constexpr int IDCANCEL = 2;
 constexpr UINT MB_OK = 0x0000;
 constexpr UINT MB_OKCANCEL = 0x0001;
 constexpr UINT MB_DEFBUTTON1 = 0x0000;
-constexpr UINT MB_DEFBUTTON2 = 0x0100;  // Enter answers with Cancel
+constexpr UINT MB_DEFBUTTON2 = 0x0100;      // Enter answers with Cancel
 constexpr UINT MB_SETFOREGROUND = 0x10000;  // no matter here: the window manager decides
 
 // Shows a box and waits for the answer: IDOK or IDCANCEL. Closing a box with one button answers with that button. The

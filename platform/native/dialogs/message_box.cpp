@@ -61,8 +61,8 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     if (!hasDisplay()) return printInstead(text, caption);
     const Window* const ownerWindow = owner == nullptr ? nullptr : findWindow(owner);
     if (owner != nullptr && ownerWindow == nullptr) return 0;
-    auto box = std::make_unique<Box>(owner == nullptr ? nullptr : ownerWindow->widget(), qtText(text), qtText(caption),
-                                     type);
+    auto box =
+        std::make_unique<Box>(owner == nullptr ? nullptr : ownerWindow->widget(), qtText(text), qtText(caption), type);
     Box& asked = *box;
     HWND const handle = addWindow(std::move(box))->handle();
     const int answer = asked.ask();
