@@ -1,10 +1,16 @@
 // Kills a going back, and the making of a point, at each of their system calls, then makes each call fail.
 #include "tests/restore/restore_test.h"
 #include "tests/support/native/held_calls.h"
+#include "tests/support/scoped_variable.h"
 
 namespace {
 
-class RestoreSweepTest : public RestoreTest {
+// Thousands of small trees are made and deleted: on a disk that takes seven times as long.
+struct InMemory {
+    ScopedVariable place{"TMPDIR", "/dev/shm"};
+};
+
+class RestoreSweepTest : InMemory, public RestoreTest {
  public:
     // The game and its points as they are now are what each try begins with.
     void keep() {
