@@ -380,7 +380,7 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
 
     const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time);
     if (made.name.empty()) return {made.error, false, made};
-    const std::vector<RestorePoint> all = readPoints(store.tree());
+    const std::vector<RestorePoint> all = readPoints(store.tree()).value_or(std::vector<RestorePoint>());
     const RestorePoint* const present = named(all, made.name);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
     const std::string damage = damageBeside(store.tree(), point, *present);
@@ -402,7 +402,9 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     if (store.isUnavailable()) return {store.refusal(), true, {}};
     const auto note = readNote(store.tree());
     if (!note) return {};
-    const std::vector<RestorePoint> all = readPoints(store.tree());
+    const auto read = readPoints(store.tree());
+    if (!read) return {failureOf("The directory can't be read", pointsDirectory), true, {}};
+    const std::vector<RestorePoint>& all = *read;
     RestorePoint target = checkedPoint(pointsDirectory, all, how == Finish::complete ? note->target : note->before);
     if (!target.damage.empty()) {
         const bool isOver =

@@ -231,7 +231,7 @@ MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason,
     const auto entries = tree_.entriesOf("");
     if (!entries) made.error = "The directory of restore points can't be read: " + directory_;
     if (!made.error.empty()) return made;
-    const std::vector<RestorePoint> all = readPoints(tree_);
+    const std::vector<RestorePoint> all = readPoints(tree_).value_or(std::vector<RestorePoint>());
     RestorePoint point;
     point.name = freeName(*entries, nameAt(time));
     point.time = time;
@@ -252,7 +252,7 @@ MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason,
 
 void PointStore::deleteOldest(std::vector<std::string> needed) const {
     if (const auto note = readNote(tree_)) needed.insert(needed.end(), {note->target, note->before});
-    std::vector<RestorePoint> points = readPoints(tree_);
+    std::vector<RestorePoint> points = readPoints(tree_).value_or(std::vector<RestorePoint>());
     std::erase_if(points, [](const RestorePoint& point) { return point.time.wYear == 0; });
     std::size_t count = points.size();
     for (auto oldest = points.rbegin(); oldest != points.rend() && count > keptPoints; ++oldest) {
@@ -274,10 +274,10 @@ bool PointStore::writeText(const RestorePoint& point) const {
     return ::writeText(directory_, textFile(point.name), textOfPoint(point));
 }
 
-std::vector<RestorePoint> readPoints(const FileTree& tree) {
-    std::vector<RestorePoint> points;
+std::optional<std::vector<RestorePoint>> readPoints(const FileTree& tree) {
     const auto entries = tree.entriesOf("");
-    if (!entries) return points;
+    if (!entries) return std::nullopt;
+    std::vector<RestorePoint> points;
     for (const TreeEntry& entry : *entries) {
         const bool isPoint = entry.kind == TreeEntry::Kind::directory && fileBehind(entry.name).empty();
         if (isPoint) points.push_back(readPoint(tree, entry.name));

@@ -2,6 +2,7 @@
 #ifndef RESTORE_POINT_STORE_H
 #define RESTORE_POINT_STORE_H
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,7 @@ class PointStore {
     std::string refusal_;
 };
 
-// As of listRestorePoints.
-std::vector<RestorePoint> readPoints(const FileTree& tree);
+// As of listRestorePoints. No value if the directory can't be read.
+std::optional<std::vector<RestorePoint>> readPoints(const FileTree& tree);
 
 #endif

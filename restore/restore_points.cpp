@@ -13,7 +13,7 @@ SYSTEMTIME presentTime() {
 }
 
 std::vector<RestorePoint> listRestorePoints(const std::string& pointsDirectory) {
-    return readPoints(FileTree(pointsDirectory, FileTree::Links::refused));
+    return readPoints(FileTree(pointsDirectory, FileTree::Links::refused)).value_or(std::vector<RestorePoint>());
 }
 
 void checkPoints(const std::string& pointsDirectory, std::vector<RestorePoint>& points) {
@@ -43,7 +43,7 @@ MadePoint makeRestorePoint(const std::string& pointsDirectory, const std::string
 bool noteSessionEnded(const std::string& pointsDirectory, const std::string& name) {
     const PointStore store(pointsDirectory);
     if (store.isUnavailable()) return false;
-    std::vector<RestorePoint> points = readPoints(store.tree());
+    std::vector<RestorePoint> points = readPoints(store.tree()).value_or(std::vector<RestorePoint>());
     const auto point = std::ranges::find(points, name, &RestorePoint::name);
     if (point == points.end() || !point->damage.empty()) return false;
     point->sessionEnded = true;

@@ -42,8 +42,32 @@ class RestoreSweepTest : InMemory, public RestoreTest {
             EXPECT_EQ(entry.path().string().find(".tidewright-"), std::string::npos) << entry.path();
     }
 
+    // Each file but those on the way is as before or as it was in the point.
+    void expectWholeFiles() const {
+        for (const auto& [name, file] : withoutParts())
+            EXPECT_TRUE((before_.contains(name) && file == before_.at(name)) ||
+                        (then_.contains(name) && file == then_.at(name)))
+                << name;
+    }
+    std::map<std::string, Whole> withoutParts() const {
+        auto files = whole();
+        std::erase_if(files, [](const auto& file) { return file.first.find(".tidewright-") != std::string::npos; });
+        return files;
+    }
+
+    // Makes the point, and what is gone back from.
+    RestorePoint playAfterPoint() {
+        RestorePoint target = point(make().name);
+        then_ = whole();
+        files_.write(live, "played");
+        files_.write("game/UserData/Houses/House02.iff", "built");
+        files_.remove(ann);
+        before_ = whole();
+        return target;
+    }
+
  protected:
-    std::map<std::string, Whole> game_;
+    std::map<std::string, Whole> game_, then_, before_;
     static constexpr SYSTEMTIME later{2026, 11, 0, 26, 1, 0, 0, 0}, latest{2026, 11, 0, 26, 2, 0, 0, 0};
 
  private:
@@ -104,35 +128,46 @@ TEST_F(RestoreSweepTest, APointThatIsBeingDeletedIsWholeOrGone) {
 }
 
 TEST_F(RestoreSweepTest, AGoingBackThatIsStoppedIsCompletedOrUndone) {
-    const RestorePoint target = point(make().name);
-    const auto then = whole();
-    files_.write(live, "played");
-    files_.write("game/UserData/Houses/House02.iff", "built");
-    files_.remove(ann);
+    const RestorePoint target = playAfterPoint();
     keep();
-    const auto act = [&] { goBack(points(), target, game(), allNeighborhoods, later); };
-    const auto withoutParts = [this] {
-        auto files = whole();
-        std::erase_if(files, [](const auto& file) { return file.first.find(".tidewright-") != std::string::npos; });
-        return files;
-    };
     bool undoes = false;
-    sweep(act, [&] {
-        for (const auto& [name, file] : withoutParts())
-            EXPECT_TRUE((game_.contains(name) && file == game_[name]) || file == then.at(name)) << name;
-        const bool isNeighborhoodBack = whole()["UserData/neighborhood.iff"] == then.at("UserData/neighborhood.iff");
-        EXPECT_TRUE(!isNeighborhoodBack || files_.exists(ann)) << "the neighborhood file comes last";
-        if (unfinishedGoingBack(points())) {
-            undoes = !undoes;
-            inChild([&] { finishGoingBack(points(), undoes ? Finish::undo : Finish::complete, latest); });
-            EXPECT_EQ(whole(), undoes ? game_ : then);
-        } else {
-            EXPECT_TRUE(withoutParts() == game_ || withoutParts() == then);
-        }
-        EXPECT_FALSE(unfinishedGoingBack(points()));
-        inChild([&] { goBack(points(), target, game(), allNeighborhoods, latest); });
-        EXPECT_EQ(whole(), then);
-    });
+    sweep([&] { goBack(points(), target, game(), allNeighborhoods, later); },
+          [&] {
+              expectWholeFiles();
+              const bool isNeighborhoodBack =
+                  whole()["UserData/neighborhood.iff"] == then_.at("UserData/neighborhood.iff");
+              EXPECT_TRUE(!isNeighborhoodBack || files_.exists(ann)) << "the neighborhood file comes last";
+              if (unfinishedGoingBack(points())) {
+                  undoes = !undoes;
+                  inChild([&] { finishGoingBack(points(), undoes ? Finish::undo : Finish::complete, latest); });
+                  EXPECT_EQ(whole(), undoes ? before_ : then_);
+              } else {
+                  EXPECT_TRUE(withoutParts() == before_ || withoutParts() == then_);
+              }
+              EXPECT_FALSE(unfinishedGoingBack(points()));
+              inChild([&] { goBack(points(), target, game(), allNeighborhoods, latest); });
+              EXPECT_EQ(whole(), then_);
+          });
+}
+
+TEST_F(RestoreSweepTest, AFinishThatIsStoppedIsDoneByTheNextOne) {
+    const RestorePoint target = playAfterPoint();
+    int renames = 0;
+    runWithHeldCalls([&] { goBack(points(), target, game(), allNeighborhoods, later); },
+                     [&](const seccomp_data& call) {
+                         const bool isInTheMiddle = call.nr == SYS_renameat && ++renames == 4;
+                         return isInTheMiddle ? endProcess : carryOut;
+                     });
+    ASSERT_TRUE(withoutParts() != before_ && withoutParts() != then_);
+    keep();
+    for (const Finish how : {Finish::complete, Finish::undo})
+        sweep([&] { finishGoingBack(points(), how, latest); },
+              [&] {
+                  expectWholeFiles();
+                  if (unfinishedGoingBack(points())) inChild([&] { finishGoingBack(points(), how, latest); });
+                  EXPECT_FALSE(unfinishedGoingBack(points()));
+                  EXPECT_EQ(withoutParts(), how == Finish::undo ? before_ : then_);
+              });
 }
 
 }  // namespace
