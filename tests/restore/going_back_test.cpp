@@ -1,4 +1,7 @@
+#include "sample/fact_template.h"
+#include "sample/installation.h"
 #include "tests/restore/restore_test.h"
+#include "world/neighborhood.h"
 
 namespace {
 
@@ -33,10 +36,33 @@ TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
     EXPECT_EQ(goBackTo(before, 1).present.name, "") << "nothing differs any more";
 }
 
-// Sessions at random: a file comes, goes, or changes its bytes, its time or its mode.
+// Sessions at random: children and teens grow up, others move out, and the game's files come, go, or change their
+// bytes, their time or their mode.
 TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
+    files_.remove("game");
+    ASSERT_TRUE(writeInstallation(files_.path("prefix")) && writeTemplates(files_.path()));
+    fs::copy(gameDirectory(files_.path("prefix")), files_.path("game"), fs::copy_options::recursive);
+    int grown = 0, movedOut = 0;
     std::mt19937 random(20261125);
     const auto below = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
+    const auto save = [&](const std::string& directory) {
+        Neighborhood read;
+        read.load((game() + directory).c_str(), "neighborhood.iff");
+        for (int i = 0; i < read.familyCount(); ++i)
+            read.family(i)->memberCount();
+        for (int i = 0; i < read.simCount(); ++i) {
+            Sim& sim = *read.sim(i);
+            if (sim.family() == nullptr || sim.bodyStrings() == nullptr || below(4) != 0) continue;
+            if (sim.stage() == stageNumber::adult) {
+                sim.splitToNewFamily("Thistlewood", 20'000);
+                ++movedOut;
+                break;
+            }
+            if (sim.setStage(sim.stage() == stageNumber::child ? stageNumber::teen : stageNumber::adult, {}) > 0)
+                ++grown;
+        }
+        read.save(files_.path().c_str());
+    };
     const auto play = [&] {
         for (int changes = below(6); changes >= 0; --changes) {
             const std::string number = std::to_string(below(9)), directory = below(2) == 0 ? "UserData" : "UserData2";
@@ -54,9 +80,8 @@ TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
                 fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                                 fs::perm_options::remove);
         }
-        files_.write("game/UserData/Neighborhood.iff", std::to_string(random()));
+        save(below(2) == 0 ? "UserData" : "UserData3");
     };
-    files_.remove(live);
     std::map<std::string, std::map<std::string, Whole>> states;
     std::vector<std::string> names;
     for (int sessions = 0; sessions < 8; ++sessions) {
@@ -74,6 +99,7 @@ TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
         ASSERT_EQ(goBackTo(there.present.name).error, "");
         EXPECT_EQ(whole(), before);
     }
+    EXPECT_GT(std::min(grown, movedOut), 5);
 }
 
 TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
