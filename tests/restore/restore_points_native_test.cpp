@@ -1,7 +1,10 @@
-// Names that only native file systems have, links, and files of a size that takes no room.
+// Names that only native file systems have, links, full disks and files of a size that takes no room.
+#include <sched.h>
+#include <sys/mount.h>
 #include <unistd.h>
 
 #include "tests/restore/restore_test.h"
+#include "tests/support/native/held_calls.h"
 
 namespace {
 
@@ -68,6 +71,69 @@ TEST_F(RestorePointsNativeTest, WithoutRoomNothingIsMadeAndTheRoomIsSaid) {
     EXPECT_GT(made.neededBytes, 8LL << 40);
     EXPECT_LT(made.availableBytes, made.neededBytes);
     EXPECT_EQ(treeOf(files_.path("points")), Tree());
+}
+
+TEST_F(RestorePointsNativeTest, WithoutHardLinksEachPointHasItsOwnFiles) {
+    const auto withoutLinks = [](const std::function<void()>& act) {
+        runWithHeldCalls(act, [](const seccomp_data& call) { return call.nr == SYS_linkat ? EPERM : carryOut; });
+    };
+    const auto then = whole();
+    const std::string first = make().name;
+    files_.write(live, "played");
+    files_.remove(ann);
+    const auto since = whole();
+    withoutLinks([&] {
+        make();
+        goBackTo(first);
+    });
+    EXPECT_EQ(whole(), then);
+    auto all = listRestorePoints(points());
+    checkPoints(points(), all);
+    ASSERT_EQ(all.size(), 3U);
+    for (const auto& entry : fs::recursive_directory_iterator(points()))
+        EXPECT_TRUE(entry.is_directory() || entry.hard_link_count() == 1) << entry.path();
+    withoutLinks([&] { goBackTo(all[0].name); });
+    EXPECT_EQ(whole(), since);
+}
+
+// With each amount of room from none to enough, on the game's disk or on that of the points.
+TEST_F(RestorePointsNativeTest, OnAFullDiskAGoingBackIsDoneOrHasNotBegun) {
+    if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+        GTEST_SKIP() << "only root mounts a small disk";
+    files_.write(live, std::string(20'000, 'a'));
+    fs::rename(files_.path("game"), files_.path("kept"));
+    for (const char* full : {"game", "points"}) {
+        SCOPED_TRACE(full);
+        for (const char* directory : {"game", "points"})
+            files_.makeDirectory(directory);
+        const std::string disk = files_.path(full);
+        ASSERT_EQ(mount("tidewright-test", disk.c_str(), "tmpfs", 0, "size=4m"), 0);
+        fs::copy(files_.path("kept"), files_.path("game"), fs::copy_options::recursive);
+        const std::string target = make().name;
+        const auto then = whole();
+        files_.write(live, std::string(30'000, 'b'));
+        files_.write("game/UserData/Houses/House02.iff", "built");
+        const auto before = whole();
+        GoneBack gone{"not tried", false, {}};
+        int pages = 0;
+        for (; !gone.error.empty() && pages < 40; ++pages) {
+            const auto room = fs::space(disk);
+            const std::string size = "size=" + std::to_string(room.capacity - room.free + pages * 4096);
+            ASSERT_EQ(mount(nullptr, disk.c_str(), nullptr, MS_REMOUNT, size.c_str()), 0);
+            gone = goBackTo(target);
+            EXPECT_EQ(whole(), gone.error.empty() ? then : before);
+            EXPECT_FALSE(unfinishedGoingBack(points()));
+            EXPECT_EQ(point(target).damage, "");
+        }
+        EXPECT_GT(pages, 5);
+        EXPECT_EQ(gone.error, "");
+        ASSERT_EQ(mount(nullptr, disk.c_str(), nullptr, MS_REMOUNT, "size=4m"), 0);
+        EXPECT_EQ(goBackTo(gone.present.name).error, "");
+        EXPECT_EQ(whole(), before);
+        umount2(disk.c_str(), MNT_DETACH);
+        for (const char* directory : {"game", "points"})
+            files_.remove(directory);
+    }
 }
 
 }  // namespace
