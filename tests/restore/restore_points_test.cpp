@@ -82,7 +82,7 @@ TEST_F(RestorePointsTest, APointThatIsNotAsNotedIsListedSoAndIsNotGoneBackTo) {
         return std::string(bytes.begin(), bytes.end());
     };
     // With the checksum that belongs to the new text.
-    const auto note = [&](const std::string& from, const std::string& to) {
+    const auto note = [&](const std::string& from, const std::string& to, int files = 4) {
         std::string changed = text();
         changed.replace(changed.find(from), from.size(), to);
         const std::size_t lastLine = changed.rfind("end ");
@@ -90,8 +90,11 @@ TEST_F(RestorePointsTest, APointThatIsNotAsNotedIsListedSoAndIsNotGoneBackTo) {
         sum.add(bytesFrom(changed.substr(0, lastLine)));
         std::array<char, 16> checksum{};
         std::snprintf(checksum.data(), checksum.size(), "%08x", static_cast<unsigned>(sum.checksum));
-        files_.write(list, changed.substr(0, lastLine) + "end 4 " + checksum.data() + "\n");
+        files_.write(list, changed.substr(0, lastLine) + "end " + std::to_string(files) + " " + checksum.data() + "\n");
     };
+    std::string thousands;
+    for (int number = 10'000; number < 15'000; ++number)
+        thousands += "file 7 9ae0daaf 0 644 UserData/Houses/House" + std::to_string(number) + ".iff\n";
     const struct {
         const char* what;
         std::function<void()> spoil;
@@ -107,12 +110,17 @@ TEST_F(RestorePointsTest, APointThatIsNotAsNotedIsListedSoAndIsNotGoneBackTo) {
         {"a file that a point leaves out", [&] { note("House01", "TMPHouse01"); }},
         {"a file outside the neighborhoods", [&] { note("UserData2/", "GameData/"); }},
         {"a path twice", [&] { note(house, "UserData/Characters/User00001.iff"); }},
+        {"a path with a line break", [&] { note("House01", "House\n01"); }},
+        {"thousands of files that aren't there",
+         [&] { note("UserData/Houses/House01.iff\n", "UserData/Houses/House01.iff\n" + thousands, 5004); }},
         {"a path with a zero byte", [&] { note("House01", "House01%00"); }},
         {"a negative size", [&] { note("file 7 ", "file -7 "); }},
         {"a missing file", [&] { files_.remove(path + house); }},
         {"a directory for a file", [&] { files_.remove(path + house), files_.makeDirectory(path + house); }},
         {"another size", [&] { files_.write(path + house, "a house!"); }},
         {"other bytes", [&] { files_.write(path + house, "a mouse"); }},
+        {"another name of the directory",
+         [&] { fs::rename(files_.path("points/" + good), files_.path("points/other")); }},
         {"no directory", [&] { files_.remove("points/" + good); }},
     };
     files_.write(live, "played since");
