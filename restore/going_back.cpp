@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/letter_case.h"
 #include "platform/part_names.h"
+#include "restore/game_comparison.h"
 #include "restore/going_note.h"
 #include "restore/point_check.h"
 #include "restore/point_files.h"
@@ -220,13 +221,11 @@ GoneBack refused(const std::string& error) {
     return {error, false, {}};
 }
 
-// Compares the game's files themselves. No value if they can't be read.
-std::optional<Steps> stepsFromLive(const FileTree& points, const FileTree& live, const RestorePoint& target,
-                                   int neighborhood, std::string& error) {
-    const auto found = filesOfNeighborhoods(live, error);
-    if (!found) return std::nullopt;
-    return stepsBetween(found->files, target.files, neighborhood, [&](const LiveFile& one, const PointFile& file) {
-        return live.hasSameBytes(one.path, points, target.name + '/' + file.path);
+// Compares the game's files themselves.
+Steps stepsFromLive(GameComparison& comparison, const std::vector<LiveFile>& found, const RestorePoint& target,
+                    int neighborhood) {
+    return stepsBetween(found, target.files, neighborhood, [&](const LiveFile& one, const PointFile& file) {
+        return comparison.areSame(one, target.name + '/' + file.path);
     });
 }
 
@@ -254,14 +253,15 @@ std::string swappedKind(const FileTree& live, const NeighborhoodFiles& found, co
     return {};
 }
 
-// Compares the point of the present, which has the same bytes as the game's files, with the target. Where both have
-// one and the same file, nothing needs to be read.
-Steps stepsFromPresent(const FileTree& points, const RestorePoint& present, const RestorePoint& target,
-                       int neighborhood) {
+// Compares the point of the present, which has the same bytes as the game's files, with the target. What is known of
+// the game's files needn't be read.
+Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison, const RestorePoint& present,
+                       const RestorePoint& target, int neighborhood) {
     return stepsBetween(present.files, target.files, neighborhood, [&](const PointFile& one, const PointFile& file) {
         const std::string path = present.name + '/' + one.path, targetPath = target.name + '/' + file.path;
         if (one.checksum != file.checksum) return false;
-        return points.idOf(path) == points.idOf(targetPath) || points.hasSameBytes(path, points, targetPath);
+        return comparison.areKnownSame({one.path, one.stamp}, targetPath) ||
+               points.hasSameBytes(path, points, targetPath);
     });
 }
 
@@ -338,12 +338,13 @@ std::optional<PointComparison> compareWithPoint(const std::string& pointsDirecto
                                                 const std::string& simsDirectory, int neighborhood,
                                                 std::string& error) {
     const FileTree points(pointsDirectory, FileTree::Links::refused);
-    const FileTree live(simsDirectory, FileTree::Links::followed);
-    auto steps = stepsFromLive(points, live, point, neighborhood, error);
-    if (!steps) return std::nullopt;
-    joinSpellings(live, *steps);
+    GameComparison files(simsDirectory, points);
+    const auto found = filesOfNeighborhoods(files.game(), error);
+    if (!found) return std::nullopt;
+    Steps steps = stepsFromLive(files, found->files, point, neighborhood);
+    joinSpellings(files.game(), steps);
     PointComparison comparison;
-    for (const Step& step : *steps) {
+    for (const Step& step : steps) {
         if (step.kind == Step::Kind::come) {
             comparison.toCome.push_back(step.path);
         } else if (step.kind == Step::Kind::go) {
@@ -361,31 +362,32 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     if (store.isUnavailable()) return refused(store.refusal());
     const std::string refusal = refusalOf(store, simsDirectory, point);
     if (!refusal.empty()) return refused(refusal);
-    const FileTree live(simsDirectory, FileTree::Links::followed);
+    GameComparison comparison(simsDirectory, store.tree());
+    const FileTree& live = comparison.game();
     const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
     if (!locks.refusal().empty()) return refused(locks.refusal());
     locks.clearParts(live, simsDirectory);
 
     std::string error;
     const auto found = filesOfNeighborhoods(live, error);
-    auto steps = stepsFromLive(store.tree(), live, point, neighborhood, error);
-    if (!found || !steps) return refused(error);
-    joinSpellings(live, *steps);
-    error = swappedKind(live, *found, *steps);
+    if (!found) return refused(error);
+    Steps steps = stepsFromLive(comparison, found->files, point, neighborhood);
+    joinSpellings(live, steps);
+    error = swappedKind(live, *found, steps);
     if (!error.empty()) return refused(error);
-    if (steps->empty()) {
+    if (steps.empty()) {
         RestorePoint checked = point;
         return isWhole(pointsDirectory, checked) ? GoneBack{} : refused(notWhole(checked.damage));
     }
 
-    const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time);
+    const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time, comparison);
     if (made.name.empty()) return {made.error, false, made};
     const std::vector<RestorePoint> all = readPoints(store.tree()).value_or(std::vector<RestorePoint>());
     const RestorePoint* const present = named(all, made.name);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
-    const std::string damage = damageBeside(store.tree(), point, *present);
+    const std::string damage = damageBeside(store.tree(), point, *present, comparison);
     if (!damage.empty()) return {notWhole(damage), false, made};
-    Way way(store.tree(), live, point, stepsFromPresent(store.tree(), *present, point, neighborhood));
+    Way way(store.tree(), live, point, stepsFromPresent(store.tree(), comparison, *present, point, neighborhood));
     GoneBack result =
         follow(pointsDirectory, store, way, {point.name, made.name, gameOf(simsDirectory), neighborhood}, false);
     result.present = made;
@@ -414,22 +416,24 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     }
     const RestorePoint* const other = named(all, how == Finish::complete ? note->before : note->target);
     if (!isSameGame(target.simsDirectory, note->simsDirectory)) return {"The note is of another game.", true, {}};
-    const FileTree live(note->simsDirectory, FileTree::Links::followed);
+    GameComparison comparison(note->simsDirectory, store.tree());
+    const FileTree& live = comparison.game();
     const NeighborhoodLocks locks(live, note->simsDirectory, note->neighborhood);
     if (!locks.refusal().empty()) return {locks.refusal(), true, {}};
     locks.clearParts(live, note->simsDirectory);
 
     std::string error;
-    const auto steps = stepsFromLive(store.tree(), live, target, note->neighborhood, error);
-    if (!steps) return {error, true, {}};
-    const auto toOther =
-        other != nullptr ? stepsFromLive(store.tree(), live, *other, note->neighborhood, error) : steps;
+    const auto found = filesOfNeighborhoods(live, error);
+    if (!found) return {error, true, {}};
+    const Steps steps = stepsFromLive(comparison, found->files, target, note->neighborhood);
+    const Steps toOther =
+        other != nullptr ? stepsFromLive(comparison, found->files, *other, note->neighborhood) : steps;
     MadePoint made;
-    if (!toOther || haveOthersChanged(*steps, *toOther)) {
-        made = store.make(note->simsDirectory, PointReason::goingBack, time);
+    if (haveOthersChanged(steps, toOther)) {
+        made = store.make(note->simsDirectory, PointReason::goingBack, time, comparison);
         if (made.name.empty()) return {made.error, true, made};
     }
-    Way way(store.tree(), live, target, *steps);
+    Way way(store.tree(), live, target, steps);
     GoneBack result = follow(pointsDirectory, store, way, *note, true);
     result.present = made;
     return result;

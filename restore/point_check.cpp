@@ -36,14 +36,15 @@ std::string damageOf(const FileTree& points, const RestorePoint& point, KnownSum
     return {};
 }
 
-std::string damageBeside(const FileTree& points, const RestorePoint& point, const RestorePoint& present) {
+std::string damageBeside(const FileTree& points, const RestorePoint& point, const RestorePoint& present,
+                         const GameComparison& comparison) {
     for (const PointFile& file : point.files) {
         const std::string path = point.name + '/' + file.path;
-        if (!points.stampOf(path)) return missing(file);
         const auto other = std::ranges::lower_bound(present.files, file.path, {}, &PointFile::path);
-        const bool isCommon = other != present.files.end() && *other == file &&
-                              points.idOf(path) == points.idOf(present.name + '/' + file.path);
-        if (!isCommon && checksumOf(points, path, file.stamp.size) != file.checksum) return changed(file);
+        const bool isCommon = other != present.files.end() && *other == file;
+        if (isCommon && comparison.areKnownSame({other->path, other->stamp}, path)) continue;
+        if (!points.stampOf(path)) return missing(file);
+        if (checksumOf(points, path, file.stamp.size) != file.checksum) return changed(file);
     }
     return {};
 }

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/file_tree.h"
+#include "restore/game_comparison.h"
 #include "restore/restore_points.h"
 
 // Sums by the file that they were taken of. Most files of a point are also those of another one.
@@ -24,8 +25,9 @@ class KnownSums {
 // A sentence that names the first file that isn't as noted; empty if all are.
 std::string damageOf(const FileTree& points, const RestorePoint& point, KnownSums& sums);
 
-// The same for a point from which one was made just now: files that both have in common were compared with the game's
-// then, and aren't read again.
-std::string damageBeside(const FileTree& points, const RestorePoint& point, const RestorePoint& present);
+// The same beside a point of the present, which was made just now with this comparison: files that are known to be the
+// game's aren't read again.
+std::string damageBeside(const FileTree& points, const RestorePoint& point, const RestorePoint& present,
+                         const GameComparison& comparison);
 
 #endif

@@ -99,9 +99,14 @@ std::string freeName(const std::vector<TreeEntry>& entries, const std::string& w
 // Makes one point, out of the live files and of the point before.
 class Making {
  public:
-    Making(const FileTree& live, const FileTree& points, const std::string& directory,
+    Making(GameComparison& comparison, const FileTree& points, const std::string& directory,
            const std::vector<RestorePoint>& all, RestorePoint& point)
-        : live_(live), points_(points), directory_(directory), point_(point), part_(partName(point.name, 0)) {
+        : comparison_(comparison),
+          live_(comparison.game()),
+          points_(points),
+          directory_(directory),
+          point_(point),
+          part_(partName(point.name, 0)) {
         const auto before = std::ranges::find_if(all, [&](const RestorePoint& one) {
             return one.damage.empty() && isSameGame(one.simsDirectory, point.simsDirectory);
         });
@@ -165,7 +170,7 @@ class Making {
             return false;
         }
         const PointFile* const older = like(file);
-        if (older != nullptr && linkTo(*older, path)) {
+        if (older != nullptr && linkTo(file, *older, path)) {
             point_.files.push_back(*older);
             return true;
         }
@@ -180,11 +185,12 @@ class Making {
         return true;
     }
 
-    bool linkTo(const PointFile& older, const std::string& path) const {
+    bool linkTo(const LiveFile& file, const PointFile& older, const std::string& path) const {
         const std::string olderPath = before_->name + '/' + older.path;
-        return live_.hasSameBytes(older.path, points_, olderPath) && points_.link(olderPath, path);
+        return comparison_.areSame(file, olderPath) && points_.link(olderPath, path);
     }
 
+    GameComparison& comparison_;
     const FileTree& live_;
     const FileTree& points_;
     const std::string& directory_;  // of all points
@@ -222,10 +228,10 @@ void PointStore::clearLeftOvers() const {
     clearLeftOverParts(directory_.c_str());
 }
 
-MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason, const SYSTEMTIME& time) const {
+MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason, const SYSTEMTIME& time,
+                           GameComparison& comparison) const {
     MadePoint made;
-    const FileTree live(simsDirectory, FileTree::Links::followed);
-    const auto found = filesOfNeighborhoods(live, made.error);
+    const auto found = filesOfNeighborhoods(comparison.game(), made.error);
     if (!found) return made;
     if (found->files.empty()) made.error = "There is no neighborhood in " + simsDirectory;
     const auto entries = tree_.entriesOf("");
@@ -238,7 +244,7 @@ MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason,
     point.reason = reason;
     point.sessionEnded = reason != PointReason::evening;
     point.simsDirectory = gameOf(simsDirectory);
-    Making making(live, tree_, directory_, all, point);
+    Making making(comparison, tree_, directory_, all, point);
     if (making.make(found->files, made) && writeText(point) && tree_.renameDirectory(making.part(), point.name)) {
         tree_.sync("");
         made.name = point.name;

@@ -8,6 +8,7 @@
 
 #include "platform/file_tree.h"
 #include "platform/files.h"
+#include "restore/game_comparison.h"
 #include "restore/restore_points.h"
 
 class PointStore {
@@ -22,8 +23,9 @@ class PointStore {
 
     const FileTree& tree() const { return tree_; }
 
-    // Makes a point of the present.
-    MadePoint make(const std::string& simsDirectory, PointReason reason, const SYSTEMTIME& time) const;
+    // Makes a point of the present. `comparison` is of the same game and these points.
+    MadePoint make(const std::string& simsDirectory, PointReason reason, const SYSTEMTIME& time,
+                   GameComparison& comparison) const;
 
     // Deletes the oldest points beyond `keptPoints`, but none of `needed`, and none that a going back that was cut off
     // needs.

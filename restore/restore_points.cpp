@@ -35,7 +35,8 @@ MadePoint makeRestorePoint(const std::string& pointsDirectory, const std::string
                            const SYSTEMTIME& time) {
     const PointStore store(pointsDirectory);
     if (store.isUnavailable()) return {{}, store.refusal()};
-    MadePoint made = store.make(simsDirectory, reason, time);
+    GameComparison comparison(simsDirectory, store.tree());
+    MadePoint made = store.make(simsDirectory, reason, time, comparison);
     if (!made.name.empty()) store.deleteOldest({made.name});
     return made;
 }
