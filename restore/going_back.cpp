@@ -199,16 +199,17 @@ class NeighborhoodLocks {
 
     const std::string& refusal() const { return refusal_; }
 
-    // Only where no other program can be writing them.
-    void clearParts(const FileTree& live, const std::string& simsDirectory) const {
-        std::string ignored;
-        const auto found = filesOfNeighborhoods(live, ignored);
-        if (!found) return;
-        for (std::string directory : found->directories) {
+    // Finds the game's files, after clearing away what other programs left half-done where none can be writing now.
+    std::optional<NeighborhoodFiles> findFiles(const FileTree& live, const std::string& simsDirectory,
+                                               std::string& error) const {
+        auto found = filesOfNeighborhoods(live, error);
+        if (!found || found->withParts.empty()) return found;
+        for (std::string directory : found->withParts) {
             if (std::ranges::find(held_, directory.substr(0, directory.find('/'))) == held_.end()) continue;
             std::ranges::replace(directory, '/', '\\');
             clearLeftOverParts((simsDirectory + directory).c_str());
         }
+        return filesOfNeighborhoods(live, error);
     }
 
  private:
@@ -366,10 +367,8 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     const FileTree& live = comparison.game();
     const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
     if (!locks.refusal().empty()) return refused(locks.refusal());
-    locks.clearParts(live, simsDirectory);
-
     std::string error;
-    const auto found = filesOfNeighborhoods(live, error);
+    const auto found = locks.findFiles(live, simsDirectory, error);
     if (!found) return refused(error);
     Steps steps = stepsFromLive(comparison, found->files, point, neighborhood);
     joinSpellings(live, steps);
@@ -420,10 +419,8 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     const FileTree& live = comparison.game();
     const NeighborhoodLocks locks(live, note->simsDirectory, note->neighborhood);
     if (!locks.refusal().empty()) return {locks.refusal(), true, {}};
-    locks.clearParts(live, note->simsDirectory);
-
     std::string error;
-    const auto found = filesOfNeighborhoods(live, error);
+    const auto found = locks.findFiles(live, note->simsDirectory, error);
     if (!found) return {error, true, {}};
     const Steps steps = stepsFromLive(comparison, found->files, target, note->neighborhood);
     const Steps toOther =

@@ -53,9 +53,7 @@ class Walk {
         if (!directory.empty()) found_.directories.push_back(directory);
         for (const TreeEntry& entry : *entries) {
             const std::string path = directory.empty() ? entry.name : directory + '/' + entry.name;
-            if (entry.kind == TreeEntry::Kind::file && !directory.empty() && !isLeftOut(entry.name)) {
-                found_.files.push_back({path, entry.stamp});
-            }
+            if (entry.kind == TreeEntry::Kind::file && !directory.empty()) addFile(directory, path, entry);
             if (entry.kind == TreeEntry::Kind::directory && isEntered(directory, entry) && !walk(path)) {
                 return false;
             }
@@ -69,6 +67,14 @@ class Walk {
     }
 
  private:
+    void addFile(const std::string& directory, const std::string& path, const TreeEntry& entry) {
+        if (!fileBehind(entry.name).empty()) {
+            found_.withParts.push_back(directory);
+        } else if (!isLeftOut(entry.name)) {
+            found_.files.push_back({path, entry.stamp});
+        }
+    }
+
     static bool isEntered(const std::string& directory, const TreeEntry& entry) {
         if (directory.empty()) return neighborhoodNumber(entry.name) != 0;
         // What a link leads to isn't the neighborhood's own, and nothing there may be deleted.

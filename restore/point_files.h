@@ -29,6 +29,7 @@ std::string fileBehind(std::string_view name);
 struct NeighborhoodFiles {
     std::vector<LiveFile> files;  // sorted by their paths
     std::vector<std::string> directories;
+    std::vector<std::string> withParts;  // those with files of fileBehind; one can be there several times
 };
 
 // The files of all neighborhoods, and the directories that they can be in. No value if not all can be found, with why
