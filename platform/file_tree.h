@@ -96,9 +96,10 @@ class FileTree {
     bool removeFile(const std::string& file) const;
     bool removeDirectory(const std::string& directory) const;
 
-    // Writes a directory's entries through to the disk, or all that was written and renamed below the root.
+    // Writes a directory's entries through to the disk, or all that was written and renamed on the disk where it is: a
+    // directory that is a link may be on another one than the root.
     bool sync(const std::string& directory) const;
-    bool syncAll() const;
+    bool syncAll(const std::string& directory) const;
 
     // Whether it can be the name of an entry, and leads nowhere else: it is neither ".." nor made of several
     // components.

@@ -118,7 +118,7 @@ class Way {
             const bool needsPart = step.kind == Step::Kind::replace || step.kind == Step::Kind::come;
             if (needsPart && !makePart(*step.file, parts_[i], error)) return false;
         }
-        if (live_.syncAll()) return true;
+        if (areFew() || syncDisks()) return true;
         error = failureOf("The disk doesn't take the files of", target_.name);
         return false;
     }
@@ -130,16 +130,42 @@ class Way {
             error = failureOf("The file can't be replaced or deleted", steps_[i].path);
             return false;
         }
-        if (live_.syncAll()) return true;
+        if (areNamesAlone() ? syncDirectories() : syncDisks()) return true;
         error = failureOf("The disk doesn't take the files of", target_.name);
         return false;
     }
 
  private:
+    bool areFew() const { return steps_.size() <= fewFiles; }
+
+    // Whether all that is left to sync are the names in the files' directories.
+    bool areNamesAlone() const {
+        return areFew() && !hasNewDirectory_ &&
+               std::ranges::find(steps_, Step::Kind::stamp, &Step::kind) == steps_.end();
+    }
+
+    bool syncDirectories() const {
+        std::set<std::string> directories;
+        for (const Step& step : steps_) {
+            directories.insert(step.path.substr(0, step.path.rfind('/')));
+        }
+        return std::ranges::all_of(directories, [&](const std::string& one) { return live_.sync(one); });
+    }
+
+    // Each neighborhood can be a link to another disk.
+    bool syncDisks() const {
+        std::set<std::string> directories;
+        for (const Step& step : steps_) {
+            directories.insert(step.path.substr(0, step.path.find('/')));
+        }
+        return std::ranges::all_of(directories, [&](const std::string& one) { return live_.syncAll(one); });
+    }
+
     bool makePart(const PointFile& file, std::string& part, std::string& error) {
-        const std::size_t slash = file.path.rfind('/');
-        if (!live_.makeDirectories(file.path.substr(0, slash))) {
-            error = failureOf("The directory can't be made", file.path.substr(0, slash));
+        const std::string directory = file.path.substr(0, file.path.rfind('/'));
+        hasNewDirectory_ = hasNewDirectory_ || !live_.idOf(directory);
+        if (!live_.makeDirectories(directory)) {
+            error = failureOf("The directory can't be made", directory);
             return false;
         }
         std::optional<std::uint32_t> checksum;
@@ -148,7 +174,8 @@ class Way {
         for (int number = 0; number < partNumbers && !checksum; ++number) {
             const std::string name = partName(file.path, number);
             if (live_.stampOf(name)) continue;
-            checksum = copyFile(points_, from, live_, name, file.stamp, FileTree::Sync::later, error);
+            checksum = copyFile(points_, from, live_, name, file.stamp,
+                                areFew() ? FileTree::Sync::now : FileTree::Sync::later, error);
             if (!checksum) return false;
             part = name;
         }
@@ -176,6 +203,7 @@ class Way {
     const RestorePoint& target_;
     Steps steps_;
     std::vector<std::string> parts_;  // by step; empty without one
+    bool hasNewDirectory_ = false;
 };
 
 // The locks of a save on each neighborhood's directory.

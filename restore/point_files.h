@@ -52,6 +52,9 @@ std::optional<std::string> textOfFile(const FileTree& tree, const std::string& f
 // isn't on the disk.
 bool writeText(const std::string& directory, const std::string& name, const std::string& text);
 
+// So many new files are synced one by one. More take less time all together, unless other programs have written much.
+constexpr std::size_t fewFiles = 8;
+
 // A file and why the last operation on it failed, as a sentence.
 std::string failureOf(std::string_view what, const std::string& path);
 

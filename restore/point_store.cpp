@@ -23,9 +23,6 @@ const std::string& made(const std::string& directory) {
     return directory;
 }
 
-// So many are synced one by one. More take less time all together, unless other programs have written much.
-constexpr int fewCopies = 8;
-
 std::string textFile(const std::string& name) {
     return name + std::string(textSuffix);
 }
@@ -125,7 +122,7 @@ class Making {
         for (const LiveFile& file : files) {
             if (!add(file, failure.error)) return false;
         }
-        if (copies_ <= fewCopies || points_.syncAll()) return true;
+        if (copies_ <= fewFiles || points_.syncAll("")) return true;
         failure.error = failureOf("The disk doesn't take the restore point", point_.name);
         return false;
     }
@@ -174,7 +171,7 @@ class Making {
             point_.files.push_back(*older);
             return true;
         }
-        const auto sync = ++copies_ <= fewCopies ? FileTree::Sync::now : FileTree::Sync::later;
+        const auto sync = ++copies_ <= fewFiles ? FileTree::Sync::now : FileTree::Sync::later;
         const auto checksum = copyFile(live_, file.path, points_, path, file.stamp, sync, error);
         if (!checksum) return false;
         if (live_.stampOf(file.path) != file.stamp) {
@@ -197,7 +194,7 @@ class Making {
     RestorePoint& point_;
     const RestorePoint* before_ = nullptr;
     std::string part_;
-    int copies_ = 0;
+    std::size_t copies_ = 0;
 };
 
 }  // namespace

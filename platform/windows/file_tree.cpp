@@ -341,7 +341,7 @@ bool FileTree::sync(const std::string& directory) const {
     return isSynced || (error != ERROR_CRC && error != ERROR_IO_DEVICE && error != ERROR_WRITE_FAULT);
 }
 
-bool FileTree::syncAll() const {
+bool FileTree::syncAll(const std::string&) const {
     return true;
 }
 

@@ -302,8 +302,9 @@ bool FileTree::sync(const std::string& directory) const {
 }
 
 // One call for all files: each alone would wait for the disk.
-bool FileTree::syncAll() const {
-    return done(syncfs(state_->root));
+bool FileTree::syncAll(const std::string& directory) const {
+    const int in = state_->directory(directory);
+    return done(in < 0 ? in : syncfs(in));
 }
 
 bool FileTree::isName(std::string_view name) {
