@@ -11,17 +11,6 @@
 
 namespace {
 
-std::string wordsFor(const RestorePoint& point) {
-    return whenWords(point.time, presentTime());
-}
-
-// As the window's list shows it; on the console the name, which --to takes.
-std::string titleOf(const std::string& name, const PointsOfGame& game) {
-    const std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
-    const auto point = std::ranges::find(points, name, &RestorePoint::name);
-    return game.onConsole || point == points.end() ? name : pointTitle(*point, presentTime());
-}
-
 std::string megabytes(std::int64_t bytes) {
     constexpr std::int64_t megabyte = 1'000'000;
     return withCommas((bytes + megabyte - 1) / megabyte) + " MB";
@@ -36,6 +25,13 @@ bool isRefused(const PointsOfGame& game) {
 }
 
 }  // namespace
+
+std::string titleOf(const std::string& name, const PointsOfGame& game) {
+    const std::vector<RestorePoint> points = listRestorePoints(game.pointsDirectory);
+    const auto point = std::ranges::find(points, name, &RestorePoint::name);
+    if (game.onConsole || point == points.end()) return name;
+    return pointTitles(points, presentTime())[static_cast<std::size_t>(point - points.begin())];
+}
 
 std::string sentenceOf(const MadePoint& made) {
     if (!made.needsRoom) return made.error;
@@ -52,7 +48,7 @@ std::string sentenceOf(const GoneBack& gone) {
 
 bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
     if (isRefused(game)) return false;
-    std::string question = "Go back to " + wordsFor(point) + "?\n";
+    std::string question = "Go back to \"" + titleOf(point.name, game) + "\"?\n";
     const std::vector<std::string> lines =
         comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood);
     if (point.damage.empty() && lines.size() == 1) {
@@ -66,7 +62,7 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
     if (point.damage.empty() && !confirm(question, game.onConsole)) return false;
     const GoneBack gone = goBack(game.pointsDirectory, point, game.simsDirectory, neighborhood);
     if (gone.error.empty()) {
-        say("The game is back at the restore point of " + wordsFor(point) + ". To undo this, go back to \"" +
+        say("The game is back at the restore point \"" + titleOf(point.name, game) + "\". To undo this, go back to \"" +
                 titleOf(gone.present.name, game) + "\".",
             game.onConsole);
         return true;
@@ -78,21 +74,24 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
 bool makePoint(const PointsOfGame& game) {
     if (isRefused(game)) return false;
     const MadePoint made = makeRestorePoint(game.pointsDirectory, game.simsDirectory, PointReason::byHand);
-    say(made.name.empty() ? sentenceOf(made) : "The restore point \"" + made.name + "\" is made.", game.onConsole);
+    say(made.name.empty() ? sentenceOf(made) : "The restore point \"" + titleOf(made.name, game) + "\" is made.",
+        game.onConsole);
     return !made.name.empty();
 }
 
 bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point) {
-    const std::string question = "Delete the restore point \"" + point.name + "\"? You can't go back to it then.";
+    const std::string title = titleOf(point.name, game);
     const auto note = unfinishedGoingBack(game.pointsDirectory);
     if (note && note->needs(point.name)) {
         say("A going back that was cut off needs this restore point. It can be deleted when that is finished.",
             game.onConsole);
         return false;
     }
-    if (!confirm(question, game.onConsole)) return false;
+    if (!confirm("Delete the restore point \"" + title + "\"? You can't go back to it then.", game.onConsole)) {
+        return false;
+    }
     if (deleteRestorePoint(game.pointsDirectory, point.name)) return true;
-    say("The restore point can't be deleted whole: " + point.name, game.onConsole);
+    say("The restore point can't be deleted whole: " + title, game.onConsole);
     return false;
 }
 
@@ -106,7 +105,7 @@ bool finishEarlier(const PointsOfGame& game) {
     if (!note || !isCutOff(game)) return true;
     if (isRefused(game)) return false;
     const bool completes =
-        confirm("Going back to \"" + note->target +
+        confirm("Going back to \"" + titleOf(note->target, game) +
                     "\" was cut off. Every file is whole, but some are those of that "
                     "restore point and some are newer.\n\n[OK] goes back to it.\n[Cancel] goes to what was before.",
                 game.onConsole);

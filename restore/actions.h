@@ -23,6 +23,10 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
 bool makePoint(const PointsOfGame& game);
 bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point);
 
+// What the player is told that this point is called: as in the window's list, and on the console the name, which --to
+// takes.
+std::string titleOf(const std::string& name, const PointsOfGame& game);
+
 // Whether a going back in this game was cut off, and nothing else may be done before finishEarlier.
 bool isCutOff(const PointsOfGame& game);
 

@@ -78,12 +78,19 @@ std::string nothingDiffers(const RestorePoint& point, int neighborhood) {
     return "Neither the restore point nor the game has a Neighborhood " + std::to_string(neighborhood) + '.';
 }
 
+std::string titleOf(const RestorePoint& point, const SYSTEMTIME& now, bool withSeconds) {
+    const std::string when = point.time.wYear != 0 ? whenWords(point.time, now, withSeconds) : point.name;
+    const bool isPlain = !point.damage.empty() || point.reason == PointReason::evening;
+    return isPlain ? when : when + " (" + std::string(reasonText(point.reason)) + ')';
+}
+
 }  // namespace
 
-std::string whenWords(const SYSTEMTIME& time, const SYSTEMTIME& now) {
+std::string whenWords(const SYSTEMTIME& time, const SYSTEMTIME& now, bool withSeconds) {
     const SYSTEMTIME local = localTime(time), today = localTime(now);
-    std::array<char, 16> clock{};
-    std::snprintf(clock.data(), clock.size(), " %02u:%02u", local.wHour, local.wMinute);
+    std::array<char, 32> clock{};
+    std::snprintf(clock.data(), clock.size(), withSeconds ? " %02u:%02u:%02u" : " %02u:%02u", local.wHour,
+                  local.wMinute, local.wSecond);
     const long daysAgo = dayNumber(today) - dayNumber(local);
     if (daysAgo == 0) return std::string("today") + clock.data();
     if (daysAgo == 1) return std::string("yesterday") + clock.data();
@@ -118,10 +125,19 @@ std::string_view reasonText(PointReason reason) {
     }
 }
 
-std::string pointTitle(const RestorePoint& point, const SYSTEMTIME& now) {
-    const std::string when = point.time.wYear != 0 ? whenWords(point.time, now) : point.name;
-    const bool isPlain = !point.damage.empty() || point.reason == PointReason::evening;
-    return isPlain ? when : when + " (" + std::string(reasonText(point.reason)) + ')';
+std::vector<std::string> pointTitles(const std::vector<RestorePoint>& points, const SYSTEMTIME& now) {
+    std::vector<std::string> titles, exact;
+    for (const RestorePoint& point : points) {
+        titles.push_back(titleOf(point, now, false));
+        exact.push_back(titleOf(point, now, true));
+    }
+    const std::vector<std::string> plain = titles;
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        if (std::ranges::count(plain, plain[i]) > 1) titles[i] = exact[i];
+        const auto older = std::count(exact.begin() + static_cast<std::ptrdiff_t>(i) + 1, exact.end(), exact[i]);
+        if (older > 0) titles[i] += " (" + std::to_string(older + 1) + ')';
+    }
+    return titles;
 }
 
 std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,
@@ -146,9 +162,10 @@ std::vector<std::string> comparisonLines(const std::string& pointsDirectory, con
 std::vector<std::string> pointEntries(const std::string& pointsDirectory, const std::vector<RestorePoint>& points,
                                       const std::string& simsDirectory, const SYSTEMTIME& now) {
     std::vector<std::string> entries;
+    const std::vector<std::string> titles = pointTitles(points, now);
     const RestorePoint* newer = nullptr;  // the next point of the game that is whole
     for (const RestorePoint& point : points) {
-        std::string entry = pointTitle(point, now);
+        std::string entry = titles[entries.size()];
         if (point.damage.empty() && isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
             const std::string directory = pointsDirectory + '\\' + point.name + '\\';
             std::string error;

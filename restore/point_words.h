@@ -10,7 +10,7 @@
 
 // In local time as seen from `now`, both in UTC: "today 20:12", "yesterday 20:12", "24 November 20:12", and with the
 // year if that is another one.
-std::string whenWords(const SYSTEMTIME& time, const SYSTEMTIME& now);
+std::string whenWords(const SYSTEMTIME& time, const SYSTEMTIME& now, bool withSeconds = false);
 
 // "24 November" for "2026-11-24 ...", the form of platform/last_written.h; empty for another text.
 std::string dayWords(std::string_view lastWritten);
@@ -19,8 +19,9 @@ std::string dayWords(std::string_view lastWritten);
 std::string utcText(const SYSTEMTIME& time);
 std::string_view reasonText(PointReason reason);
 
-// The point in the list, without what happened after it: "today 20:12 (made before going back)".
-std::string pointTitle(const RestorePoint& point, const SYSTEMTIME& now);
+// The points in the list, without what happened after them: "today 20:12 (made before going back)". Those that would
+// read alike have the seconds, too, and those of the same second a number.
+std::vector<std::string> pointTitles(const std::vector<RestorePoint>& points, const SYSTEMTIME& now);
 
 // What the game's files are now, seen from a point: lines to be read, without line breaks. One line
 // alone says why there is nothing to go back to.

@@ -49,7 +49,7 @@ TEST_F(GoingBackWindowTest, AnEveningIsUndoneAndDoneAgain) {
              redone = goBack(controls, IDOK);
          }});
     EXPECT_TRUE(entry.ends_with(" - Clover Thistlewood became a teenager; Bramble Thistlewood moved out")) << entry;
-    EXPECT_NE(question.find("Go back to today"), std::string::npos) << question;
+    EXPECT_NE(question.find("Go back to \"today "), std::string::npos) << question;
     Tree saved = after;
     std::erase_if(saved, [](const auto& file) { return file.first.find("Backups/") != std::string::npos; });
     EXPECT_EQ(differences(saved, cancelled), "");

@@ -64,4 +64,16 @@ TEST_F(PointWordsTest, TheLinesSayWhatGoingBackWouldChange) {
               std::vector<std::string>{"Neither the restore point nor the game has a Neighborhood 2."});
 }
 
+TEST(PointTitlesTest, NoTwoReadAlike) {
+    const auto at = [](WORD second) {
+        return RestorePoint{"", {2026, 11, 0, 25, 12, 5, second, 0}, PointReason::evening, true, "", {}, ""};
+    };
+    std::vector<RestorePoint> points = {at(9), at(9), at(3), at(3)};
+    points[3].reason = PointReason::byHand;
+    std::string ends;
+    for (const std::string& title : pointTitles(points, {2026, 11, 0, 25, 13, 0, 0, 0}))
+        ends += title.substr(title.find(':')) + "; ";
+    EXPECT_EQ(ends, ":05:09 (2); :05:09; :05:03; :05 (made by hand); ");
+}
+
 }  // namespace
