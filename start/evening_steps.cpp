@@ -23,9 +23,9 @@ namespace {
 
 constexpr int failed = 1;
 
-std::string toGoBack(const std::string& point) {
-    return "To go back: \"Go Back\" in the menu, or the program tidewright-restore. The restore point is called " +
-           point + ".";
+std::string toGoBack(const RestorePoint& point, bool askNothing) {
+    return "To go back: \"Go Back\" in the menu, or the program tidewright-restore. The restore point is called \"" +
+           titleOf(point.name, {restorePointsDirectory, point.simsDirectory, askNothing}) + "\".";
 }
 
 constexpr const char* goOnWithoutPoint =
@@ -85,12 +85,12 @@ void report(const RestorePoint& point, const EveningReport& result, bool askNoth
     if (result.hasLoss && !result.wasPlayed) {
         const std::string text = result.text +
                                  "\n\n[OK] goes back to before this evening. [Cancel] keeps it as it is.\n\n" +
-                                 toGoBack(point.name);
+                                 toGoBack(point, askNothing);
         if (confirm(text, askNothing, false)) goBackTo(point, point.simsDirectory, askNothing);
     } else if (!result.text.empty()) {
         std::string text = result.text;
         if (result.hasLoss) text += "\n\nGoing back would undo what was played meanwhile, too.";
-        if (result.hasSaved || result.hasLoss) text += "\n\n" + toGoBack(point.name);
+        if (result.hasSaved || result.hasLoss) text += "\n\n" + toGoBack(point, askNothing);
         say(text, askNothing);
     }
 }
@@ -115,7 +115,7 @@ bool settle(RestorePoint point, const std::string& simsDirectory, bool askNothin
     const CutOffEvening cutOff = describeCutOff(eveningSince(point.name, simsDirectory, secondsOf(point.time)));
     if (cutOff.isAsBefore) return true;
     if (cutOff.wasPlayedSince) {
-        say(cutOff.text + "\n\n" + toGoBack(point.name), askNothing);
+        say(cutOff.text + "\n\n" + toGoBack(point, askNothing), askNothing);
         return true;
     }
     const Buttons buttons = cutOff.isWhole ? Buttons::cancelFirst : Buttons::okFirst;
