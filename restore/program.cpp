@@ -81,6 +81,7 @@ int change(const PointsOfGame& game, const RestoreOptions& options, const Direct
 }  // namespace
 
 int runRestore(int argumentCount, char** arguments) {
+    setBoxTitle("Tidewright Go Back");
     const RestoreOptions options = restoreOptionsOf(argumentCount, arguments);
     if (!options.fault.empty()) {
         writeToErrors(options.fault + "\n" + restoreOptionList());

@@ -4,8 +4,10 @@
 
 #include <string>
 
-// The title of all boxes but the editor's. Other programs tell the editor's window by its title, so it isn't that.
-constexpr const char* programTitle = "Tidewright Start";
+// The title of all boxes of this program: "Tidewright Start" until it is set. Other programs tell the editor's window
+// by its title, so it is never that one's.
+const char* boxTitle();
+void setBoxTitle(const char* title);
 
 // Without a display the box's text goes to standard error.
 void say(const std::string& text, bool onConsole);

@@ -165,7 +165,7 @@ HWND createWindow() {
     RegisterClassExA(&windowClass);  // fails the second time, which is no matter
     const LONG listHeight = question->entries.empty() ? 0 : rowHeight + detailLines * lineHeight;
     const LONG height = textBottom() + margin + listHeight + margin + rowHeight + margin + captionHeight;
-    return CreateWindowExA(0, className, programTitle, WS_CAPTION | WS_SYSMENU, 60, 60, width, height, nullptr, nullptr,
+    return CreateWindowExA(0, className, boxTitle(), WS_CAPTION | WS_SYSMENU, 60, 60, width, height, nullptr, nullptr,
                            instance, nullptr);
 }
 

@@ -165,10 +165,10 @@ TEST_F(Stories, GoingBackBeforeTheFirstOfTwoEveningsGivesBothSimsBack) {
     waitUntil("the question opens", [&] {  // a click is lost while the list closes
         byKeys_ ? void(act("key Tab Tab space")) : clickAt(70, 275);
         usleep(1'000'000);
-        return !act("search --onlyvisible --name '^Tidewright Start$' 2>/dev/null | tail -n 1").empty();
+        return !act("search --onlyvisible --name '^Tidewright Go Back$' 2>/dev/null | tail -n 1").empty();
     });
-    answerStart();
-    answerStart();  // it is done
+    answerBox("Tidewright Go Back", "Return");
+    answerBox("Tidewright Go Back", "Return");  // it is done
     EXPECT_EQ(differences(before, playedFiles()), "");
     run(byKeys_ ? "xdotool windowfocus --sync " + window + " key alt+F4"
                 : "kill $(xdotool getwindowpid " + window + ")");
