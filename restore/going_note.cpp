@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/files.h"
+#include "platform/win32.h"
 #include "restore/escaped_text.h"
 #include "restore/point_files.h"
 
@@ -42,7 +43,11 @@ bool writeNote(const std::string& pointsDirectory, const GoingNote& note) {
     for (std::size_t i = 0; i < words.size(); ++i) {
         text.append(words[i]).append(escaped(values[i])).append(1, '\n');
     }
-    return writeText(pointsDirectory, noteName, text);
+    if (writeText(pointsDirectory, noteName, text)) return true;
+    const DWORD reason = GetLastError();
+    DeleteFileA((pointsDirectory + '\\' + noteName).c_str());
+    SetLastError(reason);
+    return false;
 }
 
 bool deleteNote(const FileTree& points) {

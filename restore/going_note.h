@@ -20,7 +20,8 @@ struct GoingNote {
 // `points` is the directory of points. No value if there is no note, or none that can be understood.
 std::optional<GoingNote> readNote(const FileTree& points);
 
-// False, with the reason in GetLastError, if it couldn't be written to the disk.
+// False, with the reason in GetLastError, if it couldn't be written to the disk; there is no note then, unless it can't
+// be deleted either.
 bool writeNote(const std::string& pointsDirectory, const GoingNote& note);
 bool deleteNote(const FileTree& points);
 

@@ -188,7 +188,7 @@ bool writeText(const std::string& directory, const std::string& name, const std:
     NewVersion version(path.c_str());
     std::FILE* const stream = version.open(path.c_str());
     return stream != nullptr && std::fwrite(text.data(), 1, text.size(), stream) == text.size() && version.complete() &&
-           version.giveName();
+           version.giveName() && version.isOnDisk();
 }
 
 std::string failureOf(std::string_view what, const std::string& path) {

@@ -49,7 +49,7 @@ std::optional<std::uint32_t> copyFile(const FileTree& source, const std::string&
 std::optional<std::string> textOfFile(const FileTree& tree, const std::string& file);
 
 // Writes a text file whose name is in ASCII, in one step (NewVersion). False, with the reason in GetLastError, if it
-// isn't on the disk.
+// isn't on the disk; it can have its name all the same.
 bool writeText(const std::string& directory, const std::string& name, const std::string& text);
 
 // So many new files are synced one by one. More take less time all together, unless other programs have written much.

@@ -242,13 +242,13 @@ MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason,
     point.sessionEnded = reason != PointReason::evening;
     point.simsDirectory = gameOf(simsDirectory);
     Making making(comparison, tree_, directory_, all, point);
-    if (making.make(found->files, made) && writeText(point) && tree_.renameDirectory(making.part(), point.name)) {
-        tree_.sync("");
+    if (making.make(found->files, made) && writeText(point) && tree_.renameDirectory(making.part(), point.name) &&
+        tree_.sync("")) {
         made.name = point.name;
         return made;
     }
     if (made.error.empty()) made.error = failureOf("The restore point can't be written", point.name);
-    removeTree(tree_, making.part());
+    if (!remove(point.name)) removeTree(tree_, making.part());
     tree_.removeFile(textFile(point.name));
     return made;
 }
