@@ -25,7 +25,8 @@ struct FileStamp {
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };
 
-// The same for each name of one file, and for no other file.
+// The same for each name of one file, and for no other file. Where the system doesn't number files, as on some network
+// drives, the number is one of the name in any case of its letters.
 struct FileId {
     std::uint64_t volume = 0;
     std::uint64_t number = 0;

@@ -207,12 +207,26 @@ std::optional<FileStamp> FileTree::stampOf(const std::string& file) const {
     return stampFrom(target);
 }
 
+namespace {
+
+// By FNV-1a, whose bits are enough for no two names of one game to meet.
+std::uint64_t numberOfName(std::wstring path) {
+    CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
+    std::uint64_t number = 0xCBF29CE484222325;
+    for (const wchar_t letter : path) {
+        number = (number ^ letter) * 0x100000001B3;
+    }
+    return number;
+}
+
+}  // namespace
+
 std::optional<FileId> FileTree::idOf(const std::string& path) const {
     const std::wstring full = state_->full(path);
     BY_HANDLE_FILE_INFORMATION found = {};
     if (full.empty() || !queryTarget(full, found)) return std::nullopt;
-    return FileId{found.dwVolumeSerialNumber,
-                  static_cast<std::uint64_t>(joined(found.nFileIndexHigh, found.nFileIndexLow))};
+    const auto number = static_cast<std::uint64_t>(joined(found.nFileIndexHigh, found.nFileIndexLow));
+    return FileId{found.dwVolumeSerialNumber, number != 0 ? number : numberOfName(full)};
 }
 
 bool FileTree::hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other) const {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/path_text.h"
 #include "platform/win32.h"
 #include "platform/windows/file_held.h"
 
@@ -92,8 +93,12 @@ bool isSameFile(const char* first, const char* second) {
         CloseHandle(opened);
         return isKnown;
     };
-    return query(first, one) && query(second, other) && one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
-           one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
+    const bool isSame = query(first, one) && query(second, other) &&
+                        one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
+                        one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
+    // Some network drives don't number their files: there all have the number 0.
+    const bool isNumbered = one.nFileIndexHigh != 0 || one.nFileIndexLow != 0;
+    return isSame && (isNumbered || lstrcmpiA(absolutePath(first).c_str(), absolutePath(second).c_str()) == 0);
 }
 
 // Windows ignores case itself, so nothing needs to be kept.
