@@ -42,19 +42,6 @@ class RestoreSweepTest : InMemory, public RestoreTest {
             EXPECT_EQ(entry.path().string().find(".tidewright-"), std::string::npos) << entry.path();
     }
 
-    // Each file but those on the way is as before or as it was in the point.
-    void expectWholeFiles() const {
-        for (const auto& [name, file] : withoutParts())
-            EXPECT_TRUE((before_.contains(name) && file == before_.at(name)) ||
-                        (then_.contains(name) && file == then_.at(name)))
-                << name;
-    }
-    std::map<std::string, Whole> withoutParts() const {
-        auto files = whole();
-        std::erase_if(files, [](const auto& file) { return file.first.find(".tidewright-") != std::string::npos; });
-        return files;
-    }
-
     // Makes the point, and what is gone back from.
     RestorePoint playAfterPoint() {
         RestorePoint target = point(make().name);
@@ -66,34 +53,49 @@ class RestoreSweepTest : InMemory, public RestoreTest {
         return target;
     }
 
+    // Each live file is that of one of the states, and the next finish leads to one.
+    void expectFinished(Finish how) {
+        auto files = whole();
+        std::erase_if(files, [](const auto& file) { return file.first.find(".tidewright-") != std::string::npos; });
+        for (const auto& [name, file] : files)
+            EXPECT_TRUE((before_.contains(name) && file == before_[name]) || file == then_[name]) << name;
+        if (unfinishedGoingBack(points())) {
+            inChild([&] { finishGoingBack(points(), how, latest); });
+            files = whole();
+            EXPECT_EQ(files, how == Finish::undo ? before_ : then_);
+        }
+        EXPECT_FALSE(unfinishedGoingBack(points()));
+        EXPECT_TRUE(files == before_ || files == then_);
+    }
+
  protected:
     std::map<std::string, Whole> game_, then_, before_;
-    int answered_ = -1;  // the number of the call that didn't go on; negative if all did
-    bool wasKilled_ = false;
+    bool syncFailed_ = false;
     static constexpr SYSTEMTIME later{2026, 11, 0, 26, 1, 0, 0, 0}, latest{2026, 11, 0, 26, 2, 0, 0, 0};
 
  private:
     void sweep(int answer, int begin, int step, const std::function<void()>& act, const std::function<void()>& expect) {
-        int point = begin;
-        wasKilled_ = answer == endProcess;
+        int point = begin, answered = 0;
         do {
             for (const char* directory : {"game", "points"}) {
                 fs::remove_all(files_.path(directory));
                 fs::copy(kept_.path("all/" + std::string(directory)), files_.path(directory), copyAll);
             }
             setTimes();
-            answered_ = -1;
+            answered = -1;
+            syncFailed_ = false;
             int calls = 0;
             runWithHeldCalls(act, [&](const seccomp_data& call) {
                 if (++calls != point) return carryOut;
-                answered_ = call.nr;
+                answered = call.nr;
+                syncFailed_ = answer > 0 && (answered == SYS_fsync || answered == SYS_syncfs);
                 return answer;
             });
             SCOPED_TRACE(testing::Message()
-                         << "answered " << answer << " at call " << point << ", number " << answered_);
+                         << "answered " << answer << " at call " << point << ", number " << answered);
             expect();
             point += step;
-        } while (answered_ >= 0 && !HasFailure());
+        } while (answered >= 0 && !HasFailure());
         EXPECT_GT(point, 30);
     }
 
@@ -134,45 +136,34 @@ TEST_F(RestoreSweepTest, AGoingBackThatIsStoppedIsCompletedOrUndone) {
     const RestorePoint target = playAfterPoint();
     keep();
     bool undoes = false;
-    sweep(
-        [&] { std::ofstream(files_.path("said")) << goBack(points(), target, game(), allNeighborhoods, later).error; },
-        [&] {
-            const bool isSync = answered_ == SYS_fsync || answered_ == SYS_syncfs;
-            EXPECT_TRUE(wasKilled_ || !isSync || files_.bytesOf("said") != Bytes()) << "overlooked";
-            expectWholeFiles();
-            const bool isNeighborhoodBack =
-                whole()["UserData/neighborhood.iff"] == then_.at("UserData/neighborhood.iff");
-            EXPECT_TRUE(!isNeighborhoodBack || files_.exists(ann)) << "the neighborhood file comes last";
-            if (unfinishedGoingBack(points())) {
-                undoes = !undoes;
-                inChild([&] { finishGoingBack(points(), undoes ? Finish::undo : Finish::complete, latest); });
-                EXPECT_EQ(whole(), undoes ? before_ : then_);
-            } else {
-                EXPECT_TRUE(withoutParts() == before_ || withoutParts() == then_);
-            }
-            EXPECT_FALSE(unfinishedGoingBack(points()));
-            inChild([&] { goBack(points(), target, game(), allNeighborhoods, latest); });
-            EXPECT_EQ(whole(), then_);
-        });
+    const auto act = [&] {
+        std::ofstream(files_.path("said")) << goBack(points(), target, game(), allNeighborhoods, later).error;
+    };
+    sweep(act, [&] {
+        EXPECT_TRUE(!syncFailed_ || files_.bytesOf("said") != Bytes()) << "overlooked";
+        const bool isNeighborhoodBack = whole()["UserData/neighborhood.iff"] == then_["UserData/neighborhood.iff"];
+        EXPECT_TRUE(!isNeighborhoodBack || files_.exists(ann)) << "the neighborhood file comes last";
+        undoes = !undoes;
+        expectFinished(undoes ? Finish::undo : Finish::complete);
+        inChild([&] { goBack(points(), target, game(), allNeighborhoods, latest); });
+        EXPECT_EQ(whole(), then_);
+    });
 }
 
 TEST_F(RestoreSweepTest, AFinishThatIsStoppedIsDoneByTheNextOne) {
     const RestorePoint target = playAfterPoint();
-    int renames = 0;
-    runWithHeldCalls([&] { goBack(points(), target, game(), allNeighborhoods, later); },
-                     [&](const seccomp_data& call) {
-                         const bool isInTheMiddle = call.nr == SYS_renameat && ++renames == 4;
-                         return isInTheMiddle ? endProcess : carryOut;
-                     });
-    ASSERT_TRUE(withoutParts() != before_ && withoutParts() != then_);
+    const auto inTheMiddle = [renames = 0](const seccomp_data& call) mutable {
+        return call.nr == SYS_renameat && ++renames == 4 ? endProcess : carryOut;
+    };
+    runWithHeldCalls([&] { goBack(points(), target, game(), allNeighborhoods, later); }, inTheMiddle);
+    ASSERT_TRUE(unfinishedGoingBack(points()) && whole() != before_);
     keep();
     for (const Finish how : {Finish::complete, Finish::undo})
         sweep([&] { finishGoingBack(points(), how, latest); },
               [&] {
-                  expectWholeFiles();
-                  if (unfinishedGoingBack(points())) inChild([&] { finishGoingBack(points(), how, latest); });
-                  EXPECT_FALSE(unfinishedGoingBack(points()));
-                  EXPECT_EQ(withoutParts(), how == Finish::undo ? before_ : then_);
+                  expectFinished(how);
+                  EXPECT_EQ(whole()["UserData/neighborhood.iff"],
+                            (how == Finish::undo ? before_ : then_)["UserData/neighborhood.iff"]);
               });
 }
 
