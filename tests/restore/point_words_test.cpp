@@ -65,10 +65,9 @@ TEST_F(PointWordsTest, TheLinesSayWhatGoingBackWouldChange) {
 }
 
 TEST(PointTitlesTest, NoTwoReadAlike) {
-    const auto at = [](WORD second) {
-        return RestorePoint{"", {2026, 11, 0, 25, 12, 5, second, 0}, PointReason::evening, true, "", {}, ""};
-    };
-    std::vector<RestorePoint> points = {at(9), at(9), at(3), at(3)};
+    std::vector<RestorePoint> points(4);
+    for (std::size_t i = 0; i < points.size(); ++i)
+        points[i].time = {2026, 11, 0, 25, 12, 5, static_cast<WORD>(i < 2 ? 9 : 3), 0};
     points[3].reason = PointReason::byHand;
     std::string ends;
     for (const std::string& title : pointTitles(points, {2026, 11, 0, 25, 13, 0, 0, 0}))
