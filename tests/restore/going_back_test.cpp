@@ -105,6 +105,7 @@ TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
     EXPECT_NE(goBackTo(target).error.find("/gone/"), std::string::npos) << "the note of a game that is away";
     EXPECT_TRUE(unfinishedGoingBack(points()));
     ASSERT_TRUE(writeNote(points(), {target, before, gameOf(game())}));
+    EXPECT_NE(goBackTo(target).error, "");
     files_.remove("points/" + target + "/" + "UserData2");
     EXPECT_TRUE(finishGoingBack(points(), Finish::complete).isBetween) << "it can still be undone";
     files_.remove("points/" + before);

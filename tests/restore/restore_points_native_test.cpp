@@ -3,6 +3,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+#include "platform/files.h"
 #include "tests/restore/restore_test.h"
 #include "tests/support/native/held_calls.h"
 
@@ -73,6 +74,14 @@ TEST_F(RestorePointsNativeTest, WithoutRoomNothingIsMadeAndTheRoomIsSaid) {
     EXPECT_EQ(treeOf(files_.path("points")), Tree());
 }
 
+TEST_F(RestorePointsNativeTest, NothingIsPutIntoANeighborhoodThatIsBeingSaved) {
+    const std::string made = make().name;
+    files_.write(live, "played");
+    const DirectoryLock saving((game() + "UserData").c_str());
+    EXPECT_EQ(goBackTo(made).error, "Another program is saving UserData.");
+    EXPECT_EQ(files_.bytesOf(live), bytesFrom("played"));
+}
+
 TEST_F(RestorePointsNativeTest, WithoutHardLinksEachPointHasItsOwnFiles) {
     const auto withoutLinks = [](const std::function<void()>& act) {
         runWithHeldCalls(act, [](const seccomp_data& call) { return call.nr == SYS_linkat ? EPERM : carryOut; });
@@ -110,7 +119,7 @@ TEST_F(RestorePointsNativeTest, OnAFullDiskAGoingBackIsDoneOrHasNotBegun) {
     int pages = 0;
     for (; !gone.error.empty() && pages < 40; ++pages) {
         const auto room = fs::space(disk);
-        ASSERT_TRUE(resize(room.capacity - room.free + static_cast<unsigned>(pages) * 4096, MS_REMOUNT));
+        ASSERT_TRUE(resize(room.capacity - room.free + static_cast<std::uintmax_t>(pages) * 4096, MS_REMOUNT));
         gone = goBackTo(target);
         EXPECT_EQ(whole(), gone.error.empty() ? then : before);
         EXPECT_FALSE(unfinishedGoingBack(points()));
