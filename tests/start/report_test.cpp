@@ -37,6 +37,14 @@ TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
     }
 }
 
+TEST_F(EveningTest, ACopyThatCantBeReadChecksNothing) {
+    start();
+    save();
+    files().remove("before/UserData/neighborhood.iff");
+    EXPECT_EQ(reportOn(evening()).text,
+              "Neighborhood 1 was saved. The copy from before can't be read, so nothing could be checked.");
+}
+
 TEST_F(EveningTest, ASecondSaveWithoutBackupsIsNotTheGames) {
     start();
     for (const char* const backups : {"Backups", "Characters/Backups"})
