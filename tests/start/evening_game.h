@@ -32,7 +32,7 @@ class EveningTest : public testing::Test {
         copyToBefore();
         for (const char* const tree : {"UserData", "before/UserData"})
             for (const auto& entry : fs::recursive_directory_iterator(files().path(tree)))
-                fs::last_write_time(entry.path(), hourAgo_);
+                if (entry.is_regular_file()) fs::last_write_time(entry.path(), hourAgo_);
     }
 
     void copyToBefore() const {
