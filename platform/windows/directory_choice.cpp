@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "platform/path_text.h"
 #include "platform/windows/ansi_path.h"
 
 bool chooseDirectory(HWND owner, const char* title, std::string& directory) {
@@ -18,5 +19,7 @@ bool chooseDirectory(HWND owner, const char* title, std::string& directory) {
     const bool hasPath = SHGetPathFromIDListW(chosen, path.data()) != FALSE;
     ILFree(chosen);
     directory = hasPath ? ansiPath(path.data()) : "";
+    // The path of some of the shell's own directories ends with a backslash.
+    if (!directory.empty()) directory = absolutePath(directory);
     return true;
 }
