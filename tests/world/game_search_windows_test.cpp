@@ -32,6 +32,13 @@ TEST(GameSearchWindowsTest, AnEntryIsMadeAfterAQuestionAndNeverChanged) {
         EXPECT_EQ(findSimsDirectory(found), -1);
     }
     {
+        const auto registerOther = [&] { registerDirectory(other, "", "Software\\Maxis\\The Sims", "SIMS_DATA"); };
+        const AnsweredBox asked = answerNextBox(IDOK, registerOther), refused = answerNextBox(IDOK);
+        EXPECT_EQ(find(game), -1);
+        EXPECT_EQ(refused->text, "The entry couldn't be made (error 183). Start Tidewright once as an administrator.");
+        uninstallGame(files.path("prefix"));
+    }
+    {
         const AnsweredBox asked = answerNextBox(IDOK);
         EXPECT_EQ(find(game), 0);
         EXPECT_EQ(found.view(), game);
