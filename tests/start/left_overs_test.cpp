@@ -34,7 +34,7 @@ TEST_F(LeftOversTest, AMissingOrBrokenFileIsReplacedByTheWholeVersionThatFits) {
         {"a Sim's file was moved", {{sim, {}}, {simsBackup, hers}, {simsTemporary, newSim}}, sim, simsBackup},
         {"an older version ended in the copy", {{live, none}, {temporary, now}}, live, temporary},
         {"it had written a part", {{live, cut}, {temporary, now}}, live, temporary},
-        {"both are empty", {{live, none}, {temporary, none}, {backup, old}}, live, backup},
+        {"both are empty", {{live, none}, {temporary, none}, {backup, old}, {backup + ".txt", now}}, live, backup},
         {"a Sim's file is a part", {{sim, cutSim}, {simsTemporary, newSim}, {simsBackup, hers}}, sim, simsBackup},
         {"it has no backup", {{sim, cutSim}, {simsTemporary, newSim}}, sim, simsTemporary},
     };

@@ -65,16 +65,19 @@ TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
 
 TEST_F(EveningTest, ASaveThatWasCutOffBehindTheSimsIsSeenByThemAlone) {
     const std::string live = "neighborhood.iff", sim = "Characters/user00001.iff", backups = "Characters/Backups";
-    const auto touch = [&](const std::string& name) {
-        fs::last_write_time(files().path("UserData/" + name), fs::file_time_type::clock::now() + std::chrono::hours(1));
+    const auto touch = [&](const std::string& name, int hours) {
+        fs::last_write_time(files().path("UserData/" + name), hourAgo_ + std::chrono::hours(hours));
     };
     const auto cutOff = [&] { save(), bringBack(live, live); };
     const std::tuple<const char*, std::function<void()>, bool> rows[] = {
         {"cut off", cutOff, true},
         {"saved as a whole", [&] { save(); }, false},
-        {"its files copied in another order", [&] { save(), touch(sim); }, false},
-        {"the game has written the file", [&] { touch(sim); }, false},
-        {"the game has saved since", [&] { cutOff(), touch(live); }, false},
+        {"its files copied in another order", [&] { save(), touch(sim, 2); }, false},
+        {"the game has written the file", [&] { touch(sim, 2); }, false},
+        {"the game has saved since, and then the file", [&] { cutOff(), touch(live, 2), touch(sim, 3); }, false},
+        {"there is no backup, and it has saved since",
+         [&] { write(backups, bytesFrom("no directory")), cutOff(), touch(live, 2); }, false},
+        {"a backup of the same age", [&] { write(backups + "/user00001.x.iff", bytesOf(sim)), touch(sim, 2); }, false},
         {"a grown body without an older version", [&] { write(sim, bytesOf("Characters/user00002.iff")); }, false},
         {"the older version is no child's",
          [&] { cutOff(), write(backups + "/user00001.x.iff", bytesOf("Characters/user00002.iff")); }, false},
@@ -83,15 +86,14 @@ TEST_F(EveningTest, ASaveThatWasCutOffBehindTheSimsIsSeenByThemAlone) {
         SCOPED_TRACE(what);
         start();
         change();
-        std::string backup;
-        if (isSeen) backup = fs::directory_iterator(files().path("UserData/" + backups))->path().filename().string();
-        EXPECT_EQ(checkReadiness(game()).text(),
-                  !isSeen
-                      ? ""
-                      : "Neighborhood 1: a save was cut off between the Sims and the neighborhood file. Clover has a "
-                        "new body and an old record, and must not grow up now. Close Tidewright, and copy "
-                        "Characters\\Backups\\" +
-                            backup + " to Characters\\user00001.iff first.");
+        const std::string text = checkReadiness(game()).text(), said = "Neighborhood 1: a save was cut off ";
+        EXPECT_EQ(text.find(said) != std::string::npos, isSeen) << text;
+        if (!isSeen) continue;
+        const fs::path backup = fs::directory_iterator(files().path("UserData/" + backups))->path().filename();
+        EXPECT_EQ(text, said +
+                            "between the Sims and the neighborhood file. Clover has a new body and an old record, and "
+                            "must not grow up now. Close Tidewright, and copy Characters\\Backups\\" +
+                            backup.string() + " to Characters\\user00001.iff first.");
     }
 }
 
