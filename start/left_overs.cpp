@@ -158,11 +158,12 @@ void lookAt(const Remains& remains, const Place& place, std::vector<LeftOver>& f
 
 // Parts of backupsDirectory, and the copies that version 1.1.0 left on Windows.
 void addOtherParts(const std::string& directory, std::vector<std::string>& harmless) {
+    const std::string begin = directory + '\\';
     for (const std::string& name : fileNamesIn(directory.c_str())) {
         const bool isOldPart = name.starts_with("~part") && name.ends_with(".tmp");
         const bool isOfBackup =
             directory.ends_with(backupsDirectory) && !(fileOfPart(name) + fileOfAside(name)).empty();
-        if (isOldPart || isOfBackup) harmless.push_back(directory + '\\' + name);
+        if (isOldPart || isOfBackup) harmless.push_back(begin + name);
     }
 }
 

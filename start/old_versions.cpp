@@ -1,6 +1,7 @@
 #include "start/old_versions.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 #include "platform/files.h"
@@ -12,6 +13,10 @@ namespace {
 
 constexpr std::int64_t never = -1;
 
+std::string joined(const std::string& directory, std::string_view name) {
+    return (directory + '\\').append(name);
+}
+
 std::int64_t timeOf(const std::string& path) {
     FileStatus status{};
     return queryFileStatus(path.c_str(), status) ? status.written : never;
@@ -21,14 +26,15 @@ std::int64_t timeOf(const std::string& path) {
 
 std::string newestBackupOf(const std::string& directory, const std::string& file) {
     const std::string stem = lowered(file.substr(0, file.rfind('.') + 1));
-    const std::string backups = directory + '\\' + backupsDirectory;
+    const std::string inDirectory = std::string(backupsDirectory) + '\\';
     std::string newest;
     std::int64_t time = never;
-    for (const std::string& name : fileNamesIn(backups.c_str())) {
+    for (const std::string& name : fileNamesIn(joined(directory, backupsDirectory).c_str())) {
         if (!lowered(name).starts_with(stem) || !lowered(name).ends_with(".iff")) continue;
-        const std::int64_t written = timeOf(backups + '\\' + name);
+        const std::string backup = inDirectory + name;
+        const std::int64_t written = timeOf(joined(directory, backup));
         if (written == never || written < time) continue;
-        newest = std::string(backupsDirectory) + '\\' + name;
+        newest = backup;
         time = written;
     }
     return newest;
@@ -43,5 +49,5 @@ std::string asideOf(const std::string& directory, const std::string& file) {
 
 std::string backupSince(std::int64_t begin, const std::string& directory, const std::string& file) {
     const std::string backup = newestBackupOf(directory, file);
-    return !backup.empty() && timeOf(directory + '\\' + backup) >= begin ? backup : "";
+    return !backup.empty() && timeOf(joined(directory, backup)) >= begin ? backup : "";
 }
