@@ -62,6 +62,9 @@ TEST_F(StartTest, TakesOverTheFilesOfVersion110AndReplacesTheLinksOfVersion100) 
     EXPECT_EQ(treeOf(own_).at("Template.iff"), playersTemplate());
     EXPECT_TRUE(fs::exists(game_ / "skinsets.cfg")) << "those stay";
     EXPECT_TRUE(fs::exists(own_ + "/famtemplate"));
+    const AnsweredBox secondEnd = answerNextBox(IDOK);
+    EXPECT_EQ(start({"--prepare"}), 0);
+    EXPECT_TRUE(secondEnd->text.ends_with("Tidewright can start.")) << secondEnd->text;
 }
 
 TEST_F(StartTest, HasItsRestorePointsWhereTheProgramForGoingBackLooks) {

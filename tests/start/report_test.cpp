@@ -49,6 +49,7 @@ TEST_F(EveningTest, ASecondSaveWithoutBackupsIsNotTheGames) {
         write(backups, bytesFrom("no directory"));
     save(true, false);
     EXPECT_TRUE(files().exists("UserData/Characters/user00001.iff.tidewright-old0"));
+    EXPECT_FALSE(reportOn(evening()).hasLoss);
     save(false);
     EXPECT_FALSE(files().exists("UserData/Characters/user00001.iff.tidewright-old0"));
     files().remove("UserData/neighborhood.iff.tidewright-old0");  // as a third save that finds no room

@@ -159,7 +159,7 @@ TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
 
     files_.remove("elsewhere");
     expectWords("", "isn't there any more: " + files_.path());
-    for (const char* const bad : {"\xFF\0\x01garbage", "[Game]\nDirectory=relative\n"}) {
+    for (const char* const bad : {"\xFF\0\x01garbage", "[Game]\nDirectory=.wine/drive_c/a\n"}) {
         files_.write("own/tidewright.ini", bad);
         expectWords("", "This game was found.\n\n" + files_.path("home/.wine/drive_c/a"));
     }
@@ -169,9 +169,9 @@ TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
 TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
     makePrefix("home/.wine", "drive_c/a", "C:\\\\a");
     makePrefix("home/Games/b", "drive_c/b", "C:\\\\b");
-    files_.write("home/.wine/drive_c/a/UserData/neighborhood.iff", "x");
-    expectWords("", files_.path("home/.wine/drive_c/a") + " - 1 neighborhood, last played 20");
-    expectWords("", files_.path("home/Games/b/drive_c/b") + " - 0 neighborhoods\n");
+    files_.write("home/Games/b/drive_c/b/UserData/neighborhood.iff", "x");
+    expectWords("", files_.path("home/.wine/drive_c/a") + " - 0 neighborhoods\n");
+    expectWords("", files_.path("home/Games/b/drive_c/b") + " - 1 neighborhood, last played 20");
 
     later([] { click("Cancel"); });
     EXPECT_EQ(find("", false), 1);
@@ -182,10 +182,10 @@ TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
         click("Open");
     });
     EXPECT_EQ(find("", false), 0);
-    EXPECT_EQ(found_.view(), "C:\\b\\");
+    EXPECT_EQ(found_.view(), "C:\\a\\");
     prefix_.set("");
     EXPECT_EQ(find("", false), 0) << "asks again";
-    EXPECT_EQ(found_.view(), "C:\\b\\");
+    EXPECT_EQ(found_.view(), "C:\\a\\");
 }
 
 TEST_F(GameSearchNativeTest, APrefixWithTwoGamesIsNoAnswerUntilOneIsChosen) {
@@ -214,6 +214,7 @@ TEST_F(GameSearchNativeTest, WithoutAGameTheUserChoosesADirectory) {
     });
     EXPECT_EQ(find("", false), 0);
     EXPECT_TRUE(leadsTo("home/.hidden/pfx/drive_c/a"));
+    EXPECT_EQ(find(".hidden/pfx/drive_c/a/UserData"), 0);
 }
 
 }  // namespace
