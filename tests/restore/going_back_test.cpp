@@ -62,9 +62,8 @@ TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
     };
     const auto play = [&] {
         for (int changes = below(6); changes >= 0; --changes) {
-            const std::string number = std::to_string(below(9)), directory = below(2) == 0 ? "UserData" : "UserData2";
-            const std::string file =
-                "game/" + directory + (below(2) == 0 ? "/Characters/User" : "/Houses/House") + number;
+            const std::string file = std::string("game/UserData") + (below(2) == 0 ? "/Characters/User" : "2/House") +
+                                     std::to_string(below(9));
             const fs::path path = files_.path(file);
             constexpr auto writable = fs::perms{0222};
             if (fs::exists(path)) fs::permissions(path, writable, fs::perm_options::add);

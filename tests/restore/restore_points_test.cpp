@@ -121,7 +121,6 @@ TEST_F(RestorePointsTest, APointThatIsNotAsNotedIsListedSoAndIsNotGoneBackTo) {
         {"other bytes", [&] { files_.write(path + house, "a mouse"); }},
         {"another name of the directory",
          [&] { fs::rename(files_.path("points/" + good), files_.path("points/other")); }},
-        {"no directory", [&] { files_.remove("points/" + good); }},
     };
     files_.write(live, "played since");
     const auto before = whole();
