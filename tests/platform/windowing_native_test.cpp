@@ -54,11 +54,11 @@ TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxI
 }
 
 TEST_F(WindowingNativeTest, AKeyThatIsOnlyHeldStaysWithQtWhichMayHaveOpenedAMenu) {
-    for (const auto& [key, comes] : {std::pair(Qt::Key_A, true), {Qt::Key_Shift, false}, {Qt::Key_Alt, false}})
-        later([this, key, comes] {
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Alt})
+        later([this, key] {
             QTest::sendKeyEvent(QTest::Press, findWindow(window_)->widget()->windowHandle(), key, "", Qt::NoModifier);
             MSG message{};
-            EXPECT_EQ(takeMessage(message), comes) << key;
+            EXPECT_EQ(takeMessage(message), key == Qt::Key_A) << key;
         });
     runMessages();
 }
