@@ -16,7 +16,7 @@ std::string megabytes(std::int64_t bytes) {
     return withCommas((bytes + megabyte - 1) / megabyte) + " MB";
 }
 
-// The game may have been started since the window opened.
+// The game may have been started since the window opened, or while a question was open.
 bool isRefused(const PointsOfGame& game) {
     if (refuseBesideGame(game.onConsole) != 0) return true;
     if (!isEditorOpen()) return false;
@@ -53,18 +53,20 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
         comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood);
     if (point.damage.empty() && lines.size() == 1) {
         say(lines.front(), game.onConsole);
-        return false;
+        return true;
     }
     for (const std::string& line : lines) {
         question += '\n' + line;
     }
     question += "\n\nA restore point of the present is made first, so this can be undone here.";
-    if (point.damage.empty() && !confirm(question, game.onConsole)) return false;
+    if (point.damage.empty() && (!confirm(question, game.onConsole) || isRefused(game))) return false;
     const GoneBack gone = goBack(game.pointsDirectory, point, game.simsDirectory, neighborhood);
     if (gone.error.empty()) {
-        say("The game is back at the restore point \"" + titleOf(point.name, game) + "\". To undo this, go back to \"" +
-                titleOf(gone.present.name, game) + "\".",
-            game.onConsole);
+        std::string done = "The game is back at the restore point \"" + titleOf(point.name, game) + "\".";
+        if (!gone.present.name.empty()) {
+            done += " To undo this, go back to \"" + titleOf(gone.present.name, game) + "\".";
+        }
+        say(done, game.onConsole);
         return true;
     }
     say(sentenceOf(gone), game.onConsole);
@@ -109,6 +111,7 @@ bool finishEarlier(const PointsOfGame& game) {
                     "\" was cut off. Every file is whole, but some are those of that "
                     "restore point and some are newer.\n\n[OK] goes back to it.\n[Cancel] goes to what was before.",
                 game.onConsole);
+    if (isRefused(game)) return false;
     GoneBack gone = finishGoingBack(game.pointsDirectory, completes ? Finish::complete : Finish::undo);
     // Nobody can choose the other way there.
     if (gone.isBetween && game.onConsole) {
