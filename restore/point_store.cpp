@@ -230,7 +230,9 @@ MadePoint PointStore::make(const std::string& simsDirectory, PointReason reason,
     MadePoint made;
     const auto found = filesOfNeighborhoods(comparison.game(), made.error);
     if (!found) return made;
-    if (found->files.empty()) made.error = "There is no neighborhood in " + simsDirectory;
+    // Going back must work from there, too.
+    const bool isLost = found->files.empty() && reason != PointReason::goingBack;
+    if (isLost) made.error = "There is no neighborhood in " + simsDirectory;
     const auto entries = tree_.entriesOf("");
     if (!entries) made.error = "The directory of restore points can't be read: " + directory_;
     if (!made.error.empty()) return made;
