@@ -30,13 +30,16 @@ int fail(const std::string& sentence, bool onConsole) {
 }
 
 // The game, with its own directory as the working directory. No value after words that say why.
-std::optional<PointsOfGame> findPoints(bool onConsole, DirectoryText& simsDirectory) {
+std::optional<PointsOfGame> findPoints(const RestoreOptions& options, DirectoryText& simsDirectory) {
+    // A list is read by other programs, which answer no question, and changes nothing.
+    const bool onConsole = options.askNothing || options.list;
     const OwnDirectory own = ownDirectory(ownDirectoryName);
     if (!own.fault.empty()) {
         say(own.fault, onConsole);
         return std::nullopt;
     }
-    if (findGame({"", onConsole}, own.path, simsDirectory) != 0) return std::nullopt;
+    const GameWish wish{.directory = options.game, .askNothing = onConsole, .changesNothing = options.list};
+    if (findGame(wish, own.path, simsDirectory) != 0) return std::nullopt;
     if (SetCurrentDirectoryA(own.path.c_str()) == FALSE) {
         say("This directory can't be entered: " + own.path, onConsole);
         return std::nullopt;
@@ -92,10 +95,8 @@ int runRestore(int argumentCount, char** arguments) {
         return writeToOutput(text) ? done : failed;
     }
     loadCursors();
-    // A list is read by other programs, which answer no question.
-    const bool onConsole = options.askNothing || options.list;
     DirectoryText simsDirectory;
-    const auto game = findPoints(onConsole, simsDirectory);
+    const auto game = findPoints(options, simsDirectory);
     if (!game) return failed;
     return options.list ? list(*game) : change(*game, options, simsDirectory);
 }

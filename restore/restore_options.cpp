@@ -20,11 +20,14 @@ void readValue(std::string_view name, std::string_view value, RestoreOptions& op
     if (name == "--to") {
         options.target = value;
         if (value.empty()) options.fault = "--to needs the name of a restore point, as --list shows it.";
+    } else if (name == "--game") {
+        options.game = value;
+        if (value.empty()) options.fault = "--game needs a directory.";
     } else if (name == "--neighborhood") {
         const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), options.neighborhood);
         const bool isNumber = error == std::errc() && end == value.data() + value.size();
         if (!isNumber || options.neighborhood < 1 || options.neighborhood > highestNeighborhoodCount) {
-            options.fault = "--neighborhood needs a number from 1 to 100.";
+            options.fault = "--neighborhood needs a number from 1 to " + std::to_string(highestNeighborhoodCount) + ".";
         }
     } else {
         options.fault = "There is no option " + std::string(name) + ".";
@@ -52,7 +55,8 @@ RestoreOptions restoreOptionsOf(int count, const char* const* arguments) {
         }
         const std::size_t equals = argument.find('=');
         const std::string_view name = argument.substr(0, equals);
-        const bool takesNext = equals == std::string_view::npos && (name == "--to" || name == "--neighborhood");
+        const bool takesNext =
+            equals == std::string_view::npos && (name == "--to" || name == "--neighborhood" || name == "--game");
         std::string_view value = equals == std::string_view::npos ? std::string_view() : argument.substr(equals + 1);
         if (takesNext && i + 1 < count) value = arguments[++i];
         readValue(name, value, options);
@@ -66,6 +70,7 @@ std::string restoreOptionList() {
            "--make                 make a restore point\n"
            "--to NAME              go back to the restore point of this name\n"
            "--neighborhood NUMBER  go back with this neighborhood alone\n"
+           "--game DIRECTORY       the game, by its directory or the Wine prefix that it is in\n"
            "--yes                  ask nothing and show no box\n"
            "--help                 show this list\n"
            "--version              show the version\n"

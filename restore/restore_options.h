@@ -11,6 +11,7 @@ struct RestoreOptions {
     bool make = false;
     bool askNothing = false;  // --yes
     std::string target;       // --to NAME
+    std::string game;         // --game DIRECTORY; empty to search
     int neighborhood = 0;     // --neighborhood NUMBER; 0 for all
     std::string fault;        // what is wrong, a sentence; empty if all is right
 

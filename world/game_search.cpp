@@ -141,7 +141,7 @@ class GameSearch {
     int run(DirectoryText& simsDirectory) {
         if (const int refusal = find(); refusal != 0) return refusal;
         if (const int refusal = handOver(simsDirectory); refusal != 0) return refusal;
-        if (isChoice_) remember();
+        if (isChoice_ && !wish_.changesNothing) remember();
         return 0;
     }
 
@@ -325,6 +325,9 @@ class GameSearch {
                           "entry that is there.");
         }
         if (game_.directory.size() > longestValue) return refuse(tooLong(game_.directory));
+        if (wish_.changesNothing) {
+            return refuse("The registry of Windows doesn't say where The Sims is. Start Tidewright first.");
+        }
         if (!confirm("The registry of Windows doesn't say where The Sims is, and Tidewright's window goes by that. "
                      "This entry will be made:\n\nHKEY_LOCAL_MACHINE\\" +
                          std::string(gameKey) + "\n" + gameValue + " = " + game_.directory + "\n\nShall it be made?",

@@ -10,6 +10,7 @@
 struct GameWish {
     std::string directory;    // a game's directory or, natively, a Wine prefix as well; empty: search
     bool askNothing = false;  // no window and no box: words go to standard output, and questions count as answered OK
+    bool changesNothing = false;  // neither the registry nor what is remembered
 };
 
 // Finds the game: the one of `wish.directory`; else, natively, that of $WINEPREFIX; else the one chosen the last time;

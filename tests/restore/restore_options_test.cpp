@@ -24,6 +24,7 @@ TEST(RestoreOptionsTest, OneThingIsDoneAtATime) {
         {{"--neighborhood", "1"}, "--neighborhood needs --to.", "", 1},
         {{"--list", "--make"}, "--list, --make and --to exclude each other.", "", 0},
         {{"--yes"}, "--yes needs --make or --to.", "", 0},
+        {{"--list", "--game"}, "--game needs a directory.", "", 0},
         {{"--go"}, "There is no option --go.", "", 0},
     };
     for (const auto& row : rows) {
