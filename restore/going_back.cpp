@@ -14,10 +14,9 @@
 #include "restore/point_check.h"
 #include "restore/point_files.h"
 #include "restore/point_store.h"
+#include "world/paths.h"
 
 namespace {
-
-constexpr std::string_view neighborhoodFile = "neighborhood.iff";
 
 // What must happen to one live file to make it the point's.
 struct Step {
@@ -87,7 +86,7 @@ void joinSpellings(const FileTree& live, Steps& steps) {
 }
 
 bool isNeighborhoodFile(const Step& step) {
-    return equalInAnyCase(step.path.substr(step.path.find('/') + 1), neighborhoodFile);
+    return equalInAnyCase(step.path.substr(step.path.find('/') + 1), neighborhoodFileName);
 }
 
 // The steps to the files of one point, in the order in which they are taken.
@@ -235,7 +234,7 @@ class NeighborhoodLocks {
         for (std::string directory : found->withParts) {
             if (std::ranges::find(held_, directory.substr(0, directory.find('/'))) == held_.end()) continue;
             std::ranges::replace(directory, '/', '\\');
-            clearLeftOverParts((simsDirectory + directory).c_str());
+            clearLeftOverParts((simsDirectory + directory).c_str(), true);
         }
         return filesOfNeighborhoods(live, error);
     }
@@ -347,7 +346,8 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
     if (note) return "An earlier going back was cut off, and must be finished first.";
     if (!point.damage.empty()) return notWhole(point.damage);  // its game may be unknown
     if (!isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
-        return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + simsDirectory;
+        return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " +
+               gameOf(simsDirectory);
     }
     return {};
 }
@@ -378,6 +378,8 @@ std::optional<PointComparison> compareWithPoint(const std::string& pointsDirecto
             comparison.toCome.push_back(step.path);
         } else if (step.kind == Step::Kind::go) {
             comparison.toGo.push_back(step.path);
+        } else if (step.kind == Step::Kind::stamp) {
+            comparison.stamped.push_back(step.path);
         } else {
             comparison.changed.push_back(step.path);
         }
@@ -413,7 +415,10 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     const RestorePoint* const present = named(all, made.name);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
     const std::string damage = damageBeside(store.tree(), point, *present, comparison);
-    if (!damage.empty()) return {notWhole(damage), false, made};
+    if (!damage.empty()) {
+        store.remove(made.name);
+        return refused(notWhole(damage));
+    }
     Way way(store.tree(), live, point, stepsFromPresent(store.tree(), comparison, *present, point, neighborhood));
     GoneBack result =
         follow(pointsDirectory, store, way, {point.name, made.name, gameOf(simsDirectory), neighborhood}, false);

@@ -21,7 +21,8 @@ constexpr int allNeighborhoods = 0;
 
 // Paths in the game's directory, as in a FileTree.
 struct PointComparison {
-    std::vector<std::string> changed;  // other bytes, another time or mode
+    std::vector<std::string> changed;  // other bytes
+    std::vector<std::string> stamped;  // the same bytes, but another time or mode
     std::vector<std::string> toCome;   // only in the point
     std::vector<std::string> toGo;     // only in the game
 };

@@ -104,6 +104,10 @@ void describePick() {
             addWrapped(line);
         }
     }
+    if (shown->lines.size() > static_cast<std::size_t>(lineCount)) {
+        shown->lines.resize(lineCount);
+        shown->lines.back() = "... and more: \"Go Back\" names all of it before it asks.";
+    }
     InvalidateRect(shown->controls.window, nullptr, TRUE);
 }
 
@@ -181,7 +185,7 @@ void onPaint(HWND window) {
     const HDC dc = BeginPaint(window, &painting);
     drawLine(dc, "Restore point:", margin, pointTop + textDrop, margin + labelWidth);
     drawLine(dc, "Neighborhood:", margin, neighborhoodTop + textDrop, margin + labelWidth);
-    for (std::size_t i = 0; i < shown->lines.size() && i < static_cast<std::size_t>(lineCount); ++i) {
+    for (std::size_t i = 0; i < shown->lines.size(); ++i) {
         drawLine(dc, shown->lines[i], margin, linesTop + static_cast<LONG>(i) * lineHeight, width - 2 * margin);
     }
     EndPaint(window, &painting);

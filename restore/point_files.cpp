@@ -9,12 +9,12 @@
 #include "platform/part_names.h"
 #include "platform/win32.h"
 #include "world/content_sum.h"
+#include "world/paths.h"
 
 namespace {
 
 constexpr std::string_view neighborhoodPrefix = "userdata";
-constexpr std::string_view backups = "backups";
-constexpr std::string_view temporaryPrefix = "tmp";
+constexpr std::string_view temporary = temporaryPrefix;
 
 constexpr std::size_t blockSize = 256'000;
 
@@ -37,7 +37,7 @@ int neighborhoodNumber(std::string_view name) {
 }
 
 bool isLeftOut(std::string_view fileName) {
-    return equalInAnyCase(fileName.substr(0, temporaryPrefix.size()), temporaryPrefix) || !fileBehind(fileName).empty();
+    return equalInAnyCase(fileName.substr(0, temporary.size()), temporary) || !fileBehind(fileName).empty();
 }
 
 class Walk {
@@ -78,7 +78,7 @@ class Walk {
     static bool isEntered(const std::string& directory, const TreeEntry& entry) {
         if (directory.empty()) return neighborhoodNumber(entry.name) != 0;
         // What a link leads to isn't the neighborhood's own, and nothing there may be deleted.
-        return !entry.isLink && !equalInAnyCase(entry.name, backups);
+        return !entry.isLink && !equalInAnyCase(entry.name, backupsDirectory);
     }
 
     const FileTree& tree_;
@@ -112,7 +112,7 @@ bool belongsToPoint(std::string_view path) {
     path.remove_prefix(path.find('/') + 1);
     while (path.find('/') != std::string_view::npos) {
         const std::string_view directory = path.substr(0, path.find('/'));
-        if (!FileTree::isName(directory) || equalInAnyCase(directory, backups)) return false;
+        if (!FileTree::isName(directory) || equalInAnyCase(directory, backupsDirectory)) return false;
         path.remove_prefix(directory.size() + 1);
     }
     return FileTree::isName(path) && !isLeftOut(path);

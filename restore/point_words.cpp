@@ -41,7 +41,7 @@ std::size_t housesIn(const std::vector<std::string>& paths) {
 }
 
 std::string filesLine(const PointComparison& comparison) {
-    const std::size_t changed = comparison.changed.size();
+    const std::size_t changed = comparison.changed.size() + comparison.stamped.size();
     std::string line = counted(changed, "file", "files") + " will change, " + std::to_string(comparison.toGo.size()) +
                        " will go and " + std::to_string(comparison.toCome.size()) + " will come";
     const std::size_t houses = housesIn(comparison.changed) + housesIn(comparison.toGo) + housesIn(comparison.toCome);
@@ -148,7 +148,7 @@ std::vector<std::string> comparisonLines(const std::string& pointsDirectory, con
     std::vector<std::string> differing = comparison->changed;
     std::ranges::copy(comparison->toCome, std::back_inserter(differing));
     std::ranges::copy(comparison->toGo, std::back_inserter(differing));
-    if (differing.empty()) return {nothingDiffers(point, neighborhood)};
+    if (differing.empty() && comparison->stamped.empty()) return {nothingDiffers(point, neighborhood)};
     const NeighborhoodCounts then = countsIn(pointsDirectory + '\\' + point.name + '\\', neighborhood);
     const NeighborhoodCounts now = countsIn(simsDirectory, neighborhood);
     std::vector<std::string> lines = {"Families: " + std::to_string(then.families) + " then, " +

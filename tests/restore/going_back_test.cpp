@@ -15,25 +15,43 @@ TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
     files_.write("game/UserData2/neighborhood.iff", "played, too");
     files_.write("game/UserData/Backups/a.iff", "a backup");
     files_.write("game/UserData/TMPa.iff", "left over");
+    files_.write(std::string(live) + ".tidewright-old0", "an old version without a backup");
+    fs::last_write_time(files_.path("game/UserData/Houses/House01.iff"), fs::file_time_type{});
     std::string error;
     const auto comparison = compareWithPoint(points(), point(before), game(), 1, error);
     ASSERT_TRUE(comparison);
     EXPECT_EQ(comparison->changed, std::vector<std::string>{"UserData/neighborhood.iff"});
+    EXPECT_EQ(comparison->stamped, std::vector<std::string>{"UserData/Houses/House01.iff"});
     EXPECT_EQ(comparison->toCome, std::vector<std::string>{"UserData/Characters/User00001.iff"});
     EXPECT_EQ(comparison->toGo, std::vector<std::string>{"UserData/Houses/House02.iff"});
 
     const GoneBack gone = goBackTo(before, 1);
     EXPECT_EQ(gone.error, "");
-    EXPECT_EQ(treeOf(files_.path("game")), (Tree{{"UserData/neighborhood.iff", bytesFrom("the neighborhood")},
-                                                 {"UserData/Characters/User00001.iff", bytesFrom("123456789")},
-                                                 {"UserData/Houses/House01.iff", bytesFrom("a house")},
-                                                 {"UserData2/neighborhood.iff", bytesFrom("played, too")},
-                                                 {"UserData/Backups/a.iff", bytesFrom("a backup")},
-                                                 {"UserData/TMPa.iff", bytesFrom("left over")},
-                                                 {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
+    EXPECT_EQ(treeOf(files_.path("game")),
+              (Tree{{"UserData/neighborhood.iff", bytesFrom("the neighborhood")},
+                    {"UserData/Characters/User00001.iff", bytesFrom("123456789")},
+                    {"UserData/Houses/House01.iff", bytesFrom("a house")},
+                    {"UserData2/neighborhood.iff", bytesFrom("played, too")},
+                    {"UserData/Backups/a.iff", bytesFrom("a backup")},
+                    {"UserData/TMPa.iff", bytesFrom("left over")},
+                    {"UserData/neighborhood.iff.tidewright-old0", bytesFrom("an old version without a backup")},
+                    {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
     EXPECT_EQ(point(gone.present.name).reason, PointReason::goingBack);
     EXPECT_FALSE(unfinishedGoingBack(points()));
     EXPECT_EQ(goBackTo(before, 1).present.name, "") << "nothing differs any more";
+}
+
+TEST_F(GoingBackTest, AGameWithoutAnyNeighborhoodGetsAllOfThemBack) {
+    const std::string made = make().name;
+    const auto before = whole();
+    fs::remove_all(files_.path("game/UserData"));
+    fs::remove_all(files_.path("game/UserData2"));
+    const auto without = whole();
+    const GoneBack gone = goBackTo(made);
+    EXPECT_EQ(gone.error, "");
+    EXPECT_EQ(whole(), before);
+    EXPECT_EQ(goBackTo(gone.present.name).error, "");
+    EXPECT_EQ(whole(), without);
 }
 
 // Sessions at random: children and teens grow up, others move out, and the game's files come, go, or change their
