@@ -88,8 +88,11 @@ TEST_F(GoingBackTest, EachPointComesBackExactlyAndSoDoesWhatWasBefore) {
             if (!fs::exists(path) || below(3) == 0)
                 files_.write(file, std::to_string(random()).substr(0, random() % 9));
             if (below(3) == 0) fs::last_write_time(path, fs::last_write_time(path) - std::chrono::hours(below(99)));
-            if (below(4) == 0) fs::permissions(path, writable, fs::perm_options::remove);
-            if (below(4) == 0) fs::remove(path);
+            if (below(4) == 0) {
+                fs::remove(path);
+            } else if (below(4) == 0) {
+                fs::permissions(path, writable, fs::perm_options::remove);
+            }
         }
         save(below(2) == 0 ? "UserData" : "UserData3");
     };
