@@ -24,11 +24,11 @@ std::string fileOf(std::string_view name, std::string_view suffix) {
 
 // Where the process ended between the two renames, the older file gets its name back. Else the new one has the name; it
 // must be on the disk before the older one goes.
-void clearAside(const FilePlace& place, int number, bool keepsOldVersions) {
+void clearAside(const FilePlace& place, int number, bool givesNamesBack) {
     const std::string aside = asideName(place.name(), number);
     if (place.isFree(place.name())) {
-        place.rename(aside, place.name());
-    } else if (!keepsOldVersions && place.sync()) {
+        if (givesNamesBack) place.rename(aside, place.name());
+    } else if (place.sync()) {
         place.remove(aside);
     }
 }
@@ -51,12 +51,12 @@ std::string fileOfAside(std::string_view name) {
     return fileOf(name, asideSuffix);
 }
 
-void clearLeftOverParts(const char* directory, bool keepsOldVersions) {
+void clearLeftOverParts(const char* directory, bool givesNamesBack) {
     const std::string prefix = std::string(directory) + '\\';
     for (const std::string& name : fileNamesIn(directory)) {
         const std::string replaced = fileOfAside(name), unfinished = fileOfPart(name);
         const int number = name.back() - '0';
-        if (!replaced.empty()) clearAside(FilePlace((prefix + replaced).c_str()), number, keepsOldVersions);
+        if (!replaced.empty()) clearAside(FilePlace((prefix + replaced).c_str()), number, givesNamesBack);
         if (unfinished.empty()) continue;
         const FilePlace place((prefix + unfinished).c_str());
         place.remove(partName(place.name(), number));

@@ -20,7 +20,7 @@ std::string fileOfAside(std::string_view name);
 
 // Clears away what processes that ended half-way left in `directory`: deletes the parts, and the files that were set
 // aside, but one without a new version gets its name back. The caller holds the lock under which all those files are
-// written. An old version may have no other copy: `keepsOldVersions` leaves each that is beside a new one.
-void clearLeftOverParts(const char* directory, bool keepsOldVersions = false);
+// written. Without `givesNamesBack` such a file stays where it is.
+void clearLeftOverParts(const char* directory, bool givesNamesBack = true);
 
 #endif

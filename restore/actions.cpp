@@ -49,11 +49,12 @@ std::string sentenceOf(const GoneBack& gone) {
 bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
     if (isRefused(game)) return false;
     std::string question = "Go back to \"" + titleOf(point.name, game) + "\"?\n";
+    bool isSame = false;
     const std::vector<std::string> lines =
-        comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood);
+        comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood, &isSame);
     if (point.damage.empty() && lines.size() == 1) {
         say(lines.front(), game.onConsole);
-        return true;
+        return isSame;
     }
     for (const std::string& line : lines) {
         question += '\n' + line;

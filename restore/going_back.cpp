@@ -226,17 +226,13 @@ class NeighborhoodLocks {
 
     const std::string& refusal() const { return refusal_; }
 
-    // Finds the game's files, after clearing away what other programs left half-done where none can be writing now.
-    std::optional<NeighborhoodFiles> findFiles(const FileTree& live, const std::string& simsDirectory,
-                                               std::string& error) const {
-        auto found = filesOfNeighborhoods(live, error);
-        if (!found || found->withParts.empty()) return found;
-        for (std::string directory : found->withParts) {
+    // Clears away what other programs left half-done, where none can be writing now. The files of a point stay.
+    void clearParts(const NeighborhoodFiles& found, const std::string& simsDirectory) const {
+        for (std::string directory : found.withParts) {
             if (std::ranges::find(held_, directory.substr(0, directory.find('/'))) == held_.end()) continue;
             std::ranges::replace(directory, '/', '\\');
-            clearLeftOverParts((simsDirectory + directory).c_str(), true);
+            clearLeftOverParts((simsDirectory + directory).c_str(), false);
         }
-        return filesOfNeighborhoods(live, error);
     }
 
  private:
@@ -398,7 +394,7 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     const NeighborhoodLocks locks(live, simsDirectory, neighborhood);
     if (!locks.refusal().empty()) return refused(locks.refusal());
     std::string error;
-    const auto found = locks.findFiles(live, simsDirectory, error);
+    const auto found = filesOfNeighborhoods(live, error);
     if (!found) return refused(error);
     Steps steps = stepsFromLive(comparison, found->files, point, neighborhood);
     joinSpellings(live, steps);
@@ -411,6 +407,7 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
 
     const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time, comparison);
     if (made.name.empty()) return {made.error, false, made};
+    locks.clearParts(*found, simsDirectory);
     const std::vector<RestorePoint> all = readPoints(store.tree()).value_or(std::vector<RestorePoint>());
     const RestorePoint* const present = named(all, made.name);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
@@ -422,6 +419,10 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     Way way(store.tree(), live, point, stepsFromPresent(store.tree(), comparison, *present, point, neighborhood));
     GoneBack result =
         follow(pointsDirectory, store, way, {point.name, made.name, gameOf(simsDirectory), neighborhood}, false);
+    if (!result.error.empty() && !result.isBetween) {
+        store.remove(made.name);  // nothing has changed
+        return result;
+    }
     result.present = made;
     store.deleteOldest({point.name, made.name});
     return result;
@@ -453,8 +454,9 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     const NeighborhoodLocks locks(live, note->simsDirectory, note->neighborhood);
     if (!locks.refusal().empty()) return {locks.refusal(), true, {}};
     std::string error;
-    const auto found = locks.findFiles(live, note->simsDirectory, error);
+    const auto found = filesOfNeighborhoods(live, error);
     if (!found) return {error, true, {}};
+    locks.clearParts(*found, note->simsDirectory);
     const Steps steps = stepsFromLive(comparison, found->files, target, note->neighborhood);
     const Steps toOther =
         other != nullptr ? stepsFromLive(comparison, found->files, *other, note->neighborhood) : steps;

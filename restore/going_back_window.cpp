@@ -106,7 +106,7 @@ void describePick() {
     }
     if (shown->lines.size() > static_cast<std::size_t>(lineCount)) {
         shown->lines.resize(lineCount);
-        shown->lines.back() = "... and more: \"Go Back\" names all of it before it asks.";
+        shown->lines.back() = "... and more, which the question before going back names.";
     }
     InvalidateRect(shown->controls.window, nullptr, TRUE);
 }

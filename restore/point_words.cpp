@@ -141,14 +141,18 @@ std::vector<std::string> pointTitles(const std::vector<RestorePoint>& points, co
 }
 
 std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,
-                                         const std::string& simsDirectory, int neighborhood) {
+                                         const std::string& simsDirectory, int neighborhood, bool* isSame) {
     std::string error;
     const auto comparison = compareWithPoint(pointsDirectory, point, simsDirectory, neighborhood, error);
+    if (isSame != nullptr) *isSame = false;
     if (!comparison) return {error};
     std::vector<std::string> differing = comparison->changed;
     std::ranges::copy(comparison->toCome, std::back_inserter(differing));
     std::ranges::copy(comparison->toGo, std::back_inserter(differing));
-    if (differing.empty() && comparison->stamped.empty()) return {nothingDiffers(point, neighborhood)};
+    if (differing.empty() && comparison->stamped.empty()) {
+        if (isSame != nullptr) *isSame = true;
+        return {nothingDiffers(point, neighborhood)};
+    }
     const NeighborhoodCounts then = countsIn(pointsDirectory + '\\' + point.name + '\\', neighborhood);
     const NeighborhoodCounts now = countsIn(simsDirectory, neighborhood);
     std::vector<std::string> lines = {"Families: " + std::to_string(then.families) + " then, " +

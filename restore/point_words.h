@@ -23,10 +23,10 @@ std::string_view reasonText(PointReason reason);
 // read alike have the seconds, too, and those of the same second a number.
 std::vector<std::string> pointTitles(const std::vector<RestorePoint>& points, const SYSTEMTIME& now);
 
-// What the game's files are now, seen from a point: lines to be read, without line breaks. One line
-// alone says why there is nothing to go back to.
+// What the game's files are now, seen from a point: lines to be read, without line breaks. One line alone says why
+// there is nothing to go back to: because nothing differs, which `isSame` gets, or because the files can't be read.
 std::vector<std::string> comparisonLines(const std::string& pointsDirectory, const RestorePoint& point,
-                                         const std::string& simsDirectory, int neighborhood);
+                                         const std::string& simsDirectory, int neighborhood, bool* isSame = nullptr);
 
 // An entry of the list for each point: "today 20:12 - Bramble Thistlewood became an adult, moved out". `points` are
 // the newest first.
