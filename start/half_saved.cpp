@@ -23,7 +23,9 @@ std::string versionBefore(const NeighborhoodPlace& place, const Sim& sim, const 
     if (!queryFileStatus(place.character(file).c_str(), status) || status.written <= saved) return "";
     std::string old = asideOf(place.characters(), file);
     if (old.empty()) old = backupSince(saved, place.characters(), file);
-    if (old.empty() || bodyFitsRecord(sim, lookAtCharacter(place.character(file)))) return "";
+    if (old.empty()) return "";
+    const CharacterLook look = lookAtCharacter(place.character(file));
+    if (!look.fault.empty() || bodyFitsRecord(sim, look)) return "";
     return bodyFitsRecord(sim, lookAtCharacter(place.character(old))) ? old : "";
 }
 
