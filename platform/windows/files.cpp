@@ -98,7 +98,12 @@ bool isSameFile(const char* first, const char* second) {
                         one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
     // Some network drives don't number their files: there all have the number 0.
     const bool isNumbered = one.nFileIndexHigh != 0 || one.nFileIndexLow != 0;
-    return isSame && (isNumbered || lstrcmpiA(absolutePath(first).c_str(), absolutePath(second).c_str()) == 0);
+    const auto folded = [](const char* path) {
+        std::string whole = absolutePath(path);
+        CharLowerBuffA(whole.data(), static_cast<DWORD>(whole.size()));
+        return whole;
+    };
+    return isSame && (isNumbered || folded(first) == folded(second));
 }
 
 // Windows ignores case itself, so nothing needs to be kept.
