@@ -1,5 +1,5 @@
-// The skin by which the program knows, when it starts, that the game is prepared. The start writes it into
-// the game's directory.
+// The skin by which the program knows, when it starts, that the game is prepared. The start writes it into the
+// game's directory.
 #ifndef GAMEFILES_SKIN_FILE_H
 #define GAMEFILES_SKIN_FILE_H
 

@@ -14,7 +14,7 @@ std::string programBeside(const std::string& name);
 // plus the signal's number if a signal ended it.
 //
 // Natively the program has the lock `shared` together with this one, without knowing it: the lock ends with the last of
-// both, so it outlives this process if only that is killed. On Windows the system takes it from the program then.
+// both, so it outlives this process if only that is killed. On Windows it ends with this process.
 bool runAndWait(const std::string& program, const std::string& directory, const DirectoryLock& shared, int& exitCode);
 
 #endif

@@ -13,9 +13,8 @@ struct CutOffEvening {
     std::string text = {};        // "The last evening was cut off. Neighborhood 1 is as follows: ..."
 };
 
-// Compares the game's neighborhoods with the copy; one in which no save was begun isn't mentioned, nor is what
-// an earlier evening has left over. What left_overs.h can mend is mentioned, and offered there. No
-// box opens.
+// Compares the game's neighborhoods with the copy; one in which no save was begun isn't mentioned, nor is what an
+// earlier evening has left over. What left_overs.h can mend is mentioned, and offered there. No box opens.
 CutOffEvening describeCutOff(const Evening& evening);
 
 #endif

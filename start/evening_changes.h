@@ -19,8 +19,8 @@ struct EveningChanges {
 
 // Compares the neighborhood file, the files of Sims and those of houses. The editor's save keeps the old version of a
 // file as a backup, or beside the file. What has none that is as new as `begin`, in seconds since 1970, comes from
-// another program, unless a Sim has grown up by it; so does any change of a house. A file that a save was cut off
-// without is none of these: it is missing (start/left_overs.h).
+// another program, unless a Sim's record shows another age; so does any change of a house. A file that a save was cut
+// off without is none of these: it is missing (start/left_overs.h).
 EveningChanges changesOf(const NeighborhoodPlace& before, const NeighborhoodPlace& now, std::int64_t begin);
 
 #endif

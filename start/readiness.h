@@ -9,7 +9,7 @@
 
 // Each line is one or more sentences for the player, in Windows-1252, without a line break.
 struct Readiness {
-    std::vector<std::string> obstacles = {};  // each prevents a save, or keeps a neighborhood from being read
+    std::vector<std::string> obstacles = {};  // each prevents a save, or makes what it reads or writes unsafe
     std::vector<std::string> warnings = {};   // what can't be read, is half saved, or what a save would drop
     std::vector<LeftOver> leftOvers = {};     // of saves that were cut off
 

@@ -103,7 +103,7 @@ TEST_F(Stories, TheStartSaysWhatBecameOfAnEveningAndUndoesIt) {
     const std::filesystem::perms writable = std::filesystem::status(neighborhood).permissions();
     permissions(neighborhood, std::filesystem::perms::owner_read);
     launch("tidewright-start");
-    answerBox("Tidewright Start", "Escape");  // nothing could be saved: not to start all the same
+    answerBox("Tidewright Start", "Escape");  // nothing could be saved, so it isn't started
     EXPECT_EQ(waitForExit(), 1);
     permissions(neighborhood, writable);
 

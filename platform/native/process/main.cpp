@@ -25,8 +25,8 @@ HINSTANCE GetModuleHandleA(LPCSTR moduleName) {
 
 namespace {
 
-// What this process was given stays with it: a browser that it starts would keep a lock until it is closed itself. Not
-// on older systems.
+// What this process was given stays with it: a browser that it starts would keep a lock until it is closed itself.
+// Older kernels lack this call; there the lock is kept.
 void keepDescriptors() {
     close_range(STDERR_FILENO + 1, UINT_MAX, CLOSE_RANGE_CLOEXEC);
 }
