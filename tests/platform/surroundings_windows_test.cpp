@@ -1,6 +1,4 @@
 // What a program asks of Windows around it.
-#include <gtest/gtest.h>
-
 #include "platform/child_process.h"
 #include "platform/console.h"
 #include "platform/files.h"

@@ -1,6 +1,4 @@
 // Windows, controls, menus, keys and boxes: what a window receives, and what the user sees of it.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <tuple>
 

@@ -1,5 +1,4 @@
 // What a test can see only natively: the picture on the screen, and the pages that a browser is told to open.
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include "shell/main_window.h"

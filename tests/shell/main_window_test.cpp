@@ -1,8 +1,6 @@
 // The main window on the sample installation, driven as a user drives it.
 #include "shell/main_window.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "sample/fact_template.h"

@@ -1,8 +1,6 @@
 // What keeps the program from starting, and what it says then.
 #include "shell/start_checks.h"
 
-#include <gtest/gtest.h>
-
 #include "sample/wine_prefix.h"
 #include "shell/window_class.h"
 #include "tests/support/machine.h"

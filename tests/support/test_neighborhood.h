@@ -2,8 +2,6 @@
 #ifndef TESTS_SUPPORT_TEST_NEIGHBORHOOD_H
 #define TESTS_SUPPORT_TEST_NEIGHBORHOOD_H
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <vector>

@@ -1,6 +1,4 @@
 // How a game without an entry in the registry gets one, and what is said beside windows of its name.
-#include <gtest/gtest.h>
-
 #include "platform/wine_prefixes.h"
 #include "sample/wine_prefix.h"
 #include "tests/support/machine.h"
