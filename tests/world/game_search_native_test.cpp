@@ -1,8 +1,6 @@
 // Where the game is found under Wine, and what is said where it isn't.
 #include "world/game_search.h"
 
-#include <gtest/gtest.h>
-
 #include <QtTest/qtestmouse.h>
 #include <QApplication>
 #include <QComboBox>
@@ -40,8 +38,11 @@ class GameSearchNativeTest : public testing::Test {
         files_.write(prefix + "/system.reg", "[Software\\\\Maxis\\\\The Sims]\n\"SIMS_DATA\"=\"" + registered + "\"\n");
     }
 
-    int find(const std::string& wished = "", bool askNothing = true) {
-        return findGame({wished, askNothing}, files_.path("own"), found_);
+    // The game's directory, or the result where none is found.
+    std::string found(const std::string& wished = "", bool askNothing = true) {
+        prefix_.set(playersPrefix_);
+        const int result = findGame({wished, askNothing}, files_.path("own"), found_);
+        return result == 0 ? std::string(found_.view()) : std::to_string(result);
     }
 
     // Whether what was found is this directory, by the paths that the editor makes.
@@ -56,12 +57,11 @@ class GameSearchNativeTest : public testing::Test {
     // What goes to standard output while nothing is found.
     std::string wordsOf(const std::string& wished) {
         testing::internal::CaptureStdout();
-        EXPECT_EQ(find(wished), -1);
+        EXPECT_EQ(found(wished), "-1");
         return testing::internal::GetCapturedStdout();
     }
     void expectWords(const std::string& wished, const std::string& part) {
         const std::string words = wordsOf(wished);
-        prefix_.set("");
         EXPECT_NE(words.find(part), std::string::npos) << words << "\ndoesn't have\n" << part;
     }
 
@@ -77,6 +77,7 @@ class GameSearchNativeTest : public testing::Test {
     TempDirectory files_;
     ScopedVariable home_{"HOME", files_.path("home")};
     ScopedVariable prefix_{"WINEPREFIX", ""};
+    std::string playersPrefix_;
     DirectoryText found_;
 };
 
@@ -92,38 +93,30 @@ TEST_F(GameSearchNativeTest, EachPlaceOfPrefixesIsSearched) {
         const std::string prefix = files_.path(std::string("home/") + place);
         fs::create_directories(prefix);
         EXPECT_TRUE(makeWinePrefix(prefix));
-        EXPECT_EQ(find(), 0);
-        EXPECT_EQ(found_.view(), gameAsRegistered);
+        EXPECT_EQ(found(), gameAsRegistered);
         EXPECT_EQ(std::getenv("WINEPREFIX"), prefix);
         files_.remove(std::string("home/") + place);
-        prefix_.set("");
     }
 }
 
 TEST_F(GameSearchNativeTest, WhatThePathsOfTheEditorDontReachGetsAPrefixOfItsOwn) {
     const std::string deep = "drive_c/" + std::string(60, 'a') + '/' + std::string(60, 'b');
-    const struct {
-        const char* what;
-        std::string directory, registered;
-        bool hasDrives;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string, bool> rows[] = {
         {"a long path", deep, "C:\\\\" + std::string(60, 'a') + "\\\\" + std::string(60, 'b'), true},
         {"outside Windows-1252", "drive_c/Gry/Łódź", R"(C:\\Gry\\\x141\x00f3d\x17a)", true},
         {"no links to drives", "drive_c/Maxis/The Sims", R"(C:\\maxis\\The Sims)", false},
         {"short names", "drive_c/Program Files/The Sims", R"(C:\\PROGRA~1\\THE_~K4X)", true},
         {"no entry", "drive_c/users/steamuser/Saved Games/Electronic Arts/The Sims 25", "", true},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
-        makePrefix("home/.wine", row.directory, row.registered);
-        if (!row.hasDrives) files_.remove("home/.wine/dosdevices");
+    for (const auto& [what, directory, registered, hasDrives] : rows) {
+        SCOPED_TRACE(what);
+        makePrefix("home/.wine", directory, registered);
+        if (!hasDrives) files_.remove("home/.wine/dosdevices");
         for (int start = 1; start <= 2; ++start) {
-            prefix_.set("");
-            EXPECT_EQ(find(), 0);
-            EXPECT_EQ(found_.view(), "G:\\");
-            EXPECT_TRUE(leadsTo("home/.wine/" + row.directory));
+            EXPECT_EQ(found(), "G:\\");
+            EXPECT_TRUE(leadsTo("home/.wine/" + directory));
         }
-        EXPECT_EQ(realPath("G:\\"), files_.path("home/.wine/" + row.directory));
+        EXPECT_EQ(realPath("G:\\"), files_.path("home/.wine/" + directory));
         files_.remove("home/.wine");
     }
     EXPECT_TRUE(files_.exists("own/games/5"));
@@ -134,11 +127,11 @@ TEST_F(GameSearchNativeTest, APrefixOfTheEnvironmentMayHaveAnyForm) {
     EXPECT_TRUE(makeWinePrefix(files_.path("home/a b")));
     EXPECT_TRUE(makeWinePrefix(files_.path("home/.wine")));
     for (const char* const form : {"a b", "./a b/", "~/a b"}) {
-        prefix_.set(form);
-        EXPECT_EQ(find(), 0) << form;
+        playersPrefix_ = form;
+        EXPECT_EQ(found(), gameAsRegistered) << form;
         EXPECT_EQ(fs::canonical(std::getenv("WINEPREFIX")), files_.path("home/a b"));
     }
-    prefix_.set("nowhere");
+    playersPrefix_ = "nowhere";
     EXPECT_EQ(wordsOf(""), "The registry of " + files_.path("home/nowhere") +
                                " has no entry of The Sims.\n\nSet WINEPREFIX to the game's prefix, or leave it out "
                                "and let Tidewright search.\n");
@@ -148,14 +141,9 @@ TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
     makePrefix("home/.wine", "drive_c/a", "C:\\\\a");
     makePrefix("elsewhere/pfx", "drive_c/b", "C:\\\\b");
     for (const char* const wish : {"../elsewhere", "../elsewhere/pfx", "../elsewhere/pfx/drive_c/b/",
-                                   "../elsewhere/pfx/drive_c/b/UserData", "../elsewhere/pfx/drive_c"}) {
-        EXPECT_EQ(find(wish), 0) << wish;
-        EXPECT_EQ(found_.view(), "C:\\b\\");
-        prefix_.set("");
-    }
-    EXPECT_EQ(find(), 0);
-    EXPECT_EQ(found_.view(), "C:\\b\\");
-    prefix_.set("");
+                                   "../elsewhere/pfx/drive_c/b/UserData", "../elsewhere/pfx/drive_c"})
+        EXPECT_EQ(found(wish), "C:\\b\\") << wish;
+    EXPECT_EQ(found(), "C:\\b\\");
 
     files_.remove("elsewhere");
     expectWords("", "isn't there any more: " + files_.path());
@@ -174,18 +162,15 @@ TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
     expectWords("", files_.path("home/Games/b/drive_c/b") + " - 1 neighborhood, last played 20");
 
     later([] { click("Cancel"); });
-    EXPECT_EQ(find("", false), 1);
+    EXPECT_EQ(found("", false), "1");
     later([] {
         for (QWidget* const widget : QApplication::allWidgets())
             if (auto* const list = qobject_cast<QComboBox*>(widget); list != nullptr && list->isVisible())
                 list->setCurrentIndex(1);  // the first is the one that was played
         click("Open");
     });
-    EXPECT_EQ(find("", false), 0);
-    EXPECT_EQ(found_.view(), "C:\\a\\");
-    prefix_.set("");
-    EXPECT_EQ(find("", false), 0) << "asks again";
-    EXPECT_EQ(found_.view(), "C:\\a\\");
+    EXPECT_EQ(found("", false), "C:\\a\\");
+    EXPECT_EQ(found("", false), "C:\\a\\") << "asks again";
 }
 
 TEST_F(GameSearchNativeTest, APrefixWithTwoGamesIsNoAnswerUntilOneIsChosen) {
@@ -193,11 +178,10 @@ TEST_F(GameSearchNativeTest, APrefixWithTwoGamesIsNoAnswerUntilOneIsChosen) {
                       saves = "/drive_c/users/a/Saved Games/Electronic Arts/The Sims 25";
     makePrefix("home/x", "drive_c/a", "C:\\\\a");
     files_.makeDirectory("home/x" + saves + "/UserData");
-    prefix_.set(prefix);
+    playersPrefix_ = prefix;
     expectWords("", "More than one game is in " + prefix + ".\n\n" + prefix + "/drive_c/a - ");
-    EXPECT_EQ(find(prefix + saves), 0);
-    prefix_.set(prefix);
-    EXPECT_EQ(find(), 0);
+    EXPECT_EQ(found(prefix + saves), "G:\\");
+    EXPECT_EQ(found(), "G:\\");
     EXPECT_TRUE(leadsTo("home/x" + saves));
 }
 
@@ -212,9 +196,9 @@ TEST_F(GameSearchNativeTest, WithoutAGameTheUserChoosesADirectory) {
         dialog->setDirectory(".hidden/pfx/drive_c");
         dialog->findChild<QLineEdit*>()->setText("a");
     });
-    EXPECT_EQ(find("", false), 0);
+    EXPECT_EQ(found("", false), "G:\\");
     EXPECT_TRUE(leadsTo("home/.hidden/pfx/drive_c/a"));
-    EXPECT_EQ(find(".hidden/pfx/drive_c/a/UserData"), 0);
+    EXPECT_EQ(found(".hidden/pfx/drive_c/a/UserData"), "G:\\");
 }
 
 }  // namespace
