@@ -1,16 +1,12 @@
-// What a program asks of the system around it: directories, settings, other programs and their windows.
-#include <gtest/gtest.h>
-
+// What a program asks of the system around it: directories, settings and other programs.
 #include "platform/child_process.h"
 #include "platform/console.h"
 #include "platform/files.h"
 #include "platform/own_directory.h"
 #include "platform/path_text.h"
-#include "platform/titled_windows.h"
 #include "platform/win32.h"
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
-#include "tests/support/x_server.h"
 
 namespace fs = std::filesystem;
 
@@ -20,10 +16,7 @@ TEST(SurroundingsNativeTest, TheOwnDirectoryIsMadeOrTheReasonNamed) {
     const TempDirectory files;
     files.write("file", "x");
     const std::string home = files.path("home"), longest = files.path(std::string(150, 'x'));
-    const struct {
-        const char* what;
-        std::string home, data, path, fault;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string, std::string, std::string> rows[] = {
         {"the usual place", home, "", home + "/.local/share/tidewright", ""},
         {"a relative variable", home, "data", home + "/.local/share/tidewright", ""},
         {"the variable", "", files.path("data//"), files.path("data/tidewright"), ""},
@@ -33,12 +26,12 @@ TEST(SurroundingsNativeTest, TheOwnDirectoryIsMadeOrTheReasonNamed) {
         {"too long", longest, "", longest + "/.local/share/tidewright",
          "The path " + longest + "/.local/share/tidewright has 200 characters or more, which is too long."},
     };
-    for (const auto& row : rows) {
-        const ScopedVariable homeVariable("HOME", row.home), dataVariable("XDG_DATA_HOME", row.data);
+    for (const auto& [what, inHome, inData, path, fault] : rows) {
+        const ScopedVariable homeVariable("HOME", inHome), dataVariable("XDG_DATA_HOME", inData);
         const OwnDirectory own = ownDirectory("Tidewright");
-        EXPECT_EQ(own.path, row.path) << row.what;
-        EXPECT_EQ(own.fault, row.fault) << row.what;
-        EXPECT_TRUE(!row.fault.empty() || fs::is_directory(own.path)) << row.what;
+        EXPECT_EQ(own.path, path) << what;
+        EXPECT_EQ(own.fault, fault) << what;
+        EXPECT_TRUE(!fault.empty() || fs::is_directory(own.path)) << what;
     }
 }
 
@@ -105,19 +98,6 @@ TEST(SurroundingsNativeTest, ALockIsSharedWithTheProgramThatIsRunButNotWithWhatT
         EXPECT_EQ(DirectoryLock(files.path().c_str()).isHeldByAnother(), isShared) << program;
         EXPECT_TRUE(DirectoryLock(files.path().c_str()).isHeld()) << "2 more seconds are enough";
     }
-}
-
-TEST(SurroundingsNativeTest, WindowsOfATitleTellTheirKind) {
-    const XServer server;
-    const ScopedVariable display("DISPLAY", server.display());
-    const auto add = [&](std::string_view classes) { server.addWindow("The Sims", classes, server.root()); };
-    EXPECT_EQ(kindsOfWindowsTitled("The Sims"), std::vector<std::string>{});
-    add("");
-    EXPECT_EQ(kindsOfWindowsTitled("The Sims"), std::vector<std::string>{""});
-    add(std::string_view("nautilus\0org.gnome.Nautilus\0", 28));
-    add("sims.exe");
-    EXPECT_EQ(kindsOfWindowsTitled("The Sims"), (std::vector<std::string>{"org.gnome.nautilus", "sims.exe"}));
-    EXPECT_EQ(kindsOfWindowsTitled("The Sim"), std::vector<std::string>{});
 }
 
 TEST(SurroundingsNativeTest, WordsAreWrittenAndPathsShownInTheTerminalsForm) {

@@ -1,7 +1,6 @@
 // What is said beside windows that bear the game's name, and beside another Tidewright.
 #include "world/running_game.h"
 
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,11 +13,7 @@ namespace {
 TEST(RunningGameNativeTest, TheAdviceFitsTheWindow) {
     const XServer server;
     const ScopedVariable display("DISPLAY", server.display());
-    const struct {
-        const char* title;
-        std::string_view kind;
-        const char* words;
-    } rows[] = {
+    const std::tuple<const char*, std::string_view, const char*> rows[] = {
         {"The Sims", "sims.exe", "The Sims is running: a window is called \"The Sims\"."},
         {"The Sims Hot Date", "", "The Sims is running: a window is called \"The Sims Hot Date\"."},
         {"The Sims", {"nautilus\0org.gnome.Nautilus\0", 28}, "The window of a folder is called \"The Sims\"."},
@@ -30,12 +25,14 @@ TEST(RunningGameNativeTest, TheAdviceFitsTheWindow) {
         EXPECT_EQ(refuseBesideGame(true), begin.empty() ? 0 : -2);
         EXPECT_EQ(testing::internal::GetCapturedStdout().substr(0, begin.size()), begin);
     };
-    for (const auto& row : rows) {
-        const xcb_window_t window = server.addWindow(row.title, row.kind, server.root());
-        expectWords(row.words);
+    for (const auto& [title, kind, words] : rows) {
+        const xcb_window_t window = server.addWindow(title, kind, server.root());
+        expectWords(words);
         xcb_destroy_window(server.connection(), window);
     }
+    server.addWindow("The Sims", "", server.root());  // the frame of the next
     server.addWindow("The Sims", "dolphin", server.root());
+    expectWords("The window of a folder is called \"The Sims\".");
     server.addWindow("The Sims House Party", "steam_app_1", server.root());
     expectWords("The Sims is running: a window is called \"The Sims House Party\".");
 }
