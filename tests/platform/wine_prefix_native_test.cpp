@@ -1,6 +1,4 @@
 // What Wine keeps for a program: the drives under its paths, and the registry.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "platform/files.h"
@@ -35,10 +33,7 @@ class WinePrefixNativeTest : public testing::Test {
 
 TEST_F(WinePrefixNativeTest, DrivesSeparatorsAndCaseAreMapped) {
     const std::string drive = directory_.path("Prefix/dosdevices/c:");
-    const struct {
-        const char* what;
-        std::string path, native;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string> rows[] = {
         {"slashes", "C:/Sims\\\\DATA/user42.IFF", drive + "/Sims/Data/USER42.iff"},
         {"the exact spelling first", "c:\\Sims\\data\\User42.iff", drive + "/Sims/Data/User42.iff"},
         {"the first in byte order else", "C:\\sims\\Data\\New.iff", drive + "/SIMS/Data/New.iff"},
@@ -46,8 +41,8 @@ TEST_F(WinePrefixNativeTest, DrivesSeparatorsAndCaseAreMapped) {
         {"a relative path", "prefix\\DRIVE_C\\", "Prefix/drive_c/"},
         {"in the root", "/PROC", "/proc"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(nativePath(row.path.c_str()), row.native) << row.what;
+    for (const auto& [what, path, native] : rows)
+        EXPECT_EQ(nativePath(path.c_str()), native) << what;
     prefix_.set("");
     const ScopedVariable home("HOME", directory_.path("home"));
     EXPECT_EQ(nativePath("C:\\x"), directory_.path("home/.wine/dosdevices/c:/x"));
@@ -107,12 +102,7 @@ TEST_F(WinePrefixNativeTest, TextsOfTheRegistryAreFoundUnderTheirKeyAndNames) {
     const std::string wow = "[Software\\\\Wow6432Node\\\\Maxis\\\\The Sims]\n";
     // Quotation marks are written as apostrophes.
     const std::string fits(99, 'x');
-    const struct {
-        const char* what;
-        std::string file;
-        const char* name;
-        std::string text;
-    } rows[] = {
+    const std::tuple<const char*, std::string, const char*, std::string> rows[] = {
         {"no key", "[Software\\\\Maxis\\\\The Sims\\\\Sub]\n'a'='below'\n", "a", "-"},
         {"names in any case", plain + "'aZ_Data'='C:\\\\The Sims'\n", "Az_DATA", "C:\\The Sims"},
         {"32-bit section first", wow + "'a'='w'\n" + plain + "'a'='p'\n'b'='q'\n", "a", "w"},
@@ -127,11 +117,11 @@ TEST_F(WinePrefixNativeTest, TextsOfTheRegistryAreFoundUnderTheirKeyAndNames) {
         {"not a text", plain + "'a'=dword:00000001\n'a'=hex:01,\\\n  02\n'a'=str(7):'x'\n", "a", "-"},
         {"damaged lines", plain + "'a\n'a'\n'a'=\n'a'='\n'a'='x\\\n='x'\n[\n'a'='in no key'\n", "a", "-"},
     };
-    for (const auto& row : rows) {
-        std::string file = head + row.file;
+    for (const auto& [what, section, name, text] : rows) {
+        std::string file = head + section;
         std::replace(file.begin(), file.end(), '\'', '"');
         directory_.write("Prefix/system.reg", file);
-        EXPECT_EQ(query(row.name), row.text) << row.what;
+        EXPECT_EQ(query(name), text) << what;
     }
 }
 
