@@ -1,5 +1,4 @@
-// What only the layer's own windows do: clicks on a list that has closed, the search for windows, boxes without a
-// screen.
+// What only the layer's own windows do, and what it does without a screen.
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestspontaneevent.h>
 #include <QAbstractItemView>
@@ -179,7 +178,6 @@ TEST_F(WindowingNativeTest, AWindowGrowsWithTheLettersAndScrollsWhereItHasNoRoom
 
 TEST_F(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     const XServer server;
-    ScopedVariable display("DISPLAY", server.display());
     xcb_window_t window = server.root();
     for (const char* const title : {"", "The Sims H\xF4tel", "", "The Sims House Party", "The Sims Deluxe"})
         window = server.addWindow(title, "", window);

@@ -1,4 +1,4 @@
-// An X server of a test's own, without a window manager.
+// An X server of a test's own, without a window manager, which DISPLAY names for as long as it runs.
 #ifndef TESTS_SUPPORT_X_SERVER_H
 #define TESTS_SUPPORT_X_SERVER_H
 
@@ -10,14 +10,17 @@
 #include <string>
 #include <string_view>
 
+#include "tests/support/scoped_variable.h"
+
 class XServer {
  public:
     // Starts Xvfb and connects to it; a failure fails the test.
     XServer() {
-        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_)) {
-            display_.push_back(static_cast<char>(byte));
-        }
-        connection_ = xcb_connect(display_.c_str(), nullptr);
+        std::string display = ":";
+        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_))
+            display.push_back(static_cast<char>(byte));
+        display_.set(display);
+        connection_ = xcb_connect(nullptr, nullptr);
         EXPECT_EQ(xcb_connection_has_error(connection_), 0) << "Xvfb doesn't start";
     }
     XServer(const XServer&) = delete;
@@ -27,7 +30,7 @@ class XServer {
         pclose(process_);  // it ends with its last connection
     }
 
-    const std::string& display() const { return display_; }  // ":1234"
+    std::string display() const { return std::getenv("DISPLAY"); }  // ":1234"
     xcb_connection_t* connection() const { return connection_; }
 
     // The screen's window, which contains all others.
@@ -60,7 +63,7 @@ class XServer {
  private:
     // The server finds a free number by itself and prints it once it takes connections.
     std::FILE* const process_ = popen("exec Xvfb -displayfd 1 -screen 0 1024x768x24 -terminate 2>/dev/null", "r");
-    std::string display_ = ":";
+    ScopedVariable display_{"DISPLAY", ""};
     xcb_connection_t* connection_ = nullptr;
 };
 

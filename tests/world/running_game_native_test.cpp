@@ -4,7 +4,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/x_server.h"
 
@@ -12,7 +11,6 @@ namespace {
 
 TEST(RunningGameNativeTest, TheAdviceFitsTheWindow) {
     const XServer server;
-    const ScopedVariable display("DISPLAY", server.display());
     const std::tuple<const char*, std::string_view, const char*> rows[] = {
         {"The Sims", "sims.exe", "The Sims is running: a window is called \"The Sims\"."},
         {"The Sims Hot Date", "", "The Sims is running: a window is called \"The Sims Hot Date\"."},
@@ -39,7 +37,6 @@ TEST(RunningGameNativeTest, TheAdviceFitsTheWindow) {
 
 TEST(RunningGameNativeTest, OnlyTheEditorsOwnWindowCountsAsOne) {
     const XServer server;
-    const ScopedVariable display("DISPLAY", server.display());
     for (const auto& [kind, isEditor] :
          {std::pair("dolphin", false), {"Tidewright-start", false}, {"Tidewright", true}}) {
         server.addWindow("Tidewright", kind, server.root());
