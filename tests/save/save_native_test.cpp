@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <chrono>
-#include <future>
 #include <optional>
 #include <thread>
 
@@ -58,7 +57,7 @@ TEST_F(SaveNativeTest, AnotherSaveIsWaitedForButOnlyForAWhile) {
     save();
     EXPECT_EQ(states(), "old; old; old");
     EXPECT_TRUE(test()->isDirty());
-    const auto ending = std::async(std::launch::async, [&] {
+    const std::jthread ending([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(400));
         other.reset();
     });

@@ -53,24 +53,19 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
         Obstacle obstacle;
         std::string name;  // that the obstacle takes
         std::string after, afterTheNext;
+        bool isCleosLater = false;
         SampleNeighborhood shape = {.freeRoom = true};
-        std::array<bool, 3> ofLaterEditions = {};
     } rows[] = {
         {"no live file", nothing, live, "old; old; gone", allSaved},
         {"a famtemplate of another size", aShortFile, "famtemplate",
          "old; old; old, temporary other bytes; famtemplate\n", allSaved},
-        {"no template of one who moves out",
-         nothing,
-         "famtemplate-later",
-         "old; old; old, temporary other bytes; famtemplate-later\n",
-         allSaved,
-         {},
-         {false, false, true}},
+        {"no template of one who moves out", nothing, "famtemplate-later",
+         "old; old; old, temporary other bytes; famtemplate-later\n", allSaved, true},
         {"a Template.iff that lacks a byte", aShortFile, "Template.iff",
          "old; old; new without both, backup old; Template.iff\n",
          "new, backup old; new, backup old; new, backup new without both"},
         {"no Template.iff for Sims whose records are cut off", nothing, "Template.iff",
-         "old; old; new, backup old; Template.iff\n", "new, backup old; new, backup old; new, backup new",
+         "old; old; new, backup old; Template.iff\n", "new, backup old; new, backup old; new, backup new", false,
          allBehindFreeRoom},
         {"no way to install Ann's file", aDirectory, annsFile,
          "gone, temporary new; new, backup old; new without Ann, backup old",
@@ -85,7 +80,7 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
          "new, backup old; new, backup old; new, aside old"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        start(row.shape, row.ofLaterEditions);
+        start(row.shape, {false, false, row.isCleosLater});
         const bool existed = files().exists(row.name);
         if (existed) files().remove(row.name);
         if (row.obstacle == aDirectory) files().makeDirectory(row.name);

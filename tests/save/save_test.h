@@ -51,11 +51,10 @@ class SaveTest : public testing::Test {
             const std::string file = TestNeighborhood::characterFile(characters_[sim].recordName);
             versions_[file] = {{original_.at(file), "old"}, {savedCharacter(sim), "new"}};
         }
-        for (const auto& [withAnn, withBob, what] : {std::tuple(true, true, "new"),
-                                                     {false, true, "new without Ann"},
-                                                     {true, false, "new without Bob"},
-                                                     {false, false, "new without both"}})
-            versions_[live].emplace(newNeighborhood(withAnn, withBob), what);
+        versions_[live].insert({{newNeighborhood(true, true), "new"},
+                                {newNeighborhood(false, true), "new without Ann"},
+                                {newNeighborhood(true, false), "new without Bob"},
+                                {newNeighborhood(false, false), "new without both"}});
         change(test_->sim(0), stageNumber::teen);
         change(test_->sim(1), stageNumber::adult);
         moveOut(2, cleos, 40'000);
