@@ -1,5 +1,4 @@
-// The machine around the program, as a test wants it. Each system has its own implementation in a folder beside this
-// file.
+// The machine around the program, as a test wants it.
 #ifndef TESTS_SUPPORT_MACHINE_H
 #define TESTS_SUPPORT_MACHINE_H
 
@@ -8,7 +7,10 @@
 
 // Where the programs and data files of the build lie: where the test program was started. A test that changes the
 // working directory asks before.
-std::filesystem::path buildDirectory();
+inline std::filesystem::path buildDirectory() {
+    static const std::filesystem::path startedIn = std::filesystem::current_path();
+    return startedIn;
+}
 
 // Makes the game of this sample prefix the one that is installed, and returns its directory as the registry has it,
 // with a separator at the end.

@@ -1,5 +1,4 @@
-// Finding tags, reading character files on demand with a resource map and without one, and what damaged files give;
-// body strings as text; and the stage.
+// What is read of character files, whole or damaged, with a resource map and without one.
 #include <regex>
 
 #include "tests/support/iff_walk.h"

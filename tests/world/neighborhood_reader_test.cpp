@@ -1,5 +1,4 @@
-// Reading "neighborhood.iff": records, families and free room, and what damaged files give; a family's members;
-// and the walk over the installation's "UserData" directories.
+// What is read of "neighborhood.iff", whole or damaged, and in which directories.
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 #include "ui/status_line.h"
