@@ -58,9 +58,7 @@ TEST_F(WinePrefixNativeTest, ANameOutsideAsciiIsFoundRawThenAsUtf8AndMadeAsUtf8)
         directory_.write(better, "x");
         EXPECT_EQ(nativePath(raw), better);
     }
-    const std::string outside = directory_.path(
-        "narz\xC4\x99"
-        "dzia");  // not in Windows-1252
+    const std::string outside = directory_.path("narzędzia");  // not in Windows-1252
     fs::create_directory(outside);
     fs::current_path(outside);
     char path[1000] = "";

@@ -28,7 +28,6 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
     const std::string noAdult = "has the body strings of no adult", asleep = "has a main tree that does nothing";
     const std::string noPerson = "has the behaviour of something but a person";
     EXPECT_EQ(refusalOf(chunksOf({.tag = "child"})), noAdult);
-    EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::pet})), noPerson);
     EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::townie})),
               "has the chunk OBJf 128 of the game's own characters");
 

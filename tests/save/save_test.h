@@ -87,8 +87,7 @@ class SaveTest : public testing::Test {
         EXPECT_EQ(test()->addNewFamily(std::move(moved)), 1);
     }
 
-    const TestNeighborhood& test() const { return *test_; }
-    void readAgain() const { test_->load(); }
+    TestNeighborhood& test() const { return *test_; }
     const TempDirectory& files() const { return test_->files(); }
     const Tree& original() const { return original_; }
 
