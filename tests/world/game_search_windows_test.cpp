@@ -57,26 +57,23 @@ TEST(GameSearchWindowsTest, AnEntryIsMadeAfterAQuestionAndNeverChanged) {
 }
 
 TEST(RunningGameWindowsTest, TheAdviceFitsTheWindow) {
-    const struct {
-        const char* kind;
-        const char* words;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"SimsGameWindow", "The Sims is running"},
         {"CabinetWClass", "The window of a folder is called \"The Sims\"."},
         {"ExploreWClass", "The window of a folder is called \"The Sims\"."},
         {"MozillaWindowClass", "A page in your browser is called \"The Sims\"."},
     };
     EXPECT_EQ(refuseBesideGame(false), 0);
-    for (const auto& row : rows) {
+    for (const auto& [kind, words] : rows) {
         WNDCLASSA windowClass = {};
         windowClass.lpfnWndProc = DefWindowProcA;
-        windowClass.lpszClassName = row.kind;
+        windowClass.lpszClassName = kind;
         RegisterClassA(&windowClass);
         HWND const window =
-            CreateWindowA(row.kind, "The Sims", WS_OVERLAPPEDWINDOW, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+            CreateWindowA(kind, "The Sims", WS_OVERLAPPEDWINDOW, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
         const AnsweredBox box = answerNextBox(IDOK);
         EXPECT_EQ(refuseBesideGame(false), -2);
-        EXPECT_EQ(box->text.find(row.words), 0U) << box->text;
+        EXPECT_EQ(box->text.find(words), 0U) << box->text;
         DestroyWindow(window);
     }
     EXPECT_FALSE(isEditorOpen());
