@@ -64,7 +64,7 @@ TEST(SkinSetsTest, TheShippedSetsLeadEachChildToAnAdult) {
         "c004mcdrk_nerd",     "c012mcmed_buzz",        "c806mclgt_jr",
     };
     const TempDirectory directory;
-    std::filesystem::copy(buildDirectory() / "skinsets-original.cfg", directory.path("skinsets.cfg"));
+    fs::copy(buildDirectory() / "skinsets-original.cfg", directory.path("skinsets.cfg"));
     randomGenerator().seed(0);
     for (std::size_t i = 0; i < 40 * std::size(children); ++i) {
         std::string head = children[i % std::size(children)];

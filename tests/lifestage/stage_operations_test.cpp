@@ -38,7 +38,7 @@ class OneSim : public TestNeighborhood {
     const BodyStrings& body() const { return *sim(0).bodyStrings(); }
     bool marked() const { return sim(0).characterDirty() && sim(0).recordDirty(); }
 
-    const std::filesystem::path expansion = gameDirectory(files().path("prefix")) / "ExpansionPack4";
+    const fs::path expansion = gameDirectory(files().path("prefix")) / "ExpansionPack4";
 };
 
 // The names of an outfit, such as "S100fafit".
@@ -96,7 +96,7 @@ TEST(ChildToTeenTest, DressesTheTeen) {
     for (const auto& [sex, toneNumber, tone, names] : rows) {
         OneSim sim({.age = 9, .skinTone = toneNumber, .kind = sex});
         if (sex == female) {  // a file of the expansion's name is no expansion
-            std::filesystem::remove_all(sim.expansion);
+            fs::remove_all(sim.expansion);
             writeFile(sim.expansion, "");
         }
         randomGenerator().seed(0);  // its first draw, 38, picks the first of everything
@@ -110,7 +110,7 @@ TEST(ChildToTeenTest, DressesTheTeen) {
 
 TEST(ChildToTeenTest, AProtectedExpansionIsNone) {
     const OneSim sim({.age = 9});
-    std::filesystem::permissions(sim.expansion, std::filesystem::perms(0500));
+    fs::permissions(sim.expansion, fs::perms(0500));
     EXPECT_EQ(childToTeen(&sim.sim(0)), 1);
     EXPECT_STREQ(sim.body().slot(bodySlot::w100Mesh), "");
 }

@@ -9,8 +9,6 @@
 #include "platform/win32.h"
 #include "tests/support/temp_directory.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 // The working directory holds "User00042.iff", the directory "Sub", and "protected.iff", which can't be written.

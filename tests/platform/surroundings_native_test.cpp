@@ -8,8 +8,6 @@
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 TEST(SurroundingsNativeTest, TheOwnDirectoryIsMadeOrTheReasonNamed) {

@@ -13,11 +13,11 @@ TEST(SurroundingsWindowsTest, TheOwnDirectoryIsInTheLocalApplicationData) {
     const OwnDirectory own = ownDirectory("Tidewright's test");
     EXPECT_EQ(own.fault, "");
     EXPECT_EQ(own.path, std::string(std::getenv("LOCALAPPDATA")) + "\\Tidewright's test");
-    EXPECT_TRUE(std::filesystem::is_empty(own.path));
-    std::filesystem::remove(own.path);
+    EXPECT_TRUE(fs::is_empty(own.path));
+    fs::remove(own.path);
     EXPECT_TRUE(writeFile(own.path, "x"));
     EXPECT_EQ(ownDirectory("Tidewright's test").fault, own.path + " isn't a directory.");
-    std::filesystem::remove(own.path);
+    fs::remove(own.path);
 }
 
 // The program starts itself once more, with the variable that says how to end.

@@ -7,8 +7,6 @@
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 // The working directory holds the prefix "Prefix", whose drive C is "Prefix/drive_c".

@@ -10,8 +10,6 @@
 #include "tests/support/machine.h"
 #include "tests/support/temp_directory.h"
 
-namespace fs = std::filesystem;
-
 using Chunks = std::vector<IffChunk>;
 
 inline Chunks chunksOf(const SampleCharacter& character) {

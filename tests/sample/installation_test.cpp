@@ -19,7 +19,7 @@ TEST(NeighborhoodFileTest, ARecordGoesOnBehindThePersonData) {
 
 TEST(InstallationTest, IsWrittenAgainAsItWasAndNeverOverThatOfOthers) {
     const TempDirectory files;
-    const std::filesystem::path prefix = files.path("prefix");
+    const fs::path prefix = files.path("prefix");
     ASSERT_TRUE(writeInstallation(prefix));
     const Tree first = treeOf(prefix);
     EXPECT_FALSE(treeOf(gameDirectory(prefix)).contains("UserData3/Characters/User00008.iff")) << "Shade has none";

@@ -10,8 +10,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
 // Changes these Sims and saves, on this day of 2026 in UTC. Each save has a template of its own, so that no two
 // versions of a file are the same. New files get the time of the save, as if it hadn't come right after the one before.
 void saveAt(TestNeighborhood& test, WORD month, WORD day, WORD hour, WORD minute, const std::vector<int>& sims) {

@@ -17,7 +17,7 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
     start();
     const std::string characters = files().path("UserData/Characters/"), ann = characters + "User00001.IFF";
     const gid_t group = getgid() == 0 ? 5 : getgid();
-    std::filesystem::rename(characters + "user00001.iff", ann);
+    fs::rename(characters + "user00001.iff", ann);
     ASSERT_EQ(chown(ann.c_str(), static_cast<uid_t>(-1), group), 0);
     ASSERT_EQ(chmod(ann.c_str(), 0664), 0);
     save();
@@ -26,7 +26,7 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
         ASSERT_EQ(stat(name.c_str(), &status), 0) << name;
         EXPECT_TRUE(status.st_mode == (S_IFREG | 0664) && status.st_gid == group) << name;
     }
-    EXPECT_FALSE(std::filesystem::exists(characters + "user00001.iff"));
+    EXPECT_FALSE(fs::exists(characters + "user00001.iff"));
 }
 
 TEST_F(SaveNativeTest, AProtectedFileStaysAndOneThatATemporaryNameLinksTo) {
@@ -42,8 +42,8 @@ TEST_F(SaveNativeTest, AProtectedFileStaysAndOneThatATemporaryNameLinksTo) {
         SCOPED_TRACE(name);
         start();
         if (name == backup) files().write(backup, "older");
-        if (name == temporary) std::filesystem::create_symlink(files().path(live), files().path(name));
-        if (name != temporary) std::filesystem::permissions(files().path(name), std::filesystem::perms::owner_read);
+        if (name == temporary) fs::create_symlink(files().path(live), files().path(name));
+        if (name != temporary) fs::permissions(files().path(name), fs::perms::owner_read);
         save();
         EXPECT_EQ(states(), after);
         EXPECT_EQ(test()->isDirty(), isMarked);

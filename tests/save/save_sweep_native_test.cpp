@@ -24,7 +24,7 @@ class SaveSweepTest : public SaveTest {
 
     // Saves twice in a child, from the same beginning each time. `decide` judges the calls of the first save.
     void saveTwice(const CallDecision& decide) {
-        std::filesystem::remove_all(files().path("UserData"));
+        fs::remove_all(files().path("UserData"));
         for (const auto& [name, bytes] : original())
             files().write(name, bytes);
         int saves = 0;

@@ -136,7 +136,7 @@ TEST_F(SaveTest, ALiveFileThatIsNotTheOneReadIsLeftAlone) {
 
 TEST_F(SaveTest, ASaveAcrossMidnightHasTheDateOfItsBeginning) {
     start();
-    std::filesystem::current_path(files().path("UserData"));
+    fs::current_path(files().path("UserData"));
     backupClock().stopAt({2002, 3, 0, 5, 14, 7, 0, 0});
     const SaveAttempt attempt(*test());
     backupClock().stopAt({2002, 3, 0, 6, 0, 0, 0, 0});
@@ -154,7 +154,7 @@ TEST_F(SaveTest, TheErrorOfACopyIsThatOfTheOpenThatFailedAndTheDestinationsIfBot
                                                                        {"none", "taken", ERROR_ACCESS_DENIED},
                                                                        {"none", "nowhere\\new", ERROR_PATH_NOT_FOUND},
                                                                        {"source", "taken", ERROR_ACCESS_DENIED}};
-    std::filesystem::current_path(directory.path());
+    fs::current_path(directory.path());
     for (const auto& [source, destination, error] : rows) {
         EXPECT_EQ(copyFileBytes(source, destination, 0, CopyMode::overwrite), error) << source << " to " << destination;
         EXPECT_EQ(moveByCopy(source, destination), error) << source << " to " << destination;
@@ -180,7 +180,7 @@ TEST_F(SaveTest, SaveAllSavesEachListedNeighborhoodThatHasChanged) {
     EXPECT_EQ(differences(before, treeOf(files.path())),
               "UserData3/Backups/neighborhood.20021231.00.iff\nUserData3/Characters/Backups/user00001.20021231.iff\n"
               "UserData3/Characters/user00001.iff\nUserData3/neighborhood.iff\n");
-    EXPECT_EQ(std::filesystem::current_path(), files.path("UserData3"));
+    EXPECT_EQ(fs::current_path(), files.path("UserData3"));
     neighborhoods = {};
 }
 

@@ -33,7 +33,7 @@ TEST(MainWindowNativeTest, TheMenuOpensThePagesOfTheProgram) {
               {"Online help", "Frequently Asked Questions", "browser", "none:browser -new"},
               {"Donate", "Support TDW with a small donation", "browser", "browser -url=%s -new"}}) {
             files.write(opener, "#!/bin/sh\necho \"$@\" >> '" + files.path("opened") + "'\n");
-            std::filesystem::permissions(files.path(opener), std::filesystem::perms::owner_all);
+            fs::permissions(files.path(opener), fs::perms::owner_all);
             browser.set(browsers);
             const Bytes before = files.bytesOf("opened");
             EXPECT_TRUE(chooseMenu(controls().mainWindow, {"Help", menu, item}));

@@ -31,7 +31,7 @@ void expectRefusal(int code, const std::string& said, const char* toolDirectory 
 TEST(StartChecksTest, EachRefusalHasItsBoxAndCode) {
     const TempDirectory files;
     files.makeDirectory("tool");
-    std::filesystem::current_path(files.path("tool"));
+    fs::current_path(files.path("tool"));
     const std::string prefix = files.path("prefix"), game = installGame(prefix);
     const auto skin = gameDirectory(prefix) / "GameData/Skins/xskin-c601fa_amanda-HEAD-HEAD.skn";
     makeWinePrefix(prefix);

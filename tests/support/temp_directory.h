@@ -16,11 +16,13 @@
 #include "gamefiles/byte_writer.h"
 #include "gamefiles/file_writing.h"
 
+namespace fs = std::filesystem;
+
 inline Bytes bytesFrom(std::string_view text) {
     return ByteWriter().text(text).written();
 }
 
-inline Bytes bytesOfFile(const std::filesystem::path& path) {
+inline Bytes bytesOfFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;
     return Bytes(std::istreambuf_iterator<char>(file), {});
@@ -34,9 +36,9 @@ inline void overwrite(Bytes& file, std::size_t offset, const Bytes& bytes) {
 
 using Tree = std::map<std::string, Bytes>;
 
-inline Tree treeOf(const std::filesystem::path& directory) {
+inline Tree treeOf(const fs::path& directory) {
     Tree tree;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(directory))
+    for (const auto& entry : fs::recursive_directory_iterator(directory))
         if (entry.is_regular_file())
             tree[entry.path().lexically_relative(directory).generic_string()] = bytesOfFile(entry.path());
     return tree;
@@ -59,15 +61,15 @@ class TempDirectory {
     TempDirectory() {
         std::random_device random;
         do {
-            path_ = std::filesystem::temp_directory_path() / ("tidewright-" + std::to_string(random()));
-        } while (!std::filesystem::create_directory(path_));
+            path_ = fs::temp_directory_path() / ("tidewright-" + std::to_string(random()));
+        } while (!fs::create_directory(path_));
     }
     TempDirectory(const TempDirectory&) = delete;
     TempDirectory& operator=(const TempDirectory&) = delete;
     ~TempDirectory() {
         std::error_code ignored;
-        std::filesystem::current_path(before_, ignored);
-        std::filesystem::remove_all(path_, ignored);
+        fs::current_path(before_, ignored);
+        fs::remove_all(path_, ignored);
     }
 
     // Absolute, without a separator at its end. A name is one or more components with slashes, as written on the disk.
@@ -76,25 +78,23 @@ class TempDirectory {
 
     // Makes the directories on the way. A failure of these fails the test.
     void write(const std::string& name, const Bytes& bytes) const {
-        std::filesystem::create_directories((path_ / name).parent_path());
+        fs::create_directories((path_ / name).parent_path());
         EXPECT_TRUE(writeFile(path_ / name, bytes)) << name;
     }
     void write(const std::string& name, std::string_view text) const { write(name, bytesFrom(text)); }
-    void makeDirectory(const std::string& name) const {
-        EXPECT_TRUE(std::filesystem::create_directories(path_ / name)) << name;
-    }
+    void makeDirectory(const std::string& name) const { EXPECT_TRUE(fs::create_directories(path_ / name)) << name; }
     // Gives `file` a second name, `name`. Makes the directories on the way.
     void link(const std::string& name, const std::string& file) const {
-        std::filesystem::create_directories((path_ / name).parent_path());
-        std::filesystem::create_hard_link(path_ / file, path_ / name);
+        fs::create_directories((path_ / name).parent_path());
+        fs::create_hard_link(path_ / file, path_ / name);
     }
-    void remove(const std::string& name) const { EXPECT_NE(std::filesystem::remove_all(path_ / name), 0U) << name; }
+    void remove(const std::string& name) const { EXPECT_NE(fs::remove_all(path_ / name), 0U) << name; }
     Bytes bytesOf(const std::string& name) const { return bytesOfFile(path_ / name); }
-    bool exists(const std::string& name) const { return std::filesystem::exists(path_ / name); }
+    bool exists(const std::string& name) const { return fs::exists(path_ / name); }
 
  private:
-    std::filesystem::path path_;
-    std::filesystem::path before_ = std::filesystem::current_path();
+    fs::path path_;
+    fs::path before_ = fs::current_path();
 };
 
 #endif

@@ -15,8 +15,6 @@
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr const char* gameAsRegistered = "C:\\Program Files (x86)\\Maxis\\The Sims\\";

@@ -95,7 +95,7 @@ TEST(NeighborhoodReader, AFileCutAnywhereGivesWhatIsWholeBeforeTheCut) {
     const NeighborhoodFile& built = read.built();
     for (std::size_t size = built.bytes.size(); size-- > 0 && !HasFailure();) {
         SCOPED_TRACE(size);
-        std::filesystem::resize_file(read.files().path(TestNeighborhood::neighborhoodFile), size);
+        fs::resize_file(read.files().path(TestNeighborhood::neighborhoodFile), size);
         read.load();
         const auto whole = [size](std::size_t offset, std::size_t length) { return size >= offset + length ? 1 : 0; };
         const auto& [first, second] = std::pair(built.families[0], built.families[1]);
