@@ -28,8 +28,10 @@ class OneSim : public TestNeighborhood {
     }
 
     static SampleCharacter characterOf(bool isChild, const char* head, BodyEnding ending) {
-        SampleCharacter character{
-            .tag = isChild ? "child" : "adult", .slots = isChild ? childSlots() : teenSlots(), .ending = ending};
+        SampleCharacter character{.tag = isChild ? "child" : "adult",
+                                  .slots = isChild ? childSlots() : teenSlots(),
+                                  .ending = ending,
+                                  .lastEntry = "h5=h5"};
         if (ending == atEntry34) character.bodyFill = 0;  // no pattern ends the text
         setHead(character.slots, "oldMesh", head);
         return character;
@@ -138,7 +140,6 @@ TEST(StageOperationsTest, AskAboutAHeadThatNoSetHoldsAndRefuseWhatIsNotReady) {
         {child, atEntry32, "stray", "c012falgt_asian", childToTeen, IDOK, 1, question("child", "teen")},
         {child, atEntry32, "stray", "stray", childToTeen, IDCANCEL, 0, question("child", "teen")},
         {boy, atEntry32, "stray", "c007malgt_alt", teenToAdult, IDOK, 1, question("teen", "adult")},
-        {boy, atEntry32, "stray", "stray", teenToAdult, IDCANCEL, 0, question("teen", "adult")},
         {{.version = 6, .age = 9}, atEntry29, "a", "a", childToTeen, IDOK, -1, refusal("6", "6")},
         {{.version = 8, .age = 9}, atEntry32, "a", "a", childToTeen, IDOK, -1, refusal("7", "8")},
         {{.version = 8, .age = 9}, atEntry29, amanda, "teenSkin", childToTeen, IDOK, 1, ": "},
@@ -178,6 +179,15 @@ TEST(TeenToAdultTest, DrawsTheBodyBeforeTheHeadForAnyVersion) {
               "b002fafit_01,BODY B002FAFitlgt_mom01 m 3 27 nffit_01,BODY nffitlgt_01 nffit_01,BODY uffitlgt_lguard01 "
               "fffit_01,BODY fffitlgt_01 - - - - - - - - ");
     EXPECT_EQ(teenToAdult(&sim.sim(0)), -1) << "an adult stays one";
+}
+
+TEST(TeenToAdultTest, ANewBodyTakesTheOutfitOfALaterPackWithIt) {
+    const OneSim sim({.later = true, .age = 18}, "stray", atEntry34);
+    const AnsweredBox proceed = answerNextBox(IDOK);
+    EXPECT_EQ(teenToAdult(&sim.sim(0)), 1);
+    Bytes text(1042);
+    sim.body().serialise(text, 1041, 7, true);
+    EXPECT_EQ(text, filledBodyStringText(slotsOf(sim.body()), atEntry34, 1042)) << "with ADDED as its last";
 }
 
 // A family of adults, but for the last one's age.

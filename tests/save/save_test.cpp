@@ -1,6 +1,5 @@
 // What a save writes, what is on the disk when a step of it fails, and what the next save makes of that.
 #include "tests/save/save_test.h"
-#include "lifestage/teen_to_adult.h"
 #include "save/save_attempt.h"
 #include "save/save_command.h"
 #include "world/neighborhoods.h"
@@ -94,21 +93,6 @@ TEST_F(SaveTest, EachFailedStepLeavesWhatItMust) {
         save();
         EXPECT_EQ(states(), row.afterTheNext);
     }
-}
-
-TEST(SaveLaterTest, ANewBodyTakesTheOutfitOfALaterPackWithIt) {
-    using namespace std::string_literals;
-    const TestNeighborhood test({.neighbors = {{.later = true, .version = 9, .age = 18}}, .families = {{}}},
-                                {{.slots = teenSlots(), .ending = BodyEnding::atEntry34, .lastEntry = "h5=h5"}});
-    test.files().write("skinsets.cfg", "TEENAGER=" + teenSlots()[sampleSlot::headSkin] + ";\nADULT=new;head\n");
-    EXPECT_TRUE(writeTemplates(test.files().path()));
-    EXPECT_EQ(teenToAdult(&test.sim(0)), 1);
-    test->save(test->toolDirectory());
-    const Bytes file = test.files().bytesOf(TestNeighborhood::characterFile("user00001"));
-    const std::string saved(file.begin(), file.end());
-    EXPECT_EQ(saved.find("h5=h5"), std::string::npos);
-    EXPECT_NE(saved.find("head=new\0\0\1"s), std::string::npos) << "the new body";
-    EXPECT_NE(saved.find("\0\0\1ADDED\0\0\xA3\xA3"s), std::string::npos) << "the 35th string";
 }
 
 // The game doesn't run when the program starts; it may have run by the time of the save.
