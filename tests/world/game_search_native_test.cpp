@@ -52,14 +52,11 @@ class GameSearchNativeTest : public testing::Test {
         return leads;
     }
 
-    // What goes to standard output while nothing is found.
-    std::string wordsOf(const std::string& wished) {
+    // Nothing is found, and this is part of what goes to standard output.
+    void expectWords(const std::string& wished, const std::string& part) {
         testing::internal::CaptureStdout();
         EXPECT_EQ(found(wished), "-1");
-        return testing::internal::GetCapturedStdout();
-    }
-    void expectWords(const std::string& wished, const std::string& part) {
-        const std::string words = wordsOf(wished);
+        const std::string words = testing::internal::GetCapturedStdout();
         EXPECT_NE(words.find(part), std::string::npos) << words << "\ndoesn't have\n" << part;
     }
 
@@ -130,9 +127,9 @@ TEST_F(GameSearchNativeTest, APrefixOfTheEnvironmentMayHaveAnyForm) {
         EXPECT_EQ(fs::canonical(std::getenv("WINEPREFIX")), files_.path("home/a b"));
     }
     playersPrefix_ = "nowhere";
-    EXPECT_EQ(wordsOf(""), "The registry of " + files_.path("home/nowhere") +
-                               " has no entry of The Sims.\n\nSet WINEPREFIX to the game's prefix, or leave it out "
-                               "and let Tidewright search.\n");
+    expectWords("", "The registry of " + files_.path("home/nowhere") +
+                        " has no entry of The Sims.\n\nSet WINEPREFIX to the game's prefix, or leave it out "
+                        "and let Tidewright search.\n");
 }
 
 TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
