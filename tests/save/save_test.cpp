@@ -12,7 +12,6 @@ TEST_F(SaveTest, NewFamiliesBeginWhereTheFileIsCutAndThoseOfTheNextSaveFollow) {
     const std::tuple<const char*, SampleNeighborhood, int, std::array<bool, 3>> rows[] = {
         {"before the free room", {.freeRoom = true, .fileSize = 40'000}, 0, {}},
         {"before the map, and Bob is a pet", {}, 5, {}},
-        {"at the end", {.map = false}, 0, {}},
         {"before the map, and no more families are listed", {.families = std::vector<SampleFamily>(98)}, 0, {}},
         {"before all pieces, of which none is written then", allBehindFreeRoom, 0, {}},
         {"before the free room, in later editions", {.freeRoom = true}, 0, {true, true, true}},

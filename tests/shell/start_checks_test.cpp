@@ -9,7 +9,6 @@
 
 namespace {
 
-// A window of another program's kind, with this title.
 HWND openWindow(const char* title) {
     registerWindowClass("SomeGame", DefWindowProcA, IDC_ARROW, nullptr);
     return CreateWindowExA(0, "SomeGame", title, WS_OVERLAPPEDWINDOW, 0, 0, 100, 100, nullptr, nullptr, nullptr,
