@@ -28,10 +28,9 @@ class OneSim : public TestNeighborhood {
     }
 
     static SampleCharacter characterOf(bool isChild, const char* head, BodyEnding ending) {
-        SampleCharacter character{.tag = isChild ? "child" : "adult",
-                                  .slots = isChild ? childSlots() : teenSlots(),
-                                  .ending = ending,
-                                  .lastEntry = "h5=h5"};
+        SampleCharacter character{
+            .tag = isChild ? "child" : "adult", .slots = isChild ? childSlots() : teenSlots(), .ending = ending};
+        character.lastEntry = "h5=h5";
         if (ending == atEntry34) character.bodyFill = 0;  // no pattern ends the text
         setHead(character.slots, "oldMesh", head);
         return character;

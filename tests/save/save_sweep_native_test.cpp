@@ -59,11 +59,7 @@ class SaveSweepTest : public SaveTest {
             SCOPED_TRACE(testing::Message()
                          << "answered " << answer << " at call " << point << ", number " << answeredCall_);
             expectNothingLost(answer == endProcess);
-            if (answer == endProcess) {
-                expectThatTheNextSaveClearsUp();
-            } else {
-                expectHomeOrMarked();
-            }
+            answer == endProcess ? expectThatTheNextSaveClearsUp() : expectHomeOrMarked();
             point += step;
         } while (answeredCall_ >= 0 && !HasFailure());
         EXPECT_GT(point, 100);
@@ -93,8 +89,7 @@ class SaveSweepTest : public SaveTest {
 
     // The parts go, and what was set aside comes back.
     void expectThatTheNextSaveClearsUp() const {
-        const auto next = [this] { save(8); };
-        runWithHeldCalls(next, [](const seccomp_data&) { return carryOut; });
+        runWithHeldCalls([this] { save(8); }, [](const seccomp_data&) { return carryOut; });
         const std::string whole = "(old|new)(, temporary (new|other bytes))?(, backup [a-z ]+)?";
         const std::string secondBackup = "(; UserData/Backups/neighborhood.200235.148.iff\n)?";
         const std::regex clear(whole + "; " + whole + "; " + whole + secondBackup);

@@ -113,8 +113,7 @@ TEST(BodyStrings, ATextOfLaterEditionsIsWrittenBackWithEachOfIts35Strings) {
 }
 
 std::string guidText(Sim& sim) {
-    const auto bytes = sim.guid().bytes();
-    return std::string(bytes.begin(), bytes.end()).c_str();
+    return textAt(sim.guid().bytes()).c_str();
 }
 
 // Of reading the name, the GUID and the body strings.
@@ -156,9 +155,7 @@ TEST(CharacterReader, TheSamePartsAreFoundWithAMapAndWithoutOne) {
 TEST(CharacterReader, BrokenFilesGiveWhatCanBeRead) {
     const CharacterFile built = makeCharacterFile({.hasPictures = false, .map = false});
     const std::size_t fill = built.bodyStringsOffset + 86 + bodyStringText(adultSlots(), atEntry32).size();
-    const auto cutAt = [&](std::size_t size) {
-        return std::string(built.bytes.begin(), built.bytes.end()).substr(0, size);
-    };
+    const auto cutAt = [&](std::size_t size) { return textAt(built.bytes, 0, size); };
     // Of a map only the entries that a row is about.
     const auto withMap = [](std::string front, const std::string& mapOffsetAndMap) {
         front.resize(61);
