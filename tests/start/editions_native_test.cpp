@@ -13,11 +13,15 @@ TEST(EditionsNativeTest, AnAnswerAndAWishAreRemembered) {
     EXPECT_TRUE(writeInstallation(files.path("later"), true) && writeInstallation(files.path("base")));
     const std::string game = gameDirectory(files.path("later")).string() + "\\", ini = files.path("file.ini");
     const std::tuple<std::string, EditionsWish, int, bool, std::string> rows[] = {
-        {"", unsaid, IDOK, false, "later"},      {"", unsaid, IDCANCEL, false, "base"},
-        {"", unsaid, noBox, true, ""},           {"", later, noBox, true, "later"},
-        {"later", unsaid, noBox, true, "later"}, {"later", base, noBox, false, "base"},
-        {"later", ask, noBox, true, ""},         {"base", ask, IDOK, false, "later"},
-        {"other", unsaid, IDOK, false, "later"}};
+        {"", unsaid, IDOK, false, "later"},
+        {"", unsaid, IDCANCEL, false, "base"},
+        {"", unsaid, noBox, true, ""},
+        {"", later, noBox, true, "later"},
+        {"later", unsaid, noBox, true, "later"},
+        {"later", base, noBox, false, "base"},
+        {"later", ask, noBox, true, ""},
+        {"base", ask, IDOK, false, "later"},
+        {"neither", unsaid, IDOK, false, "later"}};
     const auto text = [](const std::string& word) { return word.empty() ? "" : "[Editions]\nOpen=" + word + "\n"; };
     for (const auto& [before, wish, answer, yes, after] : rows) {
         SCOPED_TRACE(before + std::to_string(static_cast<int>(wish)) + std::to_string(answer));
