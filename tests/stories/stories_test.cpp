@@ -113,8 +113,11 @@ TEST_F(Stories, TheStartSaysWhatBecameOfAnEveningAndUndoesIt) {
     waitUntil("one of two starts refuses", [this] { return isSaid("Tidewright is open already"); });
     useWindow();
     press(teenToAdult, 0, 0, 2);  // Bramble
+    const std::filesystem::path sim = game_ / "UserData/Characters/User00013.iff";
+    const auto written = last_write_time(sim);
     chooseFileItem("s");
-    waitUntil("the save has begun to replace files", [&] { return playedFiles() != before; });
+    std::error_code noName;  // for a moment
+    waitUntil("the save has begun to replace files", [&] { return last_write_time(sim, noName) != written; });
     killStartAndEditor();
     pclose(other);
     launch("tidewright-start");
