@@ -16,10 +16,10 @@ class XServer {
  public:
     // Starts Xvfb and connects to it; a failure fails the test.
     XServer() {
-        std::string display = ":";
-        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_))
-            display.push_back(static_cast<char>(byte));
-        display_.set(display);
+        for (int byte = std::fgetc(process_); byte > ' '; byte = std::fgetc(process_)) {
+            name_.push_back(static_cast<char>(byte));
+        }
+        display_.set(name_);
         connection_ = xcb_connect(nullptr, nullptr);
         EXPECT_EQ(xcb_connection_has_error(connection_), 0) << "Xvfb doesn't start";
     }
@@ -30,7 +30,7 @@ class XServer {
         pclose(process_);  // it ends with its last connection
     }
 
-    std::string display() const { return std::getenv("DISPLAY"); }  // ":1234"
+    const std::string& display() const { return name_; }  // ":1234"
     xcb_connection_t* connection() const { return connection_; }
 
     // The screen's window, which contains all others.
@@ -63,6 +63,7 @@ class XServer {
  private:
     // The server finds a free number by itself and prints it once it takes connections.
     std::FILE* const process_ = popen("exec Xvfb -displayfd 1 -screen 0 1024x768x24 -terminate 2>/dev/null", "r");
+    std::string name_ = ":";
     ScopedVariable display_{"DISPLAY", ""};
     xcb_connection_t* connection_ = nullptr;
 };
