@@ -50,10 +50,12 @@ std::size_t carriedSlots(const BodyStrings& body, std::int16_t version) {
     return hasWinter ? bodySlot::count : bodySlot::w100Mesh;
 }
 
-// The reader gives up an entry of more than 149 characters. A mesh of 149 characters and its "=" are such an entry.
+// The reader gives up an entry of more than 149 characters, unless the bytes 01 00 end it, which a text that is written
+// doesn't have. A mesh and its skin are an entry, with "=" in between.
 bool hasTooLongEntry(const BodyStrings& body) {
     for (std::size_t slot = 0; slot < bodySlot::count; ++slot) {
-        if (slotOf(body, slot).size() == BodyStrings::slotCapacity) return true;
+        const std::size_t next = slot + 1 < bodySlot::count ? slotOf(body, slot + 1).size() : 0;
+        if (slotOf(body, slot).size() + 1 + next > BodyStrings::slotCapacity) return true;
     }
     return false;
 }
