@@ -114,7 +114,7 @@ bool finishEarlier(const PointsOfGame& game) {
                 game.onConsole);
     if (isRefused(game)) return false;
     GoneBack gone = finishGoingBack(game.pointsDirectory, completes ? Finish::complete : Finish::undo);
-    // Nobody can choose the other way there.
+    // On the console there is no question in which the other way could be chosen.
     if (gone.isBetween && game.onConsole) {
         say(gone.error, game.onConsole);
         gone = finishGoingBack(game.pointsDirectory, Finish::undo);

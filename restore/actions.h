@@ -23,8 +23,7 @@ bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, in
 bool makePoint(const PointsOfGame& game);
 bool deleteAfterQuestion(const PointsOfGame& game, const RestorePoint& point);
 
-// What the player is told that this point is called: as in the window's list, and on the console the name, which --to
-// takes.
+// The name by which the player knows the point: that of the window's list, or on the console the one that --to takes.
 std::string titleOf(const std::string& name, const PointsOfGame& game);
 
 // Whether a going back in this game was cut off, and nothing else may be done before finishEarlier.

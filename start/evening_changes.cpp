@@ -48,7 +48,7 @@ std::set<std::string> namesInEither(const std::string& before, const std::string
 // Whether a save of the file, "neighborhood.iff" or "user00013.iff", has left its old version since `begin`. A disk in
 // the network may have a clock that is behind: there a file that has changed looks older than the evening. Then a
 // backup is of the evening if it is newer than the file was before, by the clock of that disk alone. An earlier evening
-// may have set something aside, too, and only the bytes tell.
+// may have set something aside, too, so the bytes of that are compared.
 bool hasOldVersion(const std::string& before, const std::string& directory, const std::string& file,
                    std::int64_t begin) {
     FileStatus old{}, present{};
@@ -70,8 +70,8 @@ bool hasChangedHouse(const NeighborhoodPlace& before, const NeighborhoodPlace& n
     });
 }
 
-// The files of Sims whose record has another age than before, in small letters. No game does that. So they tell a save
-// of the editor also where it couldn't make backups and the next save has deleted what it had set aside.
+// The files of Sims whose record has another age than before, in small letters. No game does that, so
+// they are proof of a save by the editor, even if it couldn't make backups and the next one has deleted what was aside.
 std::set<std::string> filesOfGrownSims(const NeighborhoodPlace& before, const NeighborhoodPlace& now) {
     const NeighborhoodVersion old(before);
     const NeighborhoodVersion present(now);

@@ -1,4 +1,4 @@
-// Checks what a save has left of a neighborhood against the copy from before, and tells in words what is new.
+// Checks what a save has left of a neighborhood against the copy from before, and describes what is new.
 #ifndef START_EVENING_CHECK_H
 #define START_EVENING_CHECK_H
 

@@ -5,7 +5,7 @@
 #include "start/neighborhood_files.h"
 #include "start/readiness.h"
 
-// Adds what stands in the way: a directory or a file that can't be written, a file that can't be read, too little room.
+// Adds what would prevent a save: a directory or a file that can't be written, a file that can't be read, too little room.
 // Makes the first file of a save in each directory, and deletes it.
 void trySave(const NeighborhoodPlace& place, Readiness& readiness);
 

@@ -1,11 +1,11 @@
-// What a program says to its user: in a box, or on standard output where it was told to ask nothing.
+// What a program says to its user: in a box, or on standard output where it may ask nothing.
 #ifndef UI_WORDS_H
 #define UI_WORDS_H
 
 #include <string>
 
-// The title of all boxes of this program: "Tidewright Start" until it is set. Other programs tell the editor's window
-// by its title, so it is never that one's.
+// The title of all boxes of this program: "Tidewright Start" until it is set. Other programs recognize the editor's
+// window by its title, so it is never that one's.
 const char* boxTitle();
 void setBoxTitle(const char* title);
 

@@ -1,6 +1,6 @@
 // The lines of text that the program draws into a window, for screen readers. Windows knows nothing of drawn text, so
 // each line has an invisible twin: a child window of the class "Static" at its place, with its words and without a
-// picture of its own. Twins stand before the controls that they lie left of or above. Screen readers take the text
+// picture of its own. Twins come before the controls that they lie left of or above. Screen readers take the text
 // before a combo box for its label.
 #ifndef PLATFORM_WINDOWS_SPOKEN_LINES_H
 #define PLATFORM_WINDOWS_SPOKEN_LINES_H

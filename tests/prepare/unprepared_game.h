@@ -1,4 +1,4 @@
-// A game that nobody has prepared, and the chunks of a sample's character file, to change some of them.
+// An unprepared game, and the chunks of a sample's character file, to change some of them.
 #ifndef TESTS_PREPARE_UNPREPARED_GAME_H
 #define TESTS_PREPARE_UNPREPARED_GAME_H
 

@@ -23,7 +23,7 @@ class SaveTest : public testing::Test {
     ~SaveTest() override { backupClock().followSystem(); }
 
     // Writes the files, reads them and makes the changes. The neighborhood has the chunks and the map of `shape`, and
-    // its families behind those of the household. `ofLaterEditions` tells whose record and file are of these.
+    // its families behind those of the household. `ofLaterEditions` is true for each Sim whose record and file are.
     void start(SampleNeighborhood shape = {.freeRoom = true, .fileSize = 40'000},
                const std::array<bool, 3>& ofLaterEditions = {}) {
         later_ = ofLaterEditions;

@@ -1,4 +1,4 @@
-// What a test can see only natively: the picture on the screen, and the pages that a browser is told to open.
+// What a test can see only natively: the picture on the screen, and the pages that a browser is asked to open.
 #include <unistd.h>
 
 #include "shell/main_window.h"

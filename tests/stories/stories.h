@@ -92,7 +92,7 @@ class Stories : public testing::Test {
     }
 
     // Starts a program of the build, with what it says in the file "said". It is killed after two minutes. Natively the
-    // game is where the start finds it by itself; only the editor has to be told.
+    // game is where the start finds it by itself; only the editor needs WINEPREFIX.
     void launch(const std::string& command, bool onWindows = windowsPrograms != nullptr) {
         const std::size_t nameEnd = command.find(' ');
         const std::string name = command.substr(0, nameEnd);

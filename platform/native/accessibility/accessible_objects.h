@@ -1,4 +1,4 @@
-// What screen readers are told about this layer's windows beyond what Qt tells them.
+// What screen readers get of this layer's windows beyond what Qt gives them.
 #ifndef PLATFORM_NATIVE_ACCESSIBILITY_ACCESSIBLE_OBJECTS_H
 #define PLATFORM_NATIVE_ACCESSIBILITY_ACCESSIBLE_OBJECTS_H
 

@@ -9,7 +9,7 @@
 #include "platform/native/windowing/window.h"
 #include "platform/path_text.h"
 
-// Qt's own dialog, because the desktops' ones can't be told to show what is hidden.
+// Qt's own dialog, because those of the desktops have no option to show hidden directories.
 bool chooseDirectory(HWND owner, const char* title, std::string& directory) {
     if (!hasDisplay()) return false;
     const Window* const ownerWindow = owner == nullptr ? nullptr : findWindow(owner);

@@ -19,7 +19,7 @@ bool done(int result) {
     return result == 0;
 }
 
-// Some file systems have neither mode nor group. Where the user can't give the group, its rights go to nobody else.
+// Some file systems have neither mode nor group. Where the user can't set the group, no other group gets its rights.
 void takeModeAndGroup(std::FILE* file, const char* model) {
     const NativePath found = locate(model);
     struct stat status = {};

@@ -56,7 +56,7 @@ bool isLink(int directory, const dirent& entry) {
     return fstatat(directory, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
 }
 
-// False if it can't be told what the entry is. A link that leads nowhere, or in a circle, is known.
+// False if the kind of the entry can't be determined. A link that leads nowhere, or in a circle, is known.
 bool describe(int directory, int noFollow, TreeEntry& entry) {
     struct stat status = {};
     if (fstatat(directory, entry.name.c_str(), &status, noFollow) != 0) {

@@ -39,7 +39,7 @@ class Frame : public QWidget {
         scroll_->setFocusPolicy(Qt::NoFocus);
         scroll_->setWidget(client);
         QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* control) {
-            // No further than needed: what stands beside the control says what it is.
+            // No further than needed: the label beside the control must stay in sight.
             if (client_->isAncestorOf(control)) scroll_->ensureWidgetVisible(control, 0, 0);
         });
         // For lines without a control nearby.
