@@ -407,7 +407,6 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
 
     const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time, comparison);
     if (made.name.empty()) return {made.error, false, made};
-    locks.clearParts(*found, simsDirectory);
     const std::vector<RestorePoint> all = readPoints(store.tree()).value_or(std::vector<RestorePoint>());
     const RestorePoint* const present = named(all, made.name);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
@@ -416,11 +415,13 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
         store.remove(made.name);
         return refused(notWhole(damage));
     }
+    locks.clearParts(*found, simsDirectory);
     Way way(store.tree(), live, point, stepsFromPresent(store.tree(), comparison, *present, point, neighborhood));
     GoneBack result =
         follow(pointsDirectory, store, way, {point.name, made.name, gameOf(simsDirectory), neighborhood}, false);
-    if (!result.error.empty() && !result.isBetween) {
-        store.remove(made.name);  // nothing has changed
+    // Nothing has changed then. A note that could be neither written to the disk nor deleted still needs the point.
+    if (!result.error.empty() && !result.isBetween && !readNote(store.tree())) {
+        store.remove(made.name);
         return result;
     }
     result.present = made;

@@ -5,8 +5,8 @@
 #include "start/neighborhood_files.h"
 #include "start/readiness.h"
 
-// Adds what would prevent a save: a directory or a file that can't be written, a file that can't be read, too little room.
-// Makes the first file of a save in each directory, and deletes it.
+// Adds what would prevent a save: a directory or a file that can't be written, a file that can't be read, too little
+// room. Makes the first file of a save in each directory, and deletes it.
 void trySave(const NeighborhoodPlace& place, Readiness& readiness);
 
 #endif

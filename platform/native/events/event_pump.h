@@ -5,8 +5,8 @@
 #include <QEventLoop>
 #include <functional>
 
-// The loop that runs Qt's events: none while the program computes, else GetMessageA, a box that waits for its answer, or
-// a call that brings windows to the screen.
+// The loop that runs Qt's events: none while the program computes, else GetMessageA, a box that waits for its answer,
+// or a call that brings windows to the screen.
 enum class Loop { none, messages, modal, screen };
 Loop innermostLoop();
 
