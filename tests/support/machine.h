@@ -7,10 +7,7 @@
 
 // Where the programs and data files of the build lie: where the test program was started. A test that changes the
 // working directory asks before.
-inline std::filesystem::path buildDirectory() {
-    static const std::filesystem::path startedIn = std::filesystem::current_path();
-    return startedIn;
-}
+std::filesystem::path buildDirectory();
 
 // Makes the game of this sample prefix the one that is installed, and returns its directory as the registry has it,
 // with a separator at the end.
