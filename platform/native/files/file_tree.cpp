@@ -196,7 +196,7 @@ std::optional<FileId> FileTree::idOf(const std::string& path) const {
 bool FileTree::hasSameBytes(const std::string& file, const FileTree& tree, const std::string& other) const {
     const int one = state_->openFile(file), two = one < 0 ? one : tree.state_->openFile(other);
     bool isSame = two >= 0 || done(two);
-    static std::array<char, 64'000> oneBlock, otherBlock;
+    static std::array<char, 256'000> oneBlock, otherBlock;
     for (ssize_t got = 1; isSame && got > 0;) {
         got = read(one, oneBlock.data(), oneBlock.size());
         isSame = got >= 0 && read(two, otherBlock.data(), otherBlock.size()) == got &&
