@@ -24,6 +24,14 @@ bool isRefused(const PointsOfGame& game) {
     return true;
 }
 
+std::string questionOf(const std::string& title, const std::vector<std::string>& lines) {
+    std::string question = "Go back to \"" + title + "\"?\n";
+    for (const std::string& line : lines) {
+        question += '\n' + line;
+    }
+    return question + "\n\nA restore point of the present is made first, so this can be undone here.";
+}
+
 }  // namespace
 
 std::string titleOf(const std::string& name, const PointsOfGame& game) {
@@ -48,19 +56,17 @@ std::string sentenceOf(const GoneBack& gone) {
 
 bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
     if (isRefused(game)) return false;
-    std::string question = "Go back to \"" + titleOf(point.name, game) + "\"?\n";
-    bool isSame = false;
-    const std::vector<std::string> lines =
-        comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood, &isSame);
-    if (point.damage.empty() && lines.size() == 1) {
-        say(lines.front(), game.onConsole);
-        return isSame;
+    // One that is refused anyway needs no question.
+    if (point.damage.empty() && refusalOfAnotherGame(point, game.simsDirectory).empty()) {
+        bool isSame = false;
+        const std::vector<std::string> lines =
+            comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood, &isSame);
+        if (lines.size() == 1) {
+            say(lines.front(), game.onConsole);
+            return isSame;
+        }
+        if (!confirm(questionOf(titleOf(point.name, game), lines), game.onConsole) || isRefused(game)) return false;
     }
-    for (const std::string& line : lines) {
-        question += '\n' + line;
-    }
-    question += "\n\nA restore point of the present is made first, so this can be undone here.";
-    if (point.damage.empty() && (!confirm(question, game.onConsole) || isRefused(game))) return false;
     const GoneBack gone = goBack(game.pointsDirectory, point, game.simsDirectory, neighborhood);
     if (gone.error.empty()) {
         std::string done = "The game is back at the restore point \"" + titleOf(point.name, game) + "\".";

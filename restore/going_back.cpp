@@ -341,11 +341,7 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
     }
     if (note) return "An earlier going back was cut off, and must be finished first.";
     if (!point.damage.empty()) return notWhole(point.damage);  // its game may be unknown
-    if (!isSameGame(point.simsDirectory, gameOf(simsDirectory))) {
-        return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " +
-               gameOf(simsDirectory);
-    }
-    return {};
+    return refusalOfAnotherGame(point, simsDirectory);
 }
 
 // Whether some file is neither the target's nor that of before: another program has changed it meanwhile.

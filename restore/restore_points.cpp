@@ -31,6 +31,12 @@ bool isWhole(const std::string& pointsDirectory, RestorePoint& point) {
     return point.damage.empty();
 }
 
+std::string refusalOfAnotherGame(const RestorePoint& point, const std::string& simsDirectory) {
+    const std::string game = gameOf(simsDirectory);
+    if (isSameGame(point.simsDirectory, game)) return {};
+    return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + game;
+}
+
 MadePoint makeRestorePoint(const std::string& pointsDirectory, const std::string& simsDirectory, PointReason reason,
                            const SYSTEMTIME& time) {
     const PointStore store(pointsDirectory);

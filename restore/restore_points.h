@@ -58,6 +58,9 @@ std::vector<RestorePoint> listRestorePoints(const std::string& pointsDirectory);
 void checkPoints(const std::string& pointsDirectory, std::vector<RestorePoint>& points);
 bool isWhole(const std::string& pointsDirectory, RestorePoint& point);
 
+// A sentence with both directories if the point is of another game than the one in `simsDirectory`; else empty.
+std::string refusalOfAnotherGame(const RestorePoint& point, const std::string& simsDirectory);
+
 struct MadePoint {
     std::string name;   // empty if none was made
     std::string error;  // a sentence why

@@ -1,6 +1,8 @@
+#include "restore/actions.h"
 #include "sample/fact_template.h"
 #include "sample/installation.h"
 #include "tests/restore/restore_test.h"
+#include "tests/support/user.h"
 #include "world/neighborhood.h"
 
 namespace {
@@ -145,12 +147,13 @@ TEST_F(GoingBackTest, AFileIsNotPutWhereADirectoryIsNorTheOtherWayRound) {
     EXPECT_TRUE(files_.exists(std::string(live) + ".tidewright-old0")) << "nothing is cleared away";
 }
 
-TEST_F(GoingBackTest, AnotherGameIsRefusedByBothNames) {
-    const std::string made = make().name;
+TEST_F(GoingBackTest, AnotherGameIsRefusedByBothNamesBeforeAnyQuestion) {
+    const std::string made = make().name, other = files_.path("other") + "\\";
     files_.write("other/UserData/neighborhood.iff", "of another game");
-    const GoneBack refused = goBack(points(), point(made), files_.path("other") + "\\", allNeighborhoods);
-    EXPECT_NE(refused.error.find(game()), std::string::npos) << refused.error;
-    EXPECT_NE(refused.error.find(files_.path("other") + "\\"), std::string::npos);
+    const AnsweredBox refused = answerNextBox(IDOK);
+    EXPECT_FALSE(goBackAfterQuestion({points(), other}, point(made), allNeighborhoods));
+    EXPECT_NE(refused->text.find(game()), std::string::npos) << refused->text;
+    EXPECT_NE(refused->text.find(other), std::string::npos);
     EXPECT_EQ(files_.bytesOf("other/UserData/neighborhood.iff"), bytesFrom("of another game"));
 }
 
