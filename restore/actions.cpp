@@ -110,6 +110,8 @@ bool isCutOff(const PointsOfGame& game) {
 }
 
 bool finishEarlier(const PointsOfGame& game) {
+    const std::string damage = damagedGoingBack(game.pointsDirectory);
+    if (!damage.empty()) say(damage, game.onConsole);
     const auto note = unfinishedGoingBack(game.pointsDirectory);
     if (!note || !isCutOff(game)) return true;
     if (isRefused(game)) return false;

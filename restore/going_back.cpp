@@ -429,6 +429,14 @@ std::optional<GoingNote> unfinishedGoingBack(const std::string& pointsDirectory)
     return readNote(FileTree(pointsDirectory, FileTree::Links::refused));
 }
 
+std::string damagedGoingBack(const std::string& pointsDirectory) {
+    if (!setDamagedNoteAside(FileTree(pointsDirectory, FileTree::Links::refused))) return {};
+    return std::string("A going back was cut off, and the note of it can't be read. It is called \"") +
+           damagedNoteName +
+           "\" now. Every file is whole, but some may be those of a restore point and some newer. To have all files as "
+           "they were before, go back to the newest restore point that was made before going back.";
+}
+
 GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const SYSTEMTIME& time) {
     const PointStore store(pointsDirectory);
     if (store.isUnavailable()) return {store.refusal(), true, {}};

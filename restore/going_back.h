@@ -46,6 +46,9 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
 // What the note says; no value if there is none.
 std::optional<GoingNote> unfinishedGoingBack(const std::string& pointsDirectory);
 
+// A sentence if there is a note that can't be understood, which has another name then; else empty.
+std::string damagedGoingBack(const std::string& pointsDirectory);
+
 enum class Finish { complete, undo };
 
 // Brings the files to the state of the target or of before, and deletes the note. If files were changed by others

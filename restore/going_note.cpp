@@ -53,3 +53,7 @@ bool writeNote(const std::string& pointsDirectory, const GoingNote& note) {
 bool deleteNote(const FileTree& points) {
     return points.removeFile(noteName) && points.sync("");
 }
+
+bool setDamagedNoteAside(const FileTree& points) {
+    return points.stampOf(noteName) && !readNote(points) && points.replace(noteName, damagedNoteName);
+}

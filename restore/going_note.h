@@ -25,4 +25,10 @@ std::optional<GoingNote> readNote(const FileTree& points);
 bool writeNote(const std::string& pointsDirectory, const GoingNote& note);
 bool deleteNote(const FileTree& points);
 
+// A note that is there but can't be understood gets this name, so that it is spoken of once.
+constexpr const char* damagedNoteName = "going-back.damaged.txt";
+
+// Whether there was one.
+bool setDamagedNoteAside(const FileTree& points);
+
 #endif

@@ -133,6 +133,14 @@ TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
     EXPECT_FALSE(unfinishedGoingBack(points()));
 }
 
+TEST_F(GoingBackTest, ANoteThatCannotBeReadIsSpokenOfOnceAndKept) {
+    files_.write("points/going-back.txt", "target ");
+    const AnsweredBox said = answerNextBox(IDOK), again = answerNextBox(IDOK);
+    EXPECT_TRUE(finishEarlier({points(), game()}) && finishEarlier({points(), game()}));
+    EXPECT_TRUE(said->shown && !again->shown);
+    EXPECT_EQ(files_.bytesOf("points/going-back.damaged.txt"), bytesFrom("target "));
+}
+
 TEST_F(GoingBackTest, AFileIsNotPutWhereADirectoryIsNorTheOtherWayRound) {
     const std::string made = make().name, houses = "game/UserData/Houses";
     const Tree points = treeOf(files_.path("points"));
