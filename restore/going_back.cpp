@@ -472,6 +472,9 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     }
     Way way(store.tree(), live, target, steps);
     GoneBack result = follow(pointsDirectory, store, way, *note, true);
+    // As if it had never begun: the point of before would hide that an evening before it was cut off.
+    const bool isUndone = how == Finish::undo && result.error.empty() && made.name.empty();
+    if (isUndone) store.remove(note->before);
     result.present = made;
     return result;
 }

@@ -52,8 +52,8 @@ std::string damagedGoingBack(const std::string& pointsDirectory);
 enum class Finish { complete, undo };
 
 // Brings the files to the state of the target or of before, and deletes the note. If files were changed by others
-// meanwhile, a point of the present is made first. If neither state's point is whole any more, the note is deleted and
-// the files stay as they are, which is an error.
+// meanwhile, a point of the present is made first; if not, undoing deletes the point of before. If neither state's
+// point is whole any more, the note is deleted and the files stay as they are, which is an error.
 GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const SYSTEMTIME& time = presentTime());
 
 #endif

@@ -63,6 +63,7 @@ class RestoreSweepTest : InMemory, public RestoreTest {
             inChild([&] { finishGoingBack(points(), how, latest); });
             files = whole();
             EXPECT_EQ(files, how == Finish::undo ? before_ : then_);
+            EXPECT_EQ(listRestorePoints(points()).size(), how == Finish::undo ? 1U : 2U) << "as if it had never begun";
         }
         EXPECT_FALSE(unfinishedGoingBack(points()));
         EXPECT_TRUE(files == before_ || files == then_);
