@@ -6,6 +6,7 @@
 #include "platform/win32.h"
 #include "ui/controls.h"
 #include "ui/cursors.h"
+#include "ui/window_parts.h"
 #include "world/neighborhoods.h"
 
 namespace {

@@ -11,6 +11,7 @@
 #include "restore/point_files.h"
 #include "restore/point_words.h"
 #include "ui/cursors.h"
+#include "ui/window_parts.h"
 
 namespace {
 
@@ -54,16 +55,6 @@ Shown* shown = nullptr;
 
 LRESULT send(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageA(control, message, wParam, lParam);
-}
-
-void empty(HWND list) {
-    while (send(list, CB_GETCOUNT) > 0) {
-        send(list, CB_DELETESTRING);
-    }
-}
-
-void add(HWND list, const std::string& entry) {
-    send(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
 }
 
 RestorePoint* pickedPoint() {
@@ -116,7 +107,7 @@ void describePick() {
 // Fills the list of neighborhoods with those of the picked point.
 void pickPoint() {
     showWaitCursor();
-    empty(shown->controls.neighborhoodList);
+    emptyCombo(shown->controls.neighborhoodList);
     std::set<int> numbers;
     if (const RestorePoint* const point = pickedPoint()) {
         for (const PointFile& file : point->files) {
@@ -124,9 +115,9 @@ void pickPoint() {
         }
     }
     shown->neighborhoods.assign(numbers.begin(), numbers.end());
-    add(shown->controls.neighborhoodList, "All");
+    addEntry(shown->controls.neighborhoodList, "All");
     for (const int number : shown->neighborhoods) {
-        add(shown->controls.neighborhoodList, "Neighborhood " + std::to_string(number));
+        addEntry(shown->controls.neighborhoodList, ("Neighborhood " + std::to_string(number)).c_str());
     }
     send(shown->controls.neighborhoodList, CB_SETCURSEL, 0);
     describePick();
@@ -138,33 +129,23 @@ void refill() {
     const PointsOfGame& game = shown->game;
     shown->points = listRestorePoints(game.pointsDirectory);
     checkPoints(game.pointsDirectory, shown->points);
-    empty(shown->controls.pointList);
+    emptyCombo(shown->controls.pointList);
     for (const std::string& entry :
          pointEntries(game.pointsDirectory, shown->points, game.simsDirectory, presentTime())) {
-        add(shown->controls.pointList, entry);
+        addEntry(shown->controls.pointList, entry.c_str());
     }
     if (!shown->points.empty()) send(shown->controls.pointList, CB_SETCURSEL, 0);
     pickPoint();
 }
 
-HWND createControl(HWND window, LPCSTR name, LPCSTR text, DWORD style, RECT place, int controlId) {
-    return CreateWindowExA(0, name, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
-                           place.right - place.left, place.bottom - place.top, window,
-                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(controlId)), GetModuleHandleA(nullptr),
-                           nullptr);
-}
-
-HWND createList(HWND window, LONG top, int controlId) {
-    constexpr DWORD style = CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL;
-    constexpr LONG left = margin + labelWidth;
-    return createControl(window, "ComboBox", "", style, {left, top, width - 3 * margin, top + openListHeight},
-                         controlId);
+RECT placeOfList(LONG top) {
+    return {margin + labelWidth, top, width - 3 * margin, top + openListHeight};
 }
 
 void onCreate(HWND window) {
     shown->controls.window = window;
-    shown->controls.pointList = createList(window, pointTop, id::pointList);
-    shown->controls.neighborhoodList = createList(window, neighborhoodTop, id::neighborhoodList);
+    shown->controls.pointList = createList(window, placeOfList(pointTop), id::pointList);
+    shown->controls.neighborhoodList = createList(window, placeOfList(neighborhoodTop), id::neighborhoodList);
     LONG x = margin;
     const auto addButton = [&](LPCSTR text, LONG buttonWidth, int controlId) {
         const RECT place{x, buttonTop, x + buttonWidth, buttonTop + buttonHeight};
@@ -235,15 +216,8 @@ LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
 
 HWND createWindow() {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.style = CS_HREDRAW | CS_VREDRAW;
-    windowClass.lpfnWndProc = windowProc;
-    windowClass.hInstance = instance;
+    WNDCLASSEXA windowClass = windowClassOf(className, windowProc);
     windowClass.hIcon = LoadIconA(instance, MAKEINTRESOURCEA(IDI_MAIN));
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
-    windowClass.lpszClassName = className;
     RegisterClassExA(&windowClass);  // fails the second time, which is no matter
     return CreateWindowExA(0, className, goingBackTitle, WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, 40, 40, width,
                            height, nullptr, nullptr, instance, nullptr);

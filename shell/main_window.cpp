@@ -8,20 +8,14 @@
 #include "shell/window_texts.h"
 #include "ui/controls.h"
 #include "ui/status_line.h"
+#include "ui/window_parts.h"
 #include "world/neighborhoods.h"
 
 namespace {
 
-HWND createControl(HWND window, LPCSTR className, LPCSTR text, DWORD style, RECT place, int id) {
-    return CreateWindowExA(0, className, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
-                           place.right - place.left, place.bottom - place.top, window,
-                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
-}
-
 // The height includes the open list. Windows' newer controls show up to 30 entries whatever it is.
 HWND createCombo(HWND window, LONG x, LONG y, int id) {
-    return createControl(window, "ComboBox", "", CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL, {x, y, x + 200, y + 200},
-                         id);
+    return createList(window, {x, y, x + 200, y + 200}, id);
 }
 
 HWND createButton(HWND window, LPCSTR text, LONG x, LONG y, int id) {

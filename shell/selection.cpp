@@ -2,6 +2,7 @@
 
 #include "ui/controls.h"
 #include "ui/cursors.h"
+#include "ui/window_parts.h"
 
 namespace {
 

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "ui/window_parts.h"
+
 namespace {
 
 constexpr LONG enabledButton = static_cast<LONG>(WS_CHILD | WS_VISIBLE);
@@ -28,16 +30,6 @@ void disableStageButtons() {
     disableButton(handles.childToTeenButton);
     disableButton(handles.teenToAdultButton);
     disableButton(handles.moveOutButton);
-}
-
-void addEntry(HWND combo, const char* text) {
-    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
-}
-
-void emptyCombo(HWND combo) {
-    for (LRESULT left = SendMessageA(combo, CB_GETCOUNT, 0, 0); left > 0; --left) {
-        SendMessageA(combo, CB_DELETESTRING, 0, 0);
-    }
 }
 
 void addNeighborhoodEntries(int count) {

@@ -33,9 +33,6 @@ void enableButton(HWND button);
 void disableButton(HWND button);
 void disableStageButtons();
 
-void addEntry(HWND combo, const char* text);
-void emptyCombo(HWND combo);
-
 // Adds "Neighborhood 1" and so on, up to `count`, to the neighborhood combo box. An entry's index is its slot's.
 void addNeighborhoodEntries(int count);
 

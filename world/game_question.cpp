@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32.h"
+#include "ui/window_parts.h"
 #include "ui/words.h"
 
 namespace {
@@ -58,13 +59,6 @@ LONG detailTop() {
     return textBottom() + margin + rowHeight;
 }
 
-HWND createControl(HWND window, LPCSTR name, LPCSTR text, DWORD style, RECT place, int controlId) {
-    return CreateWindowExA(0, name, text, style | WS_CHILD | WS_VISIBLE, place.left, place.top,
-                           place.right - place.left, place.bottom - place.top, window,
-                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(controlId)), GetModuleHandleA(nullptr),
-                           nullptr);
-}
-
 void createButton(HWND window, LPCSTR text, LONG& x, LONG y, int controlId) {
     createControl(window, "Button", text, 0, {x, y, x + buttonWidth, y + rowHeight}, controlId);
     x += buttonWidth + margin;
@@ -74,10 +68,9 @@ void createControls(HWND window) {
     LONG y = textBottom() + margin;
     LONG x = margin;
     if (!question->entries.empty()) {
-        question->list = createControl(window, "ComboBox", "", CBS_DROPDOWNLIST | WS_BORDER | WS_VSCROLL,
-                                       {x, y, width - 2 * margin, y + 200}, id::list);
+        question->list = createList(window, {x, y, width - 2 * margin, y + 200}, id::list);
         for (const std::string& entry : question->entries) {
-            SendMessageA(question->list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+            addEntry(question->list, entry.c_str());
         }
         SendMessageA(question->list, CB_SETCURSEL, 0, 0);
         y = detailTop() + detailLines * lineHeight + margin;
@@ -92,19 +85,10 @@ LRESULT pickedEntry() {
     return question->list != nullptr ? SendMessageA(question->list, CB_GETCURSEL, 0, 0) : LRESULT{CB_ERR};
 }
 
-// An "&" in a path would underline the next letter.
-std::string withoutMarks(const std::string& line) {
-    std::string doubled;
-    for (const char c : line) {
-        doubled.append(c == '&' ? 2 : 1, c);
-    }
-    return doubled;
-}
-
 void drawLines(HDC dc, const std::vector<std::string>& lines, LONG y) {
     for (const std::string& line : lines) {
         RECT place{margin, y, width - margin, y + lineHeight};
-        if (!line.empty()) DrawTextA(dc, withoutMarks(line).c_str(), -1, &place, 0);
+        if (!line.empty()) DrawTextA(dc, withVisibleAmpersands(line).c_str(), -1, &place, 0);
         y += lineHeight;
     }
 }
@@ -153,20 +137,12 @@ LRESULT CALLBACK questionProc(HWND window, UINT message, WPARAM wParam, LPARAM l
 }
 
 HWND createWindow() {
-    const HINSTANCE instance = GetModuleHandleA(nullptr);
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
-    windowClass.style = CS_HREDRAW | CS_VREDRAW;
-    windowClass.lpfnWndProc = questionProc;
-    windowClass.hInstance = instance;
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
-    windowClass.lpszClassName = className;
+    const WNDCLASSEXA windowClass = windowClassOf(className, questionProc);
     RegisterClassExA(&windowClass);  // fails the second time, which is no matter
     const LONG listHeight = question->entries.empty() ? 0 : rowHeight + detailLines * lineHeight;
     const LONG height = textBottom() + margin + listHeight + margin + rowHeight + margin + captionHeight;
     return CreateWindowExA(0, className, boxTitle(), WS_CAPTION | WS_SYSMENU, 60, 60, width, height, nullptr, nullptr,
-                           instance, nullptr);
+                           windowClass.hInstance, nullptr);
 }
 
 void waitForAnswer() {
