@@ -159,7 +159,7 @@ void onCreate(HWND window) {
 
 void drawLine(HDC dc, const std::string& text, LONG left, LONG top, LONG right) {
     RECT place{left, top, right, top + lineHeight};
-    if (!text.empty()) DrawTextA(dc, text.c_str(), -1, &place, 0);
+    if (!text.empty()) DrawTextA(dc, withVisibleAmpersands(text).c_str(), -1, &place, 0);
 }
 
 void onPaint(HWND window) {
