@@ -14,10 +14,8 @@
 #include <vector>
 
 #include "restore/going_note.h"
+#include "restore/point_files.h"
 #include "restore/restore_points.h"
-
-// For operations on all neighborhoods instead of the one with a number.
-constexpr int allNeighborhoods = 0;
 
 // Paths in the game's directory, as in a FileTree.
 struct PointComparison {

@@ -107,6 +107,10 @@ int neighborhoodOf(std::string_view path) {
     return slash == std::string_view::npos ? 0 : neighborhoodNumber(path.substr(0, slash));
 }
 
+bool isIn(int neighborhood, std::string_view path) {
+    return neighborhood == allNeighborhoods || neighborhoodOf(path) == neighborhood;
+}
+
 bool belongsToPoint(std::string_view path) {
     if (neighborhoodOf(path) == 0) return false;
     path.remove_prefix(path.find('/') + 1);

@@ -19,6 +19,12 @@ struct LiveFile {
 // directory; 0 if it lies in none.
 int neighborhoodOf(std::string_view path);
 
+// For operations on all neighborhoods instead of the one with a number.
+constexpr int allNeighborhoods = 0;
+
+// Whether the file lies in this neighborhood, or `neighborhood` is `allNeighborhoods`.
+bool isIn(int neighborhood, std::string_view path);
+
 // Whether `path` is one that a point may have: it leads to a file below a neighborhood's directory, through no ".."
 // and no name that a point leaves out.
 bool belongsToPoint(std::string_view path);
