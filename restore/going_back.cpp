@@ -75,6 +75,18 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
     return refusalOfAnotherGame(point, simsDirectory);
 }
 
+// After all neighborhoods went back, nothing is left of an evening that was cut off before. Where that can't be noted,
+// the next start asks about it once more.
+void settleEvenings(const PointStore& store, const GoingNote& note) {
+    if (note.neighborhood != allNeighborhoods) return;
+    for (RestorePoint& point : readPoints(store.tree()).value_or(std::vector<RestorePoint>())) {
+        const bool isOpen = point.damage.empty() && !point.sessionEnded;
+        if (!isOpen || !isSameGame(point.simsDirectory, note.simsDirectory)) continue;
+        point.sessionEnded = true;
+        store.writeText(point);
+    }
+}
+
 // With the point of the present, `note.before`, made.
 GoneBack leavePresent(const std::string& pointsDirectory, const PointStore& store, LockedGame& game,
                       const RestorePoint& target, const GoingNote& note) {
@@ -145,6 +157,7 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
         store.remove(made.name);
         return result;
     }
+    if (result.error.empty()) settleEvenings(store, note);
     result.present = made;
     store.deleteOldest({point.name, made.name});
     return result;
@@ -180,18 +193,15 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     game.clearParts();
     const Steps steps = game.stepsTo(target);
     const RestorePoint* const other = named(*all, left);
-    // A file that is neither point's was changed by another program meanwhile.
-    const bool haveOthersChanged = haveCommonPath(steps, other != nullptr ? game.stepsTo(*other) : steps);
     MadePoint made;
-    if (haveOthersChanged) {
+    // A file that is neither point's was changed by another program meanwhile.
+    if (haveCommonPath(steps, other != nullptr ? game.stepsTo(*other) : steps)) {
         made = store.make(note->simsDirectory, PointReason::goingBack, time, game.comparison());
         if (made.name.empty()) return {made.error, true, made};
     }
     Way way(store.tree(), game.live(), target, steps);
     GoneBack result = follow(pointsDirectory, store, way, *note, true);
-    // As if it had never begun: the point of before would hide that an evening before it was cut off.
-    const bool isUndone = how == Finish::undo && result.error.empty() && !haveOthersChanged;
-    if (isUndone) store.remove(note->before);
+    if (result.error.empty() && how == Finish::complete) settleEvenings(store, *note);
     result.present = made;
     return result;
 }

@@ -37,7 +37,8 @@ struct GoneBack {
 
 // Refuses a point that isn't whole, one of another game, one that has a file where the game has a directory or the
 // other way round, and to begin while an earlier going back isn't finished or the neighborhoods are being saved.
-// Where nothing differs, nothing is done and no point is made.
+// Where nothing differs, nothing is done and no point is made. Once all neighborhoods are back, the sessions of all
+// points of the game count as ended.
 GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, const std::string& simsDirectory,
                 int neighborhood, const SYSTEMTIME& time = presentTime());
 
@@ -50,8 +51,8 @@ std::string damagedGoingBack(const std::string& pointsDirectory);
 enum class Finish { complete, undo };
 
 // Brings the files to the state of the target or of before, and deletes the note. If files were changed by others
-// meanwhile, a point of the present is made first; if not, undoing deletes the point of before. If neither state's
-// point is whole any more, the note is deleted and the files stay as they are, which is an error.
+// meanwhile, a point of the present is made first. If neither state's point is whole any more, the note is deleted and
+// the files stay as they are, which is an error.
 GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const SYSTEMTIME& time = presentTime());
 
 #endif

@@ -95,12 +95,13 @@ void report(const RestorePoint& point, const EveningReport& result, bool askNoth
     }
 }
 
-// The point of the game's last evening, or of a going back since, which has settled that. One from the future, when the
-// clock was wrong, counts only while its evening isn't settled.
+// The point of the game's last evening. One from the future, when the clock was wrong, counts only while its evening
+// isn't settled.
 std::optional<RestorePoint> lastEveningOf(const std::string& game) {
     return findPoint([&, now = std::time(nullptr)](const RestorePoint& one) {
         const bool counts = !one.sessionEnded || secondsOf(one.time) <= now;
-        return counts && one.reason != PointReason::byHand && one.damage.empty() && isSameGame(one.simsDirectory, game);
+        return counts && one.reason == PointReason::evening && one.damage.empty() &&
+               isSameGame(one.simsDirectory, game);
     });
 }
 

@@ -37,7 +37,7 @@ TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
                                                  {"UserData/TMPa.iff", bytesFrom("left over")},
                                                  {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
     EXPECT_EQ(point(gone.present.name).reason, PointReason::goingBack);
-    EXPECT_FALSE(unfinishedGoingBack(points()));
+    EXPECT_FALSE(unfinishedGoingBack(points()) || point(before).sessionEnded);
     EXPECT_EQ(goBackTo(before, 1).present.name, "") << "nothing differs any more";
 }
 
@@ -50,6 +50,7 @@ TEST_F(GoingBackTest, AGameWithoutAnyNeighborhoodGetsAllOfThemBack) {
     const GoneBack gone = goBackTo(made);
     EXPECT_EQ(gone.error, "");
     EXPECT_EQ(whole(), before);
+    EXPECT_TRUE(point(made).sessionEnded) << "an evening before it is settled";
     EXPECT_EQ(goBackTo(gone.present.name).error, "");
     EXPECT_EQ(whole(), without);
 }
@@ -131,6 +132,22 @@ TEST_F(GoingBackTest, WhatACutOffGoingBackNeedsIsKept) {
     files_.remove("points/" + before);
     EXPECT_NE(finishGoingBack(points(), Finish::undo).error.find("The files stay as they are."), std::string::npos);
     EXPECT_FALSE(unfinishedGoingBack(points()));
+}
+
+TEST_F(GoingBackTest, WhatOthersChangedMeanwhileIsInAPoint) {
+    for (const Finish how : {Finish::complete, Finish::undo}) {
+        const std::string target = make().name;
+        files_.write(live, "before going back");
+        const std::string before = make().name;
+        files_.write(live, "by another program");
+        ASSERT_TRUE(writeNote(points(), {target, before, gameOf(game())}));
+        const GoneBack finished = finishGoingBack(points(), how, nextMinute());
+        EXPECT_EQ(files_.bytesOf(live),
+                  files_.bytesOf("points/" + (how == Finish::undo ? before : target) + "/UserData/neighborhood.iff"));
+        EXPECT_EQ(files_.bytesOf("points/" + finished.present.name + "/UserData/neighborhood.iff"),
+                  bytesFrom("by another program"));
+        EXPECT_EQ(point(target).sessionEnded, how == Finish::complete);
+    }
 }
 
 TEST_F(GoingBackTest, ANoteThatCannotBeReadIsSpokenOfOnceAndKept) {

@@ -44,7 +44,7 @@ class RestoreSweepTest : InMemory, public RestoreTest {
 
     // Makes the point, and what is gone back from.
     RestorePoint playAfterPoint() {
-        RestorePoint target = point(make().name);
+        RestorePoint target = point(make(PointReason::byHand).name);
         then_ = whole();
         files_.write(live, "played");
         files_.write("game/UserData/Houses/House02.iff", "built");
@@ -63,7 +63,6 @@ class RestoreSweepTest : InMemory, public RestoreTest {
             inChild([&] { finishGoingBack(points(), how, latest); });
             files = whole();
             EXPECT_EQ(files, how == Finish::undo ? before_ : then_);
-            EXPECT_EQ(listRestorePoints(points()).size(), how == Finish::undo ? 1U : 2U) << "as if it had never begun";
         }
         EXPECT_FALSE(unfinishedGoingBack(points()));
         EXPECT_TRUE(files == before_ || files == then_);
