@@ -24,10 +24,10 @@ std::string fileOf(std::string_view name, std::string_view suffix) {
 
 // Where the process ended between the two renames, the older file gets its name back. Else the new one has the name; it
 // must be on the disk before the older one goes.
-void clearAside(const FilePlace& place, int number, bool givesNamesBack) {
+void clearAside(const FilePlace& place, int number) {
     const std::string aside = asideName(place.name(), number);
     if (place.isFree(place.name())) {
-        if (givesNamesBack) place.rename(aside, place.name());
+        place.rename(aside, place.name());
     } else if (place.sync()) {
         place.remove(aside);
     }
@@ -51,14 +51,21 @@ std::string fileOfAside(std::string_view name) {
     return fileOf(name, asideSuffix);
 }
 
-void clearLeftOverParts(const char* directory, bool givesNamesBack) {
+void clearLeftOverParts(const char* directory) {
     const std::string prefix = std::string(directory) + '\\';
     for (const std::string& name : fileNamesIn(directory)) {
-        const std::string replaced = fileOfAside(name), unfinished = fileOfPart(name);
-        const int number = name.back() - '0';
-        if (!replaced.empty()) clearAside(FilePlace((prefix + replaced).c_str()), number, givesNamesBack);
+        const std::string replaced = fileOfAside(name);
+        if (!replaced.empty()) clearAside(FilePlace((prefix + replaced).c_str()), name.back() - '0');
+    }
+    clearUnfinishedParts(directory);
+}
+
+void clearUnfinishedParts(const char* directory) {
+    const std::string prefix = std::string(directory) + '\\';
+    for (const std::string& name : fileNamesIn(directory)) {
+        const std::string unfinished = fileOfPart(name);
         if (unfinished.empty()) continue;
         const FilePlace place((prefix + unfinished).c_str());
-        place.remove(partName(place.name(), number));
+        place.remove(partName(place.name(), name.back() - '0'));
     }
 }

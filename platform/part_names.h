@@ -20,7 +20,10 @@ std::string fileOfAside(std::string_view name);
 
 // Clears away what processes that ended half-way left in `directory`: deletes the parts, and the files that were set
 // aside, but one without a new version gets its name back. The caller holds the lock under which all those files are
-// written. Without `givesNamesBack` such a file stays where it is.
-void clearLeftOverParts(const char* directory, bool givesNamesBack = true);
+// written.
+void clearLeftOverParts(const char* directory);
+
+// Deletes the parts alone: what was set aside can be the only one of its version. Under the same lock.
+void clearUnfinishedParts(const char* directory);
 
 #endif

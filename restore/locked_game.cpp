@@ -32,6 +32,6 @@ void LockedGame::clearParts() const {
     for (std::string directory : found_.withParts) {
         if (std::ranges::find(held_, directory.substr(0, directory.find('/'))) == held_.end()) continue;
         std::ranges::replace(directory, '/', '\\');
-        clearLeftOverParts((simsDirectory_ + directory).c_str(), false);
+        clearUnfinishedParts((simsDirectory_ + directory).c_str());
     }
 }

@@ -28,7 +28,7 @@ class LockedGame {
         return stepsFromLive(comparison_, found_.files, target, neighborhood_);
     }
 
-    // Clears away what other programs left half-done, where none can be writing now. The files of a point stay.
+    // Deletes new versions that other programs left half-done, where none can be writing now.
     void clearParts() const;
 
  private:

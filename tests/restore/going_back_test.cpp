@@ -17,7 +17,8 @@ TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
     files_.write("game/UserData2/neighborhood.iff", "played, too");
     files_.write("game/UserData/Backups/a.iff", "a backup");
     files_.write("game/UserData/TMPa.iff", "left over");
-    files_.write(std::string(live) + ".tidewright-old0", "an old version");
+    files_.write(std::string(live) + ".tidewright-old0", "the only one of its version");
+    files_.write(std::string(live) + ".tidewright-new0", "half");
     fs::last_write_time(files_.path("game/UserData/Houses/House01.iff"), fs::file_time_type{});
     std::string error;
     const auto comparison = compareWithPoint(points(), point(before), game(), 1, error);
@@ -29,13 +30,15 @@ TEST_F(GoingBackTest, OneNeighborhoodComesBackAndAllElseStays) {
 
     const GoneBack gone = goBackTo(before, 1);
     EXPECT_EQ(gone.error, "");
-    EXPECT_EQ(treeOf(files_.path("game")), (Tree{{"UserData/neighborhood.iff", bytesFrom("the neighborhood")},
-                                                 {"UserData/Characters/User00001.iff", bytesFrom("123456789")},
-                                                 {"UserData/Houses/House01.iff", bytesFrom("a house")},
-                                                 {"UserData2/neighborhood.iff", bytesFrom("played, too")},
-                                                 {"UserData/Backups/a.iff", bytesFrom("a backup")},
-                                                 {"UserData/TMPa.iff", bytesFrom("left over")},
-                                                 {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
+    EXPECT_EQ(treeOf(files_.path("game")),
+              (Tree{{"UserData/neighborhood.iff", bytesFrom("the neighborhood")},
+                    {"UserData/Characters/User00001.iff", bytesFrom("123456789")},
+                    {"UserData/Houses/House01.iff", bytesFrom("a house")},
+                    {"UserData2/neighborhood.iff", bytesFrom("played, too")},
+                    {"UserData/Backups/a.iff", bytesFrom("a backup")},
+                    {"UserData/TMPa.iff", bytesFrom("left over")},
+                    {"UserData/neighborhood.iff.tidewright-old0", bytesFrom("the only one of its version")},
+                    {"GameData/Skins/skin.skn", bytesFrom("outside")}}));
     EXPECT_EQ(point(gone.present.name).reason, PointReason::goingBack);
     EXPECT_FALSE(unfinishedGoingBack(points()) || point(before).sessionEnded);
     EXPECT_EQ(goBackTo(before, 1).present.name, "") << "nothing differs any more";
