@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <optional>
 #include <set>
-#include <string_view>
 
 #include "platform/letter_case.h"
 
 namespace {
 
-// Walks over two lists sorted by path at once, and hands on each path with what the lists have for it.
+// Walks along two lists sorted by path at once, and hands on each path with what the lists have for it.
 template <typename First, typename Second, typename Take>
-void merge(const std::vector<First>& first, const std::vector<Second>& second, Take take) {
+void walkBoth(const std::vector<First>& first, const std::vector<Second>& second, Take take) {
     auto one = first.begin();
     auto other = second.begin();
     while (one != first.end() || other != second.end()) {
@@ -21,6 +20,11 @@ void merge(const std::vector<First>& first, const std::vector<Second>& second, T
         if (hasOne) ++one;
         if (hasOther) ++other;
     }
+}
+
+template <typename Now>
+std::optional<FileStamp> stampOf(const Now* live) {
+    return live != nullptr ? std::optional(live->stamp) : std::nullopt;
 }
 
 // What makes `live`, which may be null, the point's `file`; no value if it is that already.
@@ -37,11 +41,12 @@ template <typename Now, typename AreSame>
 Steps stepsBetween(const std::vector<Now>& now, const std::vector<PointFile>& point, int neighborhood,
                    AreSame areSame) {
     Steps steps;
-    merge(now, point, [&](const Now* live, const PointFile* file) {
+    walkBoth(now, point, [&](const Now* live, const PointFile* file) {
         if (file != nullptr && isIn(neighborhood, file->path)) {
-            if (const auto kind = stepFrom(live, *file, areSame)) steps.push_back({*kind, file->path, file});
+            const auto kind = stepFrom(live, *file, areSame);
+            if (kind) steps.push_back({*kind, file->path, file, stampOf(live)});
         } else if (file == nullptr && live != nullptr && isIn(neighborhood, live->path)) {
-            steps.push_back({Step::Kind::go, live->path});
+            steps.push_back({Step::Kind::go, live->path, nullptr, stampOf(live)});
         }
     });
     return steps;
@@ -57,6 +62,7 @@ void joinSpellings(const FileTree& live, Steps& steps) {
             steps, [&](const Step& step) { return step.kind == Step::Kind::go && live.idOf(step.path) == id; });
         if (other == steps.end()) continue;
         steps[i].kind = Step::Kind::replace;
+        steps[i].found = other->found;
         if (static_cast<std::size_t>(other - steps.begin()) < i) --i;
         steps.erase(other);
     }
@@ -109,9 +115,9 @@ std::string swappedKind(const FileTree& live, const NeighborhoodFiles& found, co
 }
 
 bool haveCommonPath(const Steps& one, const Steps& other) {
-    std::set<std::string_view> paths;
+    std::set<std::string> paths;
     for (const Step& step : other) {
-        paths.insert(step.path);
+        paths.insert(lowered(step.path));
     }
-    return std::ranges::any_of(one, [&](const Step& step) { return paths.contains(step.path); });
+    return std::ranges::any_of(one, [&](const Step& step) { return paths.contains(lowered(step.path)); });
 }

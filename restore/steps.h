@@ -2,6 +2,7 @@
 #ifndef RESTORE_STEPS_H
 #define RESTORE_STEPS_H
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct Step {
     Kind kind;
     std::string path;
     const PointFile* file = nullptr;  // the point's; null for one that goes
+    std::optional<FileStamp> found;   // of the live file; no value for one that comes
 };
 using Steps = std::vector<Step>;
 
@@ -32,7 +34,7 @@ Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison,
 // on the way to it; else empty. What a link leads to isn't the neighborhood's.
 std::string swappedKind(const FileTree& live, const NeighborhoodFiles& found, const Steps& steps);
 
-// Whether some file is in both: neither that of the one state nor that of the other.
+// Whether some file, in any spelling, differs from both states to which these are the steps.
 bool haveCommonPath(const Steps& one, const Steps& other);
 
 #endif

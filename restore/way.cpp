@@ -45,8 +45,14 @@ bool Way::prepare(std::string& error) {
 
 bool Way::take(std::string& error) {
     for (std::size_t i = 0; i < steps_.size(); ++i) {
-        if (take(steps_[i], parts_[i])) continue;
-        error = failureOf("The file can't be replaced or deleted", steps_[i].path);
+        const Step& step = steps_[i];
+        // Nothing is lost by a time or mode of its own.
+        if (step.kind != Step::Kind::stamp && live_.stampOf(step.path) != step.found) {
+            error = "Another program has changed the file: " + FileTree::shown(step.path) + '.';
+            return false;
+        }
+        if (takeStep(step, parts_[i])) continue;
+        error = failureOf("The file can't be replaced or deleted", step.path);
         return false;
     }
     if (areNamesAlone() ? syncDirectories() : syncDisks()) return true;
@@ -99,7 +105,7 @@ bool Way::makePart(const PointFile& file, std::string& part, std::string& error)
     return false;
 }
 
-bool Way::take(const Step& step, std::string& part) const {
+bool Way::takeStep(const Step& step, std::string& part) const {
     switch (step.kind) {
         case Step::Kind::stamp:
             return live_.setTimeAndMode(step.path, step.file->stamp);

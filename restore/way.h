@@ -24,7 +24,8 @@ class Way {
     // a file of the point hasn't the checksum that it was made with.
     bool prepare(std::string& error);
 
-    // After a failure some files may be those of the point already.
+    // Refuses to replace a file that was changed since the steps were found. After a failure some files may be those of
+    // the point already.
     bool take(std::string& error);
 
  private:
@@ -33,7 +34,7 @@ class Way {
     bool syncDirectories() const;
     bool syncDisks() const;
     bool makePart(const PointFile& file, std::string& part, std::string& error);
-    bool take(const Step& step, std::string& part) const;
+    bool takeStep(const Step& step, std::string& part) const;
 
     const FileTree& points_;
     const FileTree& live_;
