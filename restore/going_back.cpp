@@ -97,7 +97,7 @@ GoneBack leavePresent(const std::string& pointsDirectory, const PointStore& stor
     if (!damage.empty()) return refused(notWhole(damage));
     game.clearParts();
     Way way(store.tree(), game.live(), target,
-            stepsFromPresent(store.tree(), game.comparison(), *present, target, note.neighborhood));
+            stepsFromPresent(store.tree(), game.comparison(), game.found().files, *present, target, note.neighborhood));
     return follow(pointsDirectory, store, way, note, false);
 }
 

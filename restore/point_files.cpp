@@ -71,7 +71,7 @@ class Walk {
         if (!fileBehind(entry.name).empty()) {
             found_.withParts.push_back(directory);
         } else if (!isLeftOut(entry.name)) {
-            found_.files.push_back({path, entry.stamp});
+            found_.files.push_back({path, entry.stamp, entry.isLink});
         }
     }
 

@@ -13,6 +13,7 @@
 struct LiveFile {
     std::string path;
     FileStamp stamp;
+    bool isLink = false;  // a symbolic link to the file
 };
 
 // The number of the neighborhood in whose directory the file lies ("UserData2/..." is 2), as a path in the game's

@@ -68,6 +68,15 @@ void joinSpellings(const FileTree& live, Steps& steps) {
     }
 }
 
+// A link to a file gives way to the point's file: what it leads to isn't the neighborhood's, nor are its time and mode.
+void replaceLinks(const std::vector<LiveFile>& found, Steps& steps) {
+    for (Step& step : steps) {
+        if (step.kind != Step::Kind::stamp) continue;
+        const auto file = std::ranges::lower_bound(found, step.path, {}, &LiveFile::path);
+        if (file != found.end() && file->path == step.path && file->isLink) step.kind = Step::Kind::replace;
+    }
+}
+
 }  // namespace
 
 Steps stepsFromLive(GameComparison& comparison, const std::vector<LiveFile>& found, const RestorePoint& target,
@@ -76,11 +85,12 @@ Steps stepsFromLive(GameComparison& comparison, const std::vector<LiveFile>& fou
         return comparison.areSame(one, target.name + '/' + file.path);
     });
     joinSpellings(comparison.game(), steps);
+    replaceLinks(found, steps);
     return steps;
 }
 
-Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison, const RestorePoint& present,
-                       const RestorePoint& target, int neighborhood) {
+Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison, const std::vector<LiveFile>& found,
+                       const RestorePoint& present, const RestorePoint& target, int neighborhood) {
     Steps steps =
         stepsBetween(present.files, target.files, neighborhood, [&](const PointFile& one, const PointFile& file) {
             const std::string path = present.name + '/' + one.path, targetPath = target.name + '/' + file.path;
@@ -89,6 +99,7 @@ Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison,
                    points.hasSameBytes(path, points, targetPath);
         });
     joinSpellings(comparison.game(), steps);
+    replaceLinks(found, steps);
     return steps;
 }
 

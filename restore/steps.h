@@ -25,10 +25,10 @@ using Steps = std::vector<Step>;
 Steps stepsFromLive(GameComparison& comparison, const std::vector<LiveFile>& found, const RestorePoint& target,
                     int neighborhood);
 
-// Compares the point of the present, which has the same bytes as the game's files, with the target. What is known of
-// the game's files isn't read again.
-Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison, const RestorePoint& present,
-                       const RestorePoint& target, int neighborhood);
+// Compares the point of the present, which has the same bytes as the game's files `found`, with the target. What is
+// known of the game's files isn't read again.
+Steps stepsFromPresent(const FileTree& points, const GameComparison& comparison, const std::vector<LiveFile>& found,
+                       const RestorePoint& present, const RestorePoint& target, int neighborhood);
 
 // A sentence if a file of the point can't come because something of another kind has its name, or that of a directory
 // on the way to it; else empty. What a link leads to isn't the neighborhood's.

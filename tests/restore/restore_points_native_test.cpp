@@ -51,6 +51,12 @@ TEST_F(RestorePointsNativeTest, ALinkInTheGameIsReadAndOneInAPointIsNot) {
     EXPECT_EQ(goBackTo(made).error, "");
     EXPECT_EQ(files_.bytesOf("elsewhere/neighborhood.iff"), bytesFrom("another neighborhood"));
     EXPECT_TRUE(files_.exists("pictures/mine.bmp"));
+    fs::rename(files_.path(ann), files_.path("ann.iff"));
+    fs::last_write_time(files_.path("ann.iff"), fs::file_time_type{});
+    ASSERT_EQ(symlink(files_.path("ann.iff").c_str(), files_.path(ann).c_str()), 0);
+    EXPECT_EQ(goBackTo(made).error, "");
+    EXPECT_FALSE(fs::is_symlink(files_.path(ann)));
+    EXPECT_EQ(fs::last_write_time(files_.path("ann.iff")), fs::file_time_type{});
 
     files_.write("elsewhere/House01.iff", "a house");
     const std::string houses = "points/" + made + "/UserData/Houses";
