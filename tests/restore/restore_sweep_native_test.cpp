@@ -1,4 +1,6 @@
 // Kills a going back, and the making of a point, at each of their system calls, then makes each call fail.
+#include <utility>
+
 #include "tests/restore/restore_test.h"
 #include "tests/support/native/held_calls.h"
 #include "tests/support/scoped_variable.h"
@@ -165,6 +167,21 @@ TEST_F(RestoreSweepTest, AFinishThatIsStoppedIsDoneByTheNextOne) {
                   EXPECT_EQ(whole()["UserData/neighborhood.iff"],
                             (how == Finish::undo ? before_ : then_)["UserData/neighborhood.iff"]);
               });
+}
+
+TEST_F(RestoreSweepTest, WhatAnotherProgramWritesMeanwhileIsInAPoint) {
+    const RestorePoint target = playAfterPoint();
+    bool isWritten = false;
+    const auto write = [&](const seccomp_data& call) {
+        if (call.nr == SYS_renameat && !std::exchange(isWritten, true)) files_.write(live, "by the game");
+        return carryOut;
+    };
+    runWithHeldCalls([&] { goBack(points(), target, game(), allNeighborhoods, later); }, write);
+    ASSERT_TRUE(unfinishedGoingBack(points()));
+    const GoneBack finished = finishGoingBack(points(), Finish::complete, latest);
+    EXPECT_EQ(files_.bytesOf("points/" + finished.present.name + "/UserData/neighborhood.iff"),
+              bytesFrom("by the game"));
+    EXPECT_EQ(whole(), then_);
 }
 
 }  // namespace
