@@ -24,8 +24,16 @@ bool isRefused(const PointsOfGame& game) {
     return true;
 }
 
-std::string questionOf(const std::string& title, const std::vector<std::string>& lines) {
-    std::string question = "Go back to \"" + title + "\"?\n";
+bool failWith(const GoneBack& gone, const PointsOfGame& game) {
+    say(sentenceOf(gone), game.onConsole);
+    return false;
+}
+
+std::string questionOf(const std::string& title, int neighborhood, const std::vector<std::string>& lines) {
+    std::string question =
+        "Go back to \"" + title + "\" in " +
+        (neighborhood == allNeighborhoods ? "all neighborhoods" : "Neighborhood " + std::to_string(neighborhood)) +
+        "?\n";
     for (const std::string& line : lines) {
         question += '\n' + line;
     }
@@ -56,28 +64,25 @@ std::string sentenceOf(const GoneBack& gone) {
 
 bool goBackAfterQuestion(const PointsOfGame& game, const RestorePoint& point, int neighborhood) {
     if (isRefused(game)) return false;
-    // One that is refused anyway needs no question.
-    if (point.damage.empty() && refusalOfAnotherGame(point, game.simsDirectory).empty()) {
-        bool isSame = false;
-        const std::vector<std::string> lines =
-            comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood, &isSame);
-        if (lines.size() == 1) {
-            say(lines.front(), game.onConsole);
-            return isSame;
-        }
-        if (!confirm(questionOf(titleOf(point.name, game), lines), game.onConsole) || isRefused(game)) return false;
+    const std::string refusal = refusalOf(point, game.simsDirectory);
+    if (!refusal.empty()) return failWith({refusal, false, {}}, game);
+    bool isSame = false;
+    const std::vector<std::string> lines =
+        comparisonLines(game.pointsDirectory, point, game.simsDirectory, neighborhood, &isSame);
+    if (lines.size() == 1) {
+        say(lines.front(), game.onConsole);
+        return isSame;
     }
+    const std::string question = questionOf(titleOf(point.name, game), neighborhood, lines);
+    if (!confirm(question, game.onConsole) || isRefused(game)) return false;
     const GoneBack gone = goBack(game.pointsDirectory, point, game.simsDirectory, neighborhood);
-    if (gone.error.empty()) {
-        std::string done = "The game is back at the restore point \"" + titleOf(point.name, game) + "\".";
-        if (!gone.present.name.empty()) {
-            done += " To undo this, go back to \"" + titleOf(gone.present.name, game) + "\".";
-        }
-        say(done, game.onConsole);
-        return true;
+    if (!gone.error.empty()) return failWith(gone, game);
+    std::string done = "The game is back at the restore point \"" + titleOf(point.name, game) + "\".";
+    if (!gone.present.name.empty()) {
+        done += " To undo this, go back to \"" + titleOf(gone.present.name, game) + "\".";
     }
-    say(sentenceOf(gone), game.onConsole);
-    return false;
+    say(done, game.onConsole);
+    return true;
 }
 
 bool makePoint(const PointsOfGame& game) {
@@ -128,6 +133,6 @@ bool finishEarlier(const PointsOfGame& game) {
         gone = finishGoingBack(game.pointsDirectory, Finish::undo);
     }
     if (gone.error.empty()) return true;
-    say(sentenceOf(gone.present).empty() ? gone.error : sentenceOf(gone.present), game.onConsole);
+    say(gone.isBetween ? sentenceOf(gone) : gone.error, game.onConsole);
     return !gone.isBetween;
 }

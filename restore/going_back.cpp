@@ -44,10 +44,6 @@ GoneBack follow(const std::string& pointsDirectory, const PointStore& store, Way
     return result;
 }
 
-std::string notWhole(const std::string& damage) {
-    return "The restore point isn't whole. " + damage;
-}
-
 // With a sentence in `damage` unless it is there and whole.
 RestorePoint checkedPoint(const std::string& pointsDirectory, const std::vector<RestorePoint>& all,
                           const std::string& name) {
@@ -71,8 +67,7 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
                "\"going-back.txt\" beside the restore points.";
     }
     if (note) return "An earlier going back was cut off, and must be finished first.";
-    if (!point.damage.empty()) return notWhole(point.damage);  // its game may be unknown
-    return refusalOfAnotherGame(point, simsDirectory);
+    return refusalOf(point, simsDirectory);
 }
 
 // After all neighborhoods went back, nothing is left of an evening that was cut off before. Where that can't be noted,
@@ -93,15 +88,16 @@ GoneBack leavePresent(const std::string& pointsDirectory, const PointStore& stor
     const std::vector<RestorePoint> all = readPoints(store.tree()).value_or(std::vector<RestorePoint>());
     const RestorePoint* const present = named(all, note.before);
     if (present == nullptr || !present->damage.empty()) return refused("The restore point of the present is lost.");
-    const std::string damage = damageBeside(store.tree(), target, *present, game.comparison());
-    if (!damage.empty()) return refused(notWhole(damage));
+    RestorePoint checked = target;
+    checked.damage = damageBeside(store.tree(), target, *present, game.comparison());
+    if (!checked.damage.empty()) return refused(refusalOf(checked, note.simsDirectory));
     game.clearParts();
     Way way(store.tree(), game.live(), target,
             stepsFromPresent(store.tree(), game.comparison(), game.found().files, *present, target, note.neighborhood));
     return follow(pointsDirectory, store, way, note, false);
 }
 
-// Where the files can't become those of `target`. Without either point the note is of no use any more.
+// The answer where the wanted point is gone or spoiled. If the other one is, too, the note is deleted.
 GoneBack lostTarget(const PointStore& store, const RestorePoint& target, const RestorePoint& other) {
     const bool isOver = !other.damage.empty() && deleteNote(store.tree());
     return {target.damage + (isOver ? " The files stay as they are." : ""), !isOver, {}};
@@ -145,7 +141,7 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
     if (!refusal.empty()) return refused(refusal);
     if (steps.empty()) {
         RestorePoint checked = point;
-        return isWhole(pointsDirectory, checked) ? GoneBack{} : refused(notWhole(checked.damage));
+        return isWhole(pointsDirectory, checked) ? GoneBack{} : refused(refusalOf(checked, simsDirectory));
     }
 
     const MadePoint made = store.make(simsDirectory, PointReason::goingBack, time, game.comparison());
@@ -182,17 +178,17 @@ GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const S
     if (!note) return {};
     const auto all = readPoints(store.tree());
     if (!all) return stillBetween(failureOf("The directory can't be read", pointsDirectory));
-    std::string wanted = note->target, left = note->before;
-    if (how == Finish::undo) std::swap(wanted, left);
+    std::string wanted = note->target, abandoned = note->before;
+    if (how == Finish::undo) std::swap(wanted, abandoned);
     const RestorePoint target = checkedPoint(pointsDirectory, *all, wanted);
-    if (!target.damage.empty()) return lostTarget(store, target, checkedPoint(pointsDirectory, *all, left));
+    if (!target.damage.empty()) return lostTarget(store, target, checkedPoint(pointsDirectory, *all, abandoned));
     if (!isSameGame(target.simsDirectory, note->simsDirectory)) return stillBetween("The note is of another game.");
 
     LockedGame game(note->simsDirectory, store.tree(), note->neighborhood);
     if (!game.refusal().empty()) return stillBetween(game.refusal());
     game.clearParts();
     const Steps steps = game.stepsTo(target);
-    const RestorePoint* const other = named(*all, left);
+    const RestorePoint* const other = named(*all, abandoned);
     MadePoint made;
     // A file that is neither point's was changed by another program meanwhile.
     if (haveCommonPath(steps, other != nullptr ? game.stepsTo(*other) : steps)) {

@@ -8,7 +8,6 @@
 #ifndef RESTORE_GOING_BACK_H
 #define RESTORE_GOING_BACK_H
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,7 +30,7 @@ std::optional<PointComparison> compareWithPoint(const std::string& pointsDirecto
 
 struct GoneBack {
     std::string error;       // a sentence; empty if it is done
-    bool isBetween = false;  // the note stays: finishGoingBack is needed. Else nothing has changed after an error
+    bool isBetween = false;  // the note stays: finishGoingBack is needed. Else an error of goBack has changed nothing
     MadePoint present;       // the point that was made before
 };
 

@@ -87,10 +87,8 @@ void describePick() {
     const PointsOfGame& game = shown->game;
     if (point == nullptr) {
         addWrapped("There is no restore point yet. tidewright-start makes one before each evening.");
-    } else if (!point->damage.empty()) {
-        addWrapped("This restore point isn't whole: you can't go back to it. " + point->damage);
-    } else if (const std::string other = refusalOfAnotherGame(*point, game.simsDirectory); !other.empty()) {
-        addWrapped(other);
+    } else if (const std::string refusal = refusalOf(*point, game.simsDirectory); !refusal.empty()) {
+        addWrapped(refusal);
     } else {
         for (const std::string& line :
              comparisonLines(game.pointsDirectory, *point, game.simsDirectory, pickedNeighborhood())) {

@@ -67,7 +67,9 @@ int goBackTo(const PointsOfGame& game, const RestoreOptions& options) {
     if (point == points.end()) {
         return fail("There is no restore point of this name: " + options.target, game.onConsole);
     }
-    return goBackAfterQuestion(game, *point, options.neighborhood) ? done : failed;
+    RestorePoint checked = *point;
+    isWhole(game.pointsDirectory, checked);
+    return goBackAfterQuestion(game, checked, options.neighborhood) ? done : failed;
 }
 
 // What changes something, or shows the window. The game's lock is held meanwhile.
@@ -78,7 +80,7 @@ int change(const PointsOfGame& game, const RestoreOptions& options, const Direct
     if (refuseBesideGame(game.onConsole) != 0 || !finishEarlier(game)) return failed;
     if (options.make) return makePoint(game) ? done : failed;
     if (!options.target.empty()) return goBackTo(game, options);
-    return showGoingBackWindow(game) ? done : failed;
+    return showGoingBackWindow(game) && !isCutOff(game) ? done : failed;
 }
 
 }  // namespace

@@ -31,10 +31,11 @@ bool isWhole(const std::string& pointsDirectory, RestorePoint& point) {
     return point.damage.empty();
 }
 
-std::string refusalOfAnotherGame(const RestorePoint& point, const std::string& simsDirectory) {
+std::string refusalOf(const RestorePoint& point, const std::string& simsDirectory) {
+    if (!point.damage.empty()) return "The restore point isn't whole. " + point.damage;  // its game may be unknown
     const std::string game = gameOf(simsDirectory);
     if (isSameGame(point.simsDirectory, game)) return {};
-    return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + game;
+    return "This restore point is of the game in " + point.simsDirectory + ", not of the one in " + game + '.';
 }
 
 MadePoint makeRestorePoint(const std::string& pointsDirectory, const std::string& simsDirectory, PointReason reason,

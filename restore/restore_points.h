@@ -58,8 +58,9 @@ std::vector<RestorePoint> listRestorePoints(const std::string& pointsDirectory);
 void checkPoints(const std::string& pointsDirectory, std::vector<RestorePoint>& points);
 bool isWhole(const std::string& pointsDirectory, RestorePoint& point);
 
-// A sentence with both directories if the point is of another game than the one in `simsDirectory`; else empty.
-std::string refusalOfAnotherGame(const RestorePoint& point, const std::string& simsDirectory);
+// A sentence if the game in `simsDirectory` can't go back to the point: as far as is known it isn't whole, or it is of
+// another game. Else empty.
+std::string refusalOf(const RestorePoint& point, const std::string& simsDirectory);
 
 struct MadePoint {
     std::string name;   // empty if none was made
