@@ -102,9 +102,10 @@ void describePick() {
     InvalidateRect(shown->controls.window, nullptr, TRUE);
 }
 
-// Fills the list of neighborhoods with those of the picked point.
+// Fills the list of neighborhoods with those of the picked point. The one that was picked stays so if it is among them.
 void pickPoint() {
     showWaitCursor();
+    const int picked = pickedNeighborhood();
     emptyCombo(shown->controls.neighborhoodList);
     std::set<int> numbers;
     if (const RestorePoint* const point = pickedPoint()) {
@@ -117,7 +118,9 @@ void pickPoint() {
     for (const int number : shown->neighborhoods) {
         addEntry(shown->controls.neighborhoodList, ("Neighborhood " + std::to_string(number)).c_str());
     }
-    send(shown->controls.neighborhoodList, CB_SETCURSEL, 0);
+    const auto same = std::ranges::find(shown->neighborhoods, picked);
+    const auto entry = same != shown->neighborhoods.end() ? same - shown->neighborhoods.begin() + 1 : 0;
+    send(shown->controls.neighborhoodList, CB_SETCURSEL, static_cast<WPARAM>(entry));
     describePick();
     showArrowCursor();
 }
