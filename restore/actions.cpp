@@ -115,8 +115,9 @@ bool isCutOff(const PointsOfGame& game) {
 }
 
 bool finishEarlier(const PointsOfGame& game) {
-    const std::string damage = damagedGoingBack(game.pointsDirectory);
-    if (!damage.empty()) say(damage, game.onConsole);
+    const DamagedNote damaged = damagedGoingBack(game.pointsDirectory);
+    if (!damaged.sentence.empty()) say(damaged.sentence, game.onConsole);
+    if (damaged.isInTheWay) return false;
     const auto note = unfinishedGoingBack(game.pointsDirectory);
     if (!note || !isCutOff(game)) return true;
     if (isRefused(game)) return false;

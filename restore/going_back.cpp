@@ -163,12 +163,23 @@ std::optional<GoingNote> unfinishedGoingBack(const std::string& pointsDirectory)
     return readNote(FileTree(pointsDirectory, FileTree::Links::refused));
 }
 
-std::string damagedGoingBack(const std::string& pointsDirectory) {
-    if (!setDamagedNoteAside(FileTree(pointsDirectory, FileTree::Links::refused))) return {};
-    return std::string("A going back was cut off, and the note of it can't be read. It is called \"") +
-           damagedNoteName +
-           "\" now. Every file is whole, but some may be those of a restore point and some newer. To have all files as "
-           "they were before, go back to the newest restore point that was made before going back.";
+DamagedNote damagedGoingBack(const std::string& pointsDirectory) {
+    const auto isBad = [](NoteState state) { return state == NoteState::damaged || state == NoteState::unreadable; };
+    if (!isBad(stateOfNote(FileTree(pointsDirectory, FileTree::Links::refused)))) return {};
+    const PointStore store(pointsDirectory);
+    if (store.isUnavailable()) return {store.refusal(), true};
+    const NoteState state = stateOfNote(store.tree());  // another program may have finished it
+    if (!isBad(state)) return {};
+    const std::string sentence = "A going back was cut off, and the note of it can't be read. ";
+    if (state == NoteState::unreadable || !setNoteAside(store.tree())) {
+        return {sentence + "Please allow reading and renaming the file \"going-back.txt\" beside the restore points.",
+                true};
+    }
+    return {
+        sentence + "It is called \"" + damagedNoteName +
+            "\" now. Every file is whole, but some may be those of a restore point and some newer. To have all files "
+            "as they were before, go back to the newest restore point that was made before going back.",
+        false};
 }
 
 GoneBack finishGoingBack(const std::string& pointsDirectory, Finish how, const SYSTEMTIME& time) {

@@ -44,8 +44,13 @@ GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, c
 // What the note says; no value if there is none.
 std::optional<GoingNote> unfinishedGoingBack(const std::string& pointsDirectory);
 
-// A sentence if there is a note that can't be understood, which has another name then; else empty.
-std::string damagedGoingBack(const std::string& pointsDirectory);
+struct DamagedNote {
+    std::string sentence;     // empty if there is none
+    bool isInTheWay = false;  // it is still there, and nothing else may begin
+};
+
+// Looks for a note that can't be understood, and gives it another name.
+DamagedNote damagedGoingBack(const std::string& pointsDirectory);
 
 enum class Finish { complete, undo };
 

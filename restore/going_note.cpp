@@ -16,12 +16,7 @@ constexpr const char* noteName = "going-back.txt";
 
 constexpr std::array<std::string_view, 4> words = {"target ", "before ", "neighborhood ", "game "};
 
-}  // namespace
-
-std::optional<GoingNote> readNote(const FileTree& points) {
-    const auto text = textOfFile(points, noteName);
-    if (!text) return std::nullopt;
-    std::string_view left = *text;
+std::optional<GoingNote> noteOf(std::string_view left) {
     std::array<std::string, words.size()> values;
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::size_t end = left.find('\n');
@@ -34,6 +29,13 @@ std::optional<GoingNote> readNote(const FileTree& points) {
     const std::string& number = values[2];
     const auto result = std::from_chars(number.data(), number.data() + number.size(), note.neighborhood);
     return result.ec == std::errc() ? std::optional(note) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<GoingNote> readNote(const FileTree& points) {
+    const auto text = textOfFile(points, noteName);
+    return text ? noteOf(*text) : std::nullopt;
 }
 
 bool writeNote(const std::string& pointsDirectory, const GoingNote& note) {
@@ -54,6 +56,13 @@ bool deleteNote(const FileTree& points) {
     return points.removeFile(noteName) && points.sync("");
 }
 
-bool setDamagedNoteAside(const FileTree& points) {
-    return points.stampOf(noteName) && !readNote(points) && points.replace(noteName, damagedNoteName);
+NoteState stateOfNote(const FileTree& points) {
+    if (!points.stampOf(noteName)) return NoteState::none;
+    const auto text = textOfFile(points, noteName);
+    if (!text) return NoteState::unreadable;
+    return noteOf(*text) ? NoteState::good : NoteState::damaged;
+}
+
+bool setNoteAside(const FileTree& points) {
+    return points.replace(noteName, damagedNoteName);
 }

@@ -25,10 +25,12 @@ std::optional<GoingNote> readNote(const FileTree& points);
 bool writeNote(const std::string& pointsDirectory, const GoingNote& note);
 bool deleteNote(const FileTree& points);
 
-// A note that is there but can't be understood gets this name, so that it is spoken of once.
-constexpr const char* damagedNoteName = "going-back.damaged.txt";
+// `damaged` can be read and not understood. `unreadable` can be good: a right is missing, or the disk fails.
+enum class NoteState { none, good, damaged, unreadable };
+NoteState stateOfNote(const FileTree& points);
 
-// Whether there was one.
-bool setDamagedNoteAside(const FileTree& points);
+// A damaged note gets this name, so that it is spoken of once. One that was damaged before is replaced.
+constexpr const char* damagedNoteName = "going-back.damaged.txt";
+bool setNoteAside(const FileTree& points);
 
 #endif

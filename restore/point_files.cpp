@@ -183,7 +183,7 @@ std::optional<std::string> textOfFile(const FileTree& tree, const std::string& f
     const Stream stream(tree.openToRead(file));
     if (!stream) return std::nullopt;
     std::string text(static_cast<std::size_t>(stamp->size), '\0');
-    text.resize(std::fread(text.data(), 1, text.size(), stream.get()));
+    if (std::fread(text.data(), 1, text.size(), stream.get()) != text.size()) return std::nullopt;
     return text;
 }
 
