@@ -8,6 +8,7 @@
 
 #include "platform/files.h"
 #include "tests/save/save_test.h"
+#include "tests/support/native/held_calls.h"
 
 namespace {
 
@@ -27,6 +28,15 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
         EXPECT_TRUE(status.st_mode == (S_IFREG | 0664) && status.st_gid == group) << name;
     }
     EXPECT_FALSE(fs::exists(characters + "user00001.iff"));
+}
+
+TEST_F(SaveNativeTest, AGroupThatCannotBeKeptMayDoWhatEverybodyMay) {
+    start();
+    const std::string ann = files().path("UserData/Characters/user00001.iff");
+    ASSERT_EQ(chmod(ann.c_str(), 0674), 0);
+    runWithHeldCalls([this] { save(); },
+                     [](const seccomp_data& call) { return call.nr == SYS_fchown ? EPERM : carryOut; });
+    EXPECT_EQ(fs::status(ann).permissions(), fs::perms{0644});
 }
 
 TEST_F(SaveNativeTest, AProtectedFileStaysAndOneThatATemporaryNameLinksTo) {

@@ -19,14 +19,15 @@ bool done(int result) {
     return result == 0;
 }
 
-// Some file systems have neither mode nor group. Where the user can't set the group, no other group gets its rights.
+// Some file systems have neither mode nor group. Where the user can't set the group, another group gets no right of it
+// that not everybody has.
 void takeModeAndGroup(std::FILE* file, const char* model) {
     const NativePath found = locate(model);
     struct stat status = {};
     if (fstatat(found.directory, found.name.c_str(), &status, 0) != 0) return;
     const bool hasGroup = fchown(fileno(file), static_cast<uid_t>(-1), status.st_gid) == 0;
-    const mode_t permissions = hasGroup ? 07777 : 07777 & ~S_IRWXG;
-    fchmod(fileno(file), status.st_mode & permissions);  // last, because a new group takes some of the bits away
+    const mode_t kept = hasGroup ? 07777 : (07777 & ~S_IRWXG) | (status.st_mode & S_IRWXO) << 3;
+    fchmod(fileno(file), status.st_mode & kept);  // last, because a new group takes some of the bits away
 }
 
 }  // namespace
