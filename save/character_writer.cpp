@@ -52,9 +52,9 @@ int Sim::saveCharacterFile(const char* toolDirectory, const char* directory) {
 int Sim::buildCharacterFile(const char* tempPath) {
     namespace at = characterTemplate;
     const auto templatePath = joined<PathText>(neighborhood_->toolDirectory(), '\\', format_->characterTemplate);
-    // In a shorter template a patch would leave a gap of made-up bytes in front of it.
-    // Both were read long ago, as a rule. A file that couldn't be opened then may be there again.
+    // Usually name and GUID were read when the Sim was picked. A file that couldn't be opened then may be there again.
     if (loadName() == -1 || loadGuid() == -1) return -1;
+    // In a shorter template a patch would leave a gap of made-up bytes in front of it.
     FileStatus status{};
     if (!queryFileStatus(templatePath.c_str(), status) || status.size < at::smallestSize) return -1;
     // If the temporary name is a link to the live file, writing there would spoil the only old version.

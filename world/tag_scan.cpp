@@ -54,8 +54,8 @@ std::int32_t findTag(StreamView stream, std::string_view tag, std::int32_t fileS
     const std::int64_t offset = stream.failed() ? -1 : scan(stream.file(), tag, start, fileSize);
     if (offset >= 0) return static_cast<std::int32_t>(offset + 1);
 
-    // After a miss, the cursor is where one more comparison leaves it, which is made at the noted size. Usually the
-    // file ends there; in one that has grown since, that comparison may even match.
+    // After a miss the cursor is at the end of the file as noted. In one that has grown since, the bytes there are
+    // compared once more, and the cursor is behind what was read.
     stream.seek(std::max<std::int64_t>(start, fileSize));
     matchTagHere(stream, tag);
     return tagNotFound;

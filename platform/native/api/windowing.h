@@ -111,8 +111,9 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // out: every index but GWL_STYLE.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
-// GetFocus returns the control with the focus. While another program has it, that is the control that gets it back with
-// the newest window. Null if there is none. SetFocus passes the focus to a control and returns the one that had it.
+// GetFocus returns the control with the focus. While another program's window is active, that is the control of the
+// newest window that gets the focus back. Null if there is none. SetFocus passes the focus to a control and returns the
+// one that had it.
 HWND GetFocus();
 HWND SetFocus(HWND window);
 

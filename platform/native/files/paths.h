@@ -1,4 +1,4 @@
-// Maps the program's paths to native ones: all but those of file_tree.cpp.
+// Maps the program's paths to native ones: all but those of file_tree.cpp and own_directory.cpp, which are native.
 //
 // "C:\x\y" is below `dosdevices/c:` of the Wine prefix (`$WINEPREFIX`, else `~/.wine`); so is any other drive, its
 // letter in either case. Native paths, absolute and relative, stay as they are. Slashes and backslashes both separate
