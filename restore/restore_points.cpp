@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
+#include "platform/path_text.h"
 #include "restore/going_note.h"
 #include "restore/point_check.h"
 #include "restore/point_store.h"
@@ -29,6 +31,14 @@ bool isWhole(const std::string& pointsDirectory, RestorePoint& point) {
     KnownSums sums;
     if (point.damage.empty()) point.damage = damageOf(tree, point, sums);
     return point.damage.empty();
+}
+
+std::string gameOf(const std::string& simsDirectory) {
+    return realPath(simsDirectory.substr(0, simsDirectory.find_last_not_of("\\/") + 1)) + '\\';
+}
+
+bool isSameGame(const std::string& one, const std::string& other) {
+    return one == other || isSameFile(one.c_str(), other.c_str());
 }
 
 std::string refusalOf(const RestorePoint& point, const std::string& simsDirectory) {

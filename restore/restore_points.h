@@ -23,7 +23,6 @@
 
 #include "platform/file_tree.h"
 #include "platform/win32.h"
-#include "restore/same_game.h"
 
 constexpr std::size_t keptPoints = 30;
 
@@ -57,6 +56,13 @@ std::vector<RestorePoint> listRestorePoints(const std::string& pointsDirectory);
 // several of the points have in common is read once.
 void checkPoints(const std::string& pointsDirectory, std::vector<RestorePoint>& points);
 bool isWhole(const std::string& pointsDirectory, RestorePoint& point);
+
+// The game's directory as a path that means the same wherever it is read: "C:" is another drive in each Wine prefix.
+// With a backslash at its end.
+std::string gameOf(const std::string& simsDirectory);
+
+// Whether two of these are one and the same directory. Paths that differ in case alone may be two.
+bool isSameGame(const std::string& one, const std::string& other);
 
 // A sentence if the game in `simsDirectory` can't go back to the point: as far as is known it isn't whole, or it is of
 // another game. Else empty.
