@@ -12,6 +12,7 @@
 #include "gamefiles/text_chunk.h"
 #include "platform/byte_order.h"
 #include "prepare/tree_calls.h"
+#include "world/character_layout.h"
 
 namespace {
 
@@ -103,9 +104,8 @@ bool beginsWithAdult(std::span<const std::uint8_t> content) {
 }
 
 bool hasBodyOfLaterEditions(std::span<const std::uint8_t> content) {
-    constexpr std::size_t countOfTexts = 2;
-    constexpr std::uint16_t textsOfLaterEditions = 35;
-    return readU16Le(content.subspan(countOfTexts).first<2>()) == textsOfLaterEditions;
+    constexpr std::size_t count = characterFile::stringCount - iffChunkHeaderSize;
+    return readU16Le(content.subspan(count).first<2>()) == characterFile::allStrings;
 }
 
 // Whether the main tree calls none of the trees that all Sims share, so that the Sim would stand still. This is so in

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/letter_case.h"
 #include "prepare/whole_file.h"
+#include "world/character_layout.h"
 #include "world/program_files.h"
 
 namespace {
@@ -49,8 +50,9 @@ bool isOfEarlierVersion(std::string_view file) {
 
 // Whether the game would read all strings of a text that a save writes there.
 bool countsEnough(std::string_view file, Editions editions) {
-    constexpr std::size_t countOfTexts = templateBodyStrings + iffChunkHeaderSize + 2;
-    return editions == Editions::base || file.substr(countOfTexts).starts_with("\x23\x00"sv);
+    constexpr std::size_t count = templateBodyStrings + characterFile::stringCount;
+    constexpr char enough[] = {characterFile::allStrings, 0};  // little-endian
+    return editions == Editions::base || file.substr(count).starts_with(std::string_view(enough, sizeof enough));
 }
 
 Present judgeTemplate(std::string_view file, Editions editions) {

@@ -11,6 +11,7 @@
 #include "gamefiles/templates.h"
 #include "platform/byte_order.h"
 #include "prepare/neutral_picture.h"
+#include "world/character_layout.h"
 
 namespace {
 
@@ -53,11 +54,10 @@ std::vector<IffChunk> neutralPictures(const std::vector<IffChunk>& source) {
     return pictures;
 }
 
-// Whether a search of the map for this tag, which it spells backwards, finds the chunk's offset 8 bytes behind it.
-bool leadsTo(std::size_t chunk, std::string_view tag, std::span<const std::uint8_t> map) {
-    constexpr std::ptrdiff_t tagToOffset = 8;
-    const auto hit = std::search(map.begin(), map.end(), tag.begin(), tag.end()) - map.begin();
-    return readU24Le(map.subspan(static_cast<std::size_t>(hit + tagToOffset)).first<3>()) == chunk;
+// Whether a search of the map for the tag finds the chunk's offset behind it.
+bool leadsTo(std::size_t chunk, characterFile::ChunkTag tag, std::span<const std::uint8_t> map) {
+    const auto hit = std::search(map.begin(), map.end(), tag.inMap.begin(), tag.inMap.end()) - map.begin();
+    return readU24Le(map.subspan(static_cast<std::size_t>(hit + characterFile::mapTagToOffset)).first<3>()) == chunk;
 }
 
 // The program doesn't walk the map but searches it, from the offset in the file's header, of which it reads 3 bytes. A
@@ -66,7 +66,8 @@ bool mapLeadsToChunks(const Bytes& file, std::size_t mapOffset) {
     constexpr std::size_t mapOffsetLimit = 1U << 24;
     if (mapOffset >= mapOffsetLimit) return false;
     const auto map = std::span(file).subspan(mapOffset);
-    return leadsTo(templateObject, "DJBO", map) && leadsTo(templateName, "SSTC", map);
+    return leadsTo(templateObject, characterFile::objectChunk, map) &&
+           leadsTo(templateName, characterFile::nameChunk, map);
 }
 
 }  // namespace
