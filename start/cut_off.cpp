@@ -3,7 +3,6 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/files.h"
 #include "start/evening_check.h"
 #include "start/left_overs.h"
 
@@ -12,11 +11,6 @@ namespace {
 void append(std::string& text, std::string_view sentence) {
     if (!text.empty()) text += ' ';
     text += sentence;
-}
-
-bool isThere(const std::string& path) {
-    FileStatus status{};
-    return queryFileStatus(path.c_str(), status);
 }
 
 // A save replaces the characters' files first, so the neighborhood file is new only if the save was complete.

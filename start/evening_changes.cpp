@@ -18,11 +18,6 @@ namespace {
 constexpr const char* housesDirectory = "Houses";
 constexpr const char* extension = ".iff";
 
-bool isThere(const std::string& path) {
-    FileStatus status{};
-    return queryFileStatus(path.c_str(), status);
-}
-
 // Reads the files only if the times leave it open.
 bool isChanged(const std::string& before, const std::string& now, std::int64_t begin) {
     FileStatus old{}, present{};

@@ -12,12 +12,16 @@ std::string NeighborhoodPlace::liveFile() const {
     return path(neighborhoodFileName);
 }
 
+bool isThere(const std::string& path) {
+    FileStatus status{};
+    return queryFileStatus(path.c_str(), status);
+}
+
 std::vector<NeighborhoodPlace> neighborhoodsIn(const std::string& simsDirectory) {
     std::vector<NeighborhoodPlace> places;
     for (int number = 1; number <= highestNeighborhoodCount; ++number) {
         const std::string directory = simsDirectory + neighborhoodDirectory("", number).c_str();
-        FileStatus status{};
-        if (!queryFileStatus(directory.c_str(), status)) break;
+        if (!isThere(directory)) break;
         places.push_back({number, directory});
     }
     return places;

@@ -17,6 +17,9 @@ struct NeighborhoodPlace {
     std::string liveFile() const;
 };
 
+// Whether something of that name exists.
+bool isThere(const std::string& path);
+
 // The neighborhoods that the editor looks for: up to the first number without a directory.
 std::vector<NeighborhoodPlace> neighborhoodsIn(const std::string& simsDirectory);
 

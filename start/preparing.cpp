@@ -9,6 +9,7 @@
 #include "restore/actions.h"
 #include "restore/restore_points.h"
 #include "start/earlier_version.h"
+#include "start/neighborhood_files.h"
 #include "start/readiness.h"
 #include "ui/words.h"
 #include "world/paths.h"
@@ -44,11 +45,6 @@ bool takeOverEarlierVersion(const std::string& simsDirectory, bool askNothing) {
     const std::string fault = takeOver(simsDirectory, names);
     if (!fault.empty()) say(fault, askNothing);
     return fault.empty();
-}
-
-bool isThere(const std::string& path) {
-    FileStatus status{};
-    return queryFileStatus(path.c_str(), status);
 }
 
 bool agreesTo(const std::string& files, bool askNothing) {

@@ -14,11 +14,6 @@
 
 namespace {
 
-bool isThere(const std::string& path) {
-    FileStatus status{};
-    return queryFileStatus(path.c_str(), status);
-}
-
 std::int64_t sizeOf(const std::string& path) {
     FileStatus status{};
     return queryFileStatus(path.c_str(), status) ? status.size : 0;

@@ -10,8 +10,6 @@
 #include "tests/support/test_neighborhood.h"
 #include "tests/support/user.h"
 
-namespace fs = std::filesystem;
-
 class EveningTest : public testing::Test {
  protected:
     // The neighborhood has the chunks and the map of `shape`, and its families behind the Thistlewoods. The copy from
