@@ -6,10 +6,7 @@
 #include "platform/child_process.h"
 #include "platform/win32.h"
 #include "prepare/preparation.h"
-#include "restore/actions.h"
-#include "restore/restore_points.h"
 #include "start/earlier_version.h"
-#include "start/neighborhood_files.h"
 #include "start/readiness.h"
 #include "ui/words.h"
 #include "world/paths.h"
@@ -76,20 +73,6 @@ bool sayWhetherReady(const std::string& simsDirectory, Editions editions, bool a
     say((found.empty() ? found : found + "\n\n") + (readiness.isReady() ? end : "Not everything is ready."),
         askNothing);
     return readiness.isReady();
-}
-
-void mend(const std::string& simsDirectory, bool askNothing) {
-    for (const LeftOver& leftOver : findLeftOvers(simsDirectory)) {
-        if (!leftOver.isOffer()) continue;
-        const std::string text = leftOver.sentence + "\n\n" + leftOver.question;
-        if (!confirm(text, askNothing, !isThere(leftOver.live))) continue;
-        const MadePoint made = makeRestorePoint(restorePointsDirectory, simsDirectory, PointReason::byHand);
-        const std::string without = sentenceOf(made) + "\n\nShall " + leftOver.version + " be put back without one?";
-        if (made.name.empty() && !confirm(without, askNothing)) continue;
-        if (!putInPlace(leftOver)) {
-            say(leftOver.live + " couldn't be put back. Everything is as it was.", askNothing);
-        }
-    }
 }
 
 bool isGoodToGo(const std::string& simsDirectory, Editions editions, bool askNothing) {

@@ -15,10 +15,6 @@ bool prepare(const std::string& simsDirectory, Editions editions, bool newTempla
 // Says what checkReadiness has found, and whether everything is ready. False if something isn't.
 bool sayWhetherReady(const std::string& simsDirectory, Editions editions, bool askNothing);
 
-// Offers to put back what a save that was cut off has left out of its place. With `askNothing` only what is missing is
-// put back. A restore point is made before.
-void mend(const std::string& simsDirectory, bool askNothing);
-
 // Says what checkReadiness has found, if anything. Where something prevents a save, the player is asked, and false is
 // for Cancel.
 bool isGoodToGo(const std::string& simsDirectory, Editions editions, bool askNothing);

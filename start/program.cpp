@@ -8,6 +8,7 @@
 #include "platform/win32.h"
 #include "start/editions.h"
 #include "start/evening_steps.h"
+#include "start/mending.h"
 #include "start/options.h"
 #include "start/preparing.h"
 #include "ui/words.h"
