@@ -126,13 +126,14 @@ bool settle(RestorePoint point, const std::string& simsDirectory, bool askNothin
 
 }  // namespace
 
-bool settleLastEvening(const std::string& simsDirectory, bool askNothing) {
-    if (!finishEarlier({restorePointsDirectory, simsDirectory, askNothing})) return false;
+LastEvening settleLastEvening(const std::string& simsDirectory, bool askNothing) {
+    if (!finishEarlier({restorePointsDirectory, simsDirectory, askNothing})) return {.isSettled = false};
     const auto point = lastEveningOf(gameOf(simsDirectory));
-    if (!point || point->sessionEnded) return true;
-    if (!settle(*point, simsDirectory, askNothing)) return false;
-    noteSessionEnded(restorePointsDirectory, point->name);
-    return true;
+    if (!point) return {};
+    LastEvening last{.begin = secondsOf(point->time), .wasCutOff = !point->sessionEnded};
+    last.isSettled = !last.wasCutOff || settle(*point, simsDirectory, askNothing);
+    if (last.wasCutOff && last.isSettled) noteSessionEnded(restorePointsDirectory, point->name);
+    return last;
 }
 
 int runEvening(const std::string& simsDirectory, Editions editions, const DirectoryLock& gameLock, bool askNothing) {

@@ -3,14 +3,21 @@
 #ifndef START_EVENING_STEPS_H
 #define START_EVENING_STEPS_H
 
+#include <cstdint>
 #include <string>
 
 #include "gamefiles/templates.h"
 #include "platform/files.h"
 
-// Says what became of the last evening if that was cut off, and offers to go back to before it. False if that was begun
-// and failed, so that nothing else may begin.
-bool settleLastEvening(const std::string& simsDirectory, bool askNothing);
+// The last evening in this game, as far as a restore point tells of it.
+struct LastEvening {
+    std::int64_t begin = 0;  // in seconds since 1970, UTC; 0 if there was none
+    bool wasCutOff = false;
+    bool isSettled = true;  // false if going back was begun and failed, so that nothing else may begin
+};
+
+// Says what became of the last evening if that was cut off, and offers to go back to before it.
+LastEvening settleLastEvening(const std::string& simsDirectory, bool askNothing);
 
 // Makes a restore point, runs the editor for these editions, waits for its end, and says what it has saved. The
 // editor shares `gameLock`, if that is held. Returns the editor's exit code, or 1 if it wasn't started.

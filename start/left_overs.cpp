@@ -132,10 +132,24 @@ LeftOver offerFor(const Remains& remains, const Place& place, const std::string&
             place.directory + '\\' + remains.live, place.directory + '\\' + version};
 }
 
-void addHarmless(std::vector<std::string>& harmless, const Remains& remains, std::vector<LeftOver>& found,
+// `live` is empty where it isn't known which file this was to become.
+struct Harmless {
+    std::string path;
+    std::string live;
+};
+
+// A link is the live file itself. File times of one disk never go back, however coarse they are.
+bool isSuperseded(const std::string& path, const std::string& live) {
+    FileStatus left{}, present{};
+    if (!queryFileStatus(path.c_str(), left) || !queryFileStatus(live.c_str(), present)) return false;
+    if (isSameFile(path.c_str(), live.c_str()) || !isWhole(live)) return false;
+    return present.written > left.written || readWholeFile(path.c_str()) == readWholeFile(live.c_str());
+}
+
+void addHarmless(std::vector<Harmless>& harmless, const Remains& remains, std::vector<LeftOver>& found,
                  const Place& place) {
     for (const std::string& name : {remains.temporary, remains.part}) {
-        if (!name.empty()) harmless.push_back(place.directory + '\\' + name);
+        if (!name.empty()) harmless.push_back({place.directory + '\\' + name, place.directory + '\\' + remains.live});
     }
     if (remains.aside.empty()) return;
     found.push_back(
@@ -146,8 +160,7 @@ void addHarmless(std::vector<std::string>& harmless, const Remains& remains, std
          .isOldVersion = true});
 }
 
-void lookAt(const Remains& remains, const Place& place, std::vector<LeftOver>& found,
-            std::vector<std::string>& harmless) {
+void lookAt(const Remains& remains, const Place& place, std::vector<LeftOver>& found, std::vector<Harmless>& harmless) {
     if (!remains.isThere && isExpected(remains, place)) {
         found.push_back(offerFor(remains, place, " is missing."));
     } else if (remains.isThere && isBroken(remains, place)) {
@@ -158,18 +171,18 @@ void lookAt(const Remains& remains, const Place& place, std::vector<LeftOver>& f
 }
 
 // Parts of backupsDirectory, and the copies that version 1.1.0 left on Windows.
-void addOtherParts(const std::string& directory, std::vector<std::string>& harmless) {
+void addOtherParts(const std::string& directory, std::vector<Harmless>& harmless) {
     const std::string begin = directory + '\\';
     for (const std::string& name : fileNamesIn(directory.c_str())) {
         const bool isOldPart = name.starts_with("~part") && name.ends_with(".tmp");
         const bool isOfBackup =
             directory.ends_with(backupsDirectory) && !(fileOfPart(name) + fileOfAside(name)).empty();
-        if (isOldPart || isOfBackup) harmless.push_back(begin + name);
+        if (isOldPart || isOfBackup) harmless.push_back({begin + name, ""});
     }
 }
 
 void lookIn(const NeighborhoodPlace& neighborhood, std::vector<LeftOver>& found) {
-    std::vector<std::string> harmless;  // paths
+    std::vector<Harmless> harmless;
     for (const bool isOfCharacters : {false, true}) {
         const Place place{neighborhood, isOfCharacters ? neighborhood.characters() : neighborhood.directory,
                           isOfCharacters};
@@ -179,12 +192,16 @@ void lookIn(const NeighborhoodPlace& neighborhood, std::vector<LeftOver>& found)
         addOtherParts(place.directory, harmless);
         addOtherParts(place.directory + '\\' + backupsDirectory, harmless);
     }
-    for (const std::string& path : harmless) {
+    for (const auto& [path, live] : harmless) {
         FileStatus status{};
         queryFileStatus(path.c_str(), status);
         found.push_back({.sentence = neighborhood.name() + ": " + path.substr(path.rfind('\\') + 1) +
                                      " is left over from a save that was cut off. It does no harm; you may delete it.",
+                         .directory = neighborhood.directory,
+                         .live = live,
+                         .version = path,
                          .isHarmless = true,
+                         .isSuperseded = isSuperseded(path, live),
                          .written = status.written});
     }
 }
@@ -214,4 +231,10 @@ bool putInPlace(const LeftOver& leftOver) {
     const bool isBackup = leftOver.version.find(std::string("\\") + backupsDirectory + "\\") != std::string::npos;
     if (version.isOnDisk() && !isBackup) deleteWhenFree(leftOver.version.c_str());
     return true;
+}
+
+bool deleteSuperseded(const LeftOver& leftOver) {
+    const DirectoryLock lock(leftOver.directory.c_str());
+    return !lock.isHeldByAnother() && isSuperseded(leftOver.version, leftOver.live) &&
+           deleteWhenFree(leftOver.version.c_str());
 }

@@ -10,10 +10,11 @@
 struct LeftOver {
     std::string sentence;        // what was found, and what it means
     std::string question = {};   // the offer: what putInPlace does; empty if there is nothing to do
-    std::string directory = {};  // of the neighborhood; this and the next two are for putInPlace
-    std::string live = {};       // the path of the file that is missing or broken
-    std::string version = {};    // the path of the whole version of it that takes its place
-    bool isHarmless = false;     // nothing is missing or broken, and nothing is lost if it is deleted
+    std::string directory = {};  // of the neighborhood
+    std::string live = {};       // the path of the file that is missing or broken, or that a harmless one belongs to
+    std::string version = {};    // the path of what was found: of an offer, the whole version that takes that place
+    bool isHarmless = false;     // nothing is missing or broken
+    bool isSuperseded = false;   // harmless, and the live file is whole, and the same or newer
     std::int64_t written = 0;    // when one that is harmless was last written, in seconds since 1970
     bool isOldVersion = false;   // only the old file of a complete save, which couldn't put it into Backups
 
@@ -28,5 +29,8 @@ std::vector<LeftOver> findLeftOvers(const std::string& simsDirectory);
 // other is deleted once the live file is on the disk. False, with nothing changed, if that can't be done, or if what
 // was found isn't so any more.
 bool putInPlace(const LeftOver& leftOver);
+
+// Deletes one that is superseded. False if that can't be done, or if it isn't superseded any more.
+bool deleteSuperseded(const LeftOver& leftOver);
 
 #endif

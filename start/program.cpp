@@ -7,6 +7,7 @@
 #include "platform/own_directory.h"
 #include "platform/win32.h"
 #include "start/editions.h"
+#include "start/evening.h"
 #include "start/evening_steps.h"
 #include "start/mending.h"
 #include "start/options.h"
@@ -36,14 +37,22 @@ int write(const std::string& text) {
     return writeToOutput(text) ? 0 : failed;
 }
 
+// What was left before the last evening was named at its start already.
+bool settleLeftOvers(const std::string& simsDirectory, bool askNothing) {
+    const LastEvening last = settleLastEvening(simsDirectory, askNothing);
+    if (!last.isSettled) return false;
+    mend(simsDirectory, askNothing);
+    nameHarmless(simsDirectory, last.begin - coarsestTime, last.wasCutOff, askNothing);
+    return true;
+}
+
 // With the player's own directory as the working directory.
 int startOn(const std::string& simsDirectory, const std::string& ownDirectory, const DirectoryLock& gameLock,
             const Options& options) {
     const bool askNothing = options.askNothing;
     const bool opens = !options.prepareOnly && !options.newTemplate;
     // First of all: what is out of its place can't be looked at.
-    if (opens && !settleLastEvening(simsDirectory, askNothing)) return failed;
-    if (opens) mend(simsDirectory, askNothing);
+    if (opens && !settleLeftOvers(simsDirectory, askNothing)) return failed;
     const Editions editions =
         editionsToOpen(simsDirectory, options.editions, ownDirectory + '\\' + settingsName, askNothing);
     const bool isPrepared = prepare(simsDirectory, editions, options.newTemplate, askNothing);
