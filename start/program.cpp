@@ -10,8 +10,10 @@
 #include "start/evening.h"
 #include "start/evening_steps.h"
 #include "start/mending.h"
+#include "start/neighborhood_files.h"
 #include "start/options.h"
 #include "start/preparing.h"
+#include "start/readiness.h"
 #include "ui/words.h"
 #include "version.h"
 #include "world/game_check.h"
@@ -53,6 +55,8 @@ int startOn(const std::string& simsDirectory, const std::string& ownDirectory, c
     const bool opens = !options.prepareOnly && !options.newTemplate;
     // First of all: what is out of its place can't be looked at.
     if (opens && !settleLeftOvers(simsDirectory, askNothing)) return failed;
+    // The rest would speak of files in there.
+    if (neighborhoodsIn(simsDirectory).empty()) return refuse(askNothing, checkReadiness(simsDirectory).text());
     const Editions editions =
         editionsToOpen(simsDirectory, options.editions, ownDirectory + '\\' + settingsName, askNothing);
     const bool isPrepared = prepare(simsDirectory, editions, options.newTemplate, askNothing);

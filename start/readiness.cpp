@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "gamefiles/iff_reader.h"
+#include "platform/files.h"
 #include "prepare/whole_file.h"
 #include "start/half_saved.h"
 #include "start/move_out_forecast.h"
@@ -55,6 +56,24 @@ void lookAt(const NeighborhoodPlace& place, bool readsLaterEditions, Readiness& 
     lookAtRecords(place, readsLaterEditions, readiness);
 }
 
+// The editor looks no further than to `gap`, the first number without a directory.
+void lookForGap(const std::string& simsDirectory, int gap, Readiness& readiness) {
+    const SteadyDirectories steady;
+    std::vector<std::string> hidden;
+    for (int number = gap + 1; number <= highestNeighborhoodCount; ++number) {
+        const std::string name = neighborhoodDirectory("", number).c_str();
+        if (isThere(simsDirectory + name)) hidden.push_back(name);
+    }
+    const std::string missing = simsDirectory + " has no directory " + neighborhoodDirectory("", gap).c_str() +
+                                (hidden.empty() ? ": please play the game once, and save there."
+                                                : ", so Tidewright doesn't list " + listed(hidden) + ".");
+    if (gap == 1) {
+        readiness.obstacles.push_back(missing);
+    } else if (!hidden.empty()) {
+        readiness.warnings.push_back(missing);
+    }
+}
+
 }  // namespace
 
 bool Readiness::isReady() const {
@@ -77,10 +96,7 @@ std::string Readiness::text() const {
 Readiness checkReadiness(const std::string& simsDirectory, bool readsLaterEditions) {
     Readiness readiness;
     const std::vector<NeighborhoodPlace> places = neighborhoodsIn(simsDirectory);
-    if (places.empty()) {
-        readiness.obstacles.push_back(simsDirectory +
-                                      " has no directory UserData: please play the game once, and save there.");
-    }
+    lookForGap(simsDirectory, static_cast<int>(places.size()) + 1, readiness);
     for (const NeighborhoodPlace& place : places) {
         lookAt(place, readsLaterEditions, readiness);
     }

@@ -50,6 +50,11 @@ TEST_F(StartTest, AsksPreparesAndSaysWhetherAllIsReady) {
             EXPECT_TRUE(boxes[i]->text.find(said[i]) != std::string::npos) << said[i] << boxes[i]->text;
         EXPECT_FALSE(boxes.back()->shown) << boxes.back()->text;
     }
+    fs::remove(own_ + "/Template.iff");
+    fs::remove_all(game_ / "UserData");
+    const AnsweredBox missing = answerNextBox(IDOK);
+    EXPECT_EQ(start({"--prepare"}), 1);
+    EXPECT_TRUE(missing->text.find(" has no directory UserData, so ") != std::string::npos) << missing->text;
 }
 
 TEST_F(StartTest, TakesOverTheFilesOfVersion110AndReplacesTheLinksOfVersion100) {

@@ -15,7 +15,14 @@ TEST_F(EveningTest, TheSampleIsReadyAndTheCheckLeavesNoTrace) {
     EXPECT_EQ(readiness.text(), "");
     EXPECT_TRUE(readiness.isReady());
     EXPECT_EQ(differences(before, treeOf(prefix.path())), "");
-    EXPECT_TRUE(checkReadiness(prefix.path() + "\\").text().ends_with("please play the game once, and save there."));
+    for (const auto& [made, said] : {std::pair("none", "UserData: please play the game once, and save there."),
+                                     {"UserData3", "UserData, so Tidewright doesn't list UserData3."},
+                                     {"UserData", "UserData2, so Tidewright doesn't list UserData3."}}) {
+        prefix.makeDirectory(made);
+        const Readiness found = checkReadiness(prefix.path() + "\\");
+        EXPECT_EQ(found.obstacles.size(), 1U) << "what can't be listed prevents no save of the others";
+        EXPECT_NE(found.text().find(std::string(" has no directory ") + said), std::string::npos) << found.text();
+    }
 }
 
 TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
