@@ -1,20 +1,18 @@
 #include "start/editions.h"
 
-#include <array>
 #include <cstddef>
 #include <optional>
 
-#include "platform/win32.h"
 #include "prepare/whole_file.h"
 #include "start/neighbor_records.h"
 #include "start/neighborhood_files.h"
 #include "ui/sentence_parts.h"
 #include "ui/words.h"
+#include "world/settings.h"
 
 namespace {
 
-constexpr const char* section = "Editions";
-constexpr const char* key = "Open";
+constexpr const char* editionsToUse = "Open";  // the setting
 
 std::size_t countLaterSims(const std::string& simsDirectory) {
     std::size_t count = 0;
@@ -27,16 +25,15 @@ std::size_t countLaterSims(const std::string& simsDirectory) {
 
 // A word that isn't one of ours counts as none.
 EditionsWish remembered(const std::string& settings) {
-    std::array<char, 16> word{};
-    GetPrivateProfileStringA(section, key, "", word.data(), word.size(), settings.c_str());
-    if (std::string(word.data()) == "later") return EditionsWish::later;
-    return std::string(word.data()) == "base" ? EditionsWish::base : EditionsWish::ask;
+    const std::string word = readSetting(settings, settingsSection::editions, editionsToUse);
+    if (word == "later") return EditionsWish::later;
+    return word == "base" ? EditionsWish::base : EditionsWish::ask;
 }
 
 // What can't be written is asked again.
 void remember(EditionsWish answer, const std::string& settings) {
-    const char* const word = answer == EditionsWish::later ? "later" : answer == EditionsWish::base ? "base" : nullptr;
-    WritePrivateProfileStringA(section, key, word, settings.c_str());
+    const char* const word = answer == EditionsWish::later ? "later" : answer == EditionsWish::base ? "base" : "";
+    writeSetting(settings, settingsSection::editions, editionsToUse, word);
 }
 
 EditionsWish ask(std::size_t sims) {
@@ -53,8 +50,10 @@ EditionsWish ask(std::size_t sims) {
 
 Editions editionsToOpen(const std::string& simsDirectory, EditionsWish wish, const std::string& settings,
                         bool askNothing) {
-    if (wish != EditionsWish::unsaid) remember(wish, settings);
     const std::size_t sims = countLaterSims(simsDirectory);
+    const std::string fault = sims > 0 || wish != EditionsWish::unsaid ? faultOfSettings(settings) : "";
+    if (!fault.empty()) say(fault, askNothing);
+    if (wish != EditionsWish::unsaid) remember(wish, settings);
     if (sims == 0) return Editions::base;
     EditionsWish choice = wish == EditionsWish::unsaid ? remembered(settings) : wish;
     if (choice == EditionsWish::ask && !askNothing) {

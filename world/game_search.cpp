@@ -15,6 +15,7 @@
 #include "world/game_check.h"
 #include "world/game_question.h"
 #include "world/program_files.h"
+#include "world/settings.h"
 
 namespace {
 
@@ -23,8 +24,7 @@ constexpr const char* gameValue = "SIMS_DATA";
 constexpr std::size_t longestValue = 99;  // characters that findSimsDirectory takes
 // Where the newer compilation keeps its saves, below a user's directory. It has no entry in the registry.
 constexpr const char* savedGames = "Saved Games\\Electronic Arts\\The Sims 25";
-constexpr const char* settingsSection = "Game";
-constexpr const char* settingsDirectory = "Directory";
+constexpr const char* chosenDirectory = "Directory";  // the setting
 constexpr int cancelled = 1;
 
 struct Game {
@@ -118,19 +118,7 @@ std::vector<ListedGame> listed(const Games& games) {
 
 // The directory alone says where the game is: the prefix above it is found again.
 std::string rememberedDirectory(const std::string& settings) {
-    std::array<char, 1024> text{};
-    GetPrivateProfileStringA(settingsSection, settingsDirectory, "", text.data(), text.size(), settings.c_str());
-    return text.data();
-}
-
-// Whether there is a file, and no line in it that opens a section.
-bool isNoSettingsFile(const std::string& path) {
-    std::FILE* const file = openFile(path.c_str(), "rb");
-    if (file == nullptr) return false;
-    std::array<char, 4096> bytes{};
-    const std::size_t size = std::fread(bytes.data(), 1, bytes.size(), file);
-    std::fclose(file);
-    return size > 0 && std::string_view(bytes.data(), size).find('[') == std::string_view::npos;
+    return readSetting(settings, settingsSection::game, chosenDirectory);
 }
 
 class GameSearch {
@@ -156,8 +144,8 @@ class GameSearch {
     }
 
     bool takeRemembered() {
+        note_ = faultOfSettings(settings_);
         const std::string directory = rememberedDirectory(settings_);
-        if (isNoSettingsFile(settings_)) note_ = shownPath(settings_) + " isn't a file of settings, and is ignored.";
         if (directory.empty()) return false;
         if (directory == absolutePath(directory) && holdsGame(directory)) {
             take({winePrefixAbove(directory), directory});
@@ -172,6 +160,7 @@ class GameSearch {
         const auto game = std::ranges::find_if(games, [remembered = rememberedDirectory(settings_)](const Game& one) {
             return isSame(one.directory, remembered);
         });
+        if (game == games.end() && games.size() > 1) note_ = faultOfSettings(settings_);
         return game != games.end() && take(*game) == 0;
     }
 
@@ -355,8 +344,7 @@ class GameSearch {
     }
 
     void remember() const {
-        if (WritePrivateProfileStringA(settingsSection, settingsDirectory, game_.directory.c_str(),
-                                       settings_.c_str()) == FALSE) {
+        if (!writeSetting(settings_, settingsSection::game, chosenDirectory, game_.directory)) {
             say("The choice can't be kept: " + shownPath(settings_) + " can't be written.", wish_.askNothing);
         }
     }

@@ -22,7 +22,7 @@ TEST(EditionsNativeTest, AnAnswerAndAWishAreRemembered) {
         {"later", ask, noBox, true, ""},
         {"base", ask, IDOK, false, "later"},
         {"neither", unsaid, IDOK, false, "later"}};
-    const auto text = [](const std::string& word) { return word.empty() ? "" : "[Editions]\nOpen=" + word + "\n"; };
+    const auto text = [](const std::string& word) { return word.empty() ? word : "[Editions]\nOpen=" + word + "\n"; };
     for (const auto& [before, wish, answer, yes, after] : rows) {
         SCOPED_TRACE(before + std::to_string(static_cast<int>(wish)) + std::to_string(answer));
         files.write("file.ini", bytesFrom(text(before)));
@@ -35,8 +35,17 @@ TEST(EditionsNativeTest, AnAnswerAndAWishAreRemembered) {
         EXPECT_EQ(editionsToOpen(game, unsaid, ini, yes), expected);
         EXPECT_FALSE(box->shown) << "asked again";
     }
+    files.write("file.ini", text("later") + "\x01");
+    const AnsweredBox damaged = answerNextBox(IDOK), question = answerNextBox(IDCANCEL);
+    EXPECT_EQ(editionsToOpen(game, unsaid, ini, false), Editions::base);
+    EXPECT_TRUE(damaged->text.ends_with(" is damaged. What was chosen there is ignored.") && question->shown);
+    EXPECT_EQ(files.bytesOf("file.ini"), bytesFrom(text("base")));
+    EXPECT_EQ(files.bytesOf("file.ini.damaged"), bytesFrom(text("later") + "\x01"));
     EXPECT_EQ(editionsToOpen(game, later, ini + "\\none.ini", true), Editions::later) << "can't be remembered";
+    files.write("file.ini", "garbage");
+    const AnsweredBox again = answerNextBox(IDOK);
     EXPECT_EQ(editionsToOpen(gameDirectory(files.path("base")).string() + "\\", later, ini, false), Editions::base);
+    EXPECT_TRUE(again->shown) << "a wish is written over it";
 }
 
 }  // namespace

@@ -142,9 +142,24 @@ TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
 
     files_.remove("elsewhere");
     expectWords("", "isn't there any more: " + files_.path());
-    for (const char* const bad : {"\xFF\0\x01garbage", "[Game]\nDirectory=.wine/drive_c/a\n"}) {
-        files_.write("own/tidewright.ini", bad);
-        expectWords("", "This game was found.\n\n" + files_.path("home/.wine/drive_c/a"));
+    const std::string chosen = "[Game]\nDirectory=" + files_.path("home/.wine/drive_c/a") + "\n";
+    const std::string damaged = " is damaged. What was chosen there is ignored.\n\nThis game was found.\n\n";
+    const std::pair<std::string, std::string> rows[] = {
+        {chosen + "\x01=[\n", damaged},
+        {"[garbage\n" + chosen, damaged},
+        {chosen + "lines\n", damaged},
+        {chosen + "=\n", damaged},
+        {"[Play]\nDirectory=x\n", damaged},
+        {chosen + std::string(64'000, '\n'), damaged},
+        {"[Game]\nDirectory=.wine/drive_c/a\n", "isn't there any more: .wine/drive_c/a.\n\nThis game was found.\n\n"},
+    };
+    for (const auto& [text, said] : rows) {
+        files_.write("own/tidewright.ini", text);
+        expectWords("", said + files_.path("home/.wine/drive_c/a"));
+    }
+    for (const std::string& text : {std::string(), "; a remark\r\n" + chosen + " \n#another\n"}) {
+        files_.write("own/tidewright.ini", text);
+        EXPECT_EQ(found(), "C:\\a\\");
     }
     expectWords("nowhere", "The Sims isn't in " + files_.path("home/nowhere"));
 }
@@ -174,7 +189,8 @@ TEST_F(GameSearchNativeTest, APrefixWithTwoGamesIsNoAnswerUntilOneIsChosen) {
     makePrefix("home/x", "drive_c/a", "C:\\\\a");
     files_.makeDirectory("home/x" + saves + "/UserData");
     playersPrefix_ = prefix;
-    expectWords("", "More than one game is in " + prefix + ".\n\n" + prefix + "/drive_c/a - ");
+    files_.write("own/tidewright.ini", "garbage");
+    expectWords("", "is ignored.\n\nMore than one game is in " + prefix + ".\n\n" + prefix + "/drive_c/a - ");
     EXPECT_EQ(found(prefix + saves), "G:\\");
     EXPECT_EQ(found(), "G:\\");
     EXPECT_TRUE(leadsTo("home/x" + saves));
