@@ -135,6 +135,8 @@ TEST_F(GameSearchNativeTest, APrefixOfTheEnvironmentMayHaveAnyForm) {
 TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
     makePrefix("home/.wine", "drive_c/a", "C:\\\\a");
     makePrefix("elsewhere/pfx", "drive_c/b", "C:\\\\b");
+    EXPECT_EQ(findGame({"../elsewhere", true, true}, files_.path("own"), found_), 0);
+    EXPECT_FALSE(files_.exists("own/tidewright.ini")) << "nothing may be changed";
     for (const char* const wish : {"../elsewhere", "../elsewhere/pfx", "../elsewhere/pfx/drive_c/b/",
                                    "../elsewhere/pfx/drive_c/b/UserData", "../elsewhere/pfx/drive_c"})
         EXPECT_EQ(found(wish), "C:\\b\\") << wish;

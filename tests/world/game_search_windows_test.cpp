@@ -27,7 +27,9 @@ TEST(GameSearchWindowsTest, AnEntryIsMadeAfterAQuestionAndNeverChanged) {
                   "The registry of Windows doesn't say where The Sims is, and Tidewright's window goes by that. This "
                   "entry will be made:\n\nHKEY_LOCAL_MACHINE\\Software\\Maxis\\The Sims\nSIMS_DATA = " +
                       game.substr(0, game.size() - 1) + "\n\nShall it be made?");
+        EXPECT_EQ(findGame({game, true, true}, files.path("own"), found), -1) << "nothing may be changed";
         EXPECT_EQ(findSimsDirectory(found), -1);
+        EXPECT_FALSE(files.exists("own/tidewright.ini"));
     }
     {
         const auto registerOther = [&] { registerDirectory(other, "", "Software\\Maxis\\The Sims", "SIMS_DATA"); };
