@@ -127,13 +127,17 @@ deb_starts() {
     [ -s "$user_game/GameData/Skins/$skin" ] || expect "the skin" "in the game" "not there"
 }
 
-# Also those that version 1.1.0 has left there, with its link to the package's skin sets.
+sums_of() { find "$1" -type f -exec sha256sum {} + | sort; }
+
+# Also those that version 1.1.0 has left there, with its link to the package's skin sets, and the prefix that it used.
 deb_keeps_edits() {
+    local file prefix
+    prefix=$(sums_of "$work/prefix")
     as_user env -C "$tools" sh -c 'rm famtemplate && echo mine >>Template.iff && echo "# mine" >>skinsets.cfg'
     as_user env -C "$tools" ln -s /usr/share/tidewright/skinsets-original.cfg .
     cp "$tools"/{Template.iff,skinsets.cfg} "$work"
     open_for_user yes
-    local file
+    expect "the files of the prefix" "$prefix" "$(sums_of "$work/prefix")"
     for file in Template.iff skinsets.cfg; do
         expect_same "the edited $file before and after a start" "$work/$file" "$tools/$file"
     done

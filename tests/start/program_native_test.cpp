@@ -60,12 +60,14 @@ TEST_F(StartTest, AsksPreparesAndSaysWhetherAllIsReady) {
 TEST_F(StartTest, TakesOverTheFilesOfVersion110AndReplacesTheLinksOfVersion100) {
     fs::create_symlink("/usr/share/tidewright/1.0.0/famtemplate", own_ + "/famtemplate");
     EXPECT_TRUE(writeFile(game_ / "skinsets.cfg", "mine") && writeFile(game_ / "Template.iff", playersTemplate()));
+    const Tree prefix = treeOf(files_.path("prefix"));
     const AnsweredBox question = answerNextBox(IDOK), files = answerNextBox(IDOK), end = answerNextBox(IDOK);
     EXPECT_EQ(start({"--prepare"}), 0);
     EXPECT_NE(question->text.find("    skinsets.cfg\n    Template.iff\n"), std::string::npos) << question->text;
     EXPECT_EQ(treeOf(own_).at("skinsets.cfg"), bytesFrom("mine"));
     EXPECT_EQ(treeOf(own_).at("Template.iff"), playersTemplate());
-    EXPECT_TRUE(fs::exists(game_ / "skinsets.cfg")) << "those stay";
+    EXPECT_EQ(differences(prefix, treeOf(files_.path("prefix"))),
+              skin_.lexically_relative(files_.path("prefix")).string() + "\n");
     EXPECT_TRUE(fs::exists(own_ + "/famtemplate"));
     const AnsweredBox secondEnd = answerNextBox(IDOK);
     EXPECT_EQ(start({"--prepare"}), 0);
