@@ -23,11 +23,7 @@ TEST_F(LeftOversTest, AMissingOrBrokenFileIsReplacedByTheWholeVersionThatFits) {
     const Bytes old = makeNeighborhoodFile({.freeRoom = true}).bytes, now = makeNeighborhoodFile({.map = false}).bytes;
     const Bytes cut(old.begin(), old.begin() + 80), none, hers = makeCharacterFile({.guid = 1}).bytes;
     const Bytes newSim = makeFactTemplate(), cutSim(newSim.begin(), newSim.begin() + 54'500);
-    const struct {
-        const char* what;
-        Files files;
-        std::string file, version;
-    } rows[] = {
+    const std::tuple<const char*, Files, std::string, std::string> rows[] = {
         {"ended between two renames", {{live, {}}, {live + aside, old}, {temporary, now}}, live, temporary},
         {"the new version is cut", {{live, {}}, {live + aside, old}, {temporary, cut}}, live, live + aside},
         {"ended so at a Sim", {{sim, {}}, {sim + aside, hers}, {simsTemporary, newSim}}, sim, sim + aside},

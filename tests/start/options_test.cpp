@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 TEST(OptionsTest, EachOptionIsTakenAndWhatIsWrongIsNamed) {
@@ -13,10 +15,7 @@ TEST(OptionsTest, EachOptionIsTakenAndWhatIsWrongIsNamed) {
     EXPECT_EQ(options.game, "C:\\The Sims");
     EXPECT_EQ(options.editions, EditionsWish::later);
 
-    const struct {
-        const char* argument;
-        const char* fault;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"--game=a=b", ""},
         {"--editions=ask", ""},
         {"--game", "--game needs a directory."},
@@ -26,9 +25,9 @@ TEST(OptionsTest, EachOptionIsTakenAndWhatIsWrongIsNamed) {
         {"--yes=no", "There is no option --yes=no."},
         {"", "There is no option ."},
     };
-    for (const auto& row : rows) {
-        const char* const arguments[] = {"start", row.argument};
-        EXPECT_EQ(optionsOf(2, arguments).fault, row.fault) << row.argument;
+    for (const auto& [argument, fault] : rows) {
+        const char* const arguments[] = {"start", argument};
+        EXPECT_EQ(optionsOf(2, arguments).fault, fault) << argument;
     }
 }
 

@@ -2,10 +2,12 @@
 
 #include "platform/own_directory.h"
 #include "platform/path_text.h"
-#include "restore/program.h"
+#include "restore/actions.h"
+#include "start/evening_steps.h"
 #include "tests/prepare/unprepared_game.h"
-#include "tests/support/scoped_variable.h"
-#include "tests/support/user.h"
+#include "tests/start/evening_game.h"
+#include "tests/support/x_server.h"
+#include "world/program_files.h"
 
 namespace {
 
@@ -26,20 +28,18 @@ class StartTest : public PreparationTest {
 
 TEST_F(StartTest, AsksPreparesAndSaysWhetherAllIsReady) {
     const std::string planned = "In " + shownPath(own_) + ":\n    Template.iff, out of one of your own Sims' files\n";
-    const struct {
-        std::vector<std::string> options;
-        int answer, code;
-        std::vector<std::string> said;  // in the boxes, in their order
-    } rows[] = {{{"--no"}, IDOK, 1, {}},
-                {{"--help"}, IDOK, 0, {}},
-                {{"--prepare"}, IDCANCEL, 1, {"-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"}},
-                {{"--prepare", "--yes"}, IDOK, 0, {}},
-                {{"--prepare"}, IDOK, 0, {"Tidewright can start."}},
-                {{"--new-template"},
-                 IDOK,
-                 0,
-                 {"will be made.\n\n" + planned + "    (the present one is kept", "would be the same",
-                  "Tidewright can start."}}};
+    using Words = std::vector<std::string>;  // of the command line, and of the boxes in their order
+    const std::tuple<Words, int, int, Words> rows[] = {
+        {{"--no"}, IDOK, 1, {}},
+        {{"--help"}, IDOK, 0, {}},
+        {{"--prepare"}, IDCANCEL, 1, {"-HEAD.skn\n" + planned + "    famtemplate\n    skinsets.cfg\n\n"}},
+        {{"--prepare", "--yes"}, IDOK, 0, {}},
+        {{"--prepare"}, IDOK, 0, {"Tidewright can start."}},
+        {{"--new-template"},
+         IDOK,
+         0,
+         {"will be made.\n\n" + planned + "    (the present one is kept", "would be the same",
+          "Tidewright can start."}}};
     for (const auto& [options, answer, code, said] : rows) {
         SCOPED_TRACE(options.back() + std::to_string(answer));
         std::vector<AnsweredBox> boxes;
@@ -74,11 +74,22 @@ TEST_F(StartTest, TakesOverTheFilesOfVersion110AndReplacesTheLinksOfVersion100) 
     EXPECT_TRUE(secondEnd->text.ends_with("Tidewright can start.")) << secondEnd->text;
 }
 
-TEST_F(StartTest, HasItsRestorePointsWhereTheProgramForGoingBackLooks) {
-    char name[] = "tidewright-restore", make[] = "--make", yes[] = "--yes";
-    char* arguments[] = {name, make, yes};
-    EXPECT_EQ(runRestore(3, arguments), 0);
-    EXPECT_TRUE(fs::exists(own_ + "/restore-points"));
+TEST_F(EveningTest, AGameThatWasStartedWhileAQuestionWasOpenIsNotTakenBack) {
+    box_.reset();
+    start();
+    makeRestorePoint(restorePointsDirectory, game(), PointReason::evening);
+    const RestorePoint point = listRestorePoints(restorePointsDirectory).front();
+    save();
+    const Tree saved = treeOf(files().path("UserData"));
+    for (const bool ofStart : {true, false}) {
+        const XServer server;
+        const auto startGame = [&] { server.addWindow("The Sims", "sims.exe", server.root()); };
+        const AnsweredBox question = answerNextBox(IDOK, startGame), refusal = answerNextBox(IDOK);
+        EXPECT_FALSE(ofStart ? settleLastEvening(game(), false).isSettled
+                             : goBackAfterQuestion({restorePointsDirectory, game()}, point, allNeighborhoods));
+        EXPECT_TRUE(refusal->text.starts_with("The Sims is running: ")) << refusal->text;
+        EXPECT_EQ(differences(saved, treeOf(files().path("UserData"))), "");
+    }
 }
 
 }  // namespace

@@ -26,45 +26,45 @@ TEST_F(EveningTest, TheSampleIsReadyAndTheCheckLeavesNoTrace) {
 }
 
 TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
-    const std::string data = "UserData/", characters = "UserData/Characters";
-    const auto cut = [&](const std::string& name) { fs::resize_file(files().path(data + name), 1000); };
+    const std::string data = "UserData/", live = "UserData/neighborhood.iff", characters = "UserData/Characters";
+    const std::string deep = "before/" + std::string(60, 'd') + "/" + std::string(60, 'd');
+    const std::string sim = characters + "/user00002.iff", without = "A save goes without backups in ";
+    const auto cut = [&](const std::string& name) { return [&, name] { fs::resize_file(files().path(name), 1000); }; };
+    const auto putFile = [&](const std::string& name) {
+        return [&, name] { fs::remove_all(files().path(name)), files().write(name, "file"); };
+    };
+    const auto moveDown = [&] {
+        files().makeDirectory(deep);
+        fs::rename(files().path("UserData"), files().path(deep + "/UserData"));
+    };
+    const auto addLater = [&] {
+        const Bytes record = ByteWriter().u32Le(1).u32Le(10).u32Le(9).text("user00042").fillTo(700).written();
+        start({.before = {{.type = "NBRS", .content = ByteWriter().bytes(record).bytes(record).written()}}});
+        EXPECT_EQ(checkReadiness(game(), true).text(), "");
+    };
     const std::tuple<const char*, std::function<void()>, bool, std::string> rows[] = {
-        {"no neighborhood file", [&] { files().remove(data + "neighborhood.iff"); }, false,
+        {"no neighborhood file", [&] { files().remove(live); }, false,
          "neighborhood.iff is missing or can't be read. The window will list no neighborhood."},
-        {"an empty neighborhood file", [&] { files().write(data + "neighborhood.iff", ""); }, false, "only part of"},
-        {"a neighborhood file that is cut", [&] { cut("neighborhood.iff"); }, false,
-         "isn't whole: it has bytes left over at 999."},
-        {"a Sim's file that is cut", [&] { cut("Characters/user00002.iff"); }, true, "Characters: user00002.iff."},
+        {"an empty neighborhood file", [&] { files().write(live, ""); }, false, "only part of"},
+        {"a neighborhood file that is cut", cut(live), false, "isn't whole: it has bytes left over at 999."},
+        {"a Sim's file that is cut", cut(sim), true, "Characters: user00002.iff."},
         {"a directory has the temporary name", [&] { files().makeDirectory(data + "TMPneighborhood.iff"); }, false,
          "neighborhood.iff can't be saved: "},
-        {"a Sim's temporary name is a link to the file",
-         [&] { files().link(characters + "/TMPuser00002.iff", characters + "/user00002.iff"); }, false,
-         "user00002.iff in "},
-        {"a file in the place of the directory",
-         [&] {
-             files().remove(characters);
-             files().write(characters, "file");
-         },
-         false, "can be saved: "},
-        {"a file in the place of the backups", [&] { files().write(data + "Backups", "file"); }, true,
-         "A save goes without backups in "},
-        {"another one in the place of the Sims' backups", [&] { files().write(characters + "/Backups", "file"); }, true,
-         "A save goes without backups in "},
-        {"a path that the editor cuts",
-         [&] {
-             const std::string deep = "before/" + std::string(60, 'd') + "/" + std::string(60, 'd');
-             files().makeDirectory(deep);
-             fs::rename(files().path("UserData"), files().path(deep + "/UserData"));
-         },
-         false, " is too long: "},
+        {"a Sim's temporary name is a link to the file", [&] { files().link(characters + "/TMPuser00002.iff", sim); },
+         false, "user00002.iff in "},
+        {"a file in the place of the directory", putFile(characters), false, "can be saved: "},
+        {"a file in the place of the backups", putFile(data + "Backups"), true, without},
+        {"another one in the place of the Sims' backups", putFile(characters + "/Backups"), true, without},
+        {"a path that the editor cuts", moveDown, false, " is too long: "},
+        {"Sims of a later edition", addLater, true,
+         "Neighborhood 1: 2 Sims of a later edition of the game, which stay closed: the option --editions ask asks "
+         "again."},
     };
     for (const auto& [what, damage, ready, said] : rows) {
         SCOPED_TRACE(what);
         start();
         damage();
-        const bool isDeep = !files().exists("UserData");
-        const std::string deep = files().path("before") + "\\" + std::string(60, 'd') + "\\" + std::string(60, 'd');
-        const Readiness readiness = checkReadiness(isDeep ? deep + "\\" : game());
+        const Readiness readiness = checkReadiness(files().exists("UserData") ? game() : files().path(deep) + "\\");
         EXPECT_EQ(readiness.isReady(), ready);
         EXPECT_NE(readiness.text().find(said), std::string::npos) << readiness.text();
     }
@@ -102,17 +102,6 @@ TEST_F(EveningTest, ASaveThatWasCutOffBehindTheSimsIsSeenByThemAlone) {
                             "must not grow up now. Close Tidewright, and copy Characters\\Backups\\" +
                             backup.string() + " to Characters\\user00001.iff first.");
     }
-}
-
-TEST_F(EveningTest, RecordsOfLaterEditionsAreCounted) {
-    const Bytes record = ByteWriter().u32Le(1).u32Le(10).u32Le(9).text("user00042").fillTo(700).written();
-    start({.before = {{.type = "NBRS", .content = ByteWriter().bytes(record).bytes(record).written()}}});
-    const Readiness readiness = checkReadiness(game());
-    EXPECT_EQ(checkReadiness(game(), true).text(), "");
-    EXPECT_TRUE(readiness.isReady());
-    EXPECT_EQ(readiness.text(),
-              "Neighborhood 1: 2 Sims of a later edition of the game, which stay closed: the option "
-              "--editions ask asks again.");
 }
 
 TEST_F(EveningTest, AMoveOutThatWouldDropSomethingIsForetold) {

@@ -24,48 +24,43 @@ TEST(WordsTest, LongNumbersAndListsAreReadable) {
 }
 
 TEST_F(EveningTest, ASaveIsReportedByNamesAndChecked) {
-    for (const bool ofLaterEditions : {false, true}) {
+    const std::string begin = "Neighborhood 1: ", aside = "UserData/Characters/user00001.iff.tidewright-old0";
+    const auto saveTwiceWithoutBackups = [&] {
+        for (const char* const backups : {"Backups", "Characters/Backups"})
+            write(backups, bytesFrom("no directory"));
+        save(true, false);
+        EXPECT_TRUE(files().exists(aside) && !reportOn(evening()).hasLoss);
+        save(false);
+        EXPECT_FALSE(files().exists(aside));
+        files().remove("UserData/neighborhood.iff.tidewright-old0");  // as a third save that finds no room
+    };
+    const auto saveBesideUnknownForm = [&] {
+        save(true, false);
+        Bytes file = bytesOf("Characters/user00003.iff");
+        std::ranges::replace(file, 0xA3, 0xA4);  // no pattern ends the body strings any more
+        write("Characters/user00003.iff", file);
+        files().write("before/UserData/Characters/user00003.iff", file);
+    };
+    const std::string checked =
+        "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and no family and no Sim is "
+        "missing.";
+    const std::tuple<const char*, bool, std::function<void()>, std::string> rows[] = {
+        {"one save", false, [&] { save(); }, begin + news + checked},
+        {"of a later edition", true, [&] { save(); }, begin + news + checked},
+        {"two saves", false, saveTwiceWithoutBackups, begin + news + checked},
+        {"beside a file that would open a box", false, saveBesideUnknownForm,
+         begin + "Clover Thistlewood is a teenager now." + checked},
+        {"the copy can't be read", false, [&] { save(), files().remove("before/UserData/neighborhood.iff"); },
+         "Neighborhood 1 was saved. The copy from before can't be read, so nothing could be checked."},
+    };
+    for (const auto& [what, ofLaterEditions, change, said] : rows) {
+        SCOPED_TRACE(what);
         start({.freeRoom = true}, ofLaterEditions);
-        save();
+        change();
         const EveningReport report = reportOn(evening());
-        EXPECT_EQ(report.text, std::string("Neighborhood 1: ") + news +
-                                   "\n\nChecked: 2 new files, whole to the end. Names, GUIDs and stages are right, and "
-                                   "no family and no Sim is missing.");
-        EXPECT_TRUE(report.hasSaved && !report.hasLoss);
+        EXPECT_EQ(report.text, said);
+        EXPECT_TRUE(report.hasSaved && !report.hasLoss && checkReadiness(game(), true).isReady());
     }
-}
-
-TEST_F(EveningTest, ACopyThatCantBeReadChecksNothing) {
-    start();
-    save();
-    files().remove("before/UserData/neighborhood.iff");
-    EXPECT_EQ(reportOn(evening()).text,
-              "Neighborhood 1 was saved. The copy from before can't be read, so nothing could be checked.");
-}
-
-TEST_F(EveningTest, ASecondSaveWithoutBackupsIsNotTheGames) {
-    start();
-    for (const char* const backups : {"Backups", "Characters/Backups"})
-        write(backups, bytesFrom("no directory"));
-    save(true, false);
-    EXPECT_TRUE(files().exists("UserData/Characters/user00001.iff.tidewright-old0"));
-    EXPECT_FALSE(reportOn(evening()).hasLoss);
-    save(false);
-    EXPECT_FALSE(files().exists("UserData/Characters/user00001.iff.tidewright-old0"));
-    files().remove("UserData/neighborhood.iff.tidewright-old0");  // as a third save that finds no room
-    const EveningReport report = reportOn(evening());
-    EXPECT_TRUE(report.text.starts_with(std::string("Neighborhood 1: ") + news + "\n\nChecked: 2 ")) << report.text;
-}
-
-TEST_F(EveningTest, AFileOfAnUnknownFormOpensNoBox) {
-    start();
-    save(true, false);
-    Bytes file = bytesOf("Characters/user00003.iff");
-    std::ranges::replace(file, 0xA3, 0xA4);  // no pattern ends the body strings any more
-    write("Characters/user00003.iff", file);
-    files().write("before/UserData/Characters/user00003.iff", file);
-    EXPECT_TRUE(reportOn(evening()).text.starts_with("Neighborhood 1: Clover Thistlewood is a teenager now.\n"));
-    EXPECT_TRUE(checkReadiness(game()).isReady());
 }
 
 TEST_F(EveningTest, WhatIsLostIsReported) {
@@ -87,6 +82,14 @@ TEST_F(EveningTest, WhatIsLostIsReported) {
         {"the record is the old one", [&] { bringBack(live, live); }, age},
         {"a temporary file is left", [&] { write("TMP" + live, bytesFrom("cut")); },
          "Neighborhood 1: TMPneighborhood.iff is left over from a save that was cut off."},
+        {"a Move Out cut off families",
+         [&] {
+             start({.families = {{.number = 2, .name = "XXXX Lane"}, {.number = 3, .name = "Moss"}}});
+             save(false);
+         },
+         "The families XXXX Lane and Moss are gone."},
+        {"and Sims", [&] { start({.before = {{.type = "XXXX"}}}), save(false); },
+         "The family Thistlewood is gone. 3 Sims are gone: Clover Thistlewood, Bramble "},
     };
     for (const auto& [what, damage, said] : rows) {
         SCOPED_TRACE(what);
@@ -100,57 +103,43 @@ TEST_F(EveningTest, WhatIsLostIsReported) {
     }
 }
 
-TEST_F(EveningTest, AMoveOutThatDropsFamiliesIsReported) {
-    start({.families = {{.number = 2, .name = "XXXX Lane", .members = {}},
-                        {.number = 3, .name = "Moss", .members = {}}}});
-    save(false);
-    EveningReport report = reportOn(evening());
-    EXPECT_NE(report.text.find("The families XXXX Lane and Moss are gone."), std::string::npos) << report.text;
-    EXPECT_TRUE(report.hasLoss);
-
-    start({.before = {{.type = "XXXX"}}});
-    save(false);
-    report = reportOn(evening());
-    EXPECT_NE(report.text.find("The family Thistlewood is gone. 3 Sims are gone: Clover Thistlewood, Bramble "),
-              std::string::npos)
-        << report.text;
-}
-
-TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPrevented) {
-    start();
-    EXPECT_EQ(reportOn(evening()).text, "");
-    files().link("UserData/TMPneighborhood.iff", "UserData/neighborhood.iff");
-    Evening known = evening();
-    known.known = {findLeftOvers(game()).at(0).sentence};
-    EveningReport report = reportOn(known);
-    EXPECT_TRUE(report.text.starts_with("Nothing was saved. ") && !report.hasSaved && !report.hasLoss) << report.text;
-
-    start();
-    write("Backups/neighborhood.20261124.2154.iff", {});  // of an earlier evening
-    fs::last_write_time(files().path("UserData/Backups/neighborhood.20261124.2154.iff"),
-                        fs::file_time_type::clock::now() - std::chrono::hours(24));
-    patch("neighborhood.iff", 500, "?");
-    Evening played = evening();
-    for (int i = 0; i < 2; ++i, played.begin += 600) {  // the disk's clock is behind then
-        report = reportOn(played);
-        EXPECT_EQ(report.text,
-                  "The game saved Neighborhood 1 while Tidewright was open; what you changed in it was not saved.");
-        EXPECT_TRUE(report.wasPlayed && !report.hasSaved && !report.hasLoss);
+TEST_F(EveningTest, WithoutASaveNothingIsSaidUnlessItWasPreventedOrTheGameSaved) {
+    const std::string live = "neighborhood.iff", backup = "Backups/neighborhood.20261124.2154.iff";
+    const std::string played = "The game saved Neighborhood 1 while Tidewright was open";
+    const std::string notSaved = "; what you changed in it was not saved.";
+    const auto playBesideOldBackup = [&] {
+        write(backup, {});
+        fs::last_write_time(files().path("UserData/" + backup), hourAgo_ - std::chrono::hours(24));
+        patch(live, 500, "?");
+    };
+    const auto setAside = [&] { write(live + ".tidewright-old0", bytesFrom("of an earlier evening")); };
+    const auto build = [&] { write("Houses/House02.iff", bytesFrom("built")); };
+    const std::tuple<const char*, std::function<void()>, std::function<void()>, int, std::string> rows[] = {
+        {"nothing", [] {}, [] {}, 0, ""},
+        {"no save could work", [&] { files().link("UserData/TMP" + live, "UserData/" + live); }, [] {}, 0,
+         "Nothing was saved. "},
+        {"the game has saved", [] {}, playBesideOldBackup, 0, played + notSaved},
+        {"a disk with a clock that is behind", [] {}, playBesideOldBackup, 600, played + notSaved},
+        {"so it is, but the editor has saved", [] {}, [&] { save(false); }, 600,
+         "Neighborhood 1: Bramble Thistlewood "},
+        {"a house is new", setAside, build, 0, played + "."},
+        {"the neighborhood, too", setAside, [&] { build(), patch(live, 500, "?"); }, 0, played + notSaved},
+    };
+    for (const auto& [what, before, change, seconds, said] : rows) {
+        SCOPED_TRACE(what);
+        start();
+        before();
+        Evening one = evening();
+        for (const LeftOver& leftOver : findLeftOvers(game()))
+            one.known.push_back(leftOver.sentence);
+        change();
+        one.begin += seconds;
+        const EveningReport report = reportOn(one);
+        EXPECT_TRUE(said.empty() ? report.text.empty() : report.text.starts_with(said)) << report.text;
+        EXPECT_EQ(report.wasPlayed, said.starts_with(played));
+        EXPECT_EQ(report.hasSaved, said.starts_with("Neighborhood 1: "));
+        EXPECT_FALSE(report.hasLoss);
     }
-    start();
-    save(false);
-    played = evening();
-    played.begin += 600;
-    EXPECT_TRUE(reportOn(played).text.starts_with("Neighborhood 1: Bramble Thistlewood moved into a household of "));
-
-    start();
-    write("neighborhood.iff.tidewright-old0", bytesFrom("of an earlier evening"));
-    write("Houses/House02.iff", bytesFrom("built"));
-    known = evening();
-    known.known = {findLeftOvers(game()).at(0).sentence};
-    EXPECT_EQ(reportOn(known).text, "The game saved Neighborhood 1 while Tidewright was open.");
-    patch("neighborhood.iff", 500, "?");
-    EXPECT_TRUE(reportOn(known).text.ends_with("; what you changed in it was not saved."));
 }
 
 TEST_F(EveningTest, AnEveningThatWasCutOffIsDescribed) {

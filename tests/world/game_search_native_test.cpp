@@ -145,24 +145,14 @@ TEST_F(GameSearchNativeTest, AWishIsRememberedUntilItIsGone) {
     files_.remove("elsewhere");
     expectWords("", "isn't there any more: " + files_.path());
     const std::string chosen = "[Game]\nDirectory=" + files_.path("home/.wine/drive_c/a") + "\n";
-    const std::string damaged = " is damaged. What was chosen there is ignored.\n\nThis game was found.\n\n";
-    const std::pair<std::string, std::string> rows[] = {
-        {chosen + "\x01=[\n", damaged},
-        {"[garbage\n" + chosen, damaged},
-        {chosen + "lines\n", damaged},
-        {chosen + "=\n", damaged},
-        {"[Play]\nDirectory=x\n", damaged},
-        {chosen + std::string(64'000, '\n'), damaged},
-        {"[Game]\nDirectory=.wine/drive_c/a\n", "isn't there any more: .wine/drive_c/a.\n\nThis game was found.\n\n"},
-    };
-    for (const auto& [text, said] : rows) {
-        files_.write("own/tidewright.ini", text);
-        expectWords("", said + files_.path("home/.wine/drive_c/a"));
-    }
-    for (const std::string& text : {std::string(), "; a remark\r\n" + chosen + " \n#another\n"}) {
-        files_.write("own/tidewright.ini", text);
-        EXPECT_EQ(found(), "C:\\a\\");
-    }
+    const std::string end = "\n\nThis game was found.\n\n" + files_.path("home/.wine/drive_c/a");
+    const auto choose = [&](const std::string& text) { files_.write("own/tidewright.ini", text); };
+    for (const std::string& damaged : {chosen + "\x01=[\n", "[garbage\n" + chosen, chosen + "lines\n", chosen + "=\n",
+                                       std::string("[Play]\n"), chosen + std::string(64'000, '\n')})
+        choose(damaged), expectWords("", " is damaged. What was chosen there is ignored." + end);
+    choose("[Game]\nDirectory=.wine/drive_c/a\n"), expectWords("", "any more: .wine/drive_c/a." + end);
+    choose("; a remark\r\n" + chosen + " \n#another\n");
+    EXPECT_EQ(found(), "C:\\a\\");
     expectWords("nowhere", "The Sims isn't in " + files_.path("home/nowhere"));
 }
 
