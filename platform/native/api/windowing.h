@@ -107,8 +107,8 @@ BOOL IsWindow(HWND window);
 // The client area, without frame and menu: 0, 0, width, height.
 BOOL GetClientRect(HWND window, RECT* rectangle);
 
-// Writes the whole style and returns the old one, 0 on failure. WS_DISABLED and WS_VISIBLE take effect at once. Left
-// out: every index but GWL_STYLE.
+// Writes the whole style and returns the one given before, 0 on failure. WS_DISABLED and WS_VISIBLE take effect at
+// once. Left out: every index but GWL_STYLE, and that showing and hiding change the style.
 LONG SetWindowLongA(HWND window, int index, LONG value);
 
 // GetFocus returns the control with the focus. While another program's window is active, that is the control of the

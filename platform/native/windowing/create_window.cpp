@@ -57,7 +57,6 @@ BOOL DestroyWindow(HWND window) {
     if (found == nullptr) return FALSE;
     if (auto* const topLevel = dynamic_cast<TopLevelWindow*>(found); topLevel != nullptr) {
         topLevel->widget()->hide();
-        topLevel->noteVisible(false);
         SendMessageA(window, WM_DESTROY, 0, 0);
     }
     dropWindow(window);

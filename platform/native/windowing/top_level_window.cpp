@@ -130,7 +130,7 @@ QIcon iconOf(const WindowClass& windowClass) {
 }  // namespace
 
 TopLevelWindow::TopLevelWindow(const WindowClass& windowClass, LPCSTR title, DWORD style, const Placement& placement)
-    : Window(style & ~WS_VISIBLE, nullptr), procedure_(windowClass.procedure) {
+    : Window(style, nullptr), procedure_(windowClass.procedure) {
     auto* const frame = new Frame(handle(), flagsOf(style));
     frame_ = frame;
     QMenuBar* const menuBar = createMenuBar(windowClass.menuName, handle(), frame);  // read first by a screen reader

@@ -25,10 +25,6 @@ void Window::setStyle(DWORD style) {
     widget()->setVisible((style & WS_VISIBLE) != 0);
 }
 
-void Window::noteVisible(bool visible) {
-    style_ = visible ? style_ | WS_VISIBLE : style_ & ~WS_VISIBLE;
-}
-
 QSize Window::clientSize() const {
     return widget()->size();
 }

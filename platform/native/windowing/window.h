@@ -25,7 +25,6 @@ class Window {
 
     // Sets the whole style. Visibility and enabling take effect at once.
     void setStyle(DWORD style);
-    void noteVisible(bool visible);
 
     // The widget of the whole window. This object owns it, and deletes it once Qt has finished with its events.
     virtual QWidget* widget() const = 0;

@@ -28,7 +28,6 @@ BOOL ShowWindow(HWND window, int) {
     Window* const found = findWindow(window);
     if (found == nullptr) return FALSE;
     const bool wasVisible = found->widget()->isVisible();
-    found->noteVisible(true);
     if (!wasVisible) show(*found);
     return wasVisible ? TRUE : FALSE;
 }
