@@ -40,10 +40,6 @@ bool takeMessage(MSG& message) {
     return true;
 }
 
-void forgetMessages(HWND window) {
-    std::erase_if(queue, [window](const MSG& message) { return message.hwnd == window; });
-}
-
 void PostQuitMessage(int exitCode) {
     quitCode = exitCode;
 }

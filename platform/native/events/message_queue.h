@@ -7,13 +7,11 @@
 // A message with the present time and position of the pointer.
 MSG makeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
+// If `window` is destroyed before the message is dispatched, nothing receives it.
 void postMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 // Takes the oldest message out of the queue, or WM_QUIT if the queue is empty and PostQuitMessage was called. False if
 // there is neither.
 bool takeMessage(MSG& message);
-
-// Removes the messages for `window`, which is about to be destroyed.
-void forgetMessages(HWND window);
 
 #endif

@@ -6,7 +6,6 @@
 #include "platform/native/api/windowing.h"
 #include "platform/native/base/handle_table.h"
 #include "platform/native/base/text1252.h"
-#include "platform/native/events/message_queue.h"
 
 namespace {
 
@@ -68,7 +67,6 @@ void dropWindow(HWND window) {
     for (HWND const control : controlsOf(window)) {
         dropWindow(control);
     }
-    forgetMessages(window);
     windows().take(window);
 }
 
