@@ -34,14 +34,14 @@ constexpr UINT MB_DEFBUTTON2 = 0x0100;      // Enter answers with Cancel
 constexpr UINT MB_SETFOREGROUND = 0x10000;  // no matter here: the window manager decides
 
 // Shows a box and waits for the answer: IDOK or IDCANCEL. Closing a box with one button answers with that button. The
-// box blocks `owner`. Without an owner it blocks every window of the program: the program waits for
-// the answer, and a click elsewhere would start another command within this one. Without a display it writes the title
-// and the text to standard error and returns 0.
+// box blocks every window of the program, with an owner or without one: the program waits for the answer, and a click
+// elsewhere would start another command within this one. Without a display it writes the title and the text to standard
+// error and returns 0.
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 
-// Shows a dialog of the resources, modal to `owner`, and returns the value given to EndDialog, or -1 if it can't be
-// shown. `procedure` receives WM_INITDIALOG and WM_COMMAND; Escape and the close button send WM_COMMAND with IDCANCEL.
-// Supported items: texts, icons and push buttons.
+// Shows a dialog of the resources, which blocks as a box does, and returns the value given to EndDialog, or -1 if it
+// can't be shown. `procedure` receives WM_INITDIALOG and WM_COMMAND; Escape and the close button send WM_COMMAND with
+// IDCANCEL. Supported items: texts, icons and push buttons.
 INT_PTR DialogBoxParamA(HINSTANCE instance, LPCSTR templateName, HWND owner, DLGPROC procedure, LPARAM parameter);
 BOOL EndDialog(HWND dialog, INT_PTR result);
 

@@ -95,7 +95,7 @@ Dialog::Dialog(const DialogTemplate& source, const Window* owner, DLGPROC proced
     : Window(source.style, nullptr),
       widget_(new DialogWidget(owner == nullptr ? nullptr : owner->widget(), handle())),
       procedure_(procedure) {
-    widget_->setWindowModality(owner == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
+    widget_->setModal(true);
     widget_->setWindowTitle(source.title);
     if (source.points > 0) widget_->setFont(QFont(source.font, toPixels(source.points)));
     const QRect place = DialogUnits(widget_->font()).pixels(source.place);

@@ -14,7 +14,7 @@ bool chooseDirectory(HWND owner, const char* title, std::string& directory) {
     if (!hasDisplay()) return false;
     const Window* const ownerWindow = owner == nullptr ? nullptr : findWindow(owner);
     QFileDialog dialog(ownerWindow == nullptr ? nullptr : ownerWindow->widget(), qtText(title), QDir::homePath());
-    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.setModal(true);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setFileMode(QFileDialog::Directory);

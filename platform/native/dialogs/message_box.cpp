@@ -18,7 +18,7 @@ class Box : public Window {
  public:
     Box(QWidget* owner, const QString& text, const QString& title, UINT type)
         : Window(0, nullptr), box_(new QMessageBox(owner)) {
-        box_->setWindowModality(owner == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
+        box_->setModal(true);
         box_->setWindowTitle(title);
         box_->setTextFormat(Qt::PlainText);
         box_->setText(text);
