@@ -71,7 +71,7 @@ class KeyWatcher : public QObject {
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
         if (returningKey || innermostLoop() != Loop::messages) return false;
-        if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr) return false;
+        if (QApplication::activePopupWidget() != nullptr) return false;
         auto* const window = qobject_cast<QWindow*>(object);
         HWND const topLevel = window == nullptr ? nullptr : topLevelOf(window);
         if (topLevel == nullptr) return false;
