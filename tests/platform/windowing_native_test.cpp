@@ -27,7 +27,12 @@ namespace {
 
 using WindowingNativeTest = WindowTest;
 
-TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxIsOpen) {
+// Of a dialog that any button ends.
+INT_PTR endByCommand(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+    return message == WM_COMMAND ? EndDialog(dialog, LOWORD(wParam)) : 0;
+}
+
+TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessADialogIsOpen) {
     auto& box = static_cast<QComboBox&>(*findWindow(addCombo({"a"}))->widget());
     HWND const button = addButton(2010);
     box.showPopup();
@@ -45,19 +50,30 @@ TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessABoxI
     takeLog();
     click();
     EXPECT_EQ(takeLog(), Log{"command 2010 0"});
-    const AnsweredBox asked = answerNextBox(IDOK, click);
-    MessageBoxA(window_, "text", "title", MB_OK);
+    const AnsweredBox about = answerNextBox(answerByEscape, [&] {
+        click();
+        QTest::keyClick(QApplication::activeModalWidget()->windowHandle(), Qt::Key_Return);
+    });
+    EXPECT_EQ(DialogBoxParamA(nullptr, MAKEINTRESOURCEA(IDD_ABOUT), window_, endByCommand, 0), IDOK);
     runMessages();
     EXPECT_EQ(takeLog(), Log{});
-    EXPECT_EQ(QApplication::activeWindow(), findWindow(window_)->widget()) << "the box gives the focus back";
+    EXPECT_EQ(QApplication::activeWindow(), findWindow(window_)->widget()) << "the dialog gives the focus back";
 }
 
 TEST_F(WindowingNativeTest, AKeyThatIsOnlyHeldStaysWithQtWhichMayHaveOpenedAMenu) {
-    for (const Qt::Key key : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Alt})
-        later([this, key] {
-            QTest::sendKeyEvent(QTest::Press, findWindow(window_)->widget()->windowHandle(), key, "", Qt::NoModifier);
+    auto& box = static_cast<QComboBox&>(*findWindow(addCombo({"a"}))->widget());
+    const struct {
+        Qt::Key key;
+        bool listIsOpen, comes;
+    } rows[] = {
+        {Qt::Key_A, false, true}, {Qt::Key_Shift, false, false}, {Qt::Key_Alt, false, false}, {Qt::Key_A, true, false}};
+    for (const auto& row : rows)
+        later([this, &box, row] {
+            if (row.listIsOpen) box.showPopup();
+            QWindow* const window = findWindow(window_)->widget()->windowHandle();
+            QTest::sendKeyEvent(QTest::Press, window, row.key, "", Qt::NoModifier);
             MSG message{};
-            EXPECT_EQ(takeMessage(message), key == Qt::Key_A) << key;
+            EXPECT_EQ(takeMessage(message), row.comes) << row.key;
         });
     runMessages();
 }
