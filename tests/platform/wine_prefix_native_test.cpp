@@ -38,6 +38,7 @@ TEST_F(WinePrefixNativeTest, DrivesSeparatorsAndCaseAreMapped) {
         {"steps back", "C:\\Sims\\..\\simsz\\.\\X", drive + "/Sims/../SimsZ/./x"},
         {"a relative path", "prefix\\DRIVE_C\\", "Prefix/drive_c/"},
         {"in the root", "/PROC", "/proc"},
+        {"too long to be looked up", "c:/sims/" + std::string(4096, 'x'), drive + "/sims/" + std::string(4096, 'x')},
     };
     for (const auto& [what, path, native] : rows)
         EXPECT_EQ(nativePath(path.c_str()), native) << what;
