@@ -1,13 +1,22 @@
-// What a test can see only natively: the picture on the screen, and the pages that a browser is asked to open.
+// What a test can see only natively: the picture on the screen, the cursors, and the pages that a browser is asked to
+// open.
 #include <unistd.h>
 
+#include <QComboBox>
+
+#include "platform/native/windowing/client_area.h"
+#include "platform/native/windowing/window.h"
+#include "sample/installation.h"
 #include "shell/main_window.h"
 #include "shell/splash.h"
+#include "tests/support/machine.h"
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
 #include "ui/controls.h"
+#include "ui/cursors.h"
 #include "ui/status_line.h"
+#include "world/neighborhoods.h"
 
 namespace {
 
@@ -17,9 +26,27 @@ TEST(MainWindowNativeTest, TheSplashPictureFillsTheWindowAboveTheLine) {
     EXPECT_EQ(splash.at(0, 0), 0x0D1430U);
     EXPECT_EQ(splash.at(597, 399), 0x0B1026U);
     EXPECT_EQ(splash.at(0, 400), splash.at(0, splash.height - 1)) << "the line is below it";
+    EXPECT_EQ(findWindow(splashWindow())->clientArea()->cursor().shape(), Qt::BusyCursor);
     InvalidateRect(splashWindow(), nullptr, TRUE);
     UpdateWindow(splashWindow());
     EXPECT_EQ(pictureOf(splashWindow()).at(0, 0), splash.at(0, 400)) << "only until the window is painted again";
+}
+
+TEST(MainWindowNativeTest, AFamilysMembersAreReadUnderTheWaitCursor) {
+    const TempDirectory files;
+    writeInstallation(files.path("prefix"), true);
+    loadCursors();
+    loadNeighborhoods(installGame(files.path("prefix")).c_str(), files.path().c_str());
+    later([] {
+        const auto& sims = static_cast<QComboBox&>(*findWindow(controls().simCombo)->widget());
+        bool isWaiting = false;
+        QObject::connect(sims.model(), &QAbstractItemModel::rowsInserted, [&] { isWaiting = waitCursorShows(); });
+        pickEntry(controls().neighborhoodCombo, 0);
+        pickEntry(controls().familyCombo, 0);
+        EXPECT_TRUE(isWaiting);
+        PostQuitMessage(0);
+    });
+    runMainWindow(SW_SHOWNORMAL);
 }
 
 TEST(MainWindowNativeTest, TheMenuOpensThePagesOfTheProgram) {
