@@ -24,6 +24,13 @@ class OwnCallsWindowsTest : public WindowTest {
             heard_.push_back(std::to_string(event) + textOf(window));
     }
 
+    // Puts a new window where Windows may place one of many.
+    static LRESULT CALLBACK placeAtTheEnd(int, WPARAM, LPARAM sent) {
+        const auto& to = *reinterpret_cast<CWPSTRUCT*>(sent);
+        if (to.message == WM_CREATE) SetWindowPos(to.hwnd, nullptr, 600, 600, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        return 0;
+    }
+
     void takeKeysAway() const {
         SetFocus(nullptr);
         SetFocus(window_);
@@ -123,8 +130,10 @@ TEST_F(OwnCallsWindowsTest, WindowsGrowWithTheFontOfMessagesUntilTheScreenIsFull
         larger.lfMessageFont.lfHeight = height;
         SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof larger, &larger, 0);
         DestroyWindow(window_);
+        HHOOK const hook = SetWindowsHookExA(WH_CALLWNDPROC, placeAtTheEnd, nullptr, GetCurrentThreadId());
         window_ = CreateWindowA("WindowTest", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CW_USEDEFAULT, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, nullptr, nullptr);
+        UnhookWindowsHookEx(hook);
         RECT whole{}, client{};
         GetWindowRect(window_, &whole);
         EXPECT_TRUE(whole.right <= GetSystemMetrics(SM_CXSCREEN) && whole.bottom <= GetSystemMetrics(SM_CYSCREEN));
