@@ -1,41 +1,11 @@
-// The guide's steps for going back by hand, on the backups of real saves.
-#include <algorithm>
+// The guide's steps for going back by hand, on files named and dated as saves leave them.
 #include <chrono>
 #include <cstdlib>
 
-#include "sample/fact_template.h"
-#include "save/backup_names.h"
 #include "tests/support/scoped_variable.h"
-#include "tests/support/test_neighborhood.h"
+#include "tests/support/temp_directory.h"
 
 namespace {
-
-// Changes these Sims and saves, on this day of 2026 in UTC. Each save has a template of its own, so that no two
-// versions of a file are the same. New files get the time of the save, as if it hadn't come right after the one before.
-void saveAt(TestNeighborhood& test, WORD month, WORD day, WORD hour, WORD minute, const std::vector<int>& sims) {
-    Bytes made = makeFactTemplate();
-    overwrite(made, made.size() / 2, {static_cast<std::uint8_t>(day), static_cast<std::uint8_t>(minute)});
-    test.files().write("Template.iff", made);
-    for (const int sim : sims) {
-        ASSERT_NE(test.sim(sim).bodyStrings(), nullptr);
-        test.sim(sim).setStage(day % 2 == 1 ? stageNumber::teen : stageNumber::adult, nullptr);
-    }
-    const auto begin = fs::file_time_type::clock::now() - std::chrono::milliseconds(100);
-    backupClock().stopAt({2026, month, 0, day, hour, minute, 0, 0});
-    test->save(test->toolDirectory());
-    backupClock().followSystem();
-    const std::chrono::sys_seconds time = std::chrono::sys_days(std::chrono::year(2026) / month / day) +
-                                          std::chrono::hours(hour) + std::chrono::minutes(minute);
-    for (const auto& entry : fs::recursive_directory_iterator(test.files().path("UserData")))
-        if (entry.is_regular_file() && std::chrono::abs(entry.last_write_time() - begin) < std::chrono::seconds(60))
-            fs::last_write_time(entry, fs::file_time_type::clock::from_sys(time));
-}
-
-Tree liveFiles(const TestNeighborhood& test) {
-    Tree tree = treeOf(test.files().path("UserData"));
-    std::erase_if(tree, [](const auto& file) { return file.first.find("Backups/") != std::string::npos; });
-    return tree;
-}
 
 // The shell's lines of that chapter, as a script.
 std::string stepsOfGuide() {
@@ -46,34 +16,39 @@ std::string stepsOfGuide() {
 }
 
 TEST(GoingBackByHandTest, TheStepsOfTheGuideGiveEachSimTheVersionBeforeThatSave) {
-    std::vector<SampleCharacter> cast;
-    for (std::uint32_t number = 1; number <= 5; ++number)
-        cast.push_back({.recordName = "user0000" + std::to_string(number), .guid = number, .hasPictures = false});
-    TestNeighborhood test(householdOf(cast), cast);
-    const std::string userData = test.files().path("UserData/");
-    fs::rename(userData + "neighborhood.iff", userData + "NEIGHBORHOOD.IFF");  // as some games spell them
-    fs::rename(userData + "Characters/user00001.iff", userData + "Characters/User00001.iff");
-    test.load();
-    saveAt(test, 11, 23, 10, 5, {0, 1, 4});
-    saveAt(test, 11, 24, 8, 0, {2});
-    const Tree before = liveFiles(test);
-    saveAt(test, 11, 24, 21, 54, {0});
-    saveAt(test, 11, 24, 22, 10, {1});
-    saveAt(test, 12, 9, 9, 5, {0, 2});
-    saveAt(test, 12, 10, 0, 0, {0, 1, 2, 3});  // the names sort before those of the 9th
-    const Tree now = liveFiles(test);
-    EXPECT_EQ(before.size(), 6U);
-
+    const auto utc = [](int month, int day, int hour, int minute) {
+        const std::chrono::sys_seconds midnight = std::chrono::sys_days(std::chrono::year(2026) / month / day);
+        return fs::file_time_type::clock::from_sys(midnight + std::chrono::hours(hour) + std::chrono::minutes(minute));
+    };
+    const std::tuple<std::string, fs::file_time_type, const char*> files[] = {
+        {"NEIGHBORHOOD.IFF", utc(12, 10, 0, 0), "new"},  // as some games spell it
+        {"Backups/neighborhood.20261124.2154.iff", utc(11, 24, 21, 54), "wanted"},
+        {"Characters/User00001.iff", utc(12, 10, 0, 0), "new"},
+        {"Characters/Backups/user00001.20261123.iff", utc(11, 23, 10, 5), "old"},
+        {"Characters/Backups/user00001.20261124.iff", utc(11, 24, 21, 54), "wanted"},
+        {"Characters/Backups/user00001.20261210.iff", utc(12, 10, 0, 0), "later"},  // sorts before the 9th
+        {"Characters/Backups/user00001.2026129.iff", utc(12, 9, 9, 5), "later"},
+        {"Characters/user00002.iff", utc(12, 10, 0, 0), "new"},
+        {"Characters/Backups/user00002.20261124.iff", utc(11, 24, 21, 53), "old"},
+        {"Characters/Backups/user00002.20261210.iff", utc(12, 10, 0, 0), "later"},
+        {"Characters/Backups/user00002.2026129.iff", utc(12, 9, 9, 5), "wanted"},
+        {"Characters/user00003.iff", utc(11, 23, 10, 5), "wanted"},
+        {"Characters/Backups/user00003.20261123.iff", utc(11, 23, 10, 5), "old"},
+        {"Characters/Backups/user00004.20261210.iff", utc(12, 10, 0, 0), "wanted"}};  // whose file is gone
     const TempDirectory home;
-    const std::string maxis = ".wine/drive_c/Program Files (x86)/Maxis";
-    home.makeDirectory(maxis);
-    fs::create_directory_symlink(test.files().path(), home.path(maxis + "/The Sims"));
+    const std::string userData = ".wine/drive_c/Program Files (x86)/Maxis/The Sims/UserData/";
+    for (const auto& [name, time, bytes] : files) {
+        home.write(userData + name, bytes);
+        fs::last_write_time(home.path(userData + name), time);
+    }
     home.write("steps", stepsOfGuide());
     const ScopedVariable variables[] = {{"HOME", home.path()}, {"TZ", "America/Lima"}};
     ASSERT_EQ(std::system(("sh -eu '" + home.path("steps") + "'").c_str()), 0);
-    EXPECT_EQ(differences(before, liveFiles(test)), "");
-    EXPECT_TRUE(std::ranges::any_of(treeOf(home.path()),
-                                    [&](const auto& file) { return file.second == now.at("NEIGHBORHOOD.IFF"); }));
+    for (const char* const live : {"NEIGHBORHOOD.IFF", "Characters/User00001.iff", "Characters/user00002.iff",
+                                   "Characters/user00003.iff", "Characters/user00004.iff"})
+        EXPECT_EQ(home.bytesOf(userData + live), bytesFrom("wanted")) << live;
+    home.remove(".wine");
+    EXPECT_EQ(std::ranges::count(treeOf(home.path()), bytesFrom("new"), &Tree::value_type::second), 3) << "a copy";
 }
 
 }  // namespace

@@ -21,11 +21,14 @@ TEST_F(SaveNativeTest, FilesKeepModeGroupAndSpellingAndABackupHasThoseOfItsFile)
     fs::rename(characters + "user00001.iff", ann);
     ASSERT_EQ(chown(ann.c_str(), static_cast<uid_t>(-1), group), 0);
     ASSERT_EQ(chmod(ann.c_str(), 0664), 0);
+    const auto yesterday = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    fs::last_write_time(ann, yesterday);
     save();
     for (const std::string& name : {ann, characters + "Backups/user00001.200235.iff"}) {
         struct stat status = {};
         ASSERT_EQ(stat(name.c_str(), &status), 0) << name;
         EXPECT_TRUE(status.st_mode == (S_IFREG | 0664) && status.st_gid == group) << name;
+        EXPECT_GT(fs::last_write_time(name), yesterday) << "the guide goes by the time of the save";
     }
     EXPECT_FALSE(fs::exists(characters + "user00001.iff"));
 }
