@@ -1,19 +1,18 @@
 // Where the game is found under Wine, and what is said where it isn't.
 #include "world/game_search.h"
 
-#include <QtTest/qtestmouse.h>
 #include <QApplication>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "platform/files.h"
+#include "platform/native/windowing/window.h"
 #include "platform/path_text.h"
 #include "sample/wine_prefix.h"
 #include "tests/support/scoped_variable.h"
 #include "tests/support/temp_directory.h"
 #include "tests/support/user.h"
+#include "ui/words.h"
 
 namespace {
 
@@ -60,13 +59,11 @@ class GameSearchNativeTest : public testing::Test {
         EXPECT_NE(words.find(part), std::string::npos) << words << "\ndoesn't have\n" << part;
     }
 
+    static std::vector<HWND> questionsControls() { return controlsOf(findOwnWindow(boxTitle())); }
+
     static void click(const char* text) {
-        for (QWidget* const widget : QApplication::allWidgets()) {
-            auto* const button = qobject_cast<QPushButton*>(widget);
-            if (button == nullptr || !button->isVisible() || button->text() != text) continue;
-            QTest::mouseClick(button->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                              button->mapTo(button->window(), button->rect().center()));
-        }
+        for (HWND const control : questionsControls())
+            if (textOf(control) == text) clickButton(control);
     }
 
     TempDirectory files_;
@@ -166,9 +163,7 @@ TEST_F(GameSearchNativeTest, SeveralGamesAreListedAndThePickedOneIsRemembered) {
     later([] { click("Cancel"); });
     EXPECT_EQ(found("", false), "1");
     later([] {
-        for (QWidget* const widget : QApplication::allWidgets())
-            if (auto* const list = qobject_cast<QComboBox*>(widget); list != nullptr && list->isVisible())
-                list->setCurrentIndex(1);  // the first is the one that was played
+        pickEntry(questionsControls().front(), 1);  // the first is the one that was played
         click("Open");
     });
     EXPECT_EQ(found("", false), "C:\\a\\");
