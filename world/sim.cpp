@@ -21,17 +21,17 @@ std::int32_t stageOfGrown(std::int16_t gender, const BodyStrings* body) {
 }  // namespace
 
 const char* Sim::name() {
-    if (!nameLoaded_) loadName();
+    loadName();
     return name_.c_str();
 }
 
 const Guid& Sim::guid() {
-    if (!guidLoaded_) loadGuid();
+    loadGuid();
     return guid_;
 }
 
 BodyStrings* Sim::bodyStrings() {
-    if (!bodyStringsLoaded_) loadBodyStrings();
+    loadBodyStrings();
     return bodyStrings_.get();
 }
 
@@ -41,7 +41,7 @@ std::int32_t Sim::stage() {
 }
 
 int Sim::deriveStage() {
-    if (!bodyStringsLoaded_ && fileUsable_) loadBodyStrings();
+    loadBodyStrings();
     if (age_ == ageNumber::adult) {
         stage_ = stageOfGrown(gender_, bodyStrings_.get());
     } else if (age_ == ageNumber::teen) {
