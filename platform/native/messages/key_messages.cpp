@@ -23,7 +23,6 @@ struct KeyEvent {
 // By the number in the messages' `lParam`. Keys that accelerators took stay until the next key.
 std::map<LPARAM, KeyEvent> keys;
 LPARAM lastKey = 0;
-bool returningKey = false;
 
 HWND topLevelOf(const QWindow* window) {
     for (HWND const candidate : allWindows()) {
@@ -70,7 +69,7 @@ class KeyWatcher : public QObject {
  protected:
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
-        if (returningKey || innermostLoop() != Loop::messages) return false;
+        if (innermostLoop() != Loop::messages) return false;
         if (QApplication::activePopupWidget() != nullptr) return false;
         auto* const window = qobject_cast<QWindow*>(object);
         HWND const topLevel = window == nullptr ? nullptr : topLevelOf(window);
@@ -88,11 +87,9 @@ bool isKeyMessage(UINT message) {
     return message >= WM_KEYDOWN && message <= WM_SYSCHAR;
 }
 
+// The watcher passes over it: outside of GetMessageA, the message loop isn't the innermost one.
 void returnToQt(const KeyEvent& key) {
-    if (key.window == nullptr) return;
-    returningKey = true;
-    QCoreApplication::sendEvent(key.window, key.event.get());
-    returningKey = false;
+    if (key.window != nullptr) QCoreApplication::sendEvent(key.window, key.event.get());
 }
 
 }  // namespace
