@@ -126,7 +126,6 @@ int Neighborhood::writeNewFamilies(StreamView stream) {
         }
         position += familyTemplate::sizeOf(family.format());
     }
-    newFamilies_.fill(nullptr);
     newFamilyCount_ = 0;
     return 1;
 }
