@@ -159,6 +159,8 @@ TEST_F(SaveSweepTest, WhatOthersWriteMeanwhileStaysAndIsNotSavedOver) {
         bool isMarked;
     } rows[] = {{"Bob's file is in its place, and a backup of the neighborhood's isn't made yet", SYS_renameat, 4, live,
                  carryOut, "new, backup old; new, backup old; other bytes, temporary new", true},
+                {"the neighborhood's backup is complete, and gets its name", SYS_renameat, 7, live, carryOut,
+                 "new, backup old; new, backup old; other bytes, temporary new, backup old", true},
                 {"the live file was compared, and isn't copied yet", SYS_ftruncate, 1, live, carryOut,
                  "old; old; other bytes, temporary other bytes", true},
                 {"nothing can be locked, so another save may be making it", SYS_flock, 1, othersPart, ENOLCK,
