@@ -21,7 +21,7 @@ class WindowTest : public testing::Test {
         window_ = CreateWindowA("WindowTest", "A test's window", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, nullptr, nullptr);
         UpdateWindow(window_);  // nothing waits in a hidden window
-        ShowWindow(window_, SW_SHOWNORMAL);
+        EXPECT_EQ(ShowWindow(window_, SW_SHOWNORMAL), FALSE) << "it was hidden";
         UpdateWindow(window_);
     }
     ~WindowTest() override { DestroyWindow(window_); }

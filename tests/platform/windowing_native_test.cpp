@@ -25,6 +25,8 @@
 
 namespace {
 
+using namespace std::string_view_literals;
+
 using WindowingNativeTest = WindowTest;
 
 // Of a dialog that any button ends.
@@ -52,6 +54,7 @@ TEST_F(WindowingNativeTest, AClickThatAClosedListGetsReachesTheButtonUnlessADial
     EXPECT_EQ(takeLog(), Log{"command 2010 0"});
     const AnsweredBox about = answerNextBox(answerByEscape, [&] {
         click();
+        EXPECT_EQ(QApplication::activeModalWidget()->font().pointSize(), toPixels(8));
         QTest::keyClick(QApplication::activeModalWidget()->windowHandle(), Qt::Key_Return);
     });
     EXPECT_EQ(DialogBoxParamA(nullptr, MAKEINTRESOURCEA(IDD_ABOUT), window_, endByCommand, 0), IDOK);
@@ -108,6 +111,9 @@ TEST_F(WindowingNativeTest, TheWheelPicksOnlyWhereTheFocusIs) {
 }
 
 TEST_F(WindowingNativeTest, AnOpenListShowsLongAndTallEntriesAndFindsWhatIsTyped) {
+    qApp->setStyleSheet("QComboBox { padding: 20px }");
+    EXPECT_EQ(findWindow(addCombo({}))->widget()->height(), toPixels(28)) << "whatever the desktop's style wants";
+    qApp->setStyleSheet("");
     HWND const combo = addCombo({"\xC5", "Zo\xEB"});
     auto& box = static_cast<QComboBox&>(*findWindow(combo)->widget());
     for (int family = 1; family <= 100; ++family)
@@ -204,7 +210,7 @@ TEST_F(WindowingNativeTest, AWholeTitleIsFoundAtAnyDepthOfFrames) {
     // From here on the window manager lists the deepest.
     xcb_change_property(server.connection(), XCB_PROP_MODE_REPLACE, server.root(), server.atom("_NET_CLIENT_LIST"),
                         XCB_ATOM_WINDOW, 32, 1, &window);
-    server.set(window, "_NET_WM_NAME", "UTF8_STRING", "The Sims \xE2\x80\x93 Livin\xE2\x80\x99 Large");
+    server.set(window, "_NET_WM_NAME", "UTF8_STRING", "The Sims \xE2\x80\x93 Livin\xE2\x80\x99 Large\0"sv);
     EXPECT_NE(FindWindowA(nullptr, "The Sims \x96 Livin\x92 Large"), nullptr);
     EXPECT_EQ(FindWindowA(nullptr, "The Sims Deluxe"), nullptr) << "the older name doesn't count then";
 }

@@ -97,7 +97,7 @@ TEST_F(GameSearchNativeTest, WhatThePathsOfTheEditorDontReachGetsAPrefixOfItsOwn
         {"a long path", deep, "C:\\\\" + std::string(60, 'a') + "\\\\" + std::string(60, 'b'), true},
         {"outside Windows-1252", "drive_c/Gry/Łódź", R"(C:\\Gry\\\x141\x00f3d\x17a)", true},
         {"no links to drives", "drive_c/Maxis/The Sims", R"(C:\\maxis\\The Sims)", false},
-        {"short names", "drive_c/Program Files/The Sims", R"(C:\\PROGRA~1\\THE_~K4X)", true},
+        {"short names", "drive_c/My Games/The Sims", R"(C:\\MYGAME~1\\THE_~K4X)", true},
         {"no entry", "drive_c/users/steamuser/Saved Games/Electronic Arts/The Sims 25", "", true},
     };
     for (const auto& [what, directory, registered, hasDrives] : rows) {
