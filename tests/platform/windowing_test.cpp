@@ -50,7 +50,7 @@ TEST_F(WindowingTest, OnlyWhatWaitsIsErasedAndDrawn) {
     expectInside(TRUE, [&](int x, int y) { return full.at(x + 200, y + 100); });
 }
 
-TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
+TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThemInTheUsersColors) {
     const auto drawn = [this](const std::string& text) {
         paint_ = [text](HDC dc) {
             RECT place{20, 20, 120, 220};
@@ -70,13 +70,8 @@ TEST_F(WindowingTest, TextsAreDrawnAsWindowsReadsThem) {
         return std::ranges::count(pixels, pixels.front());
     };
     EXPECT_EQ(bare("\xC5\x8A"), bare("\n\xC5\x8A")) << "the first line has room for tall letters too";
-}
 
-TEST_F(WindowingTest, TextsHaveTheUsersColors) {
-    paint_ = [](HDC dc) {
-        RECT place{10, 10, 400, 30};
-        DrawTextA(dc, "Name: IIII", -1, &place, 0);
-    };
+    drawn("Name: IIII");
     chooseColors(0x000040, 0xFFFF40);
     runMessages();
     const Picture seen = pictureOf(window_);
