@@ -152,12 +152,11 @@ void addHarmless(std::vector<Harmless>& harmless, const Remains& remains, std::v
         if (!name.empty()) harmless.push_back({place.directory + '\\' + name, place.directory + '\\' + remains.live});
     }
     if (remains.aside.empty()) return;
-    found.push_back(
-        {.sentence =
-             place.neighborhood.name() + ": " + remains.aside + " is an old version of " + remains.live +
-             " that isn't in Backups. The next save of this neighborhood, or going back, deletes it: if you want "
-             "to keep it, copy it somewhere else.",
-         .isOldVersion = true});
+    found.push_back({.sentence = place.neighborhood.name() + ": " + remains.aside + " is an old version of " +
+                                 remains.live +
+                                 " that isn't in Backups. The next save of this neighborhood deletes it: if you want "
+                                 "to keep it, copy it somewhere else.",
+                     .isOldVersion = true});
 }
 
 void lookAt(const Remains& remains, const Place& place, std::vector<LeftOver>& found, std::vector<Harmless>& harmless) {

@@ -63,7 +63,7 @@ TEST_F(LeftOversTest, WhatDoesNoHarmIsNamedWithoutAnOffer) {
         {"an old version without a backup",
          {{live + ".tidewright-old0", some}},
          "neighborhood.iff.tidewright-old0 is an old version of neighborhood.iff that isn't in Backups. The next save "
-         "of this neighborhood, or going back, deletes it: if you want to keep it, copy it somewhere else."},
+         "of this neighborhood deletes it: if you want to keep it, copy it somewhere else."},
         {"no version at all",
          {{live, {}}},
          "neighborhood.iff is missing. There is no whole version of it beside it or in Backups."},
