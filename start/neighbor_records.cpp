@@ -12,9 +12,11 @@ std::size_t countSims(const Bytes& file, RecordFormats formats, std::size_t offs
     std::size_t count = 0;
     for (const RecordFormat& format : formats) {
         const std::string begin = std::string(format.marker).append(neighborRecord::namePrefix);
-        const std::size_t size = neighborRecord::size + format.marker.size() - neighborRecord::marker.size();
+        const std::size_t longer = format.marker.size() - neighborRecord::marker.size();
         for (std::size_t at = nextTag(file, begin, 0); at < file.size(); at = nextTag(file, begin, at + 1)) {
-            if (at + size > offset) ++count;
+            const std::size_t mode = at + longer + neighborRecord::version;
+            const bool isSim = !format.version || (mode < file.size() && file[mode] != 0);
+            if (isSim && at + longer + neighborRecord::size > offset) ++count;
         }
     }
     return count;

@@ -38,8 +38,18 @@ TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
         fs::rename(files().path("UserData"), files().path(deep + "/UserData"));
     };
     const auto addLater = [&] {
-        const Bytes record = ByteWriter().u32Le(1).u32Le(10).u32Le(9).text("user00042").fillTo(700).written();
-        start({.before = {{.type = "NBRS", .content = ByteWriter().bytes(record).bytes(record).written()}}});
+        ByteWriter records;
+        for (const std::uint32_t mode : {9, 5, 0})
+            records.bytes(ByteWriter()
+                              .u32Le(1)
+                              .u32Le(10)
+                              .u32Le(9)
+                              .text("user00042")
+                              .fillTo(26)
+                              .u32Le(mode)
+                              .fillTo(700)
+                              .written());
+        start({.before = {{.type = "NBRS", .content = records.written()}}});
         EXPECT_EQ(checkReadiness(game(), true).text(), "");
     };
     const std::tuple<const char*, std::function<void()>, bool, std::string> rows[] = {
