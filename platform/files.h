@@ -1,4 +1,4 @@
-// Opening files and asking for their status: the C runtime's part of the platform, with one behaviour on both systems.
+// Opening files and asking for their status: the C runtime's part of the platform, with one behavior on both systems.
 // Paths are the program's own, with backslashes.
 #ifndef PLATFORM_FILES_H
 #define PLATFORM_FILES_H

@@ -56,7 +56,7 @@ std::string refusedCount(const std::vector<IffChunk>& chunks) {
 }
 
 // The game's own characters have trees of their own.
-std::string refusedBehaviour(const std::vector<IffChunk>& chunks) {
+std::string refusedBehavior(const std::vector<IffChunk>& chunks) {
     for (const IffChunk& chunk : chunks) {
         const bool isForeignTree =
             chunk.type == "BHAV" && std::ranges::find(playersTrees, chunk.id) == playersTrees.end();
@@ -92,8 +92,8 @@ bool namesPersonGlobals(std::span<const std::uint8_t> content) {
     constexpr std::uint8_t firstLetter = 48;
     if (content.empty()) return false;
     const std::string_view text(reinterpret_cast<const char*>(content.data()), content.size());
-    if (content[0] < firstLetter) return text.substr(1, content[0]) == sharedBehavioursName;
-    return text.substr(0, text.find('\0')) == sharedBehavioursName;
+    if (content[0] < firstLetter) return text.substr(1, content[0]) == sharedBehaviorsName;
+    return text.substr(0, text.find('\0')) == sharedBehaviorsName;
 }
 
 bool beginsWithAdult(std::span<const std::uint8_t> content) {
@@ -120,9 +120,9 @@ bool standsStill(const std::vector<IffChunk>& chunks) {
 
 std::string refusalOf(const std::vector<IffChunk>& chunks, Editions editions) {
     if (std::string refusal = refusedCount(chunks); !refusal.empty()) return refusal;
-    if (std::string refusal = refusedBehaviour(chunks); !refusal.empty()) return refusal;
+    if (std::string refusal = refusedBehavior(chunks); !refusal.empty()) return refusal;
     if (std::string refusal = refusedDefinition(contentOf(chunks, {"OBJD", anyId})); !refusal.empty()) return refusal;
-    if (!namesPersonGlobals(contentOf(chunks, {"GLOB", anyId}))) return "has the behaviour of something but a person";
+    if (!namesPersonGlobals(contentOf(chunks, {"GLOB", anyId}))) return "has the behavior of something but a person";
     const auto body = contentOf(chunks, {"STR#", bodyStringsId});
     if (!beginsWithAdult(body)) return "has the body strings of no adult";
     if (editions == Editions::later && !hasBodyOfLaterEditions(body)) return "has the body strings of an older edition";

@@ -1,4 +1,4 @@
-// Whether the behaviour of a character file is that of a player's Sim, so that a template can be made of it.
+// Whether the behavior of a character file is that of a player's Sim, so that a template can be made of it.
 #ifndef PREPARE_CHARACTER_CHECK_H
 #define PREPARE_CHARACTER_CHECK_H
 

@@ -14,7 +14,7 @@ enum class Present {
     usable,
 };
 
-// Any byte makes the file usable. Dead links are recognised natively only; Windows reports one as an empty file.
+// Any byte makes the file usable. Dead links are recognized natively only; Windows reports one as an empty file.
 Present presentFile(const std::string& path);
 
 // For "Template.iff": usable with the chunks that a save patches, where a save expects them. Earlier packages of this

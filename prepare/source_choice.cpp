@@ -31,13 +31,13 @@ IffChunk commonDefinition(IffChunk definition) {
     return definition;
 }
 
-std::vector<Bytes> behaviourOf(const std::vector<IffChunk>& chunks) {
-    std::vector<Bytes> behaviour = {bytesOf(commonDefinition(withRole(chunks, ChunkRole::definition).front()))};
+std::vector<Bytes> behaviorOf(const std::vector<IffChunk>& chunks) {
+    std::vector<Bytes> behavior = {bytesOf(commonDefinition(withRole(chunks, ChunkRole::definition).front()))};
     for (const IffChunk& chunk : withRole(chunks, ChunkRole::carried)) {
-        behaviour.push_back(bytesOf(chunk));
+        behavior.push_back(bytesOf(chunk));
     }
-    std::ranges::sort(behaviour);
-    return behaviour;
+    std::ranges::sort(behavior);
+    return behavior;
 }
 
 // The load tree of a shipped family's file calls one of its own, which was for an older edition of the game.
@@ -51,9 +51,9 @@ bool callsOwnTreeOnLoad(const std::vector<IffChunk>& chunks) {
 }  // namespace
 
 void SourceChoice::add(const std::string& path, const std::vector<IffChunk>& chunks) {
-    std::vector<Bytes> behaviour = behaviourOf(chunks);
-    auto group = std::ranges::find(groups_, behaviour, &Group::behaviour);
-    if (group == groups_.end()) group = groups_.insert(group, {std::move(behaviour), path, callsOwnTreeOnLoad(chunks)});
+    std::vector<Bytes> behavior = behaviorOf(chunks);
+    auto group = std::ranges::find(groups_, behavior, &Group::behavior);
+    if (group == groups_.end()) group = groups_.insert(group, {std::move(behavior), path, callsOwnTreeOnLoad(chunks)});
     ++group->count;
 }
 

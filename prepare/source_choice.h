@@ -7,8 +7,8 @@
 
 #include "gamefiles/iff_builder.h"
 
-// Groups character files by their behaviour: in a group, the object definitions and the chunks that a template carries
-// are the same, in any order. Keeps one copy of each behaviour, however many files there are.
+// Groups character files by their behavior: in a group, the object definitions and the chunks that a template carries
+// are the same, in any order. Keeps one copy of each behavior, however many files there are.
 class SourceChoice {
  public:
     void add(const std::string& path, const std::vector<IffChunk>& chunks);
@@ -19,7 +19,7 @@ class SourceChoice {
 
  private:
     struct Group {
-        std::vector<Bytes> behaviour;  // the bytes of each chunk, sorted
+        std::vector<Bytes> behavior;  // the bytes of each chunk, sorted
         std::string path;
         bool callsOwnTreeOnLoad = false;
         int count = 0;

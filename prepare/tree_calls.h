@@ -1,4 +1,4 @@
-// Which trees a tree of behaviour calls.
+// Which trees a tree of behavior calls.
 #ifndef PREPARE_TREE_CALLS_H
 #define PREPARE_TREE_CALLS_H
 

@@ -34,7 +34,7 @@ enum class BodySex { male, female };
 // game sets them, also those that a text with an earlier ending leaves out.
 BodySlots adultSlots(BodySex sex = BodySex::female, const std::string& tone = "lgt");
 
-// A teen is recognised by "TNR" in its body skin. The game itself has no teens; only this program dresses Sims so.
+// A teen is recognized by "TNR" in its body skin. The game itself has no teens; only this program dresses Sims so.
 BodySlots teenSlots(BodySex sex = BodySex::female, const std::string& tone = "lgt");
 
 // A child has no formal wear and no outfits of the expansion packs: slots 36, 37 and 42 to 49 are empty.

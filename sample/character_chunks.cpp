@@ -70,7 +70,7 @@ struct ChunkRow {
     std::size_t size;  // of the chunk, its header included
 };
 
-// The behaviour editor's data on a tree or its parameters, here without any. It begins with a zero, the version and the
+// The behavior editor's data on a tree or its parameters, here without any. It begins with a zero, the version and the
 // type spelled backwards.
 ByteWriter emptyNotes(const std::string& type) {
     ByteWriter content;
@@ -91,8 +91,8 @@ std::vector<std::uint16_t> operationsOf(std::uint16_t tree) {
 
 // A header of 12 bytes has the number of instructions. Each of these takes 12 bytes: the operation, the next
 // instruction after a success and after a failure, and 8 bytes of operands. The main tree goes on for ever.
-ByteWriter behaviour(std::uint16_t tree, std::size_t contentSize) {
-    constexpr int behaviourVersion = 0x8002;
+ByteWriter behavior(std::uint16_t tree, std::size_t contentSize) {
+    constexpr int behaviorVersion = 0x8002;
     constexpr std::size_t instructionSize = 12;
     constexpr std::size_t returnTrue = 254;
     constexpr int error = 253;
@@ -100,7 +100,7 @@ ByteWriter behaviour(std::uint16_t tree, std::size_t contentSize) {
     const std::size_t count = contentSize / instructionSize - 1;
     const std::size_t behindLast = tree == mainTreeId ? 0 : returnTrue;
     ByteWriter content;
-    content.u16Le(behaviourVersion).u16Le(static_cast<std::int64_t>(count)).u8(0).u8(4).fillTo(instructionSize);
+    content.u16Le(behaviorVersion).u16Le(static_cast<std::int64_t>(count)).u8(0).u8(4).fillTo(instructionSize);
     for (std::size_t i = 0; i < count; ++i) {
         const std::size_t next = i + 1 < count ? i + 1 : behindLast;
         content.u16Le(operations[i % operations.size()]);
@@ -120,19 +120,19 @@ ByteWriter slots() {
     return content;
 }
 
-ByteWriter sharedBehaviours(const std::string& name, std::size_t contentSize) {
+ByteWriter sharedBehaviors(const std::string& name, std::size_t contentSize) {
     ByteWriter content;
     content.u8(static_cast<std::int64_t>(name.size())).text(name).fillTo(contentSize, textFill);
     return content;
 }
 
-IffChunk behaviourChunk(const ChunkRow& row, BehaviourSet set) {
+IffChunk behaviorChunk(const ChunkRow& row, BehaviorSet set) {
     const std::size_t size = row.size - iffChunkHeaderSize;
     const std::string type = row.type;
-    ByteWriter content = type == "BHAV"   ? behaviour(row.id, size)
+    ByteWriter content = type == "BHAV"   ? behavior(row.id, size)
                          : type == "SLOT" ? slots()
                          : type == "GLOB"
-                             ? sharedBehaviours(set == BehaviourSet::pet ? "PetGlobals" : sharedBehavioursName, size)
+                             ? sharedBehaviors(set == BehaviorSet::pet ? "PetGlobals" : sharedBehaviorsName, size)
                              : emptyNotes(type);
     return {.type = type, .id = row.id, .label = row.label, .content = content.fillTo(size).written()};
 }
@@ -185,15 +185,15 @@ void addPicture(IffBuilder& file, const PictureRow& row, const PortraitColors& c
 
 }  // namespace
 
-std::vector<IffChunk> behaviourChunks(BehaviourSet set) {
+std::vector<IffChunk> behaviorChunks(BehaviorSet set) {
     std::vector<IffChunk> chunks;
     const auto add = [&](std::span<const ChunkRow> rows) {
         for (const ChunkRow& row : rows) {
-            chunks.push_back(behaviourChunk(row, set));
+            chunks.push_back(behaviorChunk(row, set));
         }
     };
     const auto addStrings = [&] { std::ranges::move(stringsChunks(), std::back_inserter(chunks)); };
-    if (set == BehaviourSet::newer) {
+    if (set == BehaviorSet::newer) {
         add(newerTreeNotes);
         add(newerTrees);
         addStrings();
@@ -203,14 +203,14 @@ std::vector<IffChunk> behaviourChunks(BehaviourSet set) {
         addStrings();
         add(olderNotes);
         add(olderTrees);
-        if (set == BehaviourSet::townie) add(townieTrees);
+        if (set == BehaviorSet::townie) add(townieTrees);
         add(slotsAndGlobals);
     }
     return chunks;
 }
 
-std::size_t chunksBeforeDefinition(BehaviourSet set) {
-    return set == BehaviourSet::newer ? std::size(newerTreeNotes) : behaviourChunks(set).size();
+std::size_t chunksBeforeDefinition(BehaviorSet set) {
+    return set == BehaviorSet::newer ? std::size(newerTreeNotes) : behaviorChunks(set).size();
 }
 
 void addPictureChunks(IffBuilder& file, const PortraitColors& colors, int relationshipRows) {

@@ -1,4 +1,4 @@
-// The chunks of a Sim's character file that don't matter to reading or saving the Sim: behaviour and pictures, with the
+// The chunks of a Sim's character file that don't matter to reading or saving the Sim: behavior and pictures, with the
 // ids, labels and sizes of the game's own files.
 #ifndef SAMPLE_CHARACTER_CHUNKS_H
 #define SAMPLE_CHARACTER_CHUNKS_H
@@ -9,16 +9,16 @@
 #include "gamefiles/iff_builder.h"
 #include "sample/bitmap.h"
 
-// Which chunks of behaviour a file has. A player's Sim has the older or the newer set: the same number of chunks, in
+// Which chunks of behavior a file has. A player's Sim has the older or the newer set: the same number of chunks, in
 // other sizes and another order. A townie has the older set and more. A pet has the older set, but names the shared
-// behaviours of pets.
-enum class BehaviourSet { older, newer, townie, pet };
+// behaviors of pets.
+enum class BehaviorSet { older, newer, townie, pet };
 
-// Strings, trees, behaviours, slots and the name of the shared behaviours. All of them come before the name.
-std::vector<IffChunk> behaviourChunks(BehaviourSet set);
+// Strings, trees, behaviors, slots and the name of the shared behaviors. All of them come before the name.
+std::vector<IffChunk> behaviorChunks(BehaviorSet set);
 
 // How many of them come before the object definition.
-std::size_t chunksBeforeDefinition(BehaviourSet set);
+std::size_t chunksBeforeDefinition(BehaviorSet set);
 
 // Adds five pictures: faces, relationships, thumbnail and two for speech bubbles. With the older set they come before
 // the name, with the newer one behind the body strings. `relationshipRows` is the height of the second one in pixels.

@@ -21,16 +21,16 @@ CharacterFile buildWith(const SampleCharacter& character, int relationshipRows) 
     CharacterFile built;
     IffBuilder file;
     addAll(file, character.before);
-    const std::vector<IffChunk> behaviour = behaviourChunks(character.behaviour);
-    const std::size_t before = chunksBeforeDefinition(character.behaviour);
-    addAll(file, std::span(behaviour).first(before));
+    const std::vector<IffChunk> behavior = behaviorChunks(character.behavior);
+    const std::size_t before = chunksBeforeDefinition(character.behavior);
+    addAll(file, std::span(behavior).first(before));
     if (character.freeRoom) built.freeRoomOffset = file.addFreeRoom(freeRoomSize);
     if (character.hasObject) {
         built.objectOffset = file.add(objectDefinition(character.recordName + " - " + character.name, character.guid));
     }
-    addAll(file, std::span(behaviour).subspan(before));
+    addAll(file, std::span(behavior).subspan(before));
     // The newer versions of the game put all pictures last.
-    const bool hasPicturesFirst = character.behaviour != BehaviourSet::newer;
+    const bool hasPicturesFirst = character.behavior != BehaviorSet::newer;
     if (character.hasPictures && hasPicturesFirst) addPictureChunks(file, character.colors, relationshipRows);
     if (character.hasName) {
         built.nameOffset = file.add({.type = "CTSS",

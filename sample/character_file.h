@@ -32,11 +32,11 @@ struct SampleCharacter {
     std::uint8_t bodyFill = textFill;                 // another one leaves a text without a pattern at its end
     std::string bodyLabel = "bodystring";
 
-    BehaviourSet behaviour = BehaviourSet::older;
+    BehaviorSet behavior = BehaviorSet::older;
     bool hasObject = true;              // "OBJD"
     bool hasName = true;                // "CTSS"
     bool hasPictures = true;            // 49,000 of 55,000 bytes
-    bool freeRoom = false;              // an "XXXX" chunk behind the behaviours
+    bool freeRoom = false;              // an "XXXX" chunk behind the behaviors
     bool map = true;                    // a resource map
     std::vector<IffChunk> before = {};  // more chunks, in front of all others
     std::size_t fileSize = 0;           // at least this; a taller picture of the relationships makes up for the rest

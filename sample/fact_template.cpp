@@ -9,7 +9,7 @@
 Bytes makeFactTemplate(Editions editions) {
     const PortraitColors colors;
     IffBuilder file;
-    for (const IffChunk& chunk : behaviourChunks(BehaviourSet::older)) {
+    for (const IffChunk& chunk : behaviorChunks(BehaviorSet::older)) {
         file.add(chunk);
     }
     file.padTo(templateObject);

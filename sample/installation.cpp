@@ -120,10 +120,10 @@ void addFriends(SampleNeighborhood& neighborhood, int friendsOfEach) {
     }
 }
 
-BehaviourSet behaviourOf(const CastFamily& family, const CastSim& sim) {
-    if (sim.kind == SampleKind::pet) return BehaviourSet::pet;
-    if (family.name == "Default") return BehaviourSet::townie;
-    return isFromBaseGame(sim) ? BehaviourSet::older : BehaviourSet::newer;
+BehaviorSet behaviorOf(const CastFamily& family, const CastSim& sim) {
+    if (sim.kind == SampleKind::pet) return BehaviorSet::pet;
+    if (family.name == "Default") return BehaviorSet::townie;
+    return isFromBaseGame(sim) ? BehaviorSet::older : BehaviorSet::newer;
 }
 
 SampleCharacter castCharacter(int neighborhoodIndex, const CastFamily& family, const CastSim& sim) {
@@ -137,7 +137,7 @@ SampleCharacter castCharacter(int neighborhoodIndex, const CastFamily& family, c
     character.slots = bodySlots(sim);
     if (!sim.headSkin.empty()) setHead(character.slots, sim.headMesh + ",HEAD-HEAD", sim.headSkin);
     character.ending = bodyEnding(sim);
-    character.behaviour = behaviourOf(family, sim);
+    character.behavior = behaviorOf(family, sim);
     character.map = sim.fileNumber % 3 != 0;
     character.freeRoom = sim.fileNumber % 4 == 1;
     character.colors = portraitColors(sim);

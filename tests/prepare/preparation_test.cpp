@@ -92,7 +92,7 @@ TEST_F(PreparationTest, AFileThatASaveCantUseStaysAndIsReported) {
 
 TEST_F(PreparationTest, TheTemplateIsMadeOfTheFirstFileThatServes) {
     const auto expectChosen = [this](SampleCharacter sim, const std::string& directory, int files, const char* chosen) {
-        sim.behaviour = BehaviourSet::newer;
+        sim.behavior = BehaviorSet::newer;
         for (int i = 0; i < files; ++i)
             EXPECT_TRUE(writeFile(game_ / directory / ("Characters/user0" + std::to_string(i) + ".iff"),
                                   makeCharacterFile(sim).bytes));
@@ -101,7 +101,7 @@ TEST_F(PreparationTest, TheTemplateIsMadeOfTheFirstFileThatServes) {
     };
     expectChosen({}, "UserData", 1, "UserData\\Characters\\user00.iff.");  // in any case of the name
     expectChosen({.before = {{.type = "XXXX", .content = Bytes(1 << 24)}}}, "UserData", 1, "\\User00011.iff.");
-    // A label that a search of the map would take for a definition, then a behaviour of the second neighborhood.
+    // A label that a search of the map would take for a definition, then a behavior of the second neighborhood.
     expectChosen({.before = {{.type = "TREE", .label = "DJBO"}}}, "UserData2", 40, "\\User00011.iff.");
     expectChosen({.before = {{.type = "TREE"}}}, "UserData2", 40, "UserData2\\Characters\\user00.iff.");
 }

@@ -23,12 +23,12 @@ static_assert(templateBodyStrings == characterTemplate::bodyStringsChunk);
 static_assert(smallestTemplateSize == characterTemplate::smallestSize);
 
 TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason) {
-    const SampleCharacter older, newer{.behaviour = BehaviourSet::newer, .freeRoom = true};
+    const SampleCharacter older, newer{.behavior = BehaviorSet::newer, .freeRoom = true};
     EXPECT_EQ(refusalOf(chunksOf(older)) + refusalOf(chunksOf(newer)), "");
     const std::string noAdult = "has the body strings of no adult", asleep = "has a main tree that does nothing";
-    const std::string noPerson = "has the behaviour of something but a person";
+    const std::string noPerson = "has the behavior of something but a person";
     EXPECT_EQ(refusalOf(chunksOf({.tag = "child"})), noAdult);
-    EXPECT_EQ(refusalOf(chunksOf({.behaviour = BehaviourSet::townie})),
+    EXPECT_EQ(refusalOf(chunksOf({.behavior = BehaviorSet::townie})),
               "has the chunk OBJf 128 of the game's own characters");
 
     const std::tuple<std::string, int, std::function<void(IffChunk&)>, std::string> rows[] = {
@@ -63,15 +63,15 @@ TEST(CharacterCheckTest, OnlyAPlayersAdultServesAndEachOtherIsRefusedWithAReason
     }
 }
 
-TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviourIsChosen) {
+TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviorIsChosen) {
     const auto chosen = [](const Chunks& last) {
         SourceChoice choice;
         choice.add("old", chunksOf({}));
-        choice.add("new", chunksOf({.behaviour = BehaviourSet::newer}));
+        choice.add("new", chunksOf({.behavior = BehaviorSet::newer}));
         choice.add("last", last);
         return choice.best();
     };
-    Chunks chunks = chunksOf({.name = "Ann", .guid = 7, .behaviour = BehaviourSet::newer, .freeRoom = true});
+    Chunks chunks = chunksOf({.name = "Ann", .guid = 7, .behavior = BehaviorSet::newer, .freeRoom = true});
     std::swap(chunks[0], chunks[7]);                                        // in another order
     std::fill_n(chunkIn(chunks, "OBJD", 128).content.begin() + 140, 4, 7);  // the second GUID
     EXPECT_EQ(SourceChoice().best() + chosen(chunks), "new");
@@ -83,7 +83,7 @@ TEST(SourceChoiceTest, TheFirstFileOfTheMostFrequentBehaviourIsChosen) {
     for (const auto& [type, change] : rows) {
         Chunks other = chunks;
         change(chunkIn(other, type, 128));
-        EXPECT_EQ(chosen(other), "old") << type << " makes three behaviours of one file each";
+        EXPECT_EQ(chosen(other), "old") << type << " makes three behaviors of one file each";
     }
     SourceChoice choice;
     Chunks shipped = chunks;
@@ -140,8 +140,8 @@ TEST(NeutralPictureTest, EachPixelIsTheFirstAndOtherFormatsStay) {
     EXPECT_EQ(neutralPicture(picture), picture);
 }
 
-TEST(TemplateTest, HoldsTheBehaviourAndNothingOfTheSim) {
-    Chunks source = chunksOf({.name = "Ann", .behaviour = BehaviourSet::newer});
+TEST(TemplateTest, HoldsTheBehaviorAndNothingOfTheSim) {
+    Chunks source = chunksOf({.name = "Ann", .behavior = BehaviorSet::newer});
     const Bytes file = makeTemplate(source);
     const IffWalk walk = walkIff(file);
     ASSERT_EQ(walk.fault, "");

@@ -22,7 +22,7 @@ inline IffChunk& chunkIn(Chunks& chunks, const std::string& type, int id) {
 }
 
 // A template as a save needs it, of the smallest size. The changed byte is a letter of the label or of the text by
-// which the template of earlier packages is recognised.
+// which the template of earlier packages is recognized.
 constexpr std::size_t labelLetter = 4000, textLetter = 143;
 inline Bytes playersTemplate(std::size_t changed = labelLetter) {
     Bytes file = makeFactTemplate();

@@ -19,7 +19,7 @@
 
 namespace {
 
-// Searches that FindClose has not closed yet. Each handle is a new number, so that a closed one is recognised.
+// Searches that FindClose has not closed yet. Each handle is a new number, so that a closed one is recognized.
 std::vector<HANDLE> openSearches;
 ULONG_PTR lastSearch = 0;
 
