@@ -70,13 +70,22 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
     return refusalOf(point, simsDirectory);
 }
 
-// After all neighborhoods went back, nothing is left of an evening that was cut off before. Where that can't be noted,
-// the next start asks about it once more.
+// Whether all that differs from the point lies in this neighborhood.
+bool isElsewhereAsIn(const PointStore& store, const RestorePoint& point, const GoingNote& note) {
+    GameComparison comparison(note.simsDirectory, store.tree());
+    std::string error;
+    const auto found = filesOfNeighborhoods(comparison.game(), error);
+    return found && std::ranges::all_of(stepsFromLive(comparison, found->files, point, allNeighborhoods),
+                                        [&](const Step& step) { return isIn(note.neighborhood, step.path); });
+}
+
+// Nothing is left of an evening that was cut off before once all neighborhoods that it changed went back. Where that
+// can't be noted, the next start asks about it once more.
 void settleEvenings(const PointStore& store, const GoingNote& note) {
-    if (note.neighborhood != allNeighborhoods) return;
     for (RestorePoint& point : readPoints(store.tree()).value_or(std::vector<RestorePoint>())) {
         const bool isOpen = point.damage.empty() && !point.sessionEnded;
         if (!isOpen || !isSameGame(point.simsDirectory, note.simsDirectory)) continue;
+        if (note.neighborhood != allNeighborhoods && !isElsewhereAsIn(store, point, note)) continue;
         point.sessionEnded = true;
         store.writeText(point);
     }

@@ -36,8 +36,8 @@ struct GoneBack {
 
 // Refuses a point that isn't whole, one of another game, one that has a file where the game has a directory or the
 // other way round, and to begin while an earlier going back isn't finished or the neighborhoods are being saved.
-// Where nothing differs, nothing is done and no point is made. Once all neighborhoods are back, the sessions of all
-// points of the game count as ended.
+// Where nothing differs, nothing is done and no point is made. Once all neighborhoods are back, or all that differ
+// from a point, the session of that point counts as ended.
 GoneBack goBack(const std::string& pointsDirectory, const RestorePoint& point, const std::string& simsDirectory,
                 int neighborhood, const SYSTEMTIME& time = presentTime());
 
