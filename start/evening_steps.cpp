@@ -14,6 +14,7 @@
 #include "start/cut_off.h"
 #include "start/editions.h"
 #include "start/left_overs.h"
+#include "start/neighborhood_files.h"
 #include "start/report.h"
 #include "ui/words.h"
 #include "world/program_files.h"
@@ -81,18 +82,30 @@ bool goBackTo(const RestorePoint& point, const std::string& simsDirectory, bool 
     return sayGoneBack(goBack(restorePointsDirectory, point, simsDirectory, allNeighborhoods), askNothing);
 }
 
-void report(const RestorePoint& point, const EveningReport& result, bool askNothing) {
+// False if the player wanted to go back and that failed.
+bool report(const RestorePoint& point, const EveningReport& result, bool askNothing) {
     if (result.hasLoss && !result.wasPlayed) {
         const std::string text = result.text +
                                  "\n\n[OK] goes back to before this evening. [Cancel] keeps it as it is.\n\n" +
                                  toGoBack(point, askNothing);
-        if (confirm(text, askNothing, false)) goBackTo(point, point.simsDirectory, askNothing);
-    } else if (!result.text.empty()) {
+        return !confirm(text, askNothing, false) || goBackTo(point, point.simsDirectory, askNothing);
+    }
+    if (!result.text.empty()) {
         std::string text = result.text;
         if (result.hasLoss) text += "\n\nGoing back would undo what was played meanwhile, too.";
         if (result.hasSaved || result.hasLoss) text += "\n\n" + toGoBack(point, askNothing);
         say(text, askNothing);
     }
+    return true;
+}
+
+// The first directory of a neighborhood that the point has and the game hasn't; empty if all are there.
+std::string missingDirectory(const RestorePoint& point, const std::string& simsDirectory) {
+    for (const PointFile& file : point.files) {
+        const std::string directory = file.path.substr(0, file.path.find('/'));
+        if (!isThere(simsDirectory + directory)) return directory;
+    }
+    return {};
 }
 
 // The point of the game's last evening. One from the future, when the clock was wrong, counts only while its evening
@@ -105,13 +118,20 @@ std::optional<RestorePoint> lastEveningOf(const std::string& game) {
     });
 }
 
-// False if the player wanted to go back and that failed.
+// False if the player wanted to go back and that failed, or didn't want to go on.
 bool settle(RestorePoint point, const std::string& simsDirectory, bool askNothing) {
     if (!isWhole(restorePointsDirectory, point)) {
         say("The last evening was cut off, and what became of it can't be told: its restore point isn't whole. " +
                 point.damage,
             askNothing);
         return true;
+    }
+    const std::string missing = missingDirectory(point, simsDirectory);
+    if (!missing.empty()) {
+        return confirm("The last evening was cut off, and what became of it can't be told: " + missing +
+                           " is missing. If it is on another disk, please bring that back first.\n\n[OK] goes on "
+                           "without it. [Cancel] waits.",
+                       askNothing, false, Buttons::cancelFirst);
     }
     const CutOffEvening cutOff = describeCutOff(eveningSince(point.name, simsDirectory, secondsOf(point.time)));
     if (cutOff.isAsBefore) return true;
@@ -129,7 +149,7 @@ bool settle(RestorePoint point, const std::string& simsDirectory, bool askNothin
 LastEvening settleLastEvening(const std::string& simsDirectory, bool askNothing) {
     if (!finishEarlier({restorePointsDirectory, simsDirectory, askNothing})) return {.isSettled = false};
     const auto point = lastEveningOf(gameOf(simsDirectory));
-    if (!point) return {};
+    if (!point || neighborhoodsIn(simsDirectory).empty()) return {};
     LastEvening last{.begin = secondsOf(point->time), .wasCutOff = !point->sessionEnded};
     last.isSettled = !last.wasCutOff || settle(*point, simsDirectory, askNothing);
     if (last.wasCutOff && last.isSettled) noteSessionEnded(restorePointsDirectory, point->name);
@@ -148,7 +168,7 @@ int runEvening(const std::string& simsDirectory, Editions editions, const Direct
     const EveningReport result = reportOn(evening);
     // The box may be open when the machine is switched off. Only where something is lost, the next start asks again.
     if (!result.hasLoss) noteSessionEnded(restorePointsDirectory, made.name);
-    report(*point, result, askNothing);
-    if (result.hasLoss) noteSessionEnded(restorePointsDirectory, made.name);
+    const bool isSettled = report(*point, result, askNothing);
+    if (result.hasLoss && isSettled) noteSessionEnded(restorePointsDirectory, made.name);
     return exitCode;
 }

@@ -20,7 +20,6 @@ TEST_F(EveningTest, WhatIsSupersededIsDeletedAfterAQuestionAndAllElseIsKept) {
     };
     const auto breakLive = [&] { write(live, Bytes(5000)); };
     const std::tuple<const char*, std::function<void()>, int, std::string, bool, bool, std::int64_t> rows[] = {
-        {"older than the file", writeOld, IDOK, old, true, false, 3},
         {"no wish to delete it", writeOld, IDCANCEL, old, false, false, 3},
         {"just named", writeOld, IDOK, old, true, true, 3},
         {"named at an earlier start", writeOld, IDOK, "", false, false, 1},
@@ -88,6 +87,11 @@ TEST_F(EveningTest, TheLastEveningIsToldByAWholePointThatIsNotFromTheFuture) {
         EXPECT_EQ(evening.begin / (std::int64_t{366} * 24 * 3600), 2002 - 1970);
         EXPECT_FALSE(settleLastEvening(game(), false).wasCutOff) << "settled";
     }
+    start(), files().write("UserData2/House01.iff", "on another disk");
+    make(2002), files().remove("UserData2");
+    const AnsweredBox box = answerNextBox(IDCANCEL);
+    EXPECT_FALSE(settleLastEvening(game(), false).isSettled);
+    EXPECT_NE(box->text.find("UserData2 is missing."), std::string::npos) << box->text;
 }
 
 }  // namespace
