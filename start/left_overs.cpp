@@ -143,7 +143,8 @@ bool isSuperseded(const std::string& path, const std::string& live) {
     FileStatus left{}, present{};
     if (!queryFileStatus(path.c_str(), left) || !queryFileStatus(live.c_str(), present)) return false;
     if (isSameFile(path.c_str(), live.c_str()) || !isWhole(live)) return false;
-    return present.written > left.written || readWholeFile(path.c_str()) == readWholeFile(live.c_str());
+    return (present.written > left.written && !isWhole(path)) ||
+           readWholeFile(path.c_str()) == readWholeFile(live.c_str());
 }
 
 void addHarmless(std::vector<Harmless>& harmless, const Remains& remains, std::vector<LeftOver>& found,

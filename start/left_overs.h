@@ -14,7 +14,7 @@ struct LeftOver {
     std::string live = {};       // the path of the file that is missing or broken, or that a harmless one belongs to
     std::string version = {};    // the path of what was found: of an offer, the whole version that takes that place
     bool isHarmless = false;     // nothing is missing or broken
-    bool isSuperseded = false;   // harmless, and the live file is whole, and the same or newer
+    bool isSuperseded = false;   // harmless, and the live file is whole, and the same, or newer than this part of one
     std::int64_t written = 0;    // when one that is harmless was last written, in seconds since 1970
     bool isOldVersion = false;   // only the old file of a complete save, which couldn't put it into Backups
 

@@ -1,5 +1,7 @@
 #include "start/mending.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <vector>
 
 #include "restore/actions.h"
@@ -13,6 +15,9 @@
 namespace {
 
 using LeftOvers = std::vector<LeftOver>;
+
+// All that are deleted are named (ui/sentence_parts.h).
+constexpr std::size_t mostNamed = 31;
 
 // By their paths in the game's directory.
 std::string namesOf(const LeftOvers& leftOvers, const std::string& simsDirectory) {
@@ -58,6 +63,7 @@ void nameHarmless(const std::string& simsDirectory, std::int64_t since, bool are
                                  : "Left over from saves that were cut off: " + namesOf(others, simsDirectory) +
                                        ". What you changed then may be in there, so Tidewright keeps it. It "
                                        "does no harm; you may delete it.";
+    superseded.resize(std::min(superseded.size(), mostNamed));
     if (superseded.empty()) {
         if (!kept.empty() && !areNamed) say(kept, askNothing);
         return;
@@ -65,6 +71,6 @@ void nameHarmless(const std::string& simsDirectory, std::int64_t since, bool are
     const std::string question =
         "Left over from saves that were cut off, and of no use any more: " + namesOf(superseded, simsDirectory) +
         ". The game's own files are whole, and the same or newer." + (kept.empty() ? "" : "\n\n" + kept) +
-        "\n\n[OK] deletes what is of no use any more. [Cancel] keeps it, and the next starts don't ask again.";
+        "\n\n[OK] deletes what is of no use any more. [Cancel] keeps it.";
     if (confirm(question, askNothing, false, Buttons::cancelFirst)) deleteAll(superseded, simsDirectory);
 }
