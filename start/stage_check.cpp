@@ -10,6 +10,7 @@ std::int32_t stageOf(const Sim& sim, const CharacterLook& look) {
 }
 
 std::string stageWord(std::int32_t stage) {
+    if (stage == stageNumber::child) return "a child";
     if (stage == stageNumber::teen) return "a teenager";
     return stage == stageNumber::adult ? "an adult" : "";
 }

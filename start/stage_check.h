@@ -10,7 +10,7 @@
 // One of the numbers of world/sim.h, as the editor shows it.
 std::int32_t stageOf(const Sim& sim, const CharacterLook& look);
 
-// "a teenager"; empty for a stage that the editor doesn't give.
+// "a teenager"; empty for pets and for stages that can't be told.
 std::string stageWord(std::int32_t stage);
 
 // Whether the file has the body of the record's age, as after a complete save.
