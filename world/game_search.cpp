@@ -167,6 +167,8 @@ class GameSearch {
     int findWished() {
         const std::string directory = absolutePath(wish_.directory);
         const Games games = gamesAt(directory);
+        const std::string fault = wish_.changesNothing ? "" : faultOfSettings(settings_);
+        if (!fault.empty()) say(fault, wish_.askNothing);
         isChoice_ = true;
         if (games.empty()) return refuse(nothingIn(directory));
         return takeOneOf(games, severalIn(directory));
