@@ -21,7 +21,7 @@ class PointWordsTest : public EveningTest {
 };
 
 TEST_F(PointWordsTest, EachPointSaysWhatHappenedAfterIt) {
-    start();
+    start({.freeRoom = true}, true);
     make(PointReason::evening, 23);
     save();
     make(PointReason::byHand, 24);
@@ -36,13 +36,6 @@ TEST_F(PointWordsTest, EachPointSaysWhatHappenedAfterIt) {
     EXPECT_TRUE(said[2].ends_with(" - Clover Thistlewood became a teenager; Bramble Thistlewood moved out")) << said[2];
     files().remove("points/" + last + "/UserData/Houses");
     EXPECT_TRUE(entries()[0].ends_with(" (not whole)")) << entries()[0];
-}
-
-TEST_F(PointWordsTest, SimsOfLaterEditionsAreNamed) {
-    start({.freeRoom = true}, true);
-    make(PointReason::evening, 23);
-    save(false);
-    EXPECT_TRUE(entries()[0].ends_with(" - Bramble Thistlewood moved out")) << entries()[0];
 }
 
 TEST_F(PointWordsTest, TheLinesSayWhatGoingBackWouldChange) {

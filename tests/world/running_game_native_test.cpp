@@ -1,7 +1,6 @@
 // What is said beside windows that bear the game's name, and beside another Tidewright.
 #include "world/running_game.h"
 
-#include "tests/support/temp_directory.h"
 #include "tests/support/x_server.h"
 
 namespace {
@@ -39,20 +38,6 @@ TEST(RunningGameNativeTest, OnlyTheEditorsOwnWindowCountsAsOne) {
         server.addWindow("Tidewright", kind, server.root());
         EXPECT_EQ(isEditorOpen(), isEditor) << kind;
     }
-}
-
-TEST(RunningGameNativeTest, ASecondStartIsRefusedUntilTheFirstHasEnded) {
-    const TempDirectory files;
-    EXPECT_EQ(lockedDirectory(joined<DirectoryText>("C:\\The Sims\\")).view(), "C:\\The Sims");
-    {
-        const DirectoryLock first(files.path().c_str());
-        testing::internal::CaptureStdout();
-        EXPECT_EQ(refuseSecondStart(DirectoryLock(files.path().c_str()), true), -2);
-        EXPECT_EQ(testing::internal::GetCapturedStdout(),
-                  "Tidewright is open already on this game. Please close it, and start again.\n");
-    }
-    EXPECT_EQ(refuseSecondStart(DirectoryLock(files.path().c_str()), true), 0);
-    EXPECT_EQ(refuseSecondStart(DirectoryLock(files.path("missing").c_str()), true), 0);
 }
 
 }  // namespace
