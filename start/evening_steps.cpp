@@ -102,7 +102,7 @@ bool report(const RestorePoint& point, const EveningReport& result, bool askNoth
 // The first directory of a neighborhood that the point has and the game hasn't; empty if all are there.
 std::string missingDirectory(const RestorePoint& point, const std::string& simsDirectory) {
     for (const PointFile& file : point.files) {
-        const std::string directory = file.path.substr(0, file.path.find('/'));
+        std::string directory = file.path.substr(0, file.path.find('/'));
         if (!isThere(simsDirectory + directory)) return directory;
     }
     return {};

@@ -39,7 +39,7 @@ TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
     };
     const auto addLater = [&] {
         ByteWriter records;
-        for (const std::uint32_t mode : {9, 5, 0})
+        for (const std::uint32_t mode : {9U, 5U, 0U})
             records.bytes(ByteWriter()
                               .u32Le(1)
                               .u32Le(10)
