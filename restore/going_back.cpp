@@ -70,8 +70,8 @@ std::string refusalOf(const PointStore& store, const std::string& simsDirectory,
     return refusalOf(point, simsDirectory);
 }
 
-// Whether all that differs from the point lies in this neighborhood.
-bool isElsewhereAsIn(const PointStore& store, const RestorePoint& point, const GoingNote& note) {
+// Whether all that differs from the point lies in the note's neighborhood.
+bool differsOnlyThere(const PointStore& store, const RestorePoint& point, const GoingNote& note) {
     GameComparison comparison(note.simsDirectory, store.tree());
     std::string error;
     const auto found = filesOfNeighborhoods(comparison.game(), error);
@@ -85,7 +85,7 @@ void settleEvenings(const PointStore& store, const GoingNote& note) {
     for (RestorePoint& point : readPoints(store.tree()).value_or(std::vector<RestorePoint>())) {
         const bool isOpen = point.damage.empty() && !point.sessionEnded;
         if (!isOpen || !isSameGame(point.simsDirectory, note.simsDirectory)) continue;
-        if (note.neighborhood != allNeighborhoods && !isElsewhereAsIn(store, point, note)) continue;
+        if (note.neighborhood != allNeighborhoods && !differsOnlyThere(store, point, note)) continue;
         point.sessionEnded = true;
         store.writeText(point);
     }

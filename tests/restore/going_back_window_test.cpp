@@ -53,6 +53,7 @@ TEST_F(GoingBackWindowTest, AnEveningIsUndoneAndDoneAgain) {
     EXPECT_TRUE(entry.ends_with(" - Clover Thistlewood became a teenager; Bramble Thistlewood moved out")) << entry;
     EXPECT_TRUE(question.starts_with("Go back to \"today ")) << question;
     EXPECT_NE(question.find(" in Neighborhood 1?"), std::string::npos) << question;
+    EXPECT_TRUE(listRestorePoints(points()).back().sessionEnded) << "nothing of the evening is left elsewhere";
     Tree saved = after;
     std::erase_if(saved, [](const auto& file) { return file.first.find("Backups/") != std::string::npos; });
     EXPECT_EQ(differences(saved, cancelled), "");
