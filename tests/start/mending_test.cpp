@@ -14,10 +14,11 @@ TEST_F(EveningTest, WhatIsSupersededIsDeletedAfterAQuestionAndAllElseIsKept) {
     const std::string old = "Left over from saves that were cut off, and of no use any more: UserData\\" + temporary +
                             ". The game's own files are whole, and the same or newer.\n\n[OK] ";
     const auto writeNew = [&] { write(temporary, bytesFrom("some")); };
-    const auto writeOld = [&] {
-        writeNew();
+    const auto makeOld = [&] {
         fs::last_write_time(files().path("UserData/" + temporary), hourAgo_ - std::chrono::hours(1));
     };
+    const auto writeOld = [&] { writeNew(), makeOld(); };
+    const auto writeWhole = [&] { write(temporary, makeNeighborhoodFile({.map = false}).bytes); };
     const auto breakLive = [&] { write(live, Bytes(5000)); };
     const std::tuple<const char*, std::function<void()>, int, std::string, bool, bool, std::int64_t> rows[] = {
         {"no wish to delete it", writeOld, IDCANCEL, old, false, false, 3},
@@ -25,6 +26,7 @@ TEST_F(EveningTest, WhatIsSupersededIsDeletedAfterAQuestionAndAllElseIsKept) {
         {"named at an earlier start", writeOld, IDOK, "", false, false, 1},
         {"newer, but the same", [&] { write(temporary, bytesOf(live)); }, IDOK, old, true, false, 3},
         {"newer", writeNew, IDOK, kept, false, false, 3},
+        {"older, but whole", [&] { writeWhole(), makeOld(); }, IDOK, kept, false, false, 3},
         {"newer, and just named", writeNew, IDOK, "", false, true, 3},
         {"the file isn't whole", [&] { writeOld(), breakLive(); }, IDOK, kept, false, false, 3},
         {"the file itself", [&] { files().link("UserData/" + temporary, "UserData/" + live); }, IDOK, kept, false,

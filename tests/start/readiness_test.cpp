@@ -38,17 +38,10 @@ TEST_F(EveningTest, WhatPreventsASaveIsNoReadiness) {
         fs::rename(files().path("UserData"), files().path(deep + "/UserData"));
     };
     const auto addLater = [&] {
+        Bytes record = ByteWriter().u32Le(1).u32Le(10).u32Le(9).text("user00042").fillTo(700).written();
         ByteWriter records;
-        for (const std::uint32_t mode : {9U, 5U, 0U})
-            records.bytes(ByteWriter()
-                              .u32Le(1)
-                              .u32Le(10)
-                              .u32Le(9)
-                              .text("user00042")
-                              .fillTo(26)
-                              .u32Le(mode)
-                              .fillTo(700)
-                              .written());
+        for (const std::uint8_t mode : Bytes{9, 5, 0})
+            record[26] = mode, records.bytes(record);
         start({.before = {{.type = "NBRS", .content = records.written()}}});
         EXPECT_EQ(checkReadiness(game(), true).text(), "");
     };
